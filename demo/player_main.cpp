@@ -1,0 +1,12 @@
+#include "demo/game.h"
+#include "player/player.h"
+
+#include <memory>
+
+// The demo as `tgx play` would run it, with the demo's own window classes.
+int main(int argc, char** argv)
+{
+    return playMain(argc, argv, [](int width, int height, int depth) {
+        return std::make_unique<HarbourWindow>(width, height, depth);
+    });
+}

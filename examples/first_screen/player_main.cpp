@@ -1,0 +1,8 @@
+#include "player/player.h"
+
+// first_screen_player DIR --script script.tgx: the player makes a plain main window and reads the script by
+// itself.
+int main(int argc, char** argv)
+{
+    return playMain(argc, argv, nullptr);
+}

@@ -1,0 +1,3 @@
+#include "platform/display/app.h"
+
+AControlsApp* pApp = nullptr;

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/display/box.h"
+#include "platform/display/display_list.h"
+#include "platform/display/text_layout.h"
+
+#include <vector>
+
+struct tagRECT;
+
+/// The part of a list that was painted: [first, end).
+struct PaintedRange {
+    std::size_t first = 0;
+    std::size_t end = 0;
+};
+
+/// Which tiles of the screen differ from what is shown. A tile is damaged where the commands that paint it
+/// are not those of the frame before, or where the backdrop under it has changed.
+class Damage {
+public:
+    static constexpr int tileSize = 64; // 16 KiB of pixels: a tile being drawn stays in the first cache
+
+    /// All tiles are damaged then.
+    void resize(int width, int height);
+    void clear();
+    void markAll();
+    void mark(const Box& box);
+    /// Marks the tiles in which the two lists differ.
+    void markDifferences(const DisplayList& before, PaintedRange painted, const DisplayList& now,
+                         PaintedRange toPaint);
+
+    bool isEmpty() const { return bounds.isEmpty(); }
+    bool at(int column, int row) const { return tiles[static_cast<std::size_t>(row) * columns + column]; }
+    /// Box of screen pixels around all damaged tiles.
+    const Box& box() const { return bounds; }
+    const Box& screen() const { return screenBox; }
+    int getColumns() const { return columns; }
+    int getRows() const { return rows; }
+    Box tileBox(int column, int row) const
+    {
+        return intersection(
+            {column * tileSize, row * tileSize, (column + 1) * tileSize, (row + 1) * tileSize}, screenBox);
+    }
+    /// The damaged tiles as few rectangles that do not overlap.
+    void collectRects(std::vector<tagRECT>& rects) const;
+
+private:
+    void fold(const DisplayList& list, const DrawCommand& command, std::vector<std::uint64_t>& hashes);
+
+    Box screenBox;
+    int columns = 0;
+    int rows = 0;
+    std::vector<std::uint8_t> tiles;
+    Box bounds;
+    std::vector<std::uint64_t> hashesBefore;
+    std::vector<std::uint64_t> hashesNow;
+    std::vector<PlacedGlyph> placed; // of the text being looked at
+};

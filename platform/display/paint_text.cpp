@@ -1,0 +1,51 @@
+#include "platform/display/blit_rows.h"
+#include "platform/display/int_math.h"
+#include "platform/display/painters.h"
+
+namespace {
+
+void paintScaledGlyph(Image& screen, const DrawCommand& command, const PlacedGlyph& placed, const Box& clip)
+{
+    const Box box = scaledGlyphBox(command, placed, clip);
+    const Glyph& glyph = *placed.glyph;
+    const auto fontPixel = [&](std::int64_t pixel) {
+        return static_cast<int>(floorDiv<std::int64_t>(pixel * ZnFixed::one, command.scale));
+    };
+    for (int y = box.y0; y < box.y1; y++) {
+        const std::uint32_t* from =
+            glyph.pixels.data() +
+            static_cast<std::ptrdiff_t>(fontPixel(std::int64_t(y) - command.y) - placed.y) * glyph.stride;
+        std::uint32_t* to = screen.row(y);
+        for (int x = box.x0; x < box.x1; x++)
+            layPixels({to + x, 0, from + fontPixel(std::int64_t(x) - command.x) - placed.x, 0, 1, 1});
+    }
+}
+
+} // namespace
+
+void paintText(Image& screen, const DrawCommand& command, std::span<const PlacedGlyph> glyphs,
+               const Box& clip)
+{
+    const bool scaled = isScaledText(command);
+    for (const PlacedGlyph& placed : glyphs) {
+        if (scaled) {
+            paintScaledGlyph(screen, command, placed, clip);
+            continue;
+        }
+        const Glyph& glyph = *placed.glyph;
+        const Box whole{placed.x, placed.y, placed.x + glyph.width, placed.y + glyph.height};
+        const Box box = intersection(whole, {clip.x0, clip.y0, std::min(clip.x1, placed.clipRight), clip.y1});
+        if (box.isEmpty())
+            continue;
+        const std::uint32_t* from =
+            glyph.pixels.data() + static_cast<std::ptrdiff_t>(box.y0 - whole.y0) * glyph.stride;
+        std::uint32_t* to = screen.row(box.y0) + box.x0;
+        // A whole row of the glyph, rest included: past its width it leaves the target as it is, and a screen
+        // row is padded.
+        if (box.width() == glyph.width)
+            layPixels({to, screen.pitch, from, glyph.stride, glyph.stride, box.height()});
+        else
+            layPixels(
+                {to, screen.pitch, from + (box.x0 - whole.x0), glyph.stride, box.width(), box.height()});
+    }
+}

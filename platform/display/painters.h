@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/display/box.h"
+#include "platform/display/display_list.h"
+#include "platform/display/image.h"
+#include "platform/display/text_layout.h"
+
+#include <span>
+#include <vector>
+
+/// Storage that stretched blits use again and again.
+struct StretchBuffers {
+    std::vector<std::int32_t> columns;
+    std::vector<std::uint32_t> row;
+};
+
+// Each paints the part of a command that lies in clip. clip lies in the command's paintedBox and on the
+// screen.
+
+void paintBlit(Image& screen, const DrawCommand& command, const Box& clip, StretchBuffers& buffers);
+void paintFill(Image& screen, const DrawCommand& command, const Box& clip);
+void paintOutline(Image& screen, const DrawCommand& command, const Box& clip);
+void paintLine(Image& screen, const DrawCommand& command, const Box& clip);
+/// glyphs is what layoutText has placed for the command.
+void paintText(Image& screen, const DrawCommand& command, std::span<const PlacedGlyph> glyphs,
+               const Box& clip);

@@ -1,0 +1,104 @@
+#include "platform/display/surface.h"
+
+#include "platform/display/canvas.h"
+#include "platform/display/ddwin.h"
+#include "platform/host/image_file.h"
+
+namespace {
+
+std::int16_t heldMode(int mode)
+{
+    return static_cast<std::int16_t>(std::clamp<int>(mode, INT16_MIN, INT16_MAX));
+}
+
+} // namespace
+
+surface::surface(ddwin* newOwner) : owner(newOwner)
+{
+    filename = name.GetBuffer();
+}
+
+surface::surface(const surface& other)
+    : width(other.width), height(other.height), owner(other.owner), image(other.image), name(other.name)
+{
+    filename = name.GetBuffer();
+}
+
+surface& surface::operator=(const surface& other)
+{
+    width = other.width;
+    height = other.height;
+    owner = other.owner;
+    image = other.image;
+    name = other.name;
+    filename = name.GetBuffer();
+    return *this;
+}
+
+surface::~surface() = default;
+
+int surface::reload()
+{
+    if (name.IsEmpty())
+        return 0;
+    ImageRef fresh = owner ? owner->canvas->surfaces.loadAnew(name.view()) : loadImageFile(name.view());
+    if (!fresh)
+        return 0;
+    setImage(std::move(fresh), CString(name));
+    return 1;
+}
+
+void surface::setImage(ImageRef newImage, const CString& newName)
+{
+    image = std::move(newImage);
+    width = image ? static_cast<short>(std::min<int>(image->width, INT16_MAX)) : 0;
+    height = image ? static_cast<short>(std::min<int>(image->height, INT16_MAX)) : 0;
+    name = newName;
+    filename = name.GetBuffer();
+    if (image && image->name.empty())
+        image->name = name.str();
+}
+
+void surface::blit(int x, int y, int srcX, int srcY, int w, int h, int srcW, int srcH, IDirectDrawSurface*,
+                   int mode)
+{
+    if (!owner)
+        return;
+    Canvas& canvas = *owner->canvas;
+    DrawCommand& command = canvas.record(DrawOp::Blit);
+    command.mode = heldMode(mode);
+    command.x = x;
+    command.y = y;
+    command.w = w;
+    command.h = h;
+    command.sx = srcX;
+    command.sy = srcY;
+    command.sw = srcW;
+    command.sh = srcH;
+    if (image) {
+        command.subject = image->id;
+        command.colour = image->version;
+        command.image = image.get();
+        canvas.hold(image);
+    }
+}
+
+void surface::blit(int x, int y, int w, int h, IDirectDrawSurface* dest, int mode)
+{
+    blit(x, y, 0, 0, w, h, width, height, dest, mode);
+}
+
+void surface::setPixel(int x, int y, unsigned long colour)
+{
+    if (!image || x < 0 || y < 0 || x >= image->width || y >= image->height)
+        return;
+    // Another surface shares the pixels, or a list that can still be read does.
+    if (image.use_count() != 1)
+        image = copyImage(*image);
+    const auto rgb = static_cast<std::uint32_t>(colour & 0xFFFFFF);
+    const bool isTransparent = rgb == keyColour && !image->hasAlphaChannel;
+    if (isTransparent && image->coverage == Coverage::Opaque)
+        image->coverage = Coverage::Masked;
+    image->row(y)[x] = isTransparent ? rgb : 0xFF000000 | rgb;
+    image->version++;
+}

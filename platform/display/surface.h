@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/display/image.h"
+#include "platform/export.h"
+#include "platform/framework/cstring.h"
+
+class ddwin;
+struct IDirectDrawSurface;
+
+/// A bitmap that the display library has loaded or built. Made by ddwin::createsprite and createBkgndSection,
+/// released by ddwin::deleteSurface, never by delete. Copies share the pixels until one of them is written
+/// to.
+class TGX_PLATFORM_API surface {
+public:
+    /// An empty surface. Not owned: owner draws what blit records.
+    explicit surface(ddwin* owner = nullptr);
+    surface(const surface& other);
+    surface& operator=(const surface& other);
+    virtual ~surface();
+    /// Loads the pixels anew from the file. 1, or 0 when there is no file or it cannot be read; the pixels
+    /// stay then.
+    virtual int reload();
+
+    /// Records a blit: the source rectangle at srcX, srcY goes to x, y with size w, h. srcW and srcH both -1:
+    /// the source has the size w, h. Otherwise it is srcW by srcH and is stretched. A source is cut to the
+    /// bitmap, a target to the screen. dest is always null, the back buffer. mode -1 and 0 normal, 1 opaque,
+    /// 2 half, 3 additive.
+    void blit(int x, int y, int srcX, int srcY, int w, int h, int srcW, int srcH, IDirectDrawSurface* dest,
+              int mode);
+    /// The whole bitmap to that rectangle.
+    void blit(int x, int y, int w, int h, IDirectDrawSurface* dest, int mode);
+    /// Sets a pixel of the bitmap itself; outside it nothing happens. colour is from ddwin::getcol. The key
+    /// colour makes the pixel transparent where the bitmap has no alpha channel.
+    void setPixel(int x, int y, unsigned long colour);
+
+    /// Name it was loaded from, never null; empty for what no file holds. Points into the surface.
+    char* filename;
+    short width = 0;  // pixels
+    short height = 0; // pixels
+
+    /// Pixels, shared; null while there are none.
+    const ImageRef& getImage() const { return image; }
+    /// Takes the pixels, with width and height, and names the surface and an image without a name.
+    void setImage(ImageRef newImage, const CString& name);
+
+protected:
+    ddwin* owner = nullptr;
+    ImageRef image;
+    CString name; // what filename points into
+};

@@ -1,0 +1,126 @@
+#include "platform/framework/cstring.h"
+
+#include "platform/framework/exceptions.h"
+
+#include <algorithm>
+#include <cstdarg>
+#include <cstdio>
+
+namespace {
+
+char lowered(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+}
+char raised(char c)
+{
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c;
+}
+
+std::size_t held(int count, std::size_t length)
+{
+    return count < 0 ? 0 : std::min(static_cast<std::size_t>(count), length);
+}
+
+int indexOrNone(std::size_t found)
+{
+    return found == std::string::npos ? -1 : static_cast<int>(found);
+}
+
+} // namespace
+
+char CString::GetAt(int index) const
+{
+    if (index < 0 || index >= GetLength())
+        AfxThrowInvalidArgException();
+    return characters[static_cast<std::size_t>(index)];
+}
+
+void CString::SetAt(int index, char value)
+{
+    if (index < 0 || index >= GetLength())
+        AfxThrowInvalidArgException();
+    characters[static_cast<std::size_t>(index)] = value;
+}
+
+int CString::compareNoCase(std::string_view a, std::string_view b)
+{
+    const std::size_t shared = std::min(a.size(), b.size());
+    for (std::size_t i = 0; i < shared; ++i) {
+        const auto left = static_cast<unsigned char>(lowered(a[i]));
+        const auto right = static_cast<unsigned char>(lowered(b[i]));
+        if (left != right)
+            return left < right ? -1 : 1;
+    }
+    return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;
+}
+
+bool CString::equalNoCase(std::string_view a, std::string_view b)
+{
+    return a.size() == b.size() && compareNoCase(a, b) == 0;
+}
+
+CString CString::Left(int count) const
+{
+    return view().substr(0, held(count, characters.size()));
+}
+
+CString CString::Right(int count) const
+{
+    return view().substr(characters.size() - held(count, characters.size()));
+}
+
+CString CString::Mid(int first) const
+{
+    return view().substr(held(first, characters.size()));
+}
+
+CString CString::Mid(int first, int count) const
+{
+    const std::size_t start = held(first, characters.size());
+    return view().substr(start, held(count, characters.size() - start));
+}
+
+int CString::Find(char what, int start) const
+{
+    return indexOrNone(characters.find(what, held(start, characters.size())));
+}
+
+int CString::Find(const char* what, int start) const
+{
+    return what ? indexOrNone(characters.find(what, held(start, characters.size()))) : -1;
+}
+
+int CString::ReverseFind(char what) const
+{
+    return indexOrNone(characters.rfind(what));
+}
+
+CString& CString::MakeLower()
+{
+    std::transform(characters.begin(), characters.end(), characters.begin(), lowered);
+    return *this;
+}
+
+CString& CString::MakeUpper()
+{
+    std::transform(characters.begin(), characters.end(), characters.begin(), raised);
+    return *this;
+}
+
+void CString::Format(const char* format, ...)
+{
+    va_list measured;
+    va_start(measured, format);
+    va_list written;
+    va_copy(written, measured);
+    const int length = std::vsnprintf(nullptr, 0, format, measured);
+    va_end(measured);
+
+    // Not in place: an argument may point into this very string.
+    std::string text(static_cast<std::size_t>(std::max(length, 0)), '\0');
+    if (length > 0)
+        std::vsnprintf(text.data(), text.size() + 1, format, written);
+    va_end(written);
+    characters = std::move(text);
+}

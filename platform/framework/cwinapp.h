@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/export.h"
+
+/// The application object: a program has one, and calls Run.
+class TGX_PLATFORM_API CWinApp {
+public:
+    CWinApp() = default;
+    virtual ~CWinApp() = default;
+    CWinApp(const CWinApp&) = delete;
+    CWinApp& operator=(const CWinApp&) = delete;
+
+    /// Runs the program to its end. The exit status for main.
+    virtual int Run() { return 0; }
+};

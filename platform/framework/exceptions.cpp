@@ -1,0 +1,6 @@
+#include "platform/framework/exceptions.h"
+
+void AfxThrowInvalidArgException()
+{
+    throw CInvalidArgException();
+}

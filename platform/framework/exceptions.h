@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/export.h"
+
+#include <exception>
+
+/// Thrown for an argument that no answer fits, above all an index outside a CArray.
+class TGX_PLATFORM_API CInvalidArgException : public std::exception {
+public:
+    const char* what() const noexcept override { return "invalid argument"; }
+};
+
+/// Throws CInvalidArgException.
+[[noreturn]] TGX_PLATFORM_API void AfxThrowInvalidArgException();

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/export.h"
+#include "platform/framework/cstring.h"
+#include "platform/host/input_queue.h"
+
+#include <memory>
+#include <span>
+
+class ddwin;
+struct Image;
+struct tagRECT;
+
+enum class CursorShape { Normal, Wait };
+
+/// The one seam to the outside: shows frames, brings input, sets the cursor, shows messages, waits. There is
+/// one host at a time. A program that chooses none gets the SDL window with its first ddwin.
+class TGX_PLATFORM_API displayhost {
+public:
+    displayhost();
+    virtual ~displayhost();
+    displayhost(const displayhost&) = delete;
+    displayhost& operator=(const displayhost&) = delete;
+
+    /// The host in use; chosen here if none was.
+    static displayhost& current();
+    /// Puts a host into use and returns the one before. Null: the next current() chooses anew.
+    static std::unique_ptr<displayhost> use(std::unique_ptr<displayhost> host);
+
+    /// Opens the platform window for the game's window, at its size. False with a message on stderr when
+    /// there is no display.
+    virtual bool open(ddwin& window) = 0;
+    virtual void close(ddwin& window) = 0;
+    /// Shows a frame. changed: the rectangles, in screen pixels, that differ from the frame before; empty
+    /// when none does.
+    virtual void show(const Image& screen, std::span<const tagRECT> changed) = 0;
+    /// Brings what has arrived from outside into input().
+    virtual void pump(ddwin& window) = 0;
+    virtual void setCursor(CursorShape shape) = 0;
+    /// Moves the pointer, screen pixels; the next physical movement goes on from there.
+    virtual void movePointer(int x, int y) = 0;
+    /// Shows a text to the user.
+    virtual void showMessage(const CString& text) = 0;
+    /// Returns when the next tick or frame is due; the two counts say how many ticks to run before how many
+    /// frames (0 or 1).
+    virtual void waitForWork(int& ticks, int& frames) = 0;
+
+    InputQueue& input() { return queue; }
+    /// Set by WM_CLOSE; the main loop ends then.
+    bool closeRequested = false;
+
+private:
+    InputQueue queue;
+};
+
+/// Opens the window, calls its startup and runs ticks and frames until running is 0 or the window is closed.
+/// An invalid argument ends the frame it came from and is reported once. Exit status: 0, or 1 when no window
+/// could be opened.
+TGX_PLATFORM_API int runMainLoop(ddwin& window);

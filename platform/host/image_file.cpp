@@ -1,0 +1,139 @@
+#include "platform/host/image_file.h"
+
+#include "platform/framework/cfile.h"
+#include "platform/host/bmp_decoder.h"
+#include "platform/host/picture_header.h"
+#include "platform/limits.h"
+
+#include <SDL.h>
+#include <SDL_image.h>
+
+#include <cstdio>
+
+namespace {
+
+struct FreeSurface {
+    void operator()(SDL_Surface* pixels) const { SDL_FreeSurface(pixels); }
+};
+using SdlPixels = std::unique_ptr<SDL_Surface, FreeSurface>;
+
+bool isAllowed(const PictureHeader& header)
+{
+    return header.width > 0 && header.height > 0 && header.width <= limits::imageSide &&
+           header.height <= limits::imageSide && header.width * header.height <= limits::imagePixels;
+}
+
+const char* typeName(PictureKind kind)
+{
+    switch (kind) {
+    case PictureKind::Png:
+        return "PNG";
+    case PictureKind::Jpeg:
+        return "JPG";
+    case PictureKind::Gif:
+        return "GIF";
+    default:
+        return "PCX";
+    }
+}
+
+void copyIndexed(SDL_Surface& from, Image& to)
+{
+    std::uint32_t colours[256] = {};
+    const SDL_Palette* palette = from.format->palette;
+    for (int i = 0; palette && i < palette->ncolors && i < 256; i++) {
+        const SDL_Color& c = palette->colors[i];
+        colours[i] = std::uint32_t(c.a) << 24 | std::uint32_t(c.r) << 16 | std::uint32_t(c.g) << 8 | c.b;
+    }
+    Uint32 key = 0;
+    if (SDL_GetColorKey(&from, &key) == 0)
+        colours[key & 255] &= 0x00FFFFFF;
+    for (int y = 0; y < to.height; y++) {
+        const auto* row =
+            static_cast<const Uint8*>(from.pixels) + static_cast<std::ptrdiff_t>(y) * from.pitch;
+        for (int x = 0; x < to.width; x++)
+            to.row(y)[x] = colours[row[x]];
+    }
+}
+
+ImageRef decodeWithSdl(std::string_view bytes, PictureKind kind)
+{
+    SDL_RWops* stream = SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
+    if (!stream)
+        return nullptr;
+    SdlPixels decoded(IMG_LoadTyped_RW(stream, 1, typeName(kind)));
+    if (!decoded || decoded->w > limits::imageSide || decoded->h > limits::imageSide)
+        return nullptr;
+    ImageRef image = makeImage(decoded->w, decoded->h);
+    if (decoded->format->BitsPerPixel == 8) {
+        copyIndexed(*decoded, *image);
+        return image;
+    }
+    SdlPixels wide(SDL_ConvertSurfaceFormat(decoded.get(), SDL_PIXELFORMAT_ARGB8888, 0));
+    if (!wide)
+        return nullptr;
+    for (int y = 0; y < image->height; y++) {
+        const auto* row =
+            static_cast<const Uint8*>(wide->pixels) + static_cast<std::ptrdiff_t>(y) * wide->pitch;
+        SDL_memcpy(image->row(y), row, static_cast<std::size_t>(image->width) * sizeof(std::uint32_t));
+    }
+    return image;
+}
+
+void applyKeyColour(Image& image)
+{
+    for (int y = 0; y < image.height; y++)
+        for (int x = 0; x < image.width; x++) {
+            const std::uint32_t rgb = image.row(y)[x] & 0xFFFFFF;
+            image.row(y)[x] = rgb == keyColour ? rgb : 0xFF000000 | rgb;
+        }
+}
+
+} // namespace
+
+ImageRef loadImageFile(std::string_view name)
+{
+    CFile file;
+    if (!file.Open(std::string(name).c_str()))
+        return nullptr;
+    const PictureHeader header = readPictureHeader(file.bytes());
+    if (header.kind == PictureKind::Unknown || !isAllowed(header))
+        return nullptr;
+    ImageRef image;
+    if (header.kind == PictureKind::Bmp) {
+        image = decodeBmp(file.bytes());
+    } else {
+        image = decodeWithSdl(file.bytes(), header.kind);
+        if (image)
+            image->hasAlphaChannel = header.hasAlpha;
+    }
+    if (!image)
+        return nullptr;
+    if (!image->hasAlphaChannel)
+        applyKeyColour(*image);
+    settleCoverage(*image);
+    image->name = name;
+    return image;
+}
+
+bool writePng(const Image& image, const std::string& path)
+{
+    SdlPixels pixels(SDL_CreateRGBSurfaceWithFormat(0, image.width, image.height, 24, SDL_PIXELFORMAT_RGB24));
+    if (!pixels)
+        return false;
+    for (int y = 0; y < image.height; y++) {
+        auto* to = static_cast<Uint8*>(pixels->pixels) + static_cast<std::ptrdiff_t>(y) * pixels->pitch;
+        for (int x = 0; x < image.width; x++, to += 3) {
+            const std::uint32_t pixel = image.row(y)[x];
+            to[0] = static_cast<Uint8>(pixel >> 16);
+            to[1] = static_cast<Uint8>(pixel >> 8);
+            to[2] = static_cast<Uint8>(pixel);
+        }
+    }
+    // Beside, then renamed: a reader finds the old picture or the new one, never half of it.
+    const std::string part = path + ".part";
+    if (IMG_SavePNG(pixels.get(), part.c_str()) == 0 && std::rename(part.c_str(), path.c_str()) == 0)
+        return true;
+    std::remove(part.c_str());
+    return false;
+}

@@ -1,0 +1,184 @@
+#include "platform/host/input_queue.h"
+
+#include "platform/display/ddwin.h"
+#include "platform/system/clock.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+std::int16_t coordinate(int value)
+{
+    using Limits = std::numeric_limits<std::int16_t>;
+    return static_cast<std::int16_t>(std::clamp<int>(value, Limits::min(), Limits::max()));
+}
+
+/// The three fields of a button.
+struct ButtonFields {
+    int& down;
+    int& up;
+    int& doubleClick;
+};
+
+ButtonFields fieldsOf(ddwin& window, MouseButton button)
+{
+    switch (button) {
+    case MouseButton::Right:
+        return {window.rButtonDown, window.rButtonUp, window.rButtonDblClk};
+    case MouseButton::Middle:
+        return {window.mButtonDown, window.mButtonUp, window.mButtonDblClk};
+    case MouseButton::Left:
+        break;
+    }
+    return {window.lButtonDown, window.lButtonUp, window.lButtonDblClk};
+}
+
+void clearFieldsOfOneTick(ddwin& window)
+{
+    for (MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
+        fieldsOf(window, button).up = 0;
+        fieldsOf(window, button).doubleClick = 0;
+    }
+    window.wheelUp = 0;
+    window.wheelDown = 0;
+    window.keyCode = 0;
+    window.keyCode2 = 0;
+    window.keyChar = 0;
+}
+
+} // namespace
+
+void InputQueue::add(Event event)
+{
+    event.time = timeGetTime();
+    events.push_back(event);
+}
+
+void InputQueue::move(int x, int y)
+{
+    add({.kind = Kind::Move, .x = coordinate(x), .y = coordinate(y)});
+}
+
+void InputQueue::press(MouseButton button)
+{
+    add({.kind = Kind::Press, .button = button});
+}
+
+void InputQueue::release(MouseButton button)
+{
+    add({.kind = Kind::Release, .button = button});
+}
+
+void InputQueue::doubleClick(MouseButton button)
+{
+    add({.kind = Kind::DoubleClick, .button = button});
+}
+
+void InputQueue::wheel(bool up)
+{
+    add({.kind = up ? Kind::WheelUp : Kind::WheelDown});
+}
+
+void InputQueue::key(std::uint8_t code, char character, std::uint8_t secondCode, bool repeat)
+{
+    add({.kind = Kind::Key,
+         .code = code,
+         .secondCode = secondCode,
+         .character = character,
+         .repeat = repeat});
+}
+
+void InputQueue::holdInTurn(std::uint8_t code, bool held)
+{
+    add({.kind = Kind::Hold, .code = code, .held = held});
+}
+
+void InputQueue::beginTick(ddwin& window)
+{
+    endTick(window); // of a tick that nobody ended
+    clearFieldsOfOneTick(window);
+    while (!events.empty()) {
+        const Event event = events.front();
+        events.pop_front();
+        apply(window, event);
+        if (event.kind != Kind::Move && event.kind != Kind::Hold)
+            break;
+    }
+}
+
+void InputQueue::apply(ddwin& window, const Event& event)
+{
+    switch (event.kind) {
+    case Kind::Move:
+        window.prevMouseX = window.mouseX;
+        window.prevMouseY = window.mouseY;
+        window.mouseX = event.x;
+        window.mouseY = event.y;
+        break;
+    case Kind::Press:
+        fieldsOf(window, event.button).down = 1;
+        break;
+    case Kind::Release:
+        fieldsOf(window, event.button).down = 0;
+        fieldsOf(window, event.button).up = 1;
+        break;
+    case Kind::DoubleClick:
+        fieldsOf(window, event.button).doubleClick = 1;
+        break;
+    case Kind::WheelUp:
+        window.wheelUp = 1;
+        break;
+    case Kind::WheelDown:
+        window.wheelDown = 1;
+        break;
+    case Kind::Key:
+        window.keyCode = event.code;
+        window.keyCode2 = event.secondCode;
+        window.keyChar = event.character;
+        tickKey = event.code;
+        tickKeyWasHeld = window.keyDown[event.code] != 0;
+        if (event.code != 0)
+            window.keyDown[event.code] = 1;
+        break;
+    case Kind::Hold:
+        hold(window, event.code, event.held);
+        break;
+    }
+}
+
+void InputQueue::endTick(ddwin& window)
+{
+    if (tickKey != 0)
+        window.keyDown[tickKey] = tickKeyWasHeld;
+    tickKey = 0;
+}
+
+void InputQueue::hold(ddwin& window, std::uint8_t code, bool held)
+{
+    if (code == 0)
+        return;
+    if (code == tickKey)
+        tickKeyWasHeld = held; // its event keeps it down until the tick has ended
+    else
+        window.keyDown[code] = held;
+}
+
+void InputQueue::dropStale(std::uint32_t now, std::uint32_t oldest)
+{
+    const auto isStale = [&](const Event& event) { return now - event.time > oldest; };
+    std::erase_if(events, [&](const Event& event) {
+        const bool isWheel = event.kind == Kind::WheelUp || event.kind == Kind::WheelDown;
+        return isStale(event) && (isWheel || event.repeat);
+    });
+    // The last of several moves stays: what stands behind it was aimed from there.
+    std::deque<Event> left;
+    for (const Event& event : events) {
+        if (event.kind == Kind::Move && !left.empty() && left.back().kind == Kind::Move &&
+            isStale(left.back()))
+            left.back() = event;
+        else
+            left.push_back(event);
+    }
+    events.swap(left);
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/export.h"
+
+#include <cstdint>
+#include <deque>
+
+class ddwin;
+
+enum class MouseButton : std::uint8_t { Left, Right, Middle };
+
+/// What a person did, in order. One transition is handed out a tick, and every pointer move that stands in
+/// front of it, so that a press and its release between two ticks are two ticks and nothing is lost.
+class TGX_PLATFORM_API InputQueue {
+public:
+    /// Time is that of timeGetTime when the event came in, for what may grow stale.
+    void move(int x, int y);
+    void press(MouseButton button);
+    void release(MouseButton button);
+    void doubleClick(MouseButton button);
+    void wheel(bool up);
+    /// code 0 is no key. secondCode goes to keyCode2. repeat: the platform's repeat of a held key.
+    void key(std::uint8_t code, char character, std::uint8_t secondCode = 0, bool repeat = false);
+    bool empty() const { return events.empty(); }
+    void clear() { events.clear(); }
+
+    /// Begins a tick: the flags of one tick and the key fields of window go back to 0, the moves at the head
+    /// are applied, then one transition. A key counts as held until endTick.
+    void beginTick(ddwin& window);
+    /// Ends the tick: a key that no hold() keeps is no longer held.
+    void endTick(ddwin& window);
+    /// A key that is held, or not, from now on, apart from its events.
+    void hold(ddwin& window, std::uint8_t code, bool held);
+    /// The same in the order of the events: behind those that wait, with the tick that takes the next
+    /// transition. So Shift still counts as held for a key that was typed with it, when both have been let go
+    /// before the tick.
+    void holdInTurn(std::uint8_t code, bool held);
+    /// Drops moves, wheel notches and repeats that have waited for longer than this many milliseconds;
+    /// presses, releases and keys stay.
+    void dropStale(std::uint32_t now, std::uint32_t oldest);
+
+private:
+    enum class Kind : std::uint8_t { Move, Press, Release, DoubleClick, WheelUp, WheelDown, Key, Hold };
+    struct Event {
+        Kind kind;
+        MouseButton button = MouseButton::Left;
+        std::uint8_t code = 0;
+        std::uint8_t secondCode = 0;
+        char character = 0;
+        bool repeat = false;
+        bool held = false; // of Hold
+        std::int16_t x = 0;
+        std::int16_t y = 0;
+        std::uint32_t time = 0;
+    };
+    void add(Event event);
+    void apply(ddwin& window, const Event& event);
+    std::deque<Event> events;
+    std::uint8_t tickKey = 0; // counts as held until the tick has ended, 0 for none
+    bool tickKeyWasHeld = false;
+};

@@ -1,0 +1,60 @@
+#include "platform/display/ddwin.h"
+#include "platform/framework/exceptions.h"
+#include "platform/host/displayhost.h"
+
+namespace {
+
+/// Runs parts of the program and survives an invalid argument out of them. A fault that comes back with each
+/// frame is reported once: the player could not close so many boxes.
+class Guard {
+public:
+    template<class Part>
+    void run(Part part)
+    {
+        try {
+            part();
+        } catch (const CInvalidArgException&) {
+            if (!isReported)
+                displayhost::current().showMessage("invalid argument in a frame");
+            isReported = true;
+        }
+    }
+
+private:
+    bool isReported = false;
+};
+
+bool goesOn(const ddwin& window)
+{
+    return window.running && !displayhost::current().closeRequested;
+}
+
+/// Closes the window on every way out of the loop.
+struct OpenWindow {
+    ddwin& window;
+    ~OpenWindow() { displayhost::current().close(window); }
+};
+
+} // namespace
+
+int runMainLoop(ddwin& window)
+{
+    if (!displayhost::current().open(window))
+        return 1;
+    const OpenWindow closing{window};
+    displayhost::current().closeRequested = false;
+
+    Guard guard;
+    guard.run([&] { window.startup(); });
+    while (goesOn(window)) {
+        int ticks = 0;
+        int frames = 0;
+        displayhost::current().waitForWork(ticks, frames);
+        displayhost::current().pump(window);
+        for (; ticks > 0 && goesOn(window); --ticks)
+            guard.run([&] { window.runTick(); });
+        if (frames > 0 && goesOn(window))
+            guard.run([&] { window.runFrame(); });
+    }
+    return 0;
+}

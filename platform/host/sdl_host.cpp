@@ -1,0 +1,394 @@
+#include "platform/host/sdl_host.h"
+
+#include "platform/display/ddwin.h"
+#include "platform/display/settings_internal.h"
+#include "platform/host/codepage.h"
+#include "platform/host/message_text.h"
+#include "platform/host/pacer.h"
+#include "platform/host/sdl_controller.h"
+#include "platform/host/sdl_input.h"
+#include "platform/system/clock.h"
+
+#include <SDL.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+namespace {
+
+/// Wheel notches, repeats and moves that wait for longer are of no use to anybody.
+constexpr std::uint32_t staleMillis = 250;
+
+std::int64_t nowMicros()
+{
+    return std::chrono::duration_cast<std::chrono::microseconds>(
+               std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+}
+
+bool isSetInEnvironment(const char* name)
+{
+    const char* value = std::getenv(name);
+    return value && *value;
+}
+
+std::string windowTitle()
+{
+    return settingsProgramName().empty() ? "TGX" : utf8From1252(settingsProgramName());
+}
+
+class SdlHost : public displayhost {
+public:
+    ~SdlHost() override { closeWindow(); }
+
+    bool open(ddwin& newGame) override;
+    void close(ddwin& closed) override;
+    void show(const Image& screen, std::span<const tagRECT> changed) override;
+    void pump(ddwin& polled) override;
+    void setCursor(CursorShape shape) override;
+    void movePointer(int x, int y) override;
+    void showMessage(const CString& text) override;
+    void waitForWork(int& ticks, int& frames) override;
+
+private:
+    bool startVideo();
+    bool createWindow();
+    bool createRenderer();
+    bool prepareTexture(const Image& screen);
+    void upload(const Image& screen, const tagRECT& area);
+    void present();
+    void closeWindow();
+    void updateFit();
+    void handleWindowEvent(const SDL_WindowEvent& event);
+    void letGo();
+    void showGatheredMessages();
+    bool isMinimised() const { return SDL_GetWindowFlags(window) & SDL_WINDOW_MINIMIZED; }
+
+    ddwin* game = nullptr; // not owned; whose window is open
+    SDL_Window* window = nullptr;
+    SDL_Renderer* renderer = nullptr;
+    SDL_Texture* texture = nullptr;
+    SDL_Cursor* cursors[2] = {}; // by CursorShape
+    CursorShape cursor = CursorShape::Normal;
+    int textureWidth = 0;
+    int textureHeight = 0;
+    bool hasVideo = false; // started by us
+    bool hasController = false;
+    bool pixelsAreLost = true; // the texture holds nothing of the screen
+    bool windowIsStale = true; // what the window shows is not the texture
+    Pacer pacer;
+    SdlInput mouseAndKeys{input()};
+    SdlController controllers;
+    std::vector<std::string> messages; // of the running frame
+};
+
+// Opening and closing
+
+bool SdlHost::startVideo()
+{
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1"); // Ctrl+C ends the program, as anywhere else
+    SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
+    SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+    SDL_SetMainReady();
+    if (SDL_InitSubSystem(SDL_INIT_VIDEO) == 0) {
+        hasVideo = true;
+        // Drivers that show nothing are used only where the user names them.
+        const std::string_view driver = SDL_GetCurrentVideoDriver();
+        if ((driver != "dummy" && driver != "offscreen") || isSetInEnvironment("SDL_VIDEODRIVER"))
+            return true;
+        SDL_SetError("no display found");
+    }
+    return false;
+}
+
+bool SdlHost::createWindow()
+{
+    Uint32 flags = SDL_WINDOW_RESIZABLE;
+    if (game->fullScreen && !isSetInEnvironment("TGX_WINDOWED")) {
+        flags |= SDL_WINDOW_FULLSCREEN_DESKTOP;
+        if (game->topMost)
+            flags |= SDL_WINDOW_ALWAYS_ON_TOP;
+    }
+    int width = std::max<int>(game->screenWidth, 1);
+    int height = std::max<int>(game->screenHeight, 1);
+    SDL_Rect desktop;
+    if (SDL_GetDisplayUsableBounds(0, &desktop) == 0 && (width > desktop.w || height > desktop.h)) {
+        const ScreenFit shrunk = ScreenFit::of(width, height, desktop.w, desktop.h);
+        width = shrunk.w;
+        height = shrunk.h;
+    }
+    window = SDL_CreateWindow(windowTitle().c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, width,
+                              height, flags);
+    return window != nullptr;
+}
+
+bool SdlHost::createRenderer()
+{
+    renderer = SDL_CreateRenderer(window, -1, SDL_RENDERER_ACCELERATED | SDL_RENDERER_PRESENTVSYNC);
+    if (!renderer)
+        renderer = SDL_CreateRenderer(window, -1, SDL_RENDERER_SOFTWARE);
+    return renderer != nullptr;
+}
+
+bool SdlHost::open(ddwin& newGame)
+{
+    closeWindow();
+    game = &newGame;
+    if (!startVideo() || !createWindow() || !createRenderer()) {
+        std::fprintf(stderr,
+                     "cannot open a window: %s; start the program in a desktop session, or with DISPLAY set "
+                     "to an X server "
+                     "(xvfb-run gives one that shows nothing)\n",
+                     SDL_GetError());
+        closeWindow();
+        return false;
+    }
+    hasController = SDL_InitSubSystem(SDL_INIT_GAMECONTROLLER) == 0; // a game goes without
+    cursors[0] = SDL_CreateSystemCursor(SDL_SYSTEM_CURSOR_ARROW);
+    cursors[1] = SDL_CreateSystemCursor(SDL_SYSTEM_CURSOR_WAIT);
+    setCursor(cursor);
+    SDL_StartTextInput();
+    updateFit();
+
+    SDL_DisplayMode mode;
+    const bool isKnown = SDL_GetWindowDisplayMode(window, &mode) == 0 && mode.refresh_rate > 0;
+    pacer.start(nowMicros(), isKnown ? mode.refresh_rate : 60);
+    newGame.m_hWnd = reinterpret_cast<HWND>(&newGame);
+    return true;
+}
+
+void SdlHost::close(ddwin& closed)
+{
+    showGatheredMessages();
+    closed.m_hWnd = nullptr;
+    if (game == &closed)
+        closeWindow();
+}
+
+void SdlHost::closeWindow()
+{
+    controllers.closeAll();
+    for (SDL_Cursor*& shape : cursors) {
+        SDL_FreeCursor(shape);
+        shape = nullptr;
+    }
+    if (texture)
+        SDL_DestroyTexture(texture);
+    if (renderer)
+        SDL_DestroyRenderer(renderer);
+    if (window)
+        SDL_DestroyWindow(window);
+    texture = nullptr;
+    renderer = nullptr;
+    window = nullptr;
+    game = nullptr;
+    pixelsAreLost = true;
+    // Only what open() has started: a game may use SDL for its sound.
+    if (hasController)
+        SDL_QuitSubSystem(SDL_INIT_GAMECONTROLLER);
+    if (hasVideo)
+        SDL_QuitSubSystem(SDL_INIT_VIDEO);
+    hasController = false;
+    hasVideo = false;
+}
+
+// Showing
+
+bool SdlHost::prepareTexture(const Image& screen)
+{
+    if (texture && textureWidth == screen.width && textureHeight == screen.height)
+        return true;
+    if (texture)
+        SDL_DestroyTexture(texture);
+    texture = SDL_CreateTexture(renderer, SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING, screen.width,
+                                screen.height);
+    textureWidth = screen.width;
+    textureHeight = screen.height;
+    pixelsAreLost = true;
+    updateFit();
+    if (!texture)
+        return false;
+    SDL_SetTextureBlendMode(texture, SDL_BLENDMODE_NONE);
+    return true;
+}
+
+void SdlHost::upload(const Image& screen, const tagRECT& area)
+{
+    const int left = std::clamp(area.left, 0, screen.width);
+    const int top = std::clamp(area.top, 0, screen.height);
+    const SDL_Rect held = {left, top, std::clamp(area.right, left, screen.width) - left,
+                           std::clamp(area.bottom, top, screen.height) - top};
+    if (held.w == 0 || held.h == 0)
+        return;
+    const int pitchInBytes = screen.pitch * static_cast<int>(sizeof(std::uint32_t));
+    SDL_UpdateTexture(texture, &held, screen.row(held.y) + held.x, pitchInBytes);
+}
+
+void SdlHost::show(const Image& screen, std::span<const tagRECT> changed)
+{
+    if (!window || screen.width <= 0 || screen.height <= 0 || !prepareTexture(screen))
+        return;
+    if (pixelsAreLost)
+        upload(screen, {0, 0, screen.width, screen.height});
+    else
+        for (const tagRECT& area : changed)
+            upload(screen, area);
+    if (pixelsAreLost || windowIsStale || !changed.empty())
+        present();
+    pixelsAreLost = false;
+}
+
+void SdlHost::present()
+{
+    int width = 0;
+    int height = 0;
+    SDL_GetRendererOutputSize(renderer, &width, &height);
+    const ScreenFit fit = ScreenFit::of(textureWidth, textureHeight, width, height);
+    const SDL_Rect target = {fit.x, fit.y, fit.w, fit.h};
+    SDL_SetTextureScaleMode(texture, fit.isWholeScale() ? SDL_ScaleModeNearest : SDL_ScaleModeLinear);
+    SDL_SetRenderDrawColor(renderer, 0, 0, 0, 255);
+    SDL_RenderClear(renderer);
+    SDL_RenderCopy(renderer, texture, nullptr, &target);
+    SDL_RenderPresent(renderer);
+    windowIsStale = false;
+}
+
+void SdlHost::updateFit()
+{
+    int width = 0;
+    int height = 0;
+    SDL_GetWindowSize(window, &width, &height);
+    mouseAndKeys.setFit(ScreenFit::of(game->screenWidth, game->screenHeight, width, height));
+    windowIsStale = true;
+}
+
+void SdlHost::setCursor(CursorShape shape)
+{
+    cursor = shape;
+    if (SDL_Cursor* picture = cursors[shape == CursorShape::Wait ? 1 : 0])
+        SDL_SetCursor(picture);
+}
+
+// Input
+
+void SdlHost::pump(ddwin& polled)
+{
+    if (!window || game != &polled)
+        return;
+    SDL_Event event;
+    while (SDL_PollEvent(&event)) {
+        if (controllers.handle(event, input()))
+            continue;
+        switch (event.type) {
+        case SDL_QUIT:
+            closeRequested = true;
+            break;
+        case SDL_WINDOWEVENT:
+            handleWindowEvent(event.window);
+            break;
+        case SDL_RENDER_TARGETS_RESET:
+            pixelsAreLost = true;
+            break;
+        case SDL_RENDER_DEVICE_RESET:
+            if (texture)
+                SDL_DestroyTexture(texture);
+            texture = nullptr;
+            break;
+        default:
+            mouseAndKeys.handle(event);
+            break;
+        }
+    }
+    mouseAndKeys.flush();
+    controllers.repeat(SDL_GetTicks(), input());
+    input().dropStale(timeGetTime(), staleMillis);
+}
+
+void SdlHost::handleWindowEvent(const SDL_WindowEvent& event)
+{
+    switch (event.event) {
+    case SDL_WINDOWEVENT_CLOSE:
+        closeRequested = true;
+        break;
+    case SDL_WINDOWEVENT_FOCUS_GAINED:
+        game->appActive = 1;
+        break;
+    case SDL_WINDOWEVENT_FOCUS_LOST:
+        game->appActive = 0;
+        letGo();
+        break;
+    case SDL_WINDOWEVENT_SIZE_CHANGED:
+    case SDL_WINDOWEVENT_RESTORED:
+    case SDL_WINDOWEVENT_EXPOSED:
+        updateFit();
+        break;
+    default:
+        break;
+    }
+}
+
+void SdlHost::letGo()
+{
+    mouseAndKeys.letGo();
+    controllers.letGo(input());
+}
+
+void SdlHost::movePointer(int x, int y)
+{
+    // A window in the background leaves the pointer to the one in front.
+    if (!window || SDL_GetKeyboardFocus() != window)
+        return;
+    mouseAndKeys.pointerWasMoved(x, y, SDL_GetTicks());
+    const ScreenFit::Point place = mouseAndKeys.getFit().toWindow(x, y);
+    SDL_WarpMouseInWindow(window, place.x, place.y);
+}
+
+// Messages and time
+
+void SdlHost::showMessage(const CString& text)
+{
+    printMessage(text.view());
+    messages.push_back(text.str());
+}
+
+void SdlHost::showGatheredMessages()
+{
+    if (messages.empty())
+        return;
+    const std::string text = utf8From1252(boxText(messages));
+    messages.clear();
+    if (!window || isSetInEnvironment("TGX_NO_MESSAGE_BOX"))
+        return;
+    letGo(); // what is let go while the box is open goes to the box
+    SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_INFORMATION, windowTitle().c_str(), text.c_str(), window);
+    windowIsStale = true;
+}
+
+void SdlHost::waitForWork(int& ticks, int& frames)
+{
+    showGatheredMessages();
+    ticks = 0;
+    frames = 0;
+    while (ticks == 0 && frames == 0) {
+        const std::int64_t now = nowMicros();
+        if (pacer.nextDue() > now)
+            std::this_thread::sleep_for(std::chrono::microseconds(pacer.nextDue() - now));
+        ticks = pacer.takeTicks(nowMicros());
+        frames = pacer.takeFrame(nowMicros());
+        if (isMinimised())
+            frames = 0;
+    }
+}
+
+} // namespace
+
+std::unique_ptr<displayhost> makeSdlHost()
+{
+    return std::make_unique<SdlHost>();
+}

@@ -1,0 +1,186 @@
+#include "platform/host/sdl_input.h"
+
+#include "platform/display/keys.h"
+#include "platform/host/codepage.h"
+#include "platform/host/sdl_keys.h"
+
+#include <cstdlib>
+#include <optional>
+
+namespace {
+
+/// Not every system tells of a pointer that was moved: behind this time no more is waited for.
+constexpr std::uint32_t ownMotionMillis = 100;
+
+std::optional<MouseButton> buttonOf(std::uint8_t button)
+{
+    switch (button) {
+    case SDL_BUTTON_LEFT:
+        return MouseButton::Left;
+    case SDL_BUTTON_RIGHT:
+        return MouseButton::Right;
+    case SDL_BUTTON_MIDDLE:
+        return MouseButton::Middle;
+    default:
+        return std::nullopt;
+    }
+}
+
+/// The left and the right key of a pair have one code: it is held while either is.
+bool isHeldByTwin(const SDL_Keysym& key, std::uint8_t code)
+{
+    switch (code) {
+    case VK_SHIFT:
+        return key.mod & KMOD_SHIFT;
+    case 0x11:
+        return key.mod & KMOD_CTRL;
+    case 0x12:
+        return key.mod & KMOD_ALT;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+void SdlInput::handle(const SDL_Event& event)
+{
+    if (event.type != SDL_TEXTINPUT)
+        flush();
+    switch (event.type) {
+    case SDL_MOUSEMOTION:
+        handleMotion(event.motion);
+        break;
+    case SDL_MOUSEBUTTONDOWN:
+    case SDL_MOUSEBUTTONUP:
+        handleButton(event.button);
+        break;
+    case SDL_MOUSEWHEEL: {
+        const int notches = event.wheel.direction == SDL_MOUSEWHEEL_FLIPPED ? -event.wheel.y : event.wheel.y;
+        for (int i = 0; i < std::abs(notches); ++i)
+            queue.wheel(notches > 0);
+        break;
+    }
+    case SDL_KEYDOWN:
+        handleKeyDown(event.key);
+        break;
+    case SDL_KEYUP:
+        handleKeyUp(event.key);
+        break;
+    case SDL_TEXTINPUT:
+        handleText(event.text.text);
+        break;
+    default:
+        break;
+    }
+}
+
+void SdlInput::moveTo(ScreenFit::Point place)
+{
+    if (place.x == last.x && place.y == last.y)
+        return; // within one screen pixel of a large window
+    last = place;
+    queue.move(place.x, place.y);
+}
+
+void SdlInput::handleMotion(const SDL_MouseMotionEvent& motion)
+{
+    if (awaitsOwnMotion) {
+        const bool isOwn = std::abs(motion.x - ownMotion.x) <= 1 && std::abs(motion.y - ownMotion.y) <= 1;
+        const bool isOverdue = SDL_GetTicks() - ownMotionSince > ownMotionMillis;
+        awaitsOwnMotion = !isOwn && !isOverdue;
+        if (!isOverdue)
+            return; // ours, or from before it
+    }
+    moveTo(fit.toScreen(motion.x, motion.y));
+}
+
+void SdlInput::handleButton(const SDL_MouseButtonEvent& event)
+{
+    const std::optional<MouseButton> button = buttonOf(event.button);
+    if (!button)
+        return;
+    const auto index = static_cast<std::size_t>(*button);
+    if (event.state == SDL_PRESSED) {
+        // A click that brings the window to the front may come without a motion to its place.
+        if (!awaitsOwnMotion)
+            moveTo(fit.toScreen(event.x, event.y));
+        if (event.clicks > 0 && event.clicks % 2 == 0) // a third click in a row begins anew
+            queue.doubleClick(*button);
+        else
+            queue.press(*button);
+        heldButtons.set(index);
+    } else if (heldButtons.test(index)) {
+        if (!awaitsOwnMotion)
+            moveTo(fit.toScreen(event.x, event.y));
+        queue.release(*button);
+        heldButtons.reset(index);
+    }
+}
+
+void SdlInput::handleKeyDown(const SDL_KeyboardEvent& event)
+{
+    const std::uint8_t code = virtualKeyOf(event.keysym);
+    if (code == 0)
+        return;
+    if (!heldKeys.test(code))
+        queue.holdInTurn(code, true);
+    heldKeys.set(code);
+    waitingKey = code;
+    waitingIsRepeat = event.repeat != 0;
+}
+
+void SdlInput::handleKeyUp(const SDL_KeyboardEvent& event)
+{
+    const std::uint8_t code = virtualKeyOf(event.keysym);
+    if (code == 0 || !heldKeys.test(code) || isHeldByTwin(event.keysym, code))
+        return;
+    heldKeys.reset(code);
+    queue.holdInTurn(code, false);
+}
+
+void SdlInput::handleText(std::string_view text)
+{
+    if (!typesText(waitingKey))
+        flush();
+    while (!text.empty()) {
+        const std::optional<char> character = to1252(takeUtf8(text));
+        if (!character)
+            continue;
+        if (waitingKey != 0)
+            sendWaitingKey(*character);
+        else
+            queue.key(VK_PACKET, *character);
+    }
+}
+
+void SdlInput::sendWaitingKey(char character)
+{
+    if (waitingKey == 0)
+        return;
+    queue.key(waitingKey, character ? character : controlCharacterOf(waitingKey), 0, waitingIsRepeat);
+    waitingKey = 0;
+}
+
+void SdlInput::letGo()
+{
+    flush();
+    for (MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
+        if (heldButtons.test(static_cast<std::size_t>(button)))
+            queue.release(button);
+    }
+    heldButtons.reset();
+    for (std::size_t code = 0; code < heldKeys.size(); ++code) {
+        if (heldKeys.test(code))
+            queue.holdInTurn(static_cast<std::uint8_t>(code), false);
+    }
+    heldKeys.reset();
+}
+
+void SdlInput::pointerWasMoved(int screenX, int screenY, std::uint32_t now)
+{
+    last = {screenX, screenY};
+    ownMotion = fit.toWindow(screenX, screenY);
+    ownMotionSince = now;
+    awaitsOwnMotion = true;
+}

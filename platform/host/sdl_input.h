@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/host/input_queue.h"
+#include "platform/host/screen_fit.h"
+
+#include <SDL.h>
+
+#include <bitset>
+#include <cstdint>
+#include <string_view>
+
+/// Turns the window's mouse and key events into transitions of the input queue.
+class SdlInput {
+public:
+    explicit SdlInput(InputQueue& target) : queue(target) {}
+
+    /// Where the screen lies in the window, in the units of mouse events.
+    void setFit(const ScreenFit& newFit) { fit = newFit; }
+    const ScreenFit& getFit() const { return fit; }
+
+    void handle(const SDL_Event& event);
+    /// Behind the last event there is: a key that waited for its character goes without.
+    void flush() { sendWaitingKey(0); }
+    /// Lets go of all that is held, as when the window loses the focus.
+    void letGo();
+    /// The toolkit has put the pointer to this place of the screen. Motion that began before comes no more.
+    void pointerWasMoved(int screenX, int screenY, std::uint32_t now);
+
+private:
+    void handleMotion(const SDL_MouseMotionEvent& motion);
+    void handleButton(const SDL_MouseButtonEvent& event);
+    void handleKeyDown(const SDL_KeyboardEvent& event);
+    void handleKeyUp(const SDL_KeyboardEvent& event);
+    void handleText(std::string_view text);
+    void sendWaitingKey(char character);
+    void moveTo(ScreenFit::Point place);
+
+    InputQueue& queue;
+    ScreenFit fit;
+    ScreenFit::Point last = {-1, -1}; // what the queue knows last
+    std::bitset<3> heldButtons;
+    std::bitset<256> heldKeys;
+    // A key event waits for the text event right behind it, so that one transition has code and character.
+    std::uint8_t waitingKey = 0;
+    bool waitingIsRepeat = false;
+    // The motion event that moving the pointer brings, in window units, until it has come.
+    bool awaitsOwnMotion = false;
+    ScreenFit::Point ownMotion = {0, 0};
+    std::uint32_t ownMotionSince = 0;
+};

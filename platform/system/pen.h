@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/export.h"
+
+#include <cstdint>
+
+class ddwin;
+
+/// A device context of the back buffer: lines that go through it are recorded like every other drawing operation.
+using HDC = struct DeviceContext*;
+using HGDIOBJ = struct GdiObject*;
+using HPEN = HGDIOBJ;
+
+constexpr int PS_SOLID = 0;
+constexpr int TRANSPARENT = 1;
+
+struct POINT {
+    int x = 0;
+    int y = 0;
+};
+
+/// A pen of that width in pixels. colour has red in the low byte. Owned by the caller: DeleteObject.
+TGX_PLATFORM_API HPEN CreatePen(int style, int width, std::uint32_t colour);
+/// Puts a pen into the context. The one that was there before.
+TGX_PLATFORM_API HGDIOBJ SelectObject(HDC context, HGDIOBJ object);
+TGX_PLATFORM_API int SetBkMode(HDC context, int mode);
+/// Moves the context's current point; previous, unless null, receives the old one.
+TGX_PLATFORM_API int MoveToEx(HDC context, int x, int y, POINT* previous);
+/// Draws from the current point to x, y with the pen, and makes that the current point.
+TGX_PLATFORM_API int LineTo(HDC context, int x, int y);
+/// Releases a pen. 1, or 0 for null.
+TGX_PLATFORM_API int DeleteObject(HGDIOBJ object);

@@ -1,0 +1,213 @@
+#include "player/events.h"
+
+#include "platform/host/headless_host.h"
+#include "platform/host/image_file.h"
+#include "player/calls.h"
+#include "player/keys.h"
+#include "player/player.h"
+#include "player/reports.h"
+
+#include <limits>
+#include <ostream>
+
+namespace {
+
+/// The words of one event, and what its handler works on.
+struct Event {
+    Player& player;
+    AMainWin& win;
+    InputQueue& input;
+    std::span<const Word> words; // [0] is the event's name
+    int line;
+
+    bool has(std::size_t index) const { return index < words.size(); }
+    const std::string& text(std::size_t index) const { return words[index].text; }
+    std::int64_t number(std::size_t index, std::int64_t lowest, std::int64_t highest) const
+    {
+        auto value = parseNumber(words[index]);
+        if (!value || *value < lowest || *value > highest)
+            throw WrongLine("expected a number from " + std::to_string(lowest) + " to " +
+                            std::to_string(highest) + ", found " + quote(text(index)));
+        return *value;
+    }
+    /// The [N] of an event; 1 without one.
+    int count() const { return has(1) ? static_cast<int>(number(1, 0, std::numeric_limits<int>::max())) : 1; }
+};
+
+void frame(const Event& event)
+{
+    for (int i = event.count(); i > 0 && !event.player.hasEnded(); --i) {
+        event.player.tick(1);
+        event.player.draw(1);
+    }
+}
+
+void tick(const Event& event)
+{
+    event.player.tick(event.count());
+}
+
+void draw(const Event& event)
+{
+    event.player.draw(event.count());
+}
+
+void move(const Event& event)
+{
+    constexpr int lowest = std::numeric_limits<std::int16_t>::min();
+    constexpr int highest = std::numeric_limits<std::int16_t>::max();
+    int x = static_cast<int>(event.number(1, lowest, highest));
+    int y = static_cast<int>(event.number(2, lowest, highest));
+    event.input.move(x, y);
+}
+
+MouseButton button(const Event& event)
+{
+    const std::string& name = event.text(1);
+    if (name == "left")
+        return MouseButton::Left;
+    if (name == "right")
+        return MouseButton::Right;
+    if (name == "middle")
+        return MouseButton::Middle;
+    throw WrongLine("no button " + quote(name) + "; buttons are left, right and middle");
+}
+
+void press(const Event& event)
+{
+    event.input.press(button(event));
+}
+
+void release(const Event& event)
+{
+    event.input.release(button(event));
+}
+
+void doubleClick(const Event& event)
+{
+    event.input.doubleClick(button(event));
+}
+
+void wheel(const Event& event)
+{
+    if (event.text(1) != "up" && event.text(1) != "down")
+        throw WrongLine("the wheel goes up or down, found " + quote(event.text(1)));
+    event.input.wheel(event.text(1) == "up");
+}
+
+void key(const Event& event)
+{
+    std::uint8_t code = parseKey(event.words[1]);
+    event.input.key(code, characterOf(code, event.win.keyDown[VK_SHIFT] != 0));
+}
+
+void type(const Event& event)
+{
+    for (char character : event.text(1))
+        event.input.key(keyThatTypes(character), character);
+}
+
+void hold(const Event& event)
+{
+    event.input.hold(event.win, parseKey(event.words[1]), true);
+}
+
+void lift(const Event& event)
+{
+    event.input.hold(event.win, parseKey(event.words[1]), false);
+}
+
+void change(const Event& event)
+{
+    if (event.has(2) && event.text(2) != "close")
+        throw WrongLine("expected close or nothing, found " + quote(event.text(2)));
+    AScreen* screen = event.win.changeScreen(CString(event.text(1)), event.has(2), mainScriptResource,
+                                             CString(event.player.getOptions().script));
+    if (screen && !screen->isOpen())
+        screen->initialise(); // a change that the call carried out at once leaves this to its caller
+}
+
+void exit(const Event& event)
+{
+    event.win.exitProgram();
+}
+
+void call(const Event& event)
+{
+    std::string value = callOperation(event.win, event.words.subspan(1));
+    event.player.getOut() << event.line << ": " << value << '\n' << std::flush;
+}
+
+void shot(const Event& event)
+{
+    const Image& screen = event.win.getScreenImage();
+    if (screen.width <= 0 || screen.height <= 0)
+        throw WrongLine("no frame has been shown yet");
+    if (!writePng(screen, event.player.outputPath(event.text(1))))
+        throw WrongLine("cannot write " + quote(event.text(1)));
+}
+
+void tree(const Event& event)
+{
+    event.player.writeFile(event.text(1), treeReport(event.win));
+}
+
+void trace(const Event& event)
+{
+    event.player.writeFile(event.text(1), traceReport(event.win));
+}
+
+void fonts(const Event& event)
+{
+    event.player.writeFile(event.text(1), fontsReport(event.win));
+}
+
+/// The language: an event a row.
+const struct EventRow {
+    std::string_view name;
+    std::size_t fewest, most; // words behind the name
+    void (*run)(const Event& event);
+    std::string_view form;
+} eventRows[] = {
+    {"frame", 0, 1, frame, "frame [N]"},
+    {"tick", 0, 1, tick, "tick [N]"},
+    {"draw", 0, 1, draw, "draw [N]"},
+    {"move", 2, 2, move, "move X Y"},
+    {"press", 1, 1, press, "press left|right|middle"},
+    {"release", 1, 1, release, "release left|right|middle"},
+    {"doubleclick", 1, 1, doubleClick, "doubleclick left|right|middle"},
+    {"wheel", 1, 1, wheel, "wheel up|down"},
+    {"key", 1, 1, key, "key NAME"},
+    {"type", 1, 1, type, "type \"TEXT\""},
+    {"hold", 1, 1, hold, "hold NAME"},
+    {"lift", 1, 1, lift, "lift NAME"},
+    {"change", 1, 2, change, "change NAME [close]"},
+    {"exit", 0, 0, exit, "exit"},
+    {"call", 2, std::numeric_limits<std::size_t>::max(), call, "call TARGET OPERATION ARG ..."},
+    {"shot", 1, 1, shot, "shot FILE.png"},
+    {"tree", 1, 1, tree, "tree FILE.json"},
+    {"trace", 1, 1, trace, "trace FILE.jsonl"},
+    {"fonts", 1, 1, fonts, "fonts FILE.json"},
+};
+
+} // namespace
+
+void runEvent(Player& player, std::span<const Word> words, int line)
+{
+    const std::string& name = words[0].text;
+    std::vector<std::string> names;
+    for (const EventRow& row : eventRows) {
+        names.emplace_back(row.name);
+        if (row.name != name)
+            continue;
+        std::size_t arguments = words.size() - 1;
+        if (arguments < row.fewest || arguments > row.most)
+            throw WrongLine("expected " + std::string(row.form) + ", found " + std::to_string(arguments) +
+                            (arguments == 1 ? " word behind " : " words behind ") + name);
+        row.run({player, *player.getMainWin(), player.getHost().input(), words, line});
+        return;
+    }
+    std::string suggestion = suggest(name, names);
+    throw WrongLine("no event " + quote(name) +
+                    (suggestion.empty() ? "; events are " + listNames(names, names.size()) : suggestion));
+}

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "player/export.h"
+
+#include <functional>
+#include <iosfwd>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+class AControlsApp;
+class AMainWin;
+class CString;
+class HeadlessHost;
+namespace CLI {
+class App;
+}
+
+/// What a run plays, and how.
+struct PlayOptions {
+    std::string dataDirectory; // scripts lie in its UIG/
+    std::string script;        // name below UIG
+    std::string eventsFile;    // "-" is stdin; empty: 60 frames, then the picture screen.png
+    std::string outDirectory;  // files that the events write go below it; empty: the working directory
+    int width = 640;           // pixels
+    int height = 480;
+    int frameMs = 41; // that timeGetTime moves on by before each frame
+};
+
+/// Makes the game's main window. Called once the headless host, the clock and pApp stand.
+using MainWinFactory = std::function<std::unique_ptr<AMainWin>(int width, int height, int bitDepth)>;
+
+enum class PlayStatus { Done = 0, WrongLine = 1, WrongCall = 2 };
+
+/// Plays an interface without a window and without a clock: the same files and the same events give the same
+/// bytes, on every machine. There is one at a time: it takes the host, the clock, the data directory and pApp
+/// into use and gives them back.
+class TGX_PLAYER_API Player {
+public:
+    /// Values of calls, and files called "-", go to out; messages to err. Not owned. A factory that is null
+    /// makes an AMainWin.
+    Player(const PlayOptions& options, const MainWinFactory& factory, std::ostream& out, std::ostream& err);
+    ~Player();
+    Player(const Player&) = delete;
+    Player& operator=(const Player&) = delete;
+
+    /// Constructs the main window, starts it and reads the script. Raises std::runtime_error when there is no
+    /// data directory.
+    void start();
+    /// Carries out one line of events. The reason why it is wrong or could not be carried out; nothing when
+    /// all went well.
+    std::optional<std::string> runLine(std::string_view line, int number = 0);
+    /// The whole run. Reasons go to err as FILE:LINE: reason.
+    PlayStatus run();
+
+    /// Null before start.
+    AMainWin* getMainWin() const { return mainWin.get(); }
+    /// True once the exit has completed: no line may follow.
+    bool hasEnded() const;
+    const PlayOptions& getOptions() const { return options; }
+
+    /// count input ticks. An invalid argument comes out of it as the exception.
+    void tick(int count);
+    /// count frames, the clock moved on before each. An invalid argument ends its frame and is reported once
+    /// in a run.
+    void draw(int count);
+    /// Writes a file below the output directory, whole or not at all; "-" is out.
+    void writeFile(const std::string& name, std::string_view contents);
+    /// The path of a file below the output directory, its folder made if need be. Raises WrongLine for a name
+    /// that leads out.
+    std::string outputPath(const std::string& name) const;
+    HeadlessHost& getHost() const { return *host; }
+    std::ostream& getOut() const { return out; }
+
+    /// What MsgBox and the platform's message box show; unless it is set, err gets a line "message: TEXT".
+    std::function<void(const CString& text)> onMessage;
+
+private:
+    void showMessage(const CString& text);
+    PlayStatus runEvents(std::istream& events, const std::string& name);
+    PlayStatus runWithoutEvents();
+
+    PlayOptions options;
+    MainWinFactory factory;
+    std::ostream& out;
+    std::ostream& err;
+    HeadlessHost* host = nullptr; // owned by displayhost's use
+    struct Surroundings;
+    std::unique_ptr<Surroundings> before; // what was in use before
+    std::unique_ptr<AControlsApp> app;
+    std::unique_ptr<AMainWin> mainWin;
+    bool invalidArgumentShown = false;
+};
+
+/// Enters the arguments of `tgx play` into app. options must outlive the parse.
+TGX_PLAYER_API void addPlayArguments(CLI::App& app, PlayOptions& options);
+
+/// A run on stdout and stderr. Exit status for main.
+TGX_PLAYER_API int play(const PlayOptions& options, const MainWinFactory& factory);
+
+/// A game's own player is a main of one line:
+///
+///     int main(int argc, char** argv) { return playMain(argc, argv, makeMyMainWin); }
+TGX_PLAYER_API int playMain(int argc, char** argv, const MainWinFactory& factory);

@@ -1,0 +1,114 @@
+#include "player/json.h"
+#include "player/reports.h"
+#include "tgx/frame/mainwin.h"
+
+#include <cstdlib>
+#include <cxxabi.h>
+#include <memory>
+#include <typeinfo>
+
+namespace {
+
+/// The class's own name: what stands behind the last :: outside template arguments and parameter lists.
+std::string classNameOf(const AWnd& wnd)
+{
+    int status = 0;
+    std::unique_ptr<char, decltype(&std::free)> demangled(
+        abi::__cxa_demangle(typeid(wnd).name(), nullptr, nullptr, &status), &std::free);
+    std::string name = demangled ? demangled.get() : typeid(wnd).name();
+    int depth = 0;
+    for (std::size_t i = name.size(); i-- > 1;) {
+        depth += (name[i] == '>' || name[i] == ')') - (name[i] == '<' || name[i] == '(');
+        if (depth == 0 && name[i] == ':' && name[i - 1] == ':')
+            return name.substr(i + 1);
+    }
+    return name;
+}
+
+/// Fields that a class adds to each window's own. Every row that a window is an instance of counts, in this
+/// order: a row for a base class stands before those of the classes that derive from it.
+struct ClassFields {
+    void (*write)(JsonWriter& json, const AWnd& wnd);
+};
+
+template<class Class, void (*fields)(JsonWriter&, const Class&)>
+constexpr ClassFields fieldsOf()
+{
+    return {[](JsonWriter& json, const AWnd& wnd) {
+        if (auto* object = dynamic_cast<const Class*>(&wnd))
+            fields(json, *object);
+    }};
+}
+
+void screenFields(JsonWriter& json, const AScreen& screen)
+{
+    json.field("open", screen.isOpen())
+        .field("caller", screen.getCaller().view())
+        .field("backdrop", screen.getBackdropName().view());
+}
+
+constexpr ClassFields classFields[] = {
+    fieldsOf<AScreen, screenFields>(),
+};
+
+void writeWindow(JsonWriter& json, AMainWin& win, AWnd& wnd)
+{
+    json.open('{')
+        .field("id", wnd.getID().view())
+        .field("type", wnd.getWindowType())
+        .field("class", classNameOf(wnd))
+        .field("x", wnd.left())
+        .field("y", wnd.top())
+        .field("w", wnd.width())
+        .field("h", wnd.height())
+        .field("wndX", wnd.wndX())
+        .field("wndY", wnd.wndY())
+        .field("visible", wnd.isVisible(0))
+        .field("enabled", wnd.getEnabled())
+        .field("text", wnd.getText().view())
+        .field("bmp", wnd.getBmpFilename().view())
+        .field("frame", wnd.getCurrentFrame())
+        .field("font", win.getFontIndex(wnd.getFont()));
+    json.key("children").open('[');
+    for (int i = 0; i < wnd.getWindowCount(); ++i) {
+        if (AWnd* child = wnd.getWndFromIndex(i, ""))
+            writeWindow(json, win, *child);
+    }
+    json.close(']');
+    for (const ClassFields& row : classFields)
+        row.write(json, wnd);
+    json.close('}');
+}
+
+void writeId(JsonWriter& json, const AWnd* wnd)
+{
+    if (wnd)
+        json.value(wnd->getID().view());
+    else
+        json.null();
+}
+
+} // namespace
+
+std::string treeReport(AMainWin& win)
+{
+    JsonWriter json;
+    json.open('{');
+    writeId(json.key("activeScreen"), win.getActiveScreen());
+    writeId(json.key("focus"), win.getCurFocusWnd());
+    writeId(json.key("mouseDown"), win.getMouseDownWnd());
+    json.key("popups").open('[');
+    for (int i = 0; i < win.getPopupWndCount(); ++i)
+        writeId(json, win.getPopupWnd(i));
+    json.close(']').key("capture").open('[');
+    for (int i = 0; i < win.getMouseCaptureWndCount(); ++i)
+        writeId(json, win.getMouseCaptureWnd(i)); // in front of the popups that this operation goes on to
+    json.close(']').key("pointer").open('[').value(win.mouseX).value(win.mouseY).close(']');
+    json.field("frameStep", win.getFrameStep()).key("root");
+    if (AScreenList* root = win.getScreenList())
+        writeWindow(json, win, *root);
+    else
+        json.null();
+    json.close('}');
+    return json.text() + '\n';
+}

@@ -1,0 +1,195 @@
+#include "player/words.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+#include <limits>
+
+namespace {
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+/// The byte that two hex digits stand for, or -1.
+int hexByte(std::string_view digits)
+{
+    unsigned value = 0;
+    if (digits.size() < 2)
+        return -1;
+    auto [end, error] = std::from_chars(digits.data(), digits.data() + 2, value, 16);
+    return error == std::errc() && end == digits.data() + 2 ? static_cast<int>(value) : -1;
+}
+
+/// Reads the string whose opening quote stands at place; place goes behind the closing one.
+std::string readString(std::string_view line, std::size_t& place)
+{
+    std::string text;
+    for (++place; place < line.size(); ++place) {
+        char c = line[place];
+        if (c == '"') {
+            ++place;
+            return text;
+        }
+        if (c == '\\' && place + 1 < line.size()) {
+            char next = line[place + 1];
+            int byte = next == 'x' ? hexByte(line.substr(place + 2)) : -1;
+            if (next == '"' || next == '\\') {
+                c = next;
+                place += 1;
+            } else if (byte >= 0) {
+                c = static_cast<char>(byte);
+                place += 3;
+            } // any other backslash stands for itself
+        }
+        text += c;
+    }
+    throw WrongLine("the string \"" + text + " has no closing quote");
+}
+
+/// Takes a sign off the front; true for a minus.
+bool takeSign(std::string_view& text)
+{
+    bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+'))
+        text.remove_prefix(1);
+    return negative;
+}
+
+/// Letters to add, leave out, or change to get from a to b.
+std::size_t slips(std::string_view a, std::string_view b)
+{
+    std::vector<std::size_t> row(b.size() + 1);
+    for (std::size_t j = 0; j <= b.size(); ++j)
+        row[j] = j;
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        std::size_t diagonal = row[0];
+        row[0] = i;
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            std::size_t changed = diagonal + (a[i - 1] != b[j - 1]);
+            diagonal = row[j];
+            row[j] = std::min({changed, row[j] + 1, row[j - 1] + 1});
+        }
+    }
+    return row.back();
+}
+
+} // namespace
+
+std::vector<Word> splitWords(std::string_view line)
+{
+    std::vector<Word> words;
+    std::size_t place = 0;
+    while (true) {
+        while (place < line.size() && isBlank(line[place]))
+            ++place;
+        if (place == line.size())
+            return words;
+        if (line[place] == '"') {
+            words.push_back({readString(line, place), true});
+            if (place < line.size() && !isBlank(line[place]))
+                throw WrongLine("a blank is missing behind the string " + quote(words.back().text));
+            continue;
+        }
+        std::size_t start = place;
+        while (place < line.size() && !isBlank(line[place])) {
+            if (line[place] == '"')
+                throw WrongLine("a blank is missing before the string behind " +
+                                quote(line.substr(start, place - start)));
+            ++place;
+        }
+        words.push_back({std::string(line.substr(start, place - start)), false});
+    }
+}
+
+std::optional<std::int64_t> parseNumber(const Word& word)
+{
+    std::string_view digits = word.text;
+    bool negative = takeSign(digits);
+    int base = 10;
+    if (digits.starts_with("0x") || digits.starts_with("0X")) {
+        digits.remove_prefix(2);
+        base = 16;
+    }
+    std::uint64_t value = 0; // unsigned: from_chars would take a second sign for a signed one
+    auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, base);
+    bool whole = error == std::errc() && end == digits.data() + digits.size();
+    if (word.quoted || !whole || value > std::uint64_t(std::numeric_limits<std::int64_t>::max()))
+        return std::nullopt;
+    return negative ? -static_cast<std::int64_t>(value) : static_cast<std::int64_t>(value);
+}
+
+std::optional<std::int64_t> parseFixed(const Word& word)
+{
+    std::string_view digits = word.text;
+    bool negative = takeSign(digits);
+    std::size_t point = digits.find('.');
+    if (word.quoted || point == std::string_view::npos || digits.size() == 1)
+        return std::nullopt;
+    std::string_view whole = digits.substr(0, point);
+    std::string_view fraction = digits.substr(point + 1);
+    if (!std::all_of(whole.begin(), whole.end(), isDigit) ||
+        !std::all_of(fraction.begin(), fraction.end(), isDigit) || whole.size() > 12)
+        return std::nullopt;
+
+    std::int64_t value = 0;
+    for (char c : whole)
+        value = value * 10 + (c - '0');
+    // Each multiple of 1/4096 has at most 12 decimals, so digits behind the 15th cannot change the cut.
+    std::int64_t numerator = 0;
+    std::int64_t denominator = 1;
+    for (char c : fraction.substr(0, 15)) {
+        numerator = numerator * 10 + (c - '0');
+        denominator *= 10;
+    }
+    value = value * 4096 + numerator * 4096 / denominator;
+    return negative ? -value : value;
+}
+
+std::string quote(std::string_view text)
+{
+    std::string quoted = "\"";
+    for (unsigned char c : text) {
+        char hex[8];
+        std::snprintf(hex, sizeof hex, "\\x%02X", c);
+        if (c < 0x20 || c > 0x7E)
+            quoted += hex;
+        else
+            quoted += static_cast<char>(c);
+    }
+    return quoted + '"';
+}
+
+std::string listNames(const std::vector<std::string>& names, std::size_t limit)
+{
+    std::string list;
+    std::size_t shown = std::min(names.size(), limit);
+    for (std::size_t i = 0; i < shown; ++i) {
+        if (i > 0)
+            list += i + 1 == names.size() ? " and " : ", ";
+        list += names[i];
+    }
+    if (shown < names.size())
+        list += " and " + std::to_string(names.size() - shown) + " more";
+    return list;
+}
+
+std::string suggest(std::string_view written, const std::vector<std::string>& names)
+{
+    const std::string* best = nullptr;
+    std::size_t bestSlips = 3;
+    for (const std::string& name : names) {
+        std::size_t count = slips(written, name);
+        if (count < bestSlips && count < name.size()) {
+            best = &name;
+            bestSlips = count;
+        }
+    }
+    return best ? "; did you mean " + *best + "?" : "";
+}

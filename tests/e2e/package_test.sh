@@ -1,0 +1,82 @@
+#!/usr/bin/env bash
+# package_test.sh find_package|pkg_config|add_subdirectory SOURCE_DIR BUILD_DIR
+#
+# Uses the toolkit as a game of that kind would, from a folder outside of this repository, and shows the log of the step
+# that failed.
+set -euo pipefail
+
+way=$1
+source=$2
+build=$3
+here=$(cd "$(dirname "$0")" && pwd)
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+# run NAME COMMAND ...: quiet unless it fails.
+run() {
+    local name=$1
+    shift
+    if ! "$@" >"$work/log" 2>&1; then
+        echo "FAILED: $name" >&2
+        echo "  command: $*" >&2
+        echo "  output:" >&2
+        tail -60 "$work/log" | sed 's/^/    /' >&2
+        exit 1
+    fi
+    echo "ok: $name"
+}
+# expect NAME COMMAND ...: a check that says what it is about.
+expect() {
+    local name=$1
+    shift
+    if ! "$@"; then
+        echo "FAILED: $name: $*" >&2
+        exit 1
+    fi
+    echo "ok: $name"
+}
+is_png() { [[ $(head -c 8 "$1" | od -An -tx1 | tr -d ' \n') == 89504e470d0a1a0a ]]; }
+# More than one colour is on it: a plain picture of this size packs into much less.
+is_drawn() { is_png "$1" && (($(stat -c %s "$1") > 2000)); }
+linked_into() { LD_LIBRARY_PATH= ldd "$2" | grep -q "libtgx.so.1 => $1/"; }
+
+prefix=$work/prefix
+install_here() { run "install" cmake --install "$build" --prefix "$prefix"; }
+mkdir -p "$work/data/UIG"
+
+case $way in
+find_package)
+    install_here
+    expect "no private header is installed" test -z "$(find "$prefix/include" -name 'sdl_*' -o -name '*_internal.h')"
+    # The tree can be moved: nothing in it may remember where it was installed.
+    mv "$prefix" "$work/moved"
+    prefix=$work/moved
+    cp -r "$source/examples/first_screen" "$work/game"
+    run "configure" cmake -S "$work/game" -B "$work/build" -D CMAKE_PREFIX_PATH="$prefix" -D CMAKE_BUILD_TYPE=Release
+    run "build" cmake --build "$work/build" -j 2
+    expect "the moved library is the one in use" linked_into "$prefix" "$work/build/first_screen"
+    run "play" "$work/build/first_screen_player" "$work/data" --script script.tgx --out "$work"
+    expect "the screen is drawn" is_drawn "$work/screen.png"
+    ;;
+pkg_config)
+    install_here
+    pc=$(dirname "$(find "$prefix" -name tgx.pc)")
+    export PKG_CONFIG_PATH=$pc
+    run "tool" "$(pkg-config --variable=tool tgx)" build "$here/consumer/script.tgs" -o "$work/data/UIG/script.tgx"
+    expect "the tool compiles the same bytes" cmp "$here/consumer/script.tgx" "$work/data/UIG/script.tgx"
+    read -ra flags <<<"$(pkg-config --cflags --libs tgx)"
+    run "compile" c++ -std=c++20 "$here/consumer/main.cpp" -o "$work/consumer" "${flags[@]}" \
+        "-Wl,-rpath,$(pkg-config --variable=libdir tgx)"
+    run "run" "$work/consumer" "$work/data"
+    ;;
+add_subdirectory)
+    run "configure" cmake -G Ninja -S "$here/consumer" -B "$work/build" -D TGX_SOURCE_DIR="$source" \
+        -D CMAKE_BUILD_TYPE=None
+    run "build" cmake --build "$work/build" -j 2 --target consumer
+    run "run" "$work/build/consumer" "$work/data"
+    ;;
+*)
+    echo "package_test.sh: unknown way \"$way\"" >&2
+    exit 2
+    ;;
+esac

@@ -1,0 +1,161 @@
+// Any bytes are a script: they are read into windows, drawn, clicked about in and taken down again. What must
+// hold: no memory fault, no undefined behaviour, no leak, no run without end, and after each tick a tree that
+// agrees with itself.
+//
+// The last bytes of the input are also the player's hand: each is one event. They may well be part of the
+// script too.
+
+#include "platform/host/headless_host.h"
+#include "platform/system/clock.h"
+#include "platform/system/datadir.h"
+#include "tests/unit/support/invariants.h"
+#include "tgx/frame/mainwin.h"
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int screenWidth = 160; // pixels: small, so that a run is about the windows and not about pixels
+constexpr int screenHeight = 120;
+constexpr std::size_t handBytes = 24;
+constexpr unsigned mainScript = 141;
+
+/// The pictures that the dictionary names. A strip serves as bitmap and as border.
+void writeBmp(const std::filesystem::path& file, int width, int height)
+{
+    const int rowBytes = (width * 3 + 3) / 4 * 4;
+    const unsigned size = 54 + static_cast<unsigned>(rowBytes * height);
+    std::vector<unsigned char> bytes(size);
+    const auto put = [&](std::size_t at, unsigned value) {
+        for (std::size_t i = 0; i < 4; ++i)
+            bytes[at + i] = static_cast<unsigned char>(value >> (8 * i));
+    };
+    bytes[0] = 'B';
+    bytes[1] = 'M';
+    put(2, size);
+    put(10, 54);
+    put(14, 40);
+    put(18, static_cast<unsigned>(width));
+    put(22, static_cast<unsigned>(height));
+    put(26, 1 | 24u << 16);
+    for (std::size_t i = 54; i < size; ++i)
+        bytes[i] =
+            static_cast<unsigned char>(i % 3 == 1 && i % 5 == 0 ? 0 : 255); // some of it is the key colour
+    std::ofstream(file, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+}
+
+struct DataDirectory {
+    std::filesystem::path path;
+
+    DataDirectory()
+    {
+        std::string pattern = (std::filesystem::temp_directory_path() / "tgx-fuzz-XXXXXX").string();
+        path = mkdtemp(pattern.data());
+        std::filesystem::create_directory(path / "uig");
+        writeBmp(path / "a.bmp", 16, 16);
+        writeBmp(path / "s.bmp", 71, 8);
+        setDataDirectory(path.string());
+    }
+    ~DataDirectory() { std::filesystem::remove_all(path); }
+};
+
+void queueEvent(AMainWin& window, std::uint8_t byte)
+{
+    InputQueue& input = displayhost::current().input();
+    const int low = byte & 15;
+    switch (byte >> 4) {
+    case 0:
+    case 1:
+    case 2:
+    case 3:
+    case 4:
+    case 5:
+        input.move((byte >> 4) * screenWidth / 6, low * screenHeight / 16);
+        break;
+    case 6:
+    case 7:
+        input.press(static_cast<MouseButton>(low % 3));
+        break;
+    case 8:
+    case 9:
+        input.release(static_cast<MouseButton>(low % 3));
+        break;
+    case 10:
+        input.doubleClick(static_cast<MouseButton>(low % 3));
+        break;
+    case 11:
+        input.wheel(low & 1);
+        break;
+    case 12:
+        input.key(static_cast<std::uint8_t>(8 + low * 4), static_cast<char>(low ? 'a' + low : 0));
+        break;
+    case 13: // walk into the screens that the script names "A" to "H"
+        window.changeScreen(CString(std::string(1, static_cast<char>('A' + low / 2))), low & 1, mainScript,
+                            "script.tgx");
+        break;
+    case 14:
+        window.setPopupWnd(CString(std::string(1, static_cast<char>('A' + low / 2))), window.getActiveWnd(),
+                           mainScript, "script.tgx");
+        break;
+    default:
+        window.redrawScreen();
+        break;
+    }
+}
+
+/// A tree that disagrees with itself is a crash, so that libFuzzer keeps the input.
+void demandInvariants(AMainWin& window)
+{
+    const std::string broken = checkInvariants(window);
+    if (broken.empty())
+        return;
+    std::fprintf(stderr, "invariant broken: %s\n", broken.c_str());
+    std::abort();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static const DataDirectory directory;
+    auto host = std::make_unique<HeadlessHost>();
+    host->onMessage = [](const CString&) {}; // a bad script has much to report
+    displayhost::use(std::move(host));
+    setVirtualTime(0);
+
+    {
+        const EmbeddedResource script("TGXScript", mainScript, data, size);
+        AControlsApp app;
+        AMainWin window(screenWidth, screenHeight, 32);
+        app.mainWin = &window;
+        window.startup();
+        window.readScriptFile("script.tgx", GetModuleHandleA(nullptr), mainScript, "", 1);
+        demandInvariants(window);
+
+        const std::span bytes(data, size);
+        for (std::uint8_t byte : bytes.last(size < handBytes ? size : handBytes)) {
+            queueEvent(window, byte);
+            window.runTick();
+            demandInvariants(window);
+            advanceVirtualTime(41);
+            window.runFrame();
+        }
+        for (int frame = 0; frame < 8; ++frame) { // a change that is still waiting is carried out
+            window.runTick();
+            advanceVirtualTime(41);
+            window.runFrame();
+        }
+        demandInvariants(window);
+    }
+    displayhost::use(nullptr);
+    return 0;
+}

@@ -1,0 +1,124 @@
+#pragma once
+
+#include "platform/display/ddwin.h"
+#include "platform/host/headless_host.h"
+#include "platform/system/datadir.h"
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+/// Keeps what the window shows and says.
+class SpyHost : public HeadlessHost {
+public:
+    void show(const Image&, std::span<const tagRECT> rects) override
+    {
+        changed.assign(rects.begin(), rects.end());
+    }
+    void showMessage(const CString& text) override { messages.push_back(text.str()); }
+    void movePointer(int x, int y) override { moves.emplace_back(x, y); }
+
+    std::vector<tagRECT> changed; // by the last frame
+    std::vector<std::string> messages;
+    std::vector<std::pair<int, int>> moves;
+};
+
+class Scene : public ddwin {
+public:
+    Scene(int width, int height)
+    {
+        screenWidth = static_cast<short>(width);
+        screenHeight = static_cast<short>(height);
+    }
+    /// A frame: the backdrop, then paint. showsItself: by the base drawscreen, as all but wipe frames do.
+    void frame(
+        std::function<void()> paint = [] {}, bool showsItself = true)
+    {
+        painting = [=, this] {
+            drawbackdrop();
+            paint();
+            if (showsItself)
+                ddwin::drawscreen();
+        };
+        runFrame();
+    }
+    void drawscreen() override { painting(); }
+    /// 0xRRGGBB.
+    std::uint32_t at(int x, int y) const { return getScreenImage().row(y)[x] & 0xFFFFFF; }
+    /// Pixels of that colour.
+    int count(std::uint32_t colour) const
+    {
+        int found = 0;
+        for (int y = 0; y < screenHeight; y++)
+            for (int x = 0; x < screenWidth; x++)
+                found += at(x, y) == colour;
+        return found;
+    }
+
+    std::function<void()> painting;
+};
+
+class DisplayTest : public testing::Test {
+protected:
+    DisplayTest() : previousHost(displayhost::use(std::make_unique<SpyHost>()))
+    {
+        folder = std::filesystem::temp_directory_path() / ("tgx_display_" + std::to_string(getpid()));
+        std::filesystem::create_directories(folder);
+        setDataDirectory(folder.string());
+    }
+    ~DisplayTest() override
+    {
+        EXPECT_EQ(host().messages, std::vector<std::string>()) << "a message that the test did not take";
+        displayhost::use(std::move(previousHost));
+        setDataDirectory(".");
+        std::filesystem::remove_all(folder);
+    }
+    static SpyHost& host() { return static_cast<SpyHost&>(displayhost::current()); }
+    std::vector<std::string> takeMessages() { return std::exchange(host().messages, {}); }
+    void write(const std::string& name, const std::string& bytes)
+    {
+        std::ofstream(folder / name, std::ios::binary) << bytes;
+    }
+
+    std::filesystem::path folder;
+
+private:
+    std::unique_ptr<displayhost> previousHost;
+};
+
+/// An image whose pixels pixelAt(x, y) gives, 0xAARRGGBB.
+template<class PixelAt>
+ImageRef imageOf(int width, int height, PixelAt pixelAt)
+{
+    ImageRef image = makeImage(width, height);
+    for (int y = 0; y < height; y++)
+        for (int x = 0; x < width; x++)
+            image->row(y)[x] = pixelAt(x, y);
+    settleCoverage(*image);
+    return image;
+}
+
+inline std::string le(std::uint32_t value, int bytes)
+{
+    std::string text;
+    for (int i = 0; i < bytes; i++)
+        text += static_cast<char>(i < 4 ? value >> 8 * i : 0);
+    return text;
+}
+
+struct BmpForm {
+    int bits = 24;
+    std::uint32_t compression = 0;
+    std::string palette; // four bytes an entry
+    std::string pixels;
+};
+inline std::string bmpFile(int width, int height, const BmpForm& form)
+{
+    const auto start = static_cast<std::uint32_t>(54 + form.palette.size());
+    return "BM" + le(0, 8) + le(start, 4) + le(40, 4) + le(static_cast<std::uint32_t>(width), 4) +
+           le(static_cast<std::uint32_t>(height), 4) + le(1, 2) +
+           le(static_cast<std::uint32_t>(form.bits), 2) + le(form.compression, 4) + le(0, 12) +
+           le(static_cast<std::uint32_t>(form.palette.size() / 4), 4) + le(0, 4) + form.palette + form.pixels;
+}

@@ -1,0 +1,419 @@
+#include "tests/unit/display/display_test.h"
+
+#include "platform/system/pen.h"
+
+#include <cmath>
+#include <set>
+
+namespace {
+
+constexpr std::uint32_t ground = 0x204060;
+constexpr unsigned long groundColour = 0x604020; // the same with red in the low byte
+
+class DrawingTest : public DisplayTest {
+protected:
+    DrawingTest() { window.setbackdrop(groundColour); }
+    Scene window{100, 80};
+};
+
+TEST_F(DrawingTest, EachModeMixesAsThePixelsCoverageSays)
+{
+    const struct {
+        const char* name;
+        std::uint32_t pixel;
+        int mode;
+        std::uint32_t shown;
+    } rows[] = {
+        {"opaque, normal", 0xFF112233, -1, 0x112233},
+        {"opaque, normal by its other number", 0xFF112233, 0, 0x112233},
+        {"opaque, unknown mode", 0xFF112233, 77, 0x112233},
+        {"opaque, half", 0xFF804020, 2, 0x504040},
+        {"opaque, added up to white", 0xFFF01020, 3, 0xFF5080},
+        {"key colour, normal", 0x00FF00FF, 0, ground},
+        {"key colour shows in the opaque mode", 0x00FF00FF, 1, 0xFF00FF},
+        {"key colour, half", 0x00FF00FF, 2, ground},
+        {"key colour, added", 0x00FF00FF, 3, ground},
+        {"half alpha, normal", 0x80FF0000, 0, 0x902030},
+        {"half alpha, opaque mode", 0x80123456, 1, 0x123456},
+        {"half alpha, added", 0x80400000, 3, 0x404060},
+        {"alpha 1 of black", 0x01000000, 0, 0x204060},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        for (const int width : {1, 3, 8, 21}) { // loops by eight and what is left over
+            surface sprite(&window);
+            sprite.setImage(imageOf(width, 2, [&](int, int) { return row.pixel; }), "");
+            window.frame([&] { sprite.blit(5, 5, 0, 0, width, 2, -1, -1, nullptr, row.mode); });
+            for (int x = 5; x < 5 + width; x++)
+                ASSERT_EQ(window.at(x, 6), row.shown) << "width " << width << ", x " << x;
+            EXPECT_EQ(window.at(4, 6), ground);
+            EXPECT_EQ(window.at(5 + width, 6), ground);
+            EXPECT_EQ(window.at(5, 7), ground);
+        }
+    }
+}
+
+// A bitmap of 4 x 4; red counts columns from 1, green rows from 1.
+ImageRef numbered()
+{
+    return imageOf(
+        4, 4, [](int x, int y) { return 0xFF000000u | static_cast<unsigned>((x + 1) << 16 | (y + 1) << 8); });
+}
+
+TEST_F(DrawingTest, SourceIsCutToTheBitmapAndTargetToTheScreen)
+{
+    struct Point {
+        int x, y;
+        std::uint32_t colour;
+    };
+    const struct {
+        const char* name;
+        int x, y, sx, sy, w, h, sw, sh;
+        int painted; // pixels
+        std::vector<Point> points;
+    } rows[] = {
+        {"whole", 10, 10, 0, 0, 4, 4, -1, -1, 16, {{10, 10, 0x010100}, {13, 13, 0x040400}}},
+        {"part", 10, 10, 1, 2, 2, 2, -1, -1, 4, {{10, 10, 0x020300}, {11, 11, 0x030400}}},
+        {"off the left and top of the screen",
+         -2,
+         -3,
+         0,
+         0,
+         4,
+         4,
+         -1,
+         -1,
+         2,
+         {{0, 0, 0x030400}, {1, 0, 0x040400}}},
+        {"off the right and bottom", 98, 79, 0, 0, 4, 4, -1, -1, 2, {{98, 79, 0x010100}, {99, 79, 0x020100}}},
+        {"source begins before the bitmap",
+         10,
+         10,
+         -2,
+         -1,
+         4,
+         4,
+         -1,
+         -1,
+         6,
+         {{11, 11, ground}, {12, 11, 0x010100}}},
+        {"source ends behind the bitmap",
+         10,
+         10,
+         3,
+         3,
+         4,
+         4,
+         -1,
+         -1,
+         1,
+         {{10, 10, 0x040400}, {11, 10, ground}}},
+        {"doubled",
+         10,
+         10,
+         0,
+         0,
+         8,
+         8,
+         4,
+         4,
+         64,
+         {{11, 11, 0x010100}, {12, 11, 0x020100}, {17, 17, 0x040400}}},
+        {"halved", 10, 10, 0, 0, 2, 2, 4, 4, 4, {{10, 10, 0x010100}, {11, 11, 0x030300}}},
+        {"by no whole number",
+         10,
+         10,
+         0,
+         0,
+         6,
+         1,
+         4,
+         1,
+         6,
+         {{11, 10, 0x010100}, {12, 10, 0x020100}, {14, 10, 0x030100}, {15, 10, 0x040100}}},
+        {"stretched off the left", -3, 10, 0, 0, 8, 2, 4, 1, 10, {{0, 10, 0x020100}, {1, 11, 0x030100}}},
+        {"stretched, source from before the bitmap",
+         10,
+         10,
+         -1,
+         0,
+         9,
+         3,
+         3,
+         1,
+         18,
+         {{12, 10, ground}, {13, 10, 0x010100}, {18, 12, 0x020100}}},
+        {"stretched, source past the bitmap",
+         10,
+         10,
+         3,
+         0,
+         6,
+         1,
+         2,
+         1,
+         3,
+         {{12, 10, 0x040100}, {13, 10, ground}}},
+        {"no width", 10, 10, 0, 0, 0, 4, -1, -1, 0, {}},
+        {"a negative height", 10, 10, 0, 0, 4, -4, -1, -1, 0, {}},
+        {"an empty source", 10, 10, 0, 0, 4, 4, 0, 4, 0, {}},
+        {"only one source side given", 10, 10, 0, 0, 4, 4, -1, 4, 0, {}},
+        {"wholly beside the screen", 100, 0, 0, 0, 4, 4, -1, -1, 0, {}},
+        {"the largest numbers",
+         INT_MAX,
+         INT_MAX,
+         INT_MAX,
+         INT_MAX,
+         INT_MAX,
+         INT_MAX,
+         INT_MAX,
+         INT_MAX,
+         0,
+         {}},
+        {"the smallest numbers", INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MAX, INT_MAX, -1, -1, 0, {}},
+        {"stretched far past both edges", INT_MIN, -5, 0, 0, INT_MAX, 1000, 4, 4, 0, {}},
+        {"the screen inside one source pixel",
+         -1000000000,
+         -1000000000,
+         0,
+         0,
+         INT_MAX,
+         INT_MAX,
+         4,
+         4,
+         8000,
+         {{0, 0, 0x020200}, {99, 79, 0x020200}}},
+        {"a source of the largest size", 0, 0, 0, 0, 4, 4, INT_MAX, INT_MAX, 1, {{0, 0, 0x010100}}},
+        {"a source that starts at the smallest number", 0, 0, INT_MIN, 0, 100, 1, INT_MAX, 1, 0, {}},
+    };
+    surface sprite(&window);
+    sprite.setImage(numbered(), "");
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        window.frame(
+            [&] { sprite.blit(row.x, row.y, row.sx, row.sy, row.w, row.h, row.sw, row.sh, nullptr, -1); });
+        EXPECT_EQ(100 * 80 - window.count(ground), row.painted);
+        for (const Point& point : row.points)
+            EXPECT_EQ(window.at(point.x, point.y), point.colour) << point.x << ", " << point.y;
+    }
+}
+
+TEST_F(DrawingTest, ShapesPaintTheirPixels)
+{
+    constexpr std::uint32_t ink = 0xFFFFFF;
+    const auto none = [](int, int) { return false; };
+    const struct {
+        const char* name;
+        std::function<void(Scene&)> paint;
+        int painted;
+        std::function<bool(int x, int y)> contains;
+    } rows[] = {
+        {"fill leaves out its second corner", [](Scene& w) { w.fillrect(10, 20, 13, 22, ink); }, 6,
+         [](int x, int y) { return x >= 10 && x < 13 && y >= 20 && y < 22; }},
+        {"fill with corners the wrong way round", [](Scene& w) { w.fillrect(13, 20, 10, 22, ink); }, 0, none},
+        {"fill of everything there is", [](Scene& w) { w.fillrect(INT_MIN, INT_MIN, INT_MAX, INT_MAX, ink); },
+         8000, [](int, int) { return true; }},
+        {"outline", [](Scene& w) { w.rectangle(10, 20, 14, 25, ink); }, 14,
+         [](int x, int y) {
+             return x >= 10 && x < 14 && y >= 20 && y < 25 && (x == 10 || x == 13 || y == 20 || y == 24);
+         }},
+        {"outline one pixel wide is a line", [](Scene& w) { w.rectangle(10, 20, 11, 25, ink); }, 5,
+         [](int x, int y) { return x == 10 && y >= 20 && y < 25; }},
+        {"outline around the screen shows nothing",
+         [](Scene& w) { w.rectangle(INT_MIN, -1, INT_MAX, 81, ink); }, 0, none},
+        {"level line, both ends", [](Scene& w) { w.drawLine(10, 20, 15, 20, 1, ink); }, 6,
+         [](int x, int y) { return y == 20 && x >= 10 && x <= 15; }},
+        {"diagonal line", [](Scene& w) { w.drawLine(15, 25, 10, 20, 1, ink); }, 6,
+         [](int x, int y) { return x - 10 == y - 20 && x >= 10 && x <= 15; }},
+        {"line that is a point", [](Scene& w) { w.drawLine(10, 20, 10, 20, 0, ink); }, 1,
+         [](int x, int y) { return x == 10 && y == 20; }},
+        {"thick upright line", [](Scene& w) { w.drawLine(20, 10, 20, 30, 2, ink); }, 42,
+         [](int x, int y) { return (x == 19 || x == 20) && y >= 10 && y <= 30; }},
+        {"line from one end of the numbers to the other",
+         [](Scene& w) { w.drawLine(INT_MIN, 40, INT_MAX, 40, 1, ink); }, 100,
+         [](int, int y) { return y == 40; }},
+        {"steep line between far points",
+         [](Scene& w) { w.drawLine(INT_MIN, INT_MIN, INT_MAX, INT_MAX, 3, ink); }, 80 * 3 + 78 + 82, nullptr},
+        {"line of the largest width", [](Scene& w) { w.drawLine(50, 40, 60, 40, INT_MAX, ink); }, 8000,
+         nullptr},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        window.frame([&] { row.paint(window); });
+        if (row.contains || row.painted == 8000) {
+            EXPECT_EQ(window.count(ink), row.painted);
+        } else {
+            EXPECT_NEAR(window.count(ink), 4 * 80, 90); // three pixels across a diagonal
+        }
+        for (int y = 0; y < 80 && row.contains; y++)
+            for (int x = 0; x < 100; x++)
+                ASSERT_EQ(window.at(x, y) == ink, row.contains(x, y)) << x << ", " << y;
+    }
+}
+
+TEST_F(DrawingTest, ALineIsTheSameFromBothEndsAndAsWideAtEveryAngle)
+{
+    for (int width = 1; width <= 6; width++) {
+        for (const auto& [dx, dy] :
+             {std::pair{30, 0}, {30, 7}, {30, 18}, {30, 30}, {11, 30}, {0, 30}, {-17, 30}, {-30, 4}}) {
+            window.frame([&, x = dx, y = dy] { window.drawLine(50, 30, 50 + x, 30 + y, width, 0xFFFFFF); });
+            const int painted = window.count(0xFFFFFF);
+            const Image first = window.getScreenImage();
+            window.frame([&, x = dx, y = dy] { window.drawLine(50 + x, 30 + y, 50, 30, width, 0xFFFFFF); });
+            EXPECT_EQ(first.pixels, window.getScreenImage().pixels) << width << ": " << dx << ", " << dy;
+            EXPECT_EQ(window.at(50, 30), 0xFFFFFFu);
+            EXPECT_EQ(window.at(50 + dx, 30 + dy), 0xFFFFFFu);
+            const double caps = 3.14 * (width - 1) * (width - 1) / 4; // half a round one at each end
+            const double length =
+                width == 1 ? std::max(std::abs(dx), std::abs(dy)) + 1 : std::hypot(dx, dy) + 1;
+            EXPECT_NEAR((painted - caps) / length, width, width == 1 ? 0.01 : 0.6)
+                << width << ": " << dx << ", " << dy;
+        }
+    }
+}
+
+TEST_F(DrawingTest, APenDrawsThroughADeviceContextWithRedInTheLowByte)
+{
+    HPEN pen = CreatePen(PS_SOLID, 1, 0x0000FF);
+    window.frame([&] {
+        HDC context = nullptr;
+        ASSERT_EQ(window.getBackBuffer()->GetDC(&context), 0);
+        HGDIOBJ before = SelectObject(context, pen);
+        MoveToEx(context, 3, 4, nullptr);
+        LineTo(context, 6, 4);
+        LineTo(context, 6, 6);
+        EXPECT_EQ(DeleteObject(pen), 0) << "it is still in the context";
+        SelectObject(context, before);
+        EXPECT_EQ(window.getBackBuffer()->ReleaseDC(context), 0);
+    });
+    EXPECT_EQ(DeleteObject(pen), 1);
+    EXPECT_EQ(window.count(0xFF0000), 6);
+    EXPECT_EQ(window.at(6, 6), 0xFF0000u);
+}
+
+class TextTest : public DrawingTest {
+protected:
+    // Columns that the text paints: the first, and the one behind the last.
+    std::pair<int, int> paintedColumns() const
+    {
+        std::pair<int, int> columns{INT_MAX, 0};
+        for (int x = 0; x < 100; x++)
+            for (int y = 0; y < 80; y++)
+                if (window.at(x, y) == 0xFFFFFF)
+                    columns = {std::min(columns.first, x), x + 1};
+        return columns;
+    }
+    void write(const char* text, int raw, int scale, int mode, int x = 10, int y = 10)
+    {
+        window.frame([&] { window.textout(x, y, text, font, nullptr, raw, ZnFixed::fromRaw(scale), mode); });
+    }
+    bmpfont* font = window.getFont(0);
+};
+
+TEST_F(TextTest, ScaleRevealsInModeOneAndStretchesInModeZero)
+{
+    const int full = window.getStringLength("HHHHHHHH", font); // a pixel of gap behind the last letter
+    ASSERT_EQ(full, 8 * 7);
+    const struct {
+        const char* name;
+        int scale, mode;
+        int end; // column behind the last painted one; 0 for nothing
+    } rows[] = {
+        {"complete", 4096, 1, 10 + full - 1},
+        {"past complete", 4499, 1, 10 + full - 1},
+        {"half revealed", 2048, 1, 10 + full / 2 - 1},
+        {"cut inside a letter", 2048 + 146, 1, 10 + full / 2 + 1},
+        {"nothing revealed", 0, 1, 0},
+        {"below nothing", -4096, 1, 0},
+        {"at its size", 4096, 0, 10 + full - 1},
+        {"half the size", 2048, 0, 10 + full / 2},
+        {"one and a half", 6144, 0, 10 + (full - 1) * 3 / 2 + 1},
+        {"no size", 0, 0, 0},
+        {"a negative size", -1, 0, 0},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        write("HHHHHHHH", 0, row.scale, row.mode);
+        const auto [first, end] = paintedColumns();
+        EXPECT_EQ(end, row.end);
+        if (row.end > 0) {
+            EXPECT_EQ(first, 10);
+        }
+    }
+    write("H", 0, INT_MAX, 0, -1000, -2000000);
+    EXPECT_EQ(window.count(0xFFFFFF), 8000) << "a letter's stem wider than the screen";
+}
+
+TEST_F(TextTest, RawBreaksLinesAndOtherTextsDoNot)
+{
+    const auto rowsOfInk = [&] {
+        int rows = 0;
+        for (int y = 0; y < 80; y++) {
+            bool ink = false;
+            for (int x = 0; x < 100; x++)
+                ink |= window.at(x, y) == 0xFFFFFF;
+            rows += ink;
+        }
+        return rows;
+    };
+    write("H", 0, 4096, 1);
+    const int one = rowsOfInk();
+    write("H\nH\\nH", 1, 4096, 1);
+    EXPECT_EQ(rowsOfInk(), 3 * one);
+    EXPECT_EQ(paintedColumns().second, 10 + 6);
+    write("H\nH", 0, 4096, 1);
+    EXPECT_EQ(rowsOfInk(), one);
+}
+
+TEST_F(TextTest, EveryPrintableCharacterHasItsOwnInk)
+{
+    std::set<std::vector<std::uint32_t>> seen;
+    int inked = 0;
+    for (int character = 0x21; character < 0x100; character++) {
+        if (character == 0x7F || character == 0xA0)
+            continue;
+        const Glyph& glyph = font->glyph(static_cast<unsigned char>(character));
+        EXPECT_FALSE(glyph.pixels.empty()) << character;
+        EXPECT_GT(font->advance(static_cast<unsigned char>(character)), 0) << character;
+        EXPECT_GE(glyph.top, 0) << character;
+        EXPECT_LE(glyph.top + glyph.height, font->lineHeight) << character;
+        auto key = glyph.pixels;
+        key.insert(key.end(), {static_cast<unsigned>(glyph.top), static_cast<unsigned>(glyph.width)});
+        seen.insert(key);
+        inked++;
+    }
+    // The box of the five that are none, two pairs that are one shape (hyphens, low quote and comma) and the
+    // bars' tops aside.
+    EXPECT_GE(static_cast<int>(seen.size()), inked - 12);
+}
+
+TEST_F(TextTest, HostileTextsEnd)
+{
+    const std::string longText(1 << 20, 'W');
+    const std::string breaks(1 << 20, '\n');
+    window.frame([&] {
+        window.textout(INT_MIN, 0, longText.c_str(), font, nullptr, 0, ZnFixed::fromRaw(INT_MAX), 0);
+        window.textout(INT_MAX, INT_MAX, longText.c_str(), font, nullptr, 1, ZnFixed::fromRaw(INT_MAX), 1);
+        window.textout(0, INT_MIN, breaks.c_str(), font, nullptr, 1, ZnFixed::fromRaw(1), 0);
+        window.textout(5, 5, nullptr, font, nullptr, 0, ZnFixed::fromRaw(4096), 0);
+        window.textout(5, 5, "text", nullptr, nullptr, 0, ZnFixed::fromRaw(4096), 0);
+    });
+    EXPECT_EQ(window.count(ground), 8000);
+    write(longText.c_str(), 0, 4096, 1, -700000);
+    EXPECT_GT(window.count(0xFFFFFF), 100) << "the middle of a long text";
+    EXPECT_EQ(window.getStringLength(nullptr, font), 0);
+}
+
+TEST_F(TextTest, AFontThatCannotBeLoadedIsReportedAndReplaced)
+{
+    DisplayTest::write("broken.ttf", "not a font");
+    EXPECT_EQ(window.addNewFont("none.ttf", "", 12, 0), 1);
+    EXPECT_EQ(window.addNewFont("broken.ttf", "bold", 12, 0), 2);
+    EXPECT_EQ(takeMessages(), (std::vector<std::string>{"cannot load none.ttf", "cannot load broken.ttf"}));
+    EXPECT_EQ(window.getStringLength("abc", window.getFont(2)), window.getStringLength("abc", font));
+    EXPECT_EQ(window.getFontIndex(window.getFont(2)), 2);
+    EXPECT_EQ(window.getFont(3), nullptr);
+    EXPECT_EQ(window.getFont(-1), nullptr);
+}
+
+} // namespace

@@ -1,0 +1,286 @@
+#include "tests/unit/display/display_test.h"
+
+#include "platform/framework/exceptions.h"
+
+namespace {
+
+class FramesTest : public DisplayTest {
+protected:
+    FramesTest()
+    {
+        white.setImage(imageOf(20, 20, [](int, int) { return 0xFFFFFFFFu; }), "");
+        window.frame();
+    }
+    // A file of one colour, as large as the screen.
+    void writeBackdrop(const std::string& name, char blue)
+    {
+        std::string pixels;
+        for (int i = 0; i < 256 * 192; i++)
+            pixels += std::string(1, blue) + std::string("\x10\x20", 2);
+        write(name, bmpFile(256, 192, {24, 0, "", pixels}));
+    }
+    void put(int x, int y) { white.blit(x, y, 20, 20, nullptr, -1); }
+    int changedPixels() const
+    {
+        int pixels = 0;
+        for (const tagRECT& rect : host().changed)
+            pixels += (rect.right - rect.left) * (rect.bottom - rect.top);
+        return pixels;
+    }
+    Scene window{256, 192};
+    surface white{&window};
+};
+
+TEST_F(FramesTest, OnlyWhatDiffersIsReported)
+{
+    const std::vector<std::pair<const char*, std::function<void()>>> frames = {
+        {"a bitmap", [&] { put(5, 5); }},
+        {"moved far", [&] { put(200, 150); }},
+        {"another before it", [&] { put(100, 5), put(200, 150); }},
+        {"another behind it", [&] { put(100, 5), put(200, 150), put(5, 150); }},
+        {"in another order", [&] { put(200, 150), put(100, 5), put(5, 150); }},
+        {"none", [] {}},
+    };
+    for (const auto& [name, paint] : frames) {
+        SCOPED_TRACE(name);
+        const Image before = window.getScreenImage();
+        window.frame(paint);
+        Image patched = before;
+        for (const tagRECT& rect : host().changed)
+            for (int y = rect.top; y < rect.bottom; y++)
+                std::copy(window.getScreenImage().row(y) + rect.left,
+                          window.getScreenImage().row(y) + rect.right, patched.row(y) + rect.left);
+        EXPECT_EQ(patched.pixels, window.getScreenImage().pixels)
+            << "a change outside the reported rectangles";
+        EXPECT_LT(changedPixels(), 256 * 192 / 2);
+        const Image shown = window.getScreenImage();
+        window.frame(paint);
+        EXPECT_EQ(changedPixels(), 0) << "an equal frame";
+        window.redrawScreen();
+        window.frame(paint);
+        EXPECT_EQ(changedPixels(), 256 * 192) << "asked for";
+        EXPECT_EQ(shown.pixels, window.getScreenImage().pixels)
+            << "the parts do not give the same as the whole";
+    }
+}
+
+TEST_F(FramesTest, WhatOverlapsKeepsItsOrderInEveryTile)
+{
+    std::uint32_t seed = 7;
+    const auto random = [&](int below) {
+        return static_cast<int>((seed = seed * 1664525 + 1013904223) >> 8) % below;
+    };
+    for (int round = 0; round < 30; round++) {
+        std::vector<std::array<int, 5>> boxes;
+        for (int i = 0; i < 40; i++)
+            boxes.push_back({random(256) - 20, random(192) - 20, random(150), random(150), random(1 << 24)});
+        std::vector<std::uint32_t> expected(256 * 192, 0);
+        for (const auto& [x, y, w, h, colour] : boxes)
+            for (int py = std::max(0, y); py < std::min(192, y + h); py++)
+                for (int px = std::max(0, x); px < std::min(256, x + w); px++)
+                    expected[static_cast<std::size_t>(py) * 256 + px] = static_cast<std::uint32_t>(colour);
+        window.frame([&] {
+            for (const auto& [x, y, w, h, colour] : boxes)
+                window.fillrect(x, y, x + w, y + h, static_cast<unsigned long>(colour));
+        });
+        for (int i = 0; i < 256 * 192; i++)
+            ASSERT_EQ(window.at(i % 256, i / 256), expected[static_cast<std::size_t>(i)])
+                << round << ": " << i % 256 << ", " << i / 256;
+    }
+}
+
+TEST_F(FramesTest, ADeletedSurfaceIsStillShownByItsFrame)
+{
+    write("a.bmp", bmpFile(1, 1, {24, 0, "", std::string("\x30\x20\x10\0", 4)}));
+    surface* sprite = window.createsprite("a.bmp", -1, -1, -1);
+    ASSERT_TRUE(sprite);
+    window.frame([&] {
+        sprite->blit(3, 3, 1, 1, nullptr, -1);
+        EXPECT_EQ(window.deleteSurface(sprite), 1);
+    });
+    EXPECT_EQ(window.at(3, 3), 0x102030u);
+    EXPECT_EQ(window.getSurfaceCount(), 0);
+    EXPECT_EQ(window.deleteSurface(&white), 0) << "not from this window's table";
+    EXPECT_EQ(window.deleteSurface(nullptr), 0);
+    EXPECT_EQ(window.getLastFrame().commands()[1].image->name, "a.bmp")
+        << "the list can be read until the next frame ends";
+}
+
+TEST_F(FramesTest, APixelThatIsSetShowsFromTheNextBlitOnAndNowhereElse)
+{
+    write("a.bmp", bmpFile(1, 1, {24, 0, "", std::string("\x30\x20\x10\0", 4)}));
+    surface* one = window.createsprite("a.bmp", -1, -1, -1);
+    surface* other = window.createsprite("a.bmp", -1, -1, -1);
+    ASSERT_NE(one, other);
+    EXPECT_EQ(one->getImage(), other->getImage()) << "one file, one set of pixels";
+    window.frame([&] {
+        one->blit(0, 0, 1, 1, nullptr, -1);
+        one->setPixel(0, 0, 0xAABBCC);
+        one->blit(1, 0, 1, 1, nullptr, -1);
+        other->blit(2, 0, 1, 1, nullptr, -1);
+        one->setPixel(1, 0, 0); // outside
+    });
+    EXPECT_EQ(window.at(0, 0), 0x102030u);
+    EXPECT_EQ(window.at(1, 0), 0xAABBCCu);
+    EXPECT_EQ(window.at(2, 0), 0x102030u);
+
+    one->setPixel(0, 0, 0x010203);
+    const Image* written = one->getImage().get();
+    one->setPixel(0, 0, keyColour);
+    EXPECT_EQ(one->getImage().get(), written) << "pixels that no list knows are written in place";
+    window.frame([&] { one->blit(1, 0, 1, 1, nullptr, -1); });
+    EXPECT_EQ(window.at(1, 0), 0u) << "the key colour is transparent";
+    EXPECT_EQ(one->reload(), 1);
+    window.frame([&] { one->blit(1, 0, 1, 1, nullptr, -1); });
+    EXPECT_EQ(window.at(1, 0), 0x102030u);
+}
+
+TEST_F(FramesTest, AReloadShowsWhatTheFilesHoldNow)
+{
+    const auto colour = [&](char blue) {
+        write("a.bmp", bmpFile(1, 1, {24, 0, "", std::string(1, blue) + std::string("\0\0\0", 3)}));
+    };
+    colour('\x10');
+    surface* a = window.createsprite("a.bmp", -1, -1, -1);
+    surface* b = window.createsprite("a.bmp", -1, -1, -1);
+    const auto paint = [&] { a->blit(0, 0, 1, 1, nullptr, -1), b->blit(1, 0, 1, 1, nullptr, -1); };
+    window.frame(paint);
+    colour('\x99');
+    window.reloadsurfaces();
+    EXPECT_EQ(a->getImage(), b->getImage());
+    window.frame(paint);
+    EXPECT_EQ(window.at(0, 0), 0x99u);
+    std::filesystem::remove(folder / "a.bmp");
+    EXPECT_EQ(a->reload(), 0);
+    window.frame(paint);
+    EXPECT_EQ(window.at(1, 0), 0x99u) << "the pixels stay when the file is gone";
+}
+
+TEST_F(FramesTest, ABackdropSpreadsWhereItIsMarked)
+{
+    writeBackdrop("one.bmp", '\x11');
+    writeBackdrop("two.bmp", '\x22');
+    constexpr std::uint32_t one = 0x201011, two = 0x201022;
+    tagRECT whole{0, 0, 256, 192};
+    window.setbackdrop("one.bmp", -1);
+    window.frame();
+    EXPECT_EQ(window.count(one), 0) << "nothing was marked";
+    window.adddirtyrect(whole);
+    window.frame();
+    EXPECT_EQ(window.count(one), 256 * 192);
+
+    window.setbackdrop("two.bmp", -1);
+    for (const int strip : {0, 64, 128}) {
+        tagRECT rect{strip, -5, strip + 10, 500};
+        window.adddirtyrect(rect);
+        window.frame([] {}, false); // as in a wipe: nothing brings the frame to the display but its end
+        EXPECT_EQ(changedPixels(), 64 * 192) << strip;
+        EXPECT_EQ(window.count(two), (strip / 64 + 1) * 10 * 192);
+        EXPECT_EQ(window.at(strip + 9, 100), two);
+        EXPECT_EQ(window.at(strip + 10, 100), one);
+    }
+    window.adddirtyrect(whole);
+    window.frame();
+    EXPECT_EQ(window.count(two), 256 * 192);
+    window.adddirtyrect(whole);
+    window.frame();
+    EXPECT_EQ(changedPixels(), 0) << "the same picture everywhere";
+}
+
+TEST_F(FramesTest, ABackdropFitsTheScreenOrIsPlain)
+{
+    write("small.bmp", bmpFile(2, 1, {24, 0, "", std::string("\xFF\0\xFF\0\xFF\0\0\0", 8)}));
+    window.setbackdrop("small.bmp", -1);
+    EXPECT_EQ(window.getBackdrop()->width, 256);
+    EXPECT_STREQ(window.getBackdrop()->filename, "small.bmp");
+    window.redrawScreen();
+    window.frame();
+    EXPECT_EQ(window.at(127, 191), 0xFF00FFu) << "no colour of a backdrop is transparent";
+    EXPECT_EQ(window.at(128, 0), 0x00FF00u);
+    window.screenWidth = 300;
+    window.frame();
+    EXPECT_EQ(window.getScreenImage().width, 300);
+    EXPECT_EQ(window.at(149, 0), 0xFF00FFu);
+    EXPECT_EQ(window.at(150, 0), 0x00FF00u);
+
+    surface* section = window.createBkgndSection(window.getBackdrop(), 298, -1, 4, 3, nullptr);
+    EXPECT_EQ(section->getImage()->row(1)[1], 0xFF00FF00u);
+    EXPECT_EQ(section->getImage()->row(1)[2], 0xFF000000u) << "outside the source";
+    EXPECT_EQ(section->getImage()->row(0)[1], 0xFF000000u);
+    EXPECT_EQ(window.createBkgndSection(window.getBackdrop(), 0, 0, 2, 2, section), section);
+    EXPECT_EQ(section->getImage()->row(1)[1], 0xFFFF00FFu);
+    EXPECT_EQ(window.createBkgndSection(nullptr, 0, 0, 2, 2, section), nullptr);
+    EXPECT_NE(window.createBkgndSection(window.getBackdrop(), INT_MIN, INT_MAX, INT_MAX, 1, nullptr),
+              nullptr);
+
+    window.setbackdrop("none.bmp", -1);
+    EXPECT_EQ(takeMessages(), std::vector<std::string>{"cannot load none.bmp"});
+    window.redrawScreen();
+    window.frame();
+    EXPECT_EQ(window.count(0), 300 * 192);
+    window.setbackdrop("", -1);
+}
+
+TEST_F(FramesTest, TheLastFrameHoldsWhatWasDrawnSinceTheOneBefore)
+{
+    window.fillrect(1, 2, 3, 4, window.getcol(0x0000FF));
+    window.frame(
+        [&] { window.textout(7, 8, "text", window.getFont(0), nullptr, 1, ZnFixed::fromRaw(4096), 1); });
+    window.fillrect(5, 6, 7, 8, 0);
+    const auto commands = window.getLastFrame().commands();
+    ASSERT_EQ(commands.size(), 4u);
+    EXPECT_EQ(commands[0].op, DrawOp::FillRect);
+    EXPECT_EQ(commands[0].colour, 0xFF0000u);
+    EXPECT_EQ(commands[1].op, DrawOp::DrawBackdrop);
+    EXPECT_EQ(window.getLastFrame().text(commands[2]), "text");
+    EXPECT_EQ(commands[3].op, DrawOp::DrawScreen);
+    EXPECT_EQ(window.count(0xFF0000), 0) << "the backdrop went over it";
+}
+
+TEST_F(FramesTest, ATickThatFailedOrWasNotEndedIsFollowedAsItShould)
+{
+    class Ticker : public ddwin {
+    public:
+        void OnMouseAction() override
+        {
+            counts.push_back(mouseDownCount);
+            if (fails)
+                throw CInvalidArgException();
+            if (ends)
+                ddwin::OnMouseAction();
+        }
+        void OnKeyInput() override { keys++; }
+        std::vector<int> counts;
+        bool ends = true, fails = false;
+        int keys = 0;
+    } ticker;
+    host().input().press(MouseButton::Left);
+    host().input().key('A', 'a');
+    ticker.ends = false;
+    ticker.runTick();
+    ticker.runTick(); // the same press again
+    EXPECT_EQ(ticker.keyCode, 0);
+    ticker.ends = true;
+    ticker.runTick();
+    EXPECT_EQ(ticker.keys, 0);
+    ticker.runTick();
+    EXPECT_EQ(ticker.counts, (std::vector<int>{1, 2, 3, 4}));
+    EXPECT_EQ(ticker.keys, 1);
+    EXPECT_EQ(ticker.key(), 'A');
+    EXPECT_EQ(ticker.key(), 0);
+    host().input().wheel(true);
+    ticker.fails = true;
+    EXPECT_THROW(ticker.runTick(), CInvalidArgException);
+    ticker.fails = false;
+    ticker.runTick();
+    EXPECT_EQ(ticker.wheelUp, 0) << "the tick that failed is over";
+
+    ticker.mouseX = 12; // written: the pointer follows
+    ticker.runTick();
+    host().input().move(30, 40); // moved: it is there already
+    ticker.runTick();
+    EXPECT_EQ(host().moves, (std::vector<std::pair<int, int>>{{12, 0}}));
+    EXPECT_EQ(ticker.mouseX, 30);
+}
+
+} // namespace

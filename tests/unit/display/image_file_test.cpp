@@ -1,0 +1,234 @@
+#include "tests/unit/display/display_test.h"
+
+#include "platform/host/image_file.h"
+
+using namespace std::string_literals;
+
+namespace {
+
+std::string bigEndian(std::uint32_t value)
+{
+    const std::string bytes = le(value, 4);
+    return {bytes.rbegin(), bytes.rend()};
+}
+
+std::uint32_t crc(const std::string& bytes)
+{
+    std::uint32_t sum = ~0u;
+    for (unsigned char byte : bytes) {
+        sum ^= byte;
+        for (int i = 0; i < 8; i++)
+            sum = sum >> 1 ^ (sum & 1 ? 0xEDB88320u : 0);
+    }
+    return ~sum;
+}
+
+std::string chunk(const std::string& name, const std::string& contents)
+{
+    return bigEndian(static_cast<std::uint32_t>(contents.size())) + name + contents +
+           bigEndian(crc(name + contents));
+}
+
+// rows: each with its filter byte. Stored, not packed.
+std::string pngFile(int width, int height, char colourType, const std::string& extra, const std::string& rows)
+{
+    std::uint32_t a = 1, b = 0;
+    for (unsigned char byte : rows) {
+        a = (a + byte) % 65521;
+        b = (b + a) % 65521;
+    }
+    const auto size = static_cast<std::uint32_t>(rows.size());
+    const std::string packed = "\x78\x01\x01"s + le(size, 2) + le(~size, 2) + rows + bigEndian(b << 16 | a);
+    return "\x89PNG\r\n\x1A\n"s +
+           chunk("IHDR", bigEndian(static_cast<std::uint32_t>(width)) +
+                             bigEndian(static_cast<std::uint32_t>(height)) + "\x08"s + colourType +
+                             "\0\0\0"s) +
+           extra + chunk("IDAT", packed) + chunk("IEND", "");
+}
+
+// Two pixels, palette entries 0 (red) and 1 (blue); entry 1 shows through where transparent is set.
+std::string gifFile(bool transparent)
+{
+    return "GIF89a"s + le(2, 2) + le(1, 2) + "\x80\0\0"s + "\xFF\0\0\0\0\xFF"s + "\x21\xF9\x04"s +
+           (transparent ? "\x01" : "\0"s) + "\0\0\x01\0"s + "\x2C"s + le(0, 4) + le(2, 2) + le(1, 2) +
+           "\0\x02\x02\x44\x0A\0\x3B"s;
+}
+
+// 8 x 8 grey: tables of one code each, one block without a coefficient.
+std::string jpegFile()
+{
+    return "\xFF\xD8\xFF\xDB\0\x43\0"s + std::string(64, 1) +
+           "\xFF\xC0\0\x0B\x08\0\x08\0\x08\x01\x01\x11\0"s + "\xFF\xC4\0\x14\0\x01"s + std::string(15, 0) +
+           "\0"s + "\xFF\xC4\0\x14\x10\x01"s + std::string(15, 0) + "\0"s +
+           "\xFF\xDA\0\x08\x01\x01\0\0\x3F\0\x3F\xFF\xD9"s;
+}
+
+std::string pcxFile()
+{
+    std::string header =
+        "\x0A\x05\x01\x08"s + le(0, 4) + le(1, 2) + le(0, 2) + std::string(53, 0) + "\x03"s + le(2, 2);
+    header.resize(128, 0);
+    return header + "\x10\x20\x30\x40\x50\x60"s; // red, green and blue of the row
+}
+
+const std::string redBlueKey =
+    "\0\0\xFF\0\xFF\0\0\0\xFF\0\xFF\0\0\xFF\0\0"s; // palette: red, blue, key colour, green
+
+class ImageFileTest : public DisplayTest {};
+
+TEST_F(ImageFileTest, EveryAllowedFormGivesItsPixels)
+{
+    const struct {
+        const char* name;
+        std::string bytes;
+        std::vector<std::uint32_t> pixels; // row by row
+        Coverage coverage;
+        bool hasAlphaChannel;
+    } rows[] = {
+        {"1 bit",
+         bmpFile(2, 1, {1, 0, redBlueKey.substr(0, 8), "\x40\0\0\0"s}),
+         {0xFFFF0000, 0xFF0000FF},
+         Coverage::Opaque,
+         false},
+        {"4 bits with the key colour",
+         bmpFile(3, 1, {4, 0, redBlueKey, "\x01\x20\0\0"s}),
+         {0xFFFF0000, 0xFF0000FF, 0x00FF00FF},
+         Coverage::Masked,
+         false},
+        {"8 bits, bottom row first",
+         bmpFile(1, 2, {8, 0, redBlueKey, "\x01\0\0\0\0\0\0\0"s}),
+         {0xFFFF0000, 0xFF0000FF},
+         Coverage::Opaque,
+         false},
+        {"8 bits, top row first",
+         bmpFile(1, -2, {8, 0, redBlueKey, "\x01\0\0\0\0\0\0\0"s}),
+         {0xFF0000FF, 0xFFFF0000},
+         Coverage::Opaque,
+         false},
+        {"an index outside the palette is black",
+         bmpFile(1, 1, {8, 0, redBlueKey, "\x09\0\0\0"s}),
+         {0xFF000000},
+         Coverage::Opaque,
+         false},
+        {"16 bits", bmpFile(1, 1, {16, 0, "", "\0\x7C\0\0"s}), {0xFFFF0000}, Coverage::Opaque, false},
+        {"24 bits", bmpFile(1, 1, {24, 0, "", "\x33\x22\x11\0"s}), {0xFF112233}, Coverage::Opaque, false},
+        {"32 bits, fourth byte unused",
+         bmpFile(2, 1, {32, 0, "", "\x33\x22\x11\0\xFF\0\xFF\0"s}),
+         {0xFF112233, 0x00FF00FF},
+         Coverage::Masked,
+         false},
+        {"32 bits with alpha keeps the key colour",
+         bmpFile(2, 1, {32, 0, "", "\x33\x22\x11\x80\xFF\0\xFF\xFF"s}),
+         {0x80112233, 0xFFFF00FF},
+         Coverage::Alpha,
+         true},
+        {"runs of 8 bits: run, literal, skip, end of line",
+         bmpFile(4, 2, {8, 1, redBlueKey, "\x02\x01\0\x02\x01\0\x01\x03\0\0\0\x03\x01\x03\x01\0\0\x01"s}),
+         {0xFF0000FF, 0xFF00FF00, 0xFF0000FF, 0xFFFF0000, 0xFF0000FF, 0xFF0000FF, 0xFFFF0000, 0xFF00FF00},
+         Coverage::Opaque,
+         false},
+        {"runs of 4 bits, longer than the row",
+         bmpFile(3, 1, {4, 2, redBlueKey, "\x09\x13\0\x01"s}),
+         {0xFF0000FF, 0xFF00FF00, 0xFF0000FF},
+         Coverage::Opaque,
+         false},
+        {"PNG, palette with alphas",
+         pngFile(2, 1, 3, chunk("PLTE", "\xFF\0\0\0\0\xFF"s) + chunk("tRNS", "\x80"s), "\0\0\x01"s),
+         {0x80FF0000, 0xFF0000FF},
+         Coverage::Alpha,
+         true},
+        {"PNG, palette without alphas",
+         pngFile(2, 1, 3, chunk("PLTE", "\xFF\0\0\xFF\0\xFF"s), "\0\0\x01"s),
+         {0xFFFF0000, 0x00FF00FF},
+         Coverage::Masked,
+         false},
+        {"PNG, true colour with alpha",
+         pngFile(1, 1, 6, "", "\0\x11\x22\x33\x44"s),
+         {0x44112233},
+         Coverage::Alpha,
+         true},
+        {"PNG, true colour", pngFile(1, 1, 2, "", "\0\x11\x22\x33"s), {0xFF112233}, Coverage::Opaque, false},
+        {"GIF", gifFile(false), {0xFFFF0000, 0xFF0000FF}, Coverage::Opaque, false},
+        {"GIF with a transparent colour", gifFile(true), {0xFFFF0000, 0x000000FF}, Coverage::Masked, true},
+        {"JPEG", jpegFile(), std::vector<std::uint32_t>(64, 0xFF808080), Coverage::Opaque, false},
+        {"PCX", pcxFile(), {0xFF103050, 0xFF204060}, Coverage::Opaque, false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        write("picture.xyz", row.bytes); // the name's ending plays no part
+        const ImageRef image = loadImageFile("picture.xyz");
+        ASSERT_TRUE(image);
+        std::vector<std::uint32_t> pixels;
+        for (int y = 0; y < image->height; y++)
+            pixels.insert(pixels.end(), image->row(y), image->row(y) + image->width);
+        EXPECT_EQ(pixels, row.pixels);
+        EXPECT_EQ(image->coverage, row.coverage);
+        EXPECT_EQ(image->hasAlphaChannel, row.hasAlphaChannel);
+    }
+}
+
+TEST_F(ImageFileTest, WhatIsMissingForeignTooLargeOrBrokenIsRefused)
+{
+    const std::string bmp = bmpFile(2, 2, {24, 0, "", std::string(16, 1)});
+    const struct {
+        const char* name;
+        std::string bytes;
+    } rows[] = {
+        {"empty", ""},
+        {"another kind", "P6 1 1 255 abc"},
+        {"a BMP past the longest side", bmpFile(16385, 1, {1, 0, redBlueKey, std::string(4096, 0)})},
+        {"a BMP of the largest sides", bmpFile(INT_MAX, INT_MIN, {24, 0, "", ""})},
+        {"a BMP without size", bmpFile(0, 5, {24, 0, "", std::string(64, 0)})},
+        {"too many pixels", bmpFile(16384, 16384, {1, 0, redBlueKey, ""})},
+        {"a PNG past the limit", pngFile(20000, 20000, 2, "", "")},
+        {"a BMP of 7 bits", bmpFile(2, 2, {7, 0, "", std::string(16, 1)})},
+        {"runs that do not fit the bits", bmpFile(2, 2, {24, 1, "", std::string(16, 1)})},
+        {"runs without an end", bmpFile(2, 2, {8, 1, redBlueKey, "\x02\x01"s})},
+        {"a literal run cut short", bmpFile(8, 1, {8, 1, redBlueKey, "\0\x08\x01"s})},
+        {"a BMP cut short", bmp.substr(0, bmp.size() - 3)},
+        {"a BMP cut in its header", bmp.substr(0, 30)},
+        {"a PNG cut short", pngFile(1, 1, 2, "", "\0\x11\x22\x33"s).substr(0, 50)},
+        {"a GIF cut short", gifFile(false).substr(0, 25)},
+        {"a JPEG cut short", jpegFile().substr(0, jpegFile().size() - 3)},
+        {"a PCX of a negative size", "\x0A\x05\x01\x08"s + le(9, 4) + std::string(120, 0)},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        write("picture.bmp", row.bytes);
+        EXPECT_FALSE(loadImageFile("picture.bmp"));
+    }
+    EXPECT_FALSE(loadImageFile("none.bmp"));
+}
+
+TEST_F(ImageFileTest, AnyDamagedByteGivesAPictureOrNone)
+{
+    for (const std::string& whole :
+         {bmpFile(4, 2, {8, 1, redBlueKey, "\x02\x01\0\x02\0\0\x01\x03\0\0\x04\x02\0\x01"s}), gifFile(true),
+          pcxFile(), jpegFile(), bmpFile(2, 2, {32, 0, "", std::string(16, 1)})}) {
+        for (std::size_t i = 0; i < whole.size(); i += i < 64 ? 1 : 5) {
+            std::string bytes = whole;
+            bytes[i] = static_cast<char>(~bytes[i]);
+            write("picture", bytes);
+            if (const ImageRef image = loadImageFile("picture")) {
+                EXPECT_GT(image->width * image->height, 0) << "byte " << i;
+            }
+        }
+    }
+}
+
+TEST_F(ImageFileTest, AWrittenPictureReadsTheSameAndLeavesNothingBeside)
+{
+    const ImageRef image = imageOf(
+        5, 3, [](int x, int y) { return 0xFF000000u | static_cast<unsigned>(x * 40 << 16 | y * 99); });
+    ASSERT_TRUE(writePng(*image, (folder / "out.png").string()));
+    EXPECT_FALSE(writePng(*image, (folder / "no" / "out.png").string()));
+    EXPECT_FALSE(std::filesystem::exists(folder / "out.png.part"));
+    const ImageRef read = loadImageFile("OUT.PNG");
+    ASSERT_TRUE(read);
+    EXPECT_FALSE(read->hasAlphaChannel);
+    for (int y = 0; y < 3; y++)
+        for (int x = 0; x < 5; x++)
+            EXPECT_EQ(read->row(y)[x], image->row(y)[x]);
+}
+
+} // namespace

@@ -1,0 +1,153 @@
+#include "platform/host/headless_host.h"
+#include "tests/unit/support/tgx_test.h"
+#include "tgx/frame/governor.h"
+
+namespace {
+
+TEST(FrameGovernor, StepsFollowTheRate)
+{
+    const struct {
+        const char* name;
+        std::vector<int> milliseconds; // from frame to frame
+        std::vector<int> steps;
+    } rows[] = {
+        {"at 48 frames a second every second one counts", {20, 20, 20, 20}, {0, 1, 0, 1}},
+        {"at 30 each one", {33, 33}, {1, 1}},
+        {"no time at all counts as a millisecond", {0}, {0}},
+        {"a short slow spell does not raise the step", {142, 142, 142, 142}, {1, 1, 1, 3}},
+        {"and a fast frame ends it", {142, 142, 142, 33, 142}, {1, 1, 1, 1, 1}},
+        {"more than a second", {200, 200, 200, 1500}, {1, 1, 1, 1}},
+        {"exactly the target is slow", {41, 41, 41, 41}, {1, 1, 1, 1}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        FrameGovernor governor;
+        std::uint32_t now = 0xFFFFFF00; // the clock may wrap
+        governor.frameStarted(now);
+        std::vector<int> steps;
+        for (int passed : row.milliseconds) {
+            now += static_cast<std::uint32_t>(passed);
+            steps.push_back(governor.stepFor(now, 24));
+            governor.frameStarted(now);
+        }
+        EXPECT_EQ(steps, row.steps);
+    }
+}
+
+class FrameTest : public TgxTest {};
+
+TEST_F(FrameTest, OneFrameInItsOrder)
+{
+    bitmap("a.bmp", 10, 10);
+    script("WINDOW \"DARKWND\" 0 0 640 480\nBEGIN\nBITMAP \"\" 0 0 1 1 \"a.bmp\"\nEND\n", "common.tgx");
+    start("SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nTEXTWND \"T\" 1 2 600 20 \"screen\"\nEND\n"
+          "TEXTWND \"EASY\" 0 0 600 20 \"easy\"\nBEGIN\nEASYCLOSE 1\nEND\n"
+          "TEXTWND \"BOX\" 0 40 600 20 \"box\"\nTEXTWND \"FRONT\" 0 80 600 20 \"front\"\n");
+    play("frame 2");
+    const auto order = [&] {
+        std::string names;
+        for (const DrawCommand& command : win().getLastFrame().commands())
+            switch (command.op) {
+            case DrawOp::DrawBackdrop:
+                names += "backdrop ";
+                break;
+            case DrawOp::TextOut:
+                names += std::string(win().getLastFrame().text(command)) + " ";
+                break;
+            case DrawOp::Blit:
+                names += "dark ";
+                break;
+            case DrawOp::RedrawScreen:
+                names += "redraw ";
+                break;
+            case DrawOp::DrawScreen:
+                names += "shown ";
+                break;
+            default:
+                break;
+            }
+        return names;
+    };
+    EXPECT_EQ(order(), "backdrop screen shown ");
+    play("call main setPopupWnd EASY T 0", "frame");
+    EXPECT_EQ(order(), "backdrop screen easy shown ") << "easy-close popups get no dimming";
+    play("call main setPopupWnd BOX EASY 0", "call main setPopupWnd FRONT BOX 0", "frame");
+    EXPECT_EQ(order(), "backdrop screen easy dark box front shown ") << "under the deepest that wants it, once";
+    play("call main deletePopupWnd", "frame");
+    EXPECT_EQ(order(), "backdrop screen easy dark box shown ");
+    play("key f7", "frame");
+    EXPECT_EQ(order(), "backdrop screen easy dark box redraw shown ");
+    play("draw");
+    EXPECT_EQ(order(), "backdrop screen easy dark box redraw shown ") << "in every frame behind the key's tick";
+    play("frame");
+    EXPECT_EQ(order(), "backdrop screen easy dark box shown ");
+}
+
+TEST_F(FrameTest, APopupThatHasSlidAwayIsClosedByItsOpener)
+{
+    start("SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nWINDOW \"OPENER\" 0 0 50 50\nEND\nWINDOW \"BOX\" 0 0 100 100\n");
+    play("frame 2", "call main setPopupWnd BOX OPENER 0", "call BOX setMoveAnimation 0 0 30 0 10.0 0 0", "frame 3");
+    EXPECT_EQ(win().getPopupWndCount(), 1) << "the opener is drawn before the popup moves";
+    play("frame");
+    EXPECT_EQ(win().getPopupWndCount(), 0);
+    play("frame");
+    EXPECT_EQ(win().getWnd("BOX", 1), nullptr);
+}
+
+TEST_F(FrameTest, TheExitWaitsForTheNextFrame)
+{
+    start("SCREEN \"S\" 0 0 640 480 \"\"\n");
+    play("frame 2");
+    win().exitProgram();
+    EXPECT_NE(win().getScreenList(), nullptr);
+    win().runTick();
+    win().runFrame();
+    EXPECT_EQ(win().getScreenList(), nullptr);
+    EXPECT_EQ(win().running, 0);
+    EXPECT_TRUE(displayhost::current().closeRequested);
+    win().runTick(); // whatever comes later finds nothing to do
+    win().runFrame();
+    EXPECT_EQ(win().changeScreen("S", 0, 141, "script.tgx"), nullptr);
+    EXPECT_EQ(win().readScriptFile("script.tgx", nullptr, 141, "S", 0), nullptr);
+}
+
+TEST_F(FrameTest, NoScreenIsNoFault)
+{
+    expectMessage("no screen in script.tgx");
+    start("WINDOW \"W\" 0 0 10 10\n");
+    play("move 5 5", "press left", "frame 3", "key esc", "frame");
+    EXPECT_EQ(win().getActiveScreen(), nullptr);
+}
+
+TEST_F(FrameTest, ANewListForgetsTheOldOne)
+{
+    script("WINDOW \"DARKWND\" 0 0 640 480\n", "common.tgx");
+    start("SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nWINDOW \"W\" 0 0 50 50\nEND\nWINDOW \"BOX\" 0 0 9 9\n");
+    play("frame 2", "move 5 5", "frame", "call main setPopupWnd BOX W 0", "call main setMouseCaptureWnd W", "change S");
+    win().recreateScreenList();
+    EXPECT_EQ(win().getPopupWndCount(), 0);
+    EXPECT_EQ(win().getMouseCaptureWndCount(), 0);
+    EXPECT_EQ(win().getCurFocusWnd(), nullptr);
+    EXPECT_EQ(win().getPendingScreen(), "");
+    EXPECT_EQ(win().getWnd("DARKWND", 1), nullptr);
+    win().startup();
+    EXPECT_NE(win().getWnd("DARKWND", 1), nullptr);
+    play("frame 8");
+}
+
+TEST_F(FrameTest, WaitingForFrames)
+{
+    start("SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nWINDOW \"W\" 0 0 50 50\nEND\n");
+    play("frame 2");
+    EXPECT_EQ(win().nextDrawDone(), 0) << "nothing to wait for";
+    win().waitForNextDraw();
+    play("move 5 5", "press left", "tick", "release left", "tick");
+    EXPECT_EQ(clicks(), none) << "no input meanwhile";
+    EXPECT_EQ(win().nextDrawDone() + win().nextDrawDone() + win().nextDrawDone(), 0);
+    EXPECT_EQ(win().nextDrawDone(), 1);
+    EXPECT_EQ(win().nextDrawDone(), 0);
+    play("press left", "tick", "release left", "tick");
+    EXPECT_EQ(clicks(), std::vector<std::string>{"W"});
+}
+
+} // namespace

@@ -1,0 +1,261 @@
+#include "platform/host/headless_host.h"
+#include "tests/unit/support/tgx_test.h"
+
+namespace {
+
+/// Notes what the toolkit calls on it.
+class NotingScreen : public AScreen {
+public:
+    NotingScreen(const CString& name, int x, int y, int w, int h, std::vector<std::string>& calls)
+        : AScreen(name, x, y, w, h), noted(calls)
+    {
+    }
+    ~NotingScreen() override { note("deleted"); }
+    void startup() override { note("startup"), AScreen::startup(); }
+    void initialise() override { note("initialise"), AScreen::initialise(); }
+    void close() override { note("close"), AScreen::close(); }
+    void returned() override { note("returned"), AScreen::returned(); }
+
+private:
+    void note(const char* what) { noted.push_back(id.str() + " " + what); }
+    std::vector<std::string>& noted;
+};
+
+class ScreensTest : public TgxTest {
+protected:
+    using Calls = std::vector<std::string>;
+
+    void begin(int width = 640)
+    {
+        start("SCREEN \"FIRST\" 0 0 640 480 \"\"\n", width);
+        for (const char* name : {"A", "B", "C"})
+            win().classes[name] = [this, name](const CString& id, int x, int y, int w, int h) {
+                return new NotingScreen(id, x, y, w, h, calls);
+            };
+        script("SCREEN \"A\" 0 0 640 480 \"a.bmp\"\nBEGIN\nWINDOW \"W\" 0 0 100 100\nEND\n"
+               "SCREEN \"B\" 0 0 640 480 \"b.bmp\"\nBEGIN\nWINDOW \"TGX_BACK\" 0 0 100 100\nWINDOW \"TGX_CLOSE\" 200 0 50 50\n"
+               "END\nSCREEN \"C\" 0 0 640 480 \"\"\nWINDOW \"PLAIN\" 0 0 10 10\n");
+        bitmap("a.bmp", 640, 480, 0x112233);
+        bitmap("b.bmp", 640, 480, 0x445566);
+        play("frame 2", "change A close", "frame 6");
+        taken();
+    }
+    void TearDown() override { calls.clear(); }
+    Calls taken() { return std::exchange(calls, {}); }
+    std::string active() { return win().getActiveScreen() ? win().getActiveScreen()->getID().str() : "none"; }
+    void click(int x, int y)
+    {
+        play("move " + std::to_string(x) + " " + std::to_string(y), "press left", "frame", "release left", "frame");
+    }
+
+    static inline Calls calls; // outlives the windows that note in it
+};
+
+TEST_F(ScreensTest, FiveFramesAreShownBeforeTheChange)
+{
+    begin();
+    play("change B", "frame 4");
+    EXPECT_EQ(active(), "A");
+    EXPECT_EQ(taken(), none);
+    play("frame");
+    EXPECT_EQ(active(), "B");
+    EXPECT_EQ(taken(), (Calls{"A close", "B startup", "B initialise"}));
+    EXPECT_EQ(screen("B")->getCaller(), "A");
+    EXPECT_TRUE(screen("A")->isOpen()) << "suspended";
+}
+
+TEST_F(ScreensTest, GoingBackReturnsToTheSuspendedScreenAndItsPointer)
+{
+    begin();
+    play("move 321 123", "frame", "change B", "frame 5");
+    taken();
+    click(20, 20);
+    EXPECT_EQ(active(), "B") << "the change waits for its frames";
+    play("frame 4");
+    EXPECT_EQ(active(), "A");
+    EXPECT_EQ(taken(), (Calls{"B close", "A returned"}));
+    EXPECT_EQ(win().mouseX, 321);
+    EXPECT_EQ(win().mouseY, 123);
+    play("frame");
+    EXPECT_EQ(taken(), (Calls{"B deleted"})) << "at the next dispatched tick";
+    EXPECT_EQ(screen("A")->getCaller(), "") << "as before";
+}
+
+TEST_F(ScreensTest, AScreenReachedByClosingHasNoWayBack)
+{
+    begin();
+    play("change B close", "frame 6");
+    EXPECT_EQ(screen("B")->getCaller(), "");
+    click(20, 20);
+    play("frame 6");
+    EXPECT_EQ(active(), "B");
+}
+
+TEST_F(ScreensTest, ADisabledCloseButtonForbidsLeavingForGood)
+{
+    begin();
+    play("change B", "frame 6");
+    wnd("TGX_CLOSE")->setEnabled(0);
+    play("frame");
+    wnd("TGX_CLOSE")->setEnabled(1);
+    click(20, 20);
+    play("frame 6");
+    EXPECT_EQ(active(), "B");
+}
+
+TEST_F(ScreensTest, ADyingScreenIsReadAnew)
+{
+    begin();
+    play("change B close", "draw 5"); // no tick: A is still dying
+    AWnd* dying = win().getWnd("A", 1);
+    ASSERT_NE(dying, nullptr);
+    taken();
+    win().changeScreen("A", 0, 141, "script.tgx");
+    play("draw 5");
+    EXPECT_EQ(active(), "A");
+    EXPECT_NE(static_cast<AWnd*>(win().getActiveScreen()), dying);
+    play("frame");
+    EXPECT_EQ(taken(), (Calls{"B close", "A startup", "A initialise", "A deleted"})) << "the old one, by pointer";
+    EXPECT_EQ(active(), "A");
+}
+
+TEST_F(ScreensTest, ToTheActiveScreenItself)
+{
+    begin();
+    play("change A", "frame 5");
+    EXPECT_EQ(taken(), (Calls{"A close", "A returned"}));
+    EXPECT_EQ(screen("A")->getCaller(), "A");
+    play("change A close", "frame 6");
+    EXPECT_EQ(taken(), (Calls{"A close", "A startup", "A initialise", "A deleted"})) << "a new one takes its place";
+    EXPECT_TRUE(screen("A")->isOpen());
+}
+
+TEST_F(ScreensTest, TheFirstOfTwoRequestsWinsAndIsCarriedOutAtOnce)
+{
+    begin();
+    play("change B", "frame 2", "change C");
+    EXPECT_EQ(active(), "B");
+    EXPECT_EQ(taken(), (Calls{"A close", "B startup", "B initialise"}));
+    play("move 20 20", "frame");
+    EXPECT_EQ(win().getCurFocusWnd(), wnd("TGX_BACK")) << "input goes on";
+    EXPECT_EQ(win().getPendingScreen(), "");
+}
+
+TEST_F(ScreensTest, AScreenThatIsNotToBeHadChangesNothing)
+{
+    begin();
+    play("call main setPopupWnd W A 0", "frame");
+    const char* const names[] = {"NOWHERE", "PLAIN", "W"};
+    for (const char* name : names) {
+        SCOPED_TRACE(name);
+        expectMessage("cannot find screen " + std::string(name));
+        play("change " + std::string(name) + " close", "frame 6");
+        EXPECT_EQ(active(), "A");
+        EXPECT_EQ(taken(), none);
+        EXPECT_EQ(win().getPopupWndCount(), 1);
+        EXPECT_EQ(static_cast<HeadlessHost&>(displayhost::current()).cursor, CursorShape::Normal);
+    }
+    write("UIG/script.tgx", "");
+    expectMessage("cannot find screen A");
+    play("change A close", "frame 6");
+    EXPECT_EQ(active(), "A") << "it would be closed for good by the change to itself";
+    EXPECT_TRUE(screen("A")->isOpen());
+}
+
+TEST_F(ScreensTest, PopupsDoNotOutliveTheirScreen)
+{
+    begin();
+    play("call main setPopupWnd PLAIN W 141 script.tgx", "change B", "frame 6");
+    EXPECT_EQ(win().getPopupWndCount(), 0);
+    EXPECT_EQ(win().getWnd("PLAIN", 1), nullptr);
+}
+
+TEST_F(ScreensTest, ClosingAllButTheCurrent)
+{
+    begin();
+    play("change B", "frame 6", "change C", "frame 6");
+    taken();
+    win().closeAllScreensExceptCurrent();
+    EXPECT_EQ(taken(), (Calls{"A close", "B close"}));
+    EXPECT_FALSE(screen("B")->isOpen());
+    play("change B", "frame 6");
+    EXPECT_EQ(taken(), (Calls{"C close", "B startup", "B initialise"}));
+}
+
+/// "14: backdrop b.bmp" and so on, for each frame of a wipe that did more than draw the backdrop.
+class WipeTest : public ScreensTest {
+protected:
+    std::string wipe(int frames)
+    {
+        std::string steps;
+        for (int i = 0; i < frames; ++i) {
+            win().runFrame();
+            std::string step;
+            for (const DrawCommand& command : win().getLastFrame().commands()) {
+                if (command.op == DrawOp::SetBackdropName)
+                    step += "swap ";
+                if (command.op == DrawOp::AddDirtyRect)
+                    step += std::to_string(command.w) + " ";
+                EXPECT_NE(command.op, DrawOp::DrawScreen) << "a wipe frame is shown all the same";
+            }
+            steps += step + "| ";
+        }
+        return steps;
+    }
+    std::uint32_t pixel(int x) { return win().getScreenImage().row(0)[x] & 0xFFFFFF; }
+};
+
+TEST_F(WipeTest, TheNewBackdropSpreadsFromTheLeft)
+{
+    begin();
+    win().setWipeEnabled(1);
+    play("change B", "frame 5");
+    EXPECT_EQ(taken(), (Calls{"A close", "B startup", "B initialise"})) << "a new screen is started at once";
+    EXPECT_EQ(wipe(4), "0 | 40 | swap | 120 | ");
+    EXPECT_EQ(pixel(119), 0x445566u);
+    EXPECT_EQ(pixel(120), 0x112233u);
+    EXPECT_EQ(wipe(12), "160 | 200 | 240 | 280 | 320 | 360 | 400 | 440 | 480 | 520 | 640 | 640 | ");
+    play("frame");
+    EXPECT_EQ(win().getLastFrame().commands().back().op, DrawOp::DrawScreen);
+
+    play("change A", "frame 5");
+    taken();
+    wipe(15);
+    EXPECT_EQ(taken(), none);
+    wipe(1);
+    EXPECT_EQ(taken(), (Calls{"A returned"})) << "a suspended one at the last frame";
+}
+
+TEST_F(WipeTest, AClickCutsItShortAndTheBackdropStillComes)
+{
+    begin();
+    win().setWipeEnabled(1);
+    play("change B", "frame 5");
+    EXPECT_EQ(wipe(1), "0 | ");
+    play("press left", "tick", "release left", "tick");
+    EXPECT_EQ(wipe(2), "swap 640 | 640 | ");
+    EXPECT_EQ(pixel(639), 0x445566u);
+}
+
+TEST_F(WipeTest, NarrowScreens)
+{
+    const struct {
+        int width, frames;
+        const char* steps;
+    } rows[] = {{160, 4, "0 | 40 | swap | 160 | "}, {120, 3, "0 | 120 | swap 120 | "}, {40, 1, "swap 40 | "}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.width);
+        begin(row.width);
+        win().setWipeEnabled(1);
+        play("change B", "frame 5");
+        EXPECT_EQ(wipe(row.frames), row.steps);
+        play("frame");
+        EXPECT_EQ(win().getLastFrame().commands().back().op, DrawOp::DrawScreen);
+    }
+    begin(39);
+    win().setWipeEnabled(1);
+    play("change B", "frame 6");
+    EXPECT_EQ(win().getLastFrame().commands().back().op, DrawOp::DrawScreen) << "no wipe at all";
+}
+
+} // namespace

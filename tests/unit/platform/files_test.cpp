@@ -1,0 +1,145 @@
+// Names from scripts reach files of the data directory, and nothing else.
+
+#include "platform/framework/cfile.h"
+#include "platform/system/datadir.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sys/stat.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// A folder with a data directory "data" in it and a secret beside; gone with the test.
+class Files : public testing::Test {
+protected:
+    Files()
+    {
+        std::string pattern = (fs::temp_directory_path() / "tgx-files-XXXXXX").string();
+        base = mkdtemp(pattern.data());
+        write("secret.txt", "secret");
+        write("data/UIG/Menu.tgx", "menu");
+        write("data/both.txt", "exact");
+        write("data/BOTH.txt", "capitals");
+        write("data/Two.txt", "b");
+        write("data/TWO.txt", "a");
+        write("data2/near.txt", "beside");
+        fs::create_symlink("../secret.txt", base / "data/out.txt");
+        fs::create_symlink("..", base / "data/up");
+        fs::create_symlink("UIG/Menu.tgx", base / "data/in.tgx");
+        fs::create_symlink("../data2", base / "data/near");
+        fs::create_symlink("loop", base / "data/loop");
+        EXPECT_EQ(mkfifo((base / "data/pipe").c_str(), 0600), 0);
+        setDataDirectory((base / "data").string());
+    }
+    ~Files() override
+    {
+        setDataDirectory(".");
+        fs::remove_all(base);
+    }
+    void write(const std::string& name, std::string_view bytes)
+    {
+        fs::create_directories((base / name).parent_path());
+        std::ofstream(base / name, std::ios::binary) << bytes;
+    }
+    static std::string contents(const std::string& name)
+    {
+        CFile file;
+        return file.Open(name.c_str()) ? std::string(file.bytes()) : "none";
+    }
+
+    fs::path base;
+};
+
+TEST_F(Files, aNameFindsItsFileInAnyCaseAndNothingOutside)
+{
+    const struct {
+        const char* name;
+        std::string file;
+        const char* bytes;
+    } rows[] = {
+        {"backslash and other case", "uig\\MENU.TGX", "menu"},
+        {"slash, a doubled one and a dot", "./UIG//Menu.tgx", "menu"},
+        {"the exact name goes first", "both.txt", "exact"},
+        {"of several, the first in byte order", "two.txt", "a"},
+        {"a link that stays inside", "IN.tgx", "menu"},
+        {"missing", "UIG\\none.tgx", "none"},
+        {"empty", "", "none"},
+        {"a folder", "UIG", "none"},
+        {"a pipe", "pipe", "none"},
+        {"a file used as a folder", "both.txt\\x", "none"},
+        {"climbs", "..\\secret.txt", "none"},
+        {"climbs from inside", "UIG/../../secret.txt", "none"},
+        {"comes back after climbing", "UIG\\..\\both.txt", "none"},
+        {"absolute", (base / "data/both.txt").string(), "none"},
+        {"absolute with a backslash", "\\both.txt", "none"},
+        {"drive letter", "c:both.txt", "none"},
+        {"a link to a file outside", "out.txt", "none"},
+        {"the same in another case", "OUT.TXT", "none"},
+        {"a link to a folder outside", "up\\secret.txt", "none"},
+        {"a folder outside whose name begins alike", "near/near.txt", "none"},
+        {"a link to itself", "loop", "none"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(contents(row.file), row.bytes);
+    }
+    EXPECT_FALSE(findDataFile(std::string_view("both.txt\0x", 10))) << "a name goes on behind a 0 byte";
+}
+
+TEST_F(Files, aFileThatAppearsAfterAFailedLookUpIsFound)
+{
+    // A folder that has not changed for long keeps its listing in memory.
+    fs::last_write_time(base / "data", fs::file_time_type::clock::now() - std::chrono::hours(1));
+    EXPECT_FALSE(findDataFile("NEW.txt"));
+    write("data/new.txt", "new");
+    EXPECT_EQ(contents("NEW.txt"), "new");
+    fs::remove(base / "data/new.txt");
+    EXPECT_EQ(contents("NEW.txt"), "none");
+}
+
+TEST_F(Files, readingAndSeekingStayInsideTheFile)
+{
+    write("data/ten.txt", "0123456789");
+    CFile file;
+    ASSERT_EQ(file.Open("TEN.txt"), 1);
+    EXPECT_STREQ(file.GetFileName(), "TEN.txt") << "as it was asked for";
+
+    char buffer[16] = {};
+    EXPECT_EQ(file.Read(buffer, 4), 4u);
+    EXPECT_EQ(file.Seek(-1, CFile::current), 3u);
+    EXPECT_EQ(file.Read(buffer, 16), 7u);
+    EXPECT_EQ(std::string_view(buffer, 7), "3456789");
+    EXPECT_EQ(file.Read(buffer, 1), 0u);
+    EXPECT_EQ(file.Seek(-3, CFile::end), 7u);
+    EXPECT_EQ(file.Seek(std::numeric_limits<long>::max(), CFile::current), 10u);
+    EXPECT_EQ(file.Seek(std::numeric_limits<long>::min(), CFile::end), 0u);
+
+    EXPECT_EQ(file.Open("missing.txt"), 0);
+    EXPECT_EQ(file.GetLength(), 0u) << "nothing of the file before is left";
+    ASSERT_EQ(file.Open("UIG\\menu.tgx"), 1);
+    EXPECT_STREQ(file.GetFileName(), "menu.tgx");
+}
+
+TEST_F(Files, aMemoryFileReadsWhatItIsGiven)
+{
+    CMemFile file;
+    char byte = 'x';
+    EXPECT_EQ(file.Read(&byte, 1), 0u);
+    const unsigned char memory[] = {7, 0, 9};
+    file.Attach(memory, 3);
+    EXPECT_TRUE(file.GetFileName().IsEmpty());
+    EXPECT_EQ(file.Seek(2), 2u);
+    EXPECT_EQ(file.Read(&byte, 1), 1u);
+    EXPECT_EQ(byte, 9);
+    file.Close();
+    EXPECT_EQ(file.Read(&byte, 1), 0u);
+    file.Attach(nullptr, 3);
+    EXPECT_EQ(file.GetLength(), 0u);
+}
+
+} // namespace

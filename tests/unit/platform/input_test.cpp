@@ -1,0 +1,299 @@
+// What a person did reaches the window's fields in order, one transition a tick, and the main loop runs them.
+
+#include "platform/display/ddwin.h"
+#include "platform/framework/exceptions.h"
+#include "platform/host/headless_host.h"
+#include "platform/host/pacer.h"
+#include "platform/host/screen_fit.h"
+#include "platform/system/clock.h"
+#include "platform/system/message.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+/// Says in words what each tick saw; "-" for a tick without anything.
+class Recorder : public ddwin {
+public:
+    std::vector<std::string> ticks;
+    std::function<void()> inTick, inFrame, inStartup;
+    int frames = 0;
+    bool endsTicks = true;
+
+    int startup() override
+    {
+        if (inStartup)
+            inStartup();
+        return 1;
+    }
+    void OnMouseAction() override
+    {
+        ticks.push_back(seen());
+        if (inTick)
+            inTick();
+        if (endsTicks)
+            ddwin::OnMouseAction();
+    }
+    void drawscreen() override
+    {
+        ++frames;
+        if (inFrame)
+            inFrame();
+        ddwin::drawscreen();
+    }
+    std::string seen() const
+    {
+        std::string words;
+        const auto say = [&](const std::string& word) { words += (words.empty() ? "" : " ") + word; };
+        if (mouseX != saidX || mouseY != saidY)
+            say("at " + std::to_string(mouseX) + "," + std::to_string(mouseY));
+        saidX = mouseX;
+        saidY = mouseY;
+        const struct {
+            int field;
+            const char* word;
+        } flags[] = {{lButtonUp, "up"},      {lButtonDblClk, "double"}, {rButtonDown, "right"},
+                     {rButtonUp, "rightup"}, {mButtonDown, "middle"},   {mButtonUp, "middleup"},
+                     {wheelUp, "wheelup"},   {wheelDown, "wheeldown"},  {keyDown[VK_SHIFT], "shift"}};
+        if (lButtonDown)
+            say("down" + std::to_string(mouseDownCount));
+        for (const auto& flag : flags) {
+            if (flag.field)
+                say(flag.word);
+        }
+        if (keyCode)
+            say(std::string("key") + (keyDown[keyCode] ? " " : " unheld ") + static_cast<char>(keyCode) +
+                (keyChar ? std::string("=") + keyChar : "") + (keyCode2 ? "+second" : ""));
+        return words.empty() ? "-" : words;
+    }
+
+private:
+    mutable int saidX = 0, saidY = 0;
+};
+
+class Input : public testing::Test {
+protected:
+    Input()
+    {
+        setVirtualTime(1000);
+        auto made = std::make_unique<HeadlessHost>();
+        made->onMessage = [this](const CString& text) { messages.push_back(text.str()); };
+        before = displayhost::use(std::move(made));
+        wnd = std::make_unique<Recorder>();
+        wnd->screenWidth = 320;
+        wnd->screenHeight = 200;
+    }
+    ~Input() override
+    {
+        wnd.reset();
+        displayhost::use(std::move(before));
+        useRealTime();
+    }
+    InputQueue& queue() { return displayhost::current().input(); }
+    std::vector<std::string> run(int count)
+    {
+        wnd->ticks.clear();
+        for (int i = 0; i < count; ++i)
+            wnd->runTick();
+        return wnd->ticks;
+    }
+    using Seen = std::vector<std::string>;
+
+    std::unique_ptr<displayhost> before;
+    std::unique_ptr<Recorder> wnd;
+    std::vector<std::string> messages;
+};
+
+TEST_F(Input, aClickBetweenTwoTicksIsTwoTicks)
+{
+    queue().move(5, 5);
+    queue().move(10, 20);
+    queue().press(MouseButton::Left);
+    queue().move(30, 40);
+    queue().release(MouseButton::Left);
+    queue().move(50, 60);
+    EXPECT_EQ(run(4), (Seen{"at 10,20 down1", "at 30,40 up", "at 50,60", "-"}));
+    EXPECT_EQ(wnd->prevMouseX, 30);
+    EXPECT_EQ(wnd->prevMouseY, 40);
+}
+
+TEST_F(Input, aHeldButtonCountsItsTicks)
+{
+    queue().press(MouseButton::Left);
+    EXPECT_EQ(run(3), (Seen{"down1", "down2", "down3"}));
+    queue().release(MouseButton::Left);
+    queue().press(MouseButton::Left);
+    EXPECT_EQ(run(2), (Seen{"up", "down1"}));
+}
+
+TEST_F(Input, flagsLastOneTickAndButtonsUntilTheirRelease)
+{
+    queue().doubleClick(MouseButton::Left);
+    queue().press(MouseButton::Right);
+    queue().wheel(true);
+    queue().wheel(false);
+    queue().press(MouseButton::Middle);
+    queue().release(MouseButton::Right);
+    queue().release(MouseButton::Middle);
+    EXPECT_EQ(run(8), (Seen{"double", "right", "right wheelup", "right wheeldown", "right middle",
+                            "rightup middle", "middleup", "-"}));
+}
+
+TEST_F(Input, keysKeepTheirOrderAndCountAsHeldForTheirTick)
+{
+    queue().holdInTurn(VK_SHIFT, true);
+    queue().key('A', 'A');
+    queue().holdInTurn(VK_SHIFT, false);
+    queue().key('B', 'b', 'B');
+    EXPECT_EQ(run(3), (Seen{"shift key A=A", "key B=b+second", "-"}))
+        << "Shift was let go before the first tick";
+    EXPECT_EQ(wnd->keyDown['A'], 0);
+
+    queue().hold(*wnd, 'A', true);
+    queue().key('A', 'a');
+    run(2);
+    EXPECT_EQ(wnd->keyDown['A'], 1) << "its event ends, and it is held all the same";
+    queue().hold(*wnd, 'A', false);
+    EXPECT_EQ(wnd->keyDown['A'], 0);
+}
+
+TEST_F(Input, aTickThatWasNotEndedComesAgainWithoutNewInput)
+{
+    wnd->endsTicks = false;
+    queue().key('A', 'a');
+    queue().key('B', 'b');
+    EXPECT_EQ(run(2), (Seen{"key A=a", "key A=a"}));
+    wnd->endsTicks = true;
+    EXPECT_EQ(run(3), (Seen{"key A=a", "key B=b", "-"}));
+}
+
+TEST_F(Input, whatGrowsStaleIsDroppedAndTheRestKeepsItsPlace)
+{
+    queue().move(1, 1);
+    queue().move(2, 2);
+    queue().wheel(true);
+    queue().move(3, 3);
+    queue().press(MouseButton::Left);
+    queue().key('A', 'a');
+    queue().key('A', 'a', 0, true);
+    queue().move(4, 4);
+    queue().release(MouseButton::Left);
+    queue().doubleClick(MouseButton::Right);
+    advanceVirtualTime(251);
+    queue().wheel(false);
+    queue().dropStale(timeGetTime(), 250);
+    EXPECT_EQ(run(6), (Seen{"at 3,3 down1", "down2 key A=a", "at 4,4 up", "-", "wheeldown", "-"}))
+        << "the double click of the right button has no word of its own";
+}
+
+TEST_F(Input, positionsPastTheFieldsAreHeld)
+{
+    queue().move(100000, -100000);
+    EXPECT_EQ(run(1), (Seen{"at 32767,-32768"}));
+}
+
+TEST_F(Input, theLoopEndsAtOnceWhenRunningIsCleared)
+{
+    int startups = 0;
+    wnd->inStartup = [&] { ++startups; };
+    wnd->inTick = [&] {
+        if (wnd->ticks.size() == 3) {
+            wnd->running = 0;
+            PostMessageA(wnd->m_hWnd, WM_CLOSE, 0, 0);
+        }
+    };
+    EXPECT_EQ(runMainLoop(*wnd), 0);
+    EXPECT_EQ(startups, 1);
+    EXPECT_EQ(wnd->ticks.size(), 3u);
+    EXPECT_EQ(wnd->frames, 2) << "no frame behind the tick that ended the program";
+    EXPECT_TRUE(displayhost::current().closeRequested);
+    EXPECT_EQ(wnd->m_hWnd, nullptr);
+
+    wnd->running = 1;
+    wnd->ticks.clear();
+    wnd->inTick = nullptr;
+    wnd->inFrame = [&] { PostMessageA(wnd->m_hWnd, WM_CLOSE, 0, 0); };
+    EXPECT_EQ(runMainLoop(*wnd), 0);
+    EXPECT_EQ(wnd->ticks.size(), 1u) << "the close request of the run before is forgotten";
+}
+
+TEST_F(Input, anInvalidArgumentIsReportedOnceAndTheLoopGoesOn)
+{
+    wnd->inStartup = [] { AfxThrowInvalidArgException(); };
+    wnd->inTick = [] { AfxThrowInvalidArgException(); };
+    wnd->inFrame = [&] {
+        if (wnd->frames == 4)
+            wnd->running = 0;
+        AfxThrowInvalidArgException();
+    };
+    queue().key('A', 'a');
+    queue().key('B', 'b');
+    EXPECT_EQ(runMainLoop(*wnd), 0);
+    EXPECT_EQ(wnd->ticks, (Seen{"key A=a", "key B=b", "-", "-"}))
+        << "the input of a failed tick does not come again";
+    EXPECT_EQ(messages, (Seen{"invalid argument in a frame"}));
+}
+
+TEST(Pacer, makesUpAFewTicksAndNeverMore)
+{
+    constexpr std::int64_t period = Pacer::tickMicros;
+    Pacer pacer;
+    pacer.start(0, 144);
+    EXPECT_EQ(pacer.takeTicks(0), 1);
+    EXPECT_EQ(pacer.takeTicks(0), 0);
+    EXPECT_EQ(pacer.takeTicks(2 * period), 2);
+    EXPECT_EQ(pacer.takeTicks(1000 * period), Pacer::ticksAtOnce);
+    EXPECT_EQ(pacer.takeTicks(1000 * period), 0) << "the rest of the stall is forgotten";
+    EXPECT_EQ(pacer.takeTicks(1001 * period), 1);
+
+    int frames = 0;
+    for (std::int64_t now = 0; now < 1'000'000; now += 500)
+        frames += pacer.takeFrame(now);
+    EXPECT_NEAR(frames, 60, 1) << "60 at most, whatever the display does";
+    pacer.start(0, 30);
+    frames = 0;
+    for (std::int64_t now = 0; now < 1'000'000; now += 500)
+        frames += pacer.takeFrame(now);
+    EXPECT_NEAR(frames, 30, 1);
+}
+
+TEST(ScreenFit, keepsTheShapeAndMapsThePointerBack)
+{
+    const struct {
+        const char* name;
+        int windowWidth, windowHeight;
+        int x, y, w, h;
+        bool whole;
+    } rows[] = {
+        {"as large as the screen", 640, 480, 0, 0, 640, 480, true},
+        {"twice", 1280, 960, 0, 0, 1280, 960, true},
+        {"wide", 1000, 480, 180, 0, 640, 480, true},
+        {"tall", 320, 480, 0, 120, 320, 240, false},
+        {"one pixel", 1, 1, 0, 0, 1, 1, false},
+        {"nothing", 0, 0, 0, 0, 1, 1, false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const ScreenFit fit = ScreenFit::of(640, 480, row.windowWidth, row.windowHeight);
+        EXPECT_EQ(fit.x, row.x);
+        EXPECT_EQ(fit.y, row.y);
+        EXPECT_EQ(fit.w, row.w);
+        EXPECT_EQ(fit.h, row.h);
+        EXPECT_EQ(fit.isWholeScale(), row.whole);
+        EXPECT_EQ(fit.toScreen(-500, -500).x, 0);
+        const ScreenFit::Point far = fit.toScreen(5000, 5000);
+        EXPECT_GE(far.x, row.w > 1 ? 638 : 0);
+        EXPECT_LT(far.x, 640);
+        EXPECT_LT(far.y, 480);
+    }
+    const ScreenFit large = ScreenFit::of(640, 480, 1919, 1080);
+    for (int x = 0; x < 640; x += 7) {
+        const ScreenFit::Point place = large.toWindow(x, 100);
+        EXPECT_EQ(large.toScreen(place.x, place.y).x, x) << "where the toolkit put the pointer, there it is";
+    }
+}
+
+} // namespace

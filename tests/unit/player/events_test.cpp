@@ -1,0 +1,267 @@
+#include "tests/unit/support/tgx_test.h"
+
+#include "platform/framework/exceptions.h"
+
+namespace {
+
+const char* const menu = R"(
+SCREEN "MENU" 0 0 640 480 ""
+BEGIN
+  WINDOW "OK" 10 10 100 50
+  WINDOW "CANCEL" 200 10 100 50
+END
+SCREEN "OPTIONS" 0 0 640 480 ""
+BEGIN
+  WINDOW "TGX_BACK" 10 10 100 50
+END
+)";
+
+class EventsTest : public TgxTest {
+protected:
+    /// "left 1, count 2": the input fields that are not 0.
+    std::string input()
+    {
+        std::ostringstream text;
+        const std::pair<const char*, int> fields[] = {
+            {"ldown", win().lButtonDown}, {"lup", win().lButtonUp},       {"ldbl", win().lButtonDblClk},
+            {"rdown", win().rButtonDown}, {"rup", win().rButtonUp},       {"rdbl", win().rButtonDblClk},
+            {"mdown", win().mButtonDown}, {"mup", win().mButtonUp},       {"mdbl", win().mButtonDblClk},
+            {"wheelUp", win().wheelUp},   {"wheelDown", win().wheelDown}, {"count", win().mouseDownCount},
+            {"code", win().keyCode},      {"code2", win().keyCode2},      {"char", win().keyChar},
+        };
+        for (const auto& [name, value] : fields) {
+            if (value != 0)
+                text << (text.str().empty() ? "" : " ") << name << ' ' << value;
+        }
+        return text.str();
+    }
+};
+
+TEST_F(EventsTest, ALineThatIsWrongSaysWhy)
+{
+    start(menu);
+    const struct {
+        const char* line;
+        const char* reason;
+    } rows[] = {
+        {"moved 1 2", "no event \"moved\"; did you mean move?"},
+        {"jump",
+         "no event \"jump\"; events are frame, tick, draw, move, press, release, doubleclick, wheel, key, "
+         "type, hold, lift, change, exit, call, shot, tree, trace and fonts"},
+        {"frame 1 2", "expected frame [N], found 2 words behind frame"},
+        {"frame \"3\"", "expected a number from 0 to 2147483647, found \"3\""},
+        {"frame -1", "expected a number from 0 to 2147483647, found \"-1\""},
+        {"frame --1", "expected a number from 0 to 2147483647, found \"--1\""},
+        {"move 5", "expected move X Y, found 1 word behind move"},
+        {"move 5 32768", "expected a number from -32768 to 32767, found \"32768\""},
+        {"press both", "no button \"both\"; buttons are left, right and middle"},
+        {"wheel left", "the wheel goes up or down, found \"left\""},
+        {"key 256", "a key code runs from 01 to 255, found 256"},
+        {"key 00", "a key code runs from 01 to 255, found 00"},
+        {"hold ctrl",
+         "no key \"ctrl\"; keys are letters, digits, codes of two digits or more, tab, return, esc, left, "
+         "right, up, down, home, end, insert, delete, backspace, space, shift, f1, f2, f3, f4, f5, f6, "
+         "f7, f8, f9, f10, f11 and f12"},
+        {"type \"a", "the string \"a has no closing quote"},
+        {"type a\"b\"", "a blank is missing before the string behind \"a\""},
+        {"type \"a\"b", "a blank is missing behind the string \"a\""},
+        {"change OPTIONS open", "expected close or nothing, found \"open\""},
+        {"tree ../out.json", "cannot write \"../out.json\": not a file name below the output directory"},
+        {"tree a/../../out.json",
+         "cannot write \"a/../../out.json\": not a file name below the output directory"},
+        {"shot /tmp/a.png", "cannot write \"/tmp/a.png\": not a file name below the output directory"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(playWrong(row.line), row.reason) << row.line;
+    play("", "  \t", "# frame x", "  # indented", "frame 0x2 \r");
+}
+
+TEST_F(EventsTest, EachTickTakesTheMovesAtTheHeadAndOneTransition)
+{
+    start(menu);
+    const struct {
+        const char* name;
+        std::vector<const char*> lines;
+        std::vector<const char*> ticks; // fields behind each tick
+    } rows[] = {
+        {"press and release are two ticks, the count rises from 1 and falls back",
+         {"press left", "release left"},
+         {"ldown 1 count 1", "lup 1", ""}},
+        {"a held button counts each tick",
+         {"press left"},
+         {"ldown 1 count 1", "ldown 1 count 2", "ldown 1 count 3"}},
+        {"the button is let go", {"release left"}, {"lup 1", ""}},
+        {"a double click sets its flag alone",
+         {"doubleclick left", "doubleclick right"},
+         {"ldbl 1", "rdbl 1", ""}},
+        {"down flags stay beside other transitions",
+         {"press middle", "press right", "wheel up", "release middle", "release right"},
+         {"mdown 1", "rdown 1 mdown 1", "rdown 1 mdown 1 wheelUp 1", "rdown 1 mup 1", "rup 1", ""}},
+        {"a letter types itself in lower case",
+         {"key a", "key A", "key 65"},
+         {"code 65 char 97", "code 65 char 97", "code 65 char 97"}},
+        {"codes, digits and names",
+         {"key 7", "key 07", "key 0x2E", "key f7", "key esc", "key space", "key insert"},
+         {"code 55 char 55", "code 7", "code 46", "code 118", "code 27 char 27", "code 32 char 32",
+          "code 45"}},
+        {"typed text has a key a character, one without a key of its own 0xE7",
+         {"type \"aZ9 \\x09\\x0D\\xE9,\""},
+         {"code 65 char 97", "code 90 char 90", "code 57 char 57", "code 32 char 32", "code 9 char 9",
+          "code 13 char 13", "code 231 char -23", "code 231 char 44", ""}},
+        {"shift counts where the line is read, not where the key arrives",
+         {"key b", "hold shift", "key b", "lift shift", "key b"},
+         {"code 66 char 98", "code 66 char 66", "code 66 char 98", ""}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        for (const char* line : row.lines)
+            play(line);
+        for (const char* fields : row.ticks) {
+            play("tick");
+            EXPECT_EQ(input(), fields);
+        }
+    }
+}
+
+TEST_F(EventsTest, FlagsHoldTheirValuesInTheFramesBehindTheirTick)
+{
+    start(menu);
+    std::vector<std::string> seen;
+    win().duringFrame = [&] { seen.push_back(input()); };
+    play("press left", "release left", "key a", "frame 3", "draw", "frame");
+    EXPECT_EQ(seen, (std::vector<std::string>{"ldown 1 count 1", "lup 1", "code 65 char 97",
+                                              "code 65 char 97", ""}));
+}
+
+TEST_F(EventsTest, PointerMovesKeepThePositionBefore)
+{
+    start(menu);
+    EXPECT_EQ(win().mouseX, 320) << "the screen puts the pointer in its middle";
+    play("move 1 2", "move 30 40", "press left", "move 50 60", "tick");
+    EXPECT_EQ((std::array{win().mouseX, win().mouseY, win().prevMouseX, win().prevMouseY}),
+              (std::array<short, 4>{30, 40, 1, 2}));
+    play("tick");
+    EXPECT_EQ((std::array{win().mouseX, win().prevMouseX}), (std::array<short, 2>{50, 30}));
+}
+
+TEST_F(EventsTest, AKeyIsHeldUntilItsTickHasEndedAndHeldKeysUntilTheyAreLifted)
+{
+    struct KeyWatch : AWnd {
+        using AWnd::AWnd;
+        int handleMouseAction(const CString&, AWnd*, int, int, E_MOUSEACTION action) override
+        {
+            if (action == MA_KEY)
+                heldInTick = getMainWin()->keyDown[VK_INSERT];
+            return 0;
+        }
+        int heldInTick = 0;
+    };
+    start(menu);
+    auto* watch = new KeyWatch(AWnd::WND_PLAIN, "WATCH", 0, 0, 10, 10);
+    wnd("MENU")->addChildWindow(watch);
+    play("key insert");
+    EXPECT_EQ(win().keyDown[VK_INSERT], 0) << "still in the queue";
+    play("tick");
+    EXPECT_NE(watch->heldInTick, 0);
+    EXPECT_EQ(win().keyDown[VK_INSERT], 0);
+    play("hold insert");
+    EXPECT_NE(win().keyDown[VK_INSERT], 0) << "at once";
+    play("key insert", "tick");
+    EXPECT_NE(win().keyDown[VK_INSERT], 0) << "the key's tick does not lift what is held";
+    play("lift insert");
+    EXPECT_EQ(win().keyDown[VK_INSERT], 0);
+}
+
+TEST_F(EventsTest, ATickWithoutTheBaseOperationComesAgainWithTheSameInput)
+{
+    start(menu);
+    play("move 20 20", "tick");
+    play("press left", "tick", "move 30 30", "release left");
+    // The target waits for its deletion: such a tick returns before the base operation.
+    win().getScreenList()->addWndToDelete(win().getActiveScreen());
+    play("tick 3");
+    EXPECT_EQ(input(), "lup 1");
+    EXPECT_EQ(win().mouseX, 30);
+    play("press right", "tick");
+    EXPECT_EQ(input(), "lup 1") << "no new input behind a tick that has not ended";
+}
+
+TEST_F(EventsTest, ClicksReachTheScreenWhereThePressBegan)
+{
+    start(menu);
+    play("move 20 20", "press left", "release left", "tick 2");
+    EXPECT_EQ(clicks(), std::vector<std::string>{"OK"});
+    play("press left", "tick", "move 220 20", "release left", "tick");
+    EXPECT_EQ(clicks(), none) << "the press began on OK, the release fell on CANCEL";
+}
+
+TEST_F(EventsTest, TheClockMovesBeforeFramesOnly)
+{
+    options.frameMs = 50;
+    start(menu);
+    std::vector<int> rates;
+    win().duringFrame = [&] { rates.push_back(win().getCurrentFPS()); };
+    play("tick 7", "draw", "frame 2");
+    EXPECT_EQ(rates, (std::vector<int>{20, 20, 20}));
+}
+
+TEST_F(EventsTest, AChangeIsCarriedOutBehindTheFifthFrame)
+{
+    start(menu);
+    play("change OPTIONS", "frame 4");
+    EXPECT_STREQ(win().getActiveScreen()->getID(), "MENU");
+    play("frame");
+    EXPECT_STREQ(win().getActiveScreen()->getID(), "OPTIONS");
+    EXPECT_EQ(screen("OPTIONS")->getCaller(), "MENU");
+    play("change MENU close", "frame 5", "tick");
+    EXPECT_EQ(win().getWnd("OPTIONS", 1), nullptr);
+}
+
+TEST_F(EventsTest, ASecondChangeCarriesTheFirstOutAndOpensItsScreen)
+{
+    start(menu);
+    play("change OPTIONS", "change MENU");
+    EXPECT_STREQ(win().getActiveScreen()->getID(), "OPTIONS");
+    EXPECT_EQ(screen("OPTIONS")->isOpen(), 1) << "the event is the caller, to whom initialise falls";
+    play("move 20 20", "press left", "release left", "tick 2");
+    EXPECT_EQ(clicks(), std::vector<std::string>{"TGX_BACK"});
+}
+
+TEST_F(EventsTest, TheRunEndsWhenTheExitHasCompleted)
+{
+    start(menu);
+    play("exit", "tick");
+    EXPECT_FALSE(getPlayer().hasEnded());
+    play("frame");
+    EXPECT_TRUE(getPlayer().hasEnded());
+    EXPECT_EQ(win().getScreenList(), nullptr);
+    play("tree -");
+    EXPECT_EQ(out.str(), R"({"activeScreen":null,"focus":null,"mouseDown":null,"popups":[],"capture":[],)"
+                         R"("pointer":[320,240],"frameStep":0,"root":null})"
+                         "\n");
+}
+
+TEST_F(EventsTest, AnInvalidArgumentEndsItsFrameAndIsReportedOnce)
+{
+    struct Faulty : AWnd {
+        using AWnd::AWnd;
+        void draw(int) override { getWndFromIndex(-1, ""); }
+        int handleMouseAction(const CString&, AWnd*, int, int, E_MOUSEACTION action) override
+        {
+            if (action == MA_LBUTTONDOWN)
+                getWndFromIndex(-1, "");
+            return 0;
+        }
+    };
+    start(menu);
+    wnd("MENU")->addChildWindow(new Faulty(AWnd::WND_PLAIN, "FAULTY", 0, 200, 10, 10));
+    expectMessage("invalid argument in a frame");
+    play("frame 3");
+    EXPECT_EQ(frameDrawn().operations("drawbackdrop"), Trace{only("drawbackdrop")})
+        << "each frame has a list of its own";
+    play("move 5 205", "press left");
+    EXPECT_EQ(playWrong("tick"), "invalid argument in a tick");
+    EXPECT_EQ(call("MENU getWndFromIndex -1 \"\""), R"({"error": "invalid argument"})");
+}
+
+} // namespace

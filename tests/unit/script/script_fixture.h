@@ -1,0 +1,137 @@
+#pragma once
+
+#include "platform/host/headless_host.h"
+#include "platform/system/datadir.h"
+#include "tgx/frame/mainwin.h"
+#include "tgx/script/vocabulary.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+/// A keyword as an argument.
+struct Word {
+    const char* keyword;
+};
+
+inline void append(std::string& bytes, int number)
+{
+    bytes += {'\3', static_cast<char>(number & 0xFF), static_cast<char>(number >> 8 & 0xFF)};
+}
+inline void append(std::string& bytes, const std::string& text)
+{
+    bytes += '\4' + text + '\0';
+}
+inline void append(std::string& bytes, Word word)
+{
+    bytes += static_cast<char>(statementByKeyword(word.keyword)->id);
+}
+
+/// A compiled line.
+template<class... Argument>
+std::string line(const char* keyword, const Argument&... arguments)
+{
+    std::string bytes;
+    append(bytes, Word{keyword});
+    (append(bytes, arguments), ...);
+    return bytes + '\7';
+}
+inline std::string wnd(const std::string& id)
+{
+    return line("WINDOW", id, 1, 2, 30, 40);
+}
+inline std::string block(const std::string& lines)
+{
+    return line("BEGIN") + lines + line("END");
+}
+
+using Messages = std::vector<std::string>;
+
+inline std::string lineError(int number, const std::string& script, const std::string& text = "")
+{
+    return std::string("Encountered an error on line ") + std::to_string(number) + " in " + script +
+           "\nThe line is :\n\t" + text;
+}
+
+/// A main window whose scripts lie in a folder of their own, and who writes down what the user would be told.
+class ScriptTest : public testing::Test {
+protected:
+    /// Makes the game's own windows, for the class name "GAME".
+    struct GameWin : AMainWin {
+        GameWin() : AMainWin(640, 480, 32) {}
+        AWnd* createNewWindow(const CString& id, int x, int y, int w, int h,
+                              const CString& className) override
+        {
+            classNames.push_back(className.str());
+            if (onCreate)
+                onCreate();
+            return className == "GAME" ? new AWnd(AWnd::WND_PLAIN, id + "!", x, y, w, h) : nullptr;
+        }
+        std::vector<std::string> classNames;
+        std::function<void()> onCreate;
+    };
+
+    void SetUp() override
+    {
+        std::string folder = testing::TempDir() + "tgx-script-XXXXXX";
+        ASSERT_NE(mkdtemp(folder.data()), nullptr);
+        directory = folder;
+        std::filesystem::create_directory(directory / "UIG");
+        setDataDirectory(folder);
+        auto host = std::make_unique<HeadlessHost>();
+        host->onMessage = [this](const CString& text) { messages.push_back(text.str()); };
+        displayhost::use(std::move(host));
+        app = std::make_unique<AControlsApp>();
+        newWindow();
+    }
+    void TearDown() override
+    {
+        window.reset();
+        app.reset();
+        displayhost::use(nullptr);
+        std::filesystem::remove_all(directory);
+    }
+    void newWindow()
+    {
+        window.reset();
+        app->mainWin = nullptr; // windows ask for it while they are made
+        window = std::make_unique<GameWin>();
+        app->mainWin = window.get();
+        messages.clear();
+    }
+
+    void file(const std::string& name, const std::string& bytes)
+    {
+        std::ofstream(directory / "UIG" / name, std::ios::binary) << bytes;
+    }
+    AWnd* read(const char* name, const char* toWindow = "", int finalRead = 0)
+    {
+        return window->readScriptFile(name, nullptr, 0, toWindow, finalRead);
+    }
+    AWnd* runScript(const std::string& bytes)
+    {
+        file("t.tgx", bytes);
+        return read("t.tgx");
+    }
+    /// The ids below from, as "A(B C) D"; the root's without an argument.
+    std::string tree(AWnd* from = nullptr)
+    {
+        AWnd* top = from ? from : window->getScreenList();
+        std::string out;
+        for (int i = 0; AWnd* child = top->getWndFromIndex(i, ""); ++i) {
+            const std::string below = tree(child);
+            out += (i ? " " : "") + child->getID().str() +
+                   (below.empty() ? below : std::string("(") + below + ")");
+        }
+        return out;
+    }
+    AWnd* get(const char* id) { return window->getWnd(id, 1); }
+
+    std::filesystem::path directory;
+    std::unique_ptr<AControlsApp> app;
+    std::unique_ptr<GameWin> window;
+    Messages messages;
+};

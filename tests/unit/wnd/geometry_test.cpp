@@ -1,0 +1,169 @@
+#include "tests/unit/support/tgx_test.h"
+
+namespace {
+
+class GeometryTest : public TgxTest {
+protected:
+    void SetUp() override
+    {
+        start("SCREEN \"S\" 0 0 640 480 \"\"\n"
+              "BEGIN\n"
+              "  WINDOW \"PANEL\" 100 100 200 200\n"
+              "  BEGIN\n"
+              "    WINDOW \"UNDER\" 10 20 80 80\n"
+              "    WINDOW \"TOP\" 50 50 100 100\n"
+              "    BEGIN\n"
+              "      WINDOW \"LEAF\" 10 10 20 20\n"
+              "      WINDOW \"STICKSOUT\" 90 0 50 20\n"
+              "    END\n"
+              "  END\n"
+              "END\n");
+    }
+};
+
+TEST_F(GeometryTest, AnOffsetMovesTheWindowAndAllBelowItButNotItsRestingPlace)
+{
+    wnd("PANEL")->setMoveAnimation(5, -7, 5, -7, {}, {}, 0);
+    AWnd* leaf = wnd("LEAF");
+    EXPECT_EQ(leaf->left(), 165);
+    EXPECT_EQ(leaf->top(), 153);
+    EXPECT_EQ(leaf->posX(1), 160);
+    EXPECT_EQ(leaf->posY(1), 160);
+    EXPECT_EQ(leaf->wndX(), 10);
+    EXPECT_EQ(leaf->getWndX(leaf->left()), 0);
+    EXPECT_EQ(leaf->getWndY(200), 47);
+    EXPECT_EQ(leaf->right(), 185);
+    EXPECT_EQ(leaf->centreY(), 163);
+}
+
+TEST_F(GeometryTest, TheDeepestUsableWindowUnderThePointIsHit)
+{
+    const struct {
+        const char* name;
+        int x, y;
+        const char* disabled;
+        const char* hidden;
+        const char* hit;
+    } rows[] = {
+        {"a later window lies on top", 170, 170, nullptr, nullptr, "LEAF"},
+        {"a disabled one lets the point through to its holder", 170, 170, "LEAF", nullptr, "TOP"},
+        {"and that one to what lies below", 170, 170, "TOP", nullptr, "UNDER"},
+        {"a hidden one is not there", 170, 170, nullptr, "TOP", "UNDER"},
+        {"the far edges are inside", 250, 250, nullptr, nullptr, "TOP"},
+        {"one pixel past them is outside", 251, 250, nullptr, nullptr, "PANEL"},
+        {"what sticks out of its holder cannot be hit there", 255, 155, nullptr, nullptr, "PANEL"},
+        {"inside it can", 245, 155, nullptr, nullptr, "STICKSOUT"},
+        {"nothing below a hidden holder", 170, 170, nullptr, "PANEL", nullptr},
+        {"nothing beside all windows", 50, 50, nullptr, nullptr, nullptr},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        if (row.disabled)
+            wnd(row.disabled)->setEnabled(2); // only the lowest bit counts
+        if (row.hidden)
+            wnd(row.hidden)->setVisible(-1);
+        EXPECT_STREQ(idAt(row.x, row.y), row.hit);
+        if (row.disabled)
+            wnd(row.disabled)->setEnabled(1);
+        if (row.hidden)
+            wnd(row.hidden)->setVisible(1);
+    }
+    EXPECT_STREQ(screen("S")->getWndAtPos(170, 170, 0)->getID(), "PANEL") << "direct children only";
+}
+
+TEST_F(GeometryTest, EnablementNeedsEveryLevelVisibleAndEnabled)
+{
+    wnd("PANEL")->setVisible(0);
+    EXPECT_FALSE(wnd("LEAF")->isEnabled());
+    EXPECT_TRUE(wnd("LEAF")->isVisible(0));
+    EXPECT_FALSE(wnd("LEAF")->isVisible(1));
+    wnd("PANEL")->setVisible(1);
+    wnd("PANEL")->setEnabled(0);
+    EXPECT_FALSE(wnd("LEAF")->isEnabled());
+    EXPECT_TRUE(wnd("LEAF")->getEnabled());
+}
+
+TEST_F(GeometryTest, Centring)
+{
+    AWnd* leaf = wnd("LEAF"); // 20 x 20 in TOP, whose corner is 150, 150 and size 100 x 100
+    const struct {
+        const char* name;
+        int width, horizontal, vertical, inParent;
+        int x, y;
+    } rows[] = {
+        {"on the screen, wherever the parent stands", 20, 1, 1, 0, 160, 80},
+        {"one axis leaves the other alone", 20, 1, 0, 0, 160, 10},
+        {"in the parent", 20, 1, 1, 1, 40, 40},
+        {"wider than the parent goes negative, truncated towards zero", 121, 1, 0, 1, -10, 10},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        leaf->setWndPos(10, 10, row.width, -1);
+        leaf->setWndPosCentred(row.horizontal, row.vertical, row.inParent);
+        EXPECT_EQ(leaf->wndX(), row.x);
+        EXPECT_EQ(leaf->wndY(), row.y);
+    }
+    screen("S")->setWndPos(3, 4, -1, -1);
+    screen("S")->setWndPosCentred(1, 1, 1);
+    EXPECT_EQ(screen("S")->wndX(), 3) << "a screen stays";
+}
+
+// start, end, increment (raw) on x; then the offsets, frame by frame.
+TEST_F(GeometryTest, AMovementWalksWhileItIsDrawn)
+{
+    const struct {
+        const char* name;
+        int from, to, increment, step, whenDone;
+        std::vector<int> offsets; // of the frames behind the start
+        bool recordStays;
+    } rows[] = {
+        {"whole steps, and the record goes", -30, 0, 40960, 1, 1, {-20, -10, 0}, false},
+        {"a large step lands on the end", -50, 0, 40960, 3, 1, {-20, 0}, false},
+        {"half a pixel moves nothing", -30, 0, 2048, 1, 1, {-30, -30}, true},
+        {"a wrong direction jumps to the end", 10, 0, 40960, 1, 1, {0}, false},
+        {"without deletion it stays at the end", 0, 25, 40960, 1, 0, {10, 20, 25, 25}, true},
+    };
+    AWnd* panel = wnd("PANEL");
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        panel->setMoveAnimation(row.from, 0, row.to, 0, ZnFixed::fromRaw(row.increment), {}, row.whenDone);
+        for (int offset : row.offsets) {
+            win().getScreenList()->draw(row.step);
+            EXPECT_EQ(panel->left() - 100, offset);
+        }
+        EXPECT_EQ(panel->hasWndAnimData(), row.recordStays);
+        panel->startup();
+        EXPECT_EQ(panel->left(), 100) << "startup puts it to rest";
+        win().getScreenList()->draw(1);
+        EXPECT_FALSE(panel->hasWndAnimData());
+    }
+}
+
+TEST_F(GeometryTest, GrowAndShrinkSlideByHalfTheSize)
+{
+    AWnd* under = wnd("UNDER"); // 80 x 80 at 110, 120
+    under->setShrinkAnimation(ZnFixed::fromInt(15));
+    win().getScreenList()->draw(1);
+    EXPECT_EQ(under->left(), 125);
+    win().getScreenList()->draw(2);
+    EXPECT_EQ(under->left(), 110) << "at the end the record goes, and the window is at rest";
+    under->setGrowAnimation(ZnFixed::fromInt(15));
+    EXPECT_EQ(under->left(), 150);
+    win().getScreenList()->draw(1);
+    EXPECT_EQ(under->top(), 145);
+    win().getScreenList()->draw(2);
+    EXPECT_EQ(under->left(), 110);
+}
+
+TEST_F(GeometryTest, AHiddenHolderStopsWhatMovesBelow)
+{
+    wnd("LEAF")->setMoveAnimation(-30, 0, 0, 0, ZnFixed::fromInt(10), {}, 1);
+    wnd("TOP")->setVisible(0);
+    play("frame 2");
+    EXPECT_EQ(wnd("LEAF")->left(), 130);
+    wnd("TOP")->setVisible(1);
+    play("frame 2");
+    EXPECT_EQ(wnd("LEAF")->left(), 150);
+}
+
+} // namespace

@@ -1,0 +1,190 @@
+#include "tests/unit/support/invariants.h"
+#include "tests/unit/support/tgx_test.h"
+#include "tgx/wnd/tabstops.h"
+
+namespace {
+
+const char* const twoScreens = R"(
+ADDFONT "none.ttf" "" 12 0
+SCREEN "A" 0 0 640 480 ""
+BEGIN
+  WINDOW "OkButton" 0 0 50 50
+  WINDOW "static" 0 0 50 50
+  BEGIN
+    WINDOW "DEEP" 0 0 10 10
+    WINDOW "TWICE" 0 0 10 10
+  END
+  WINDOW "twice" 100 0 50 50
+  WINDOW "P" 0 100 20 20
+  WINDOW "Q" 50 100 20 20
+  WINDOW "R" 100 100 20 20
+  TABORDER "P" "Q" "R"
+END
+SCREEN "B" 0 0 640 480 ""
+BEGIN
+  POINTER "DEEP" "script.tgx"
+  WINDOW "TGX_BACK" 0 0 50 50
+END
+)";
+
+class TreeTest : public TgxTest {
+protected:
+    void SetUp() override
+    {
+        expectMessage("cannot load none.ttf");
+        start(twoScreens);
+    }
+    /// Deletes it as a game would that owns the window's fate.
+    void destroy(const std::string& id)
+    {
+        delete wnd(id);
+        EXPECT_EQ(checkInvariants(win()), "");
+    }
+};
+
+TEST_F(TreeTest, LookingUp)
+{
+    AWnd* a = wnd("A");
+    EXPECT_EQ(a->getWnd("OKBUTTON", 0), wnd("OkButton")) << "ignoring case";
+    EXPECT_EQ(a->getWnd("DEEP", 0), nullptr) << "direct children only";
+    EXPECT_NE(a->getWnd("twice", 1), a->getWnd("twice", 0)) << "depth first: the deep one in an earlier child comes first";
+    EXPECT_EQ(a->getWnd("", 1)->getID(), "") << "an empty id finds the first nameless window";
+    EXPECT_FALSE(a->hasChildCalled("OKBUTTON"));
+    EXPECT_TRUE(a->hasChildCalled("TWICE"));
+    EXPECT_FALSE(a->hasChildCalled("static"));
+    EXPECT_TRUE(wnd("TWICE")->hasParentCalled("ScreenList")) << "up to the top, that one included";
+    EXPECT_FALSE(wnd("TWICE")->hasParentCalled("TWICE"));
+    EXPECT_EQ(a->getWndFromIndex(2, "")->getID(), "twice");
+    EXPECT_EQ(a->getWndFromIndex(6, ""), nullptr);
+    EXPECT_EQ(a->getWndFromIndex(0, "nowhere"), nullptr);
+    EXPECT_THROW(a->getWndFromIndex(-1, ""), CInvalidArgException);
+}
+
+TEST_F(TreeTest, OfType)
+{
+    AWnd holder(AWnd::WND_PLAIN, "H", 0, 0, 1, 1);
+    for (AWnd::E_WNDTYPE type : {AWnd::WND_PLAIN, AWnd::WND_BUTTON, AWnd::WND_PLAIN, AWnd::WND_PLAIN})
+        holder.addChildWindow(new AWnd(type, "", 0, 0, 1, 1));
+    EXPECT_EQ(holder.getWndOfType(AWnd::WND_BUTTON, 3, 1), holder.getWndFromIndex(1, ""));
+    EXPECT_EQ(holder.getWndOfType(AWnd::WND_BUTTON, 3, 0), nullptr);
+    EXPECT_EQ(holder.getWndOfType(AWnd::WND_GRAPH, 0, 1), nullptr);
+    holder.showAllControls(-3);
+    EXPECT_FALSE(holder.getWndFromIndex(2, "")->isVisible(0));
+}
+
+TEST_F(TreeTest, FontsComeFromTheHolderOfTheMoment)
+{
+    bmpfont* own = win().getFont(1);
+    AWnd* holder = wnd("A")->addChildWindow(new AWnd(AWnd::WND_PLAIN, "H", 0, 0, 1, 1));
+    EXPECT_EQ(holder->getFont(), win().getFont(0));
+    AWnd* before = holder->addChildWindow(new AWnd(AWnd::WND_PLAIN, "X", 0, 0, 1, 1));
+    holder->setFont(own);
+    EXPECT_EQ(before->getFont(), win().getFont(0)) << "nothing spreads afterwards";
+    EXPECT_EQ(holder->addChildWindow(new AWnd(AWnd::WND_PLAIN, "Y", 0, 0, 1, 1))->getFont(), own);
+}
+
+TEST_F(TreeTest, AWindowInTwoPlacesOutlivesTheScreenThatShowsIt)
+{
+    AWnd* deep = wnd("DEEP");
+    EXPECT_EQ(deep->getParent(), wnd("B"));
+    EXPECT_TRUE(deep->isPointer());
+    destroy("B");
+    EXPECT_EQ(win().getWnd("DEEP", 1), deep) << "its first holder still lists it";
+    EXPECT_EQ(deep->getParent(), nullptr);
+    destroy("DEEP");
+    EXPECT_EQ(win().getWnd("DEEP", 1), nullptr);
+    play("frame 3");
+}
+
+TEST_F(TreeTest, AWindowInTwoPlacesOutlivesItsFirstHolderToo)
+{
+    destroy("A");
+    EXPECT_NE(win().getWnd("DEEP", 1), nullptr) << "B shows it still, and the root owns it";
+}
+
+TEST_F(TreeTest, TabStops)
+{
+    AWnd* a = wnd("A");
+    const struct {
+        const char* name;
+        const char* from;
+        int backwards;
+        const char* disabled;
+        const char* hidden;
+        const char* next;
+    } rows[] = {
+        {"forwards", "P", 0, "", "", "Q"},
+        {"wrapping", "R", 0, "", "", "P"},
+        {"backwards, wrapping", "P", 1, "", "", "R"},
+        {"past a disabled stop", "P", 0, "Q", "", "R"},
+        {"past a hidden stop, back to itself", "P", 0, "Q", "R", "P"},
+        {"from nowhere the first usable one, whatever the direction", "", 1, "P", "", "Q"},
+        {"from a window that is no stop", "OkButton", 0, "", "", "P"},
+        {"none under a hidden holder", "P", 0, "", "A", nullptr},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        AWnd* from = *row.from ? wnd(row.from) : nullptr;
+        if (*row.disabled)
+            wnd(row.disabled)->setEnabled(0);
+        if (*row.hidden)
+            wnd(row.hidden)->setVisible(0);
+        AWnd* next = a->getNextTabStop(from, row.backwards, nullptr);
+        EXPECT_STREQ(next ? static_cast<const char*>(next->getID()) : nullptr, row.next);
+        if (*row.disabled)
+            wnd(row.disabled)->setEnabled(1);
+        if (*row.hidden)
+            wnd(row.hidden)->setVisible(1);
+    }
+    EXPECT_EQ(wnd("B")->getNextTabStop(nullptr, 0, nullptr), nullptr);
+    EXPECT_EQ(wnd("B")->getTabStopInfo(0), nullptr) << "asking makes no record";
+    destroy("Q");
+    EXPECT_EQ(a->getNextTabStop(wnd("P"), 0, nullptr), wnd("R")) << "a deleted stop has dropped out";
+}
+
+TEST_F(TreeTest, APopupThatLosesItsParentOrDiesLeavesNoPointer)
+{
+    AWnd* popup = wnd("B");
+    win().setPopupWnd(popup, wnd("P"), 1);
+    EXPECT_EQ(wnd("P")->getPopupWnd(), popup);
+    destroy("P");
+    EXPECT_EQ(popup->getParent(), nullptr);
+    play("frame");
+    win().setMouseCaptureWnd(wnd("TGX_BACK"));
+    destroy("B");
+    EXPECT_EQ(win().getPopupWndCount(), 0);
+    EXPECT_EQ(win().getMouseCaptureWndCount(), 0);
+    play("move 5 5", "frame 3");
+}
+
+// Every window of both screens, at each step of a sequence that has focus, press, capture, popup, pending list and change.
+TEST_F(TreeTest, AnyWindowMayDieAtAnyMoment)
+{
+    const std::vector<std::string> sequence = {
+        "frame 6",     "move 5 5",    "press left", "frame", "call main setPopupWnd \"B\" \"P\" 1",
+        "release left", "frame",      "move 300 300", "frame", "call main setMouseCaptureWnd R",
+        "frame",       "call main setMouseCaptureWnd null", "change B", "frame 3", "frame 3", "key esc", "frame", "key return",
+        "frame 8",
+    };
+    const std::vector<std::string> ids = {"OkButton", "DEEP", "TWICE", "P", "Q", "R", "TGX_BACK", "A", "B"};
+    for (const std::string& victim : ids) {
+        for (std::size_t at = 0; at < sequence.size(); ++at) {
+            SCOPED_TRACE(victim + " dies before " + sequence[at]);
+            expectMessage("cannot load none.ttf");
+            start();
+            for (std::size_t i = 0; i < sequence.size(); ++i) {
+                if (i == at)
+                    if (AWnd* wnd = win().getWnd(CString(victim), 1))
+                        delete wnd;
+                ASSERT_EQ(checkInvariants(win()), "");
+                // A call about a window that is gone is refused; everything else must go on.
+                if (sequence[i].starts_with("call"))
+                    playWrong(sequence[i]);
+                else
+                    play(sequence[i]);
+            }
+        }
+    }
+}
+
+} // namespace

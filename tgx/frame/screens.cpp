@@ -1,0 +1,189 @@
+#include "platform/display/msgbox.h"
+#include "tgx/frame/mainwin.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int wipeStrip = 40; // pixels that a wipe uncovers a frame
+
+/// Called with each backdrop; the interface's colours would come from it.
+constexpr const char* paletteName = "IntPalEl.BMP";
+
+} // namespace
+
+AScreen* AMainWin::addScreen(const CString& id, int x, int y, int w, int h)
+{
+    if (!screenList)
+        return nullptr;
+    AWnd* screen = createNewWindow(id, x, y, w, h, id);
+    if (!screen)
+        screen = new AScreen(id, x, y, w, h);
+    return static_cast<AScreen*>(screenList->addChildWindow(screen));
+}
+
+AScreen* AMainWin::doChangeScreenSpecial(const CString&)
+{
+    return nullptr;
+}
+
+AScreen* AMainWin::changeScreen(const CString& name, int closeCurrent, unsigned resource, const CString& file)
+{
+    if (!screenList)
+        return nullptr;
+    const AWnd* wanted = screenList->getWnd(name, 1);
+    const bool isOpen = wanted && wanted->getWindowType() == AWnd::WND_SCREEN &&
+                        static_cast<const AScreen*>(wanted)->isOpen();
+    if (!isOpen)
+        setCursor(waitCursor);
+
+    if (!pendingScreen.IsEmpty()) {
+        // The first request wins; the new one is dropped.
+        nextDrawCount = 0;
+        return doChangeScreen();
+    }
+    pendingScreen = name;
+    pendingCloseCurrent = closeCurrent;
+    pendingResource = resource;
+    pendingFile = file;
+    return nullptr;
+}
+
+AScreen* AMainWin::changeScreenFromToolkit(const CString& name)
+{
+    AScreen* reached = changeScreen(name, 1, mainScriptResource, mainScriptName);
+    if (reached && !reached->isOpen())
+        reached->initialise();
+    return reached;
+}
+
+/// A screen that a change can lead to. The one that the change closes for good cannot be its own successor, nor can what
+/// lies inside it.
+AScreen* AMainWin::usableScreen(AWnd* wnd, bool closesCurrent) const
+{
+    if (!wnd || wnd->getWindowType() != AWnd::WND_SCREEN || screenList->isWndToBeDeleted(wnd))
+        return nullptr;
+    if (closesCurrent)
+        for (const AWnd* above = wnd; above; above = above->getParent())
+            if (above == getActiveScreen())
+                return nullptr;
+    return static_cast<AScreen*>(wnd);
+}
+
+AScreen* AMainWin::findOrReadScreen(const CString& name, bool closesCurrent, unsigned resource, const CString& file)
+{
+    AScreen* found = usableScreen(screenList->getWnd(name, 1), closesCurrent);
+    if (!found)
+        found = usableScreen(readScriptFile(file, GetModuleHandleA(nullptr), resource, name, 0), closesCurrent);
+    return found;
+}
+
+AScreen* AMainWin::doChangeScreen()
+{
+    if (!screenList || pendingScreen.IsEmpty())
+        return nullptr;
+    const CString name = pendingScreen;
+    const bool closesCurrent = pendingCloseCurrent != 0;
+    const unsigned resource = pendingResource;
+    const CString file = pendingFile;
+    pendingScreen.Empty();
+
+    // A screen that is not to be had is found out before anything is taken down for it.
+    const WndRef target = findOrReadScreen(name, closesCurrent, resource, file);
+    if (!target) {
+        MsgBox("cannot find screen %s", static_cast<const char*>(name));
+        setCursor(normalCursor);
+        return nullptr;
+    }
+
+    keepListSelection = 0;
+    mouseDownWnd = nullptr;
+    loseFocus();
+    const WndRef current = getActiveScreen();
+    for (int popups = popupWnds.GetSize(); popups > 0; --popups)
+        deletePopupWnd();
+    if (current) {
+        current->close();
+        if (closesCurrent)
+            screenList->addWndToDelete(current);
+        else if (current)
+            static_cast<AScreen*>(current.get())->setOpen(1);
+    }
+    auto* next = static_cast<AScreen*>(target.get());
+    if (!next)
+        return nullptr; // a handler has deleted it meanwhile
+
+    screenList->setActiveScreen(next);
+    if (!closesCurrent && current)
+        next->setCaller(current->getID());
+    else if (!next->isOpen())
+        next->setCaller("");
+    if (!next->isOpen())
+        setCursor(waitCursor);
+
+    if (wipeEnabled && screenWidth >= wipeStrip) {
+        wipeFramesLeft = screenWidth / wipeStrip;
+        wipeSwapsBackdrop = true;
+        wipeReturns = next->isOpen();
+        if (!next->isOpen())
+            next->startup();
+        return static_cast<AScreen*>(target.get());
+    }
+    showBackdropOf(*next);
+    if (next->isOpen())
+        next->returned();
+    else
+        next->startup();
+    redrawScreen();
+    return static_cast<AScreen*>(target.get());
+}
+
+void AMainWin::showBackdropOf(const AScreen& screen)
+{
+    setbackdrop(screen.getBackdropName(), -1);
+    createspecific(paletteName, -1);
+}
+
+// A wipe of a screen 640 wide, frame by frame:
+//   wipeFramesLeft   16 15   14        13 ... 3       2       1
+//   done             nothing backdrop  120 ... 520    whole   whole, returned
+//   then             drawbackdrop, each time
+void AMainWin::screenWipe()
+{
+    const int total = screenWidth / wipeStrip;
+    if (lButtonUp && wipeFramesLeft > 2)
+        wipeFramesLeft = 2; // a click cuts it short
+    const int left = wipeFramesLeft;
+    AScreen* screen = getActiveScreen();
+
+    const bool swaps = wipeSwapsBackdrop && (left <= total - 2 || left == 1);
+    if (swaps) {
+        wipeSwapsBackdrop = false;
+        if (screen)
+            showBackdropOf(*screen);
+    }
+    const bool onlySwaps = swaps && left == total - 2 && left > 1;
+    if (!onlySwaps) {
+        RECT uncovered{0, 0, left > 2 ? screenWidth - left * wipeStrip : screenWidth, screenHeight};
+        adddirtyrect(uncovered);
+        if (left == 1 && screen && wipeReturns)
+            screen->returned();
+    }
+    --wipeFramesLeft;
+    drawbackdrop();
+}
+
+int AMainWin::closeAllScreensExceptCurrent()
+{
+    mouseDownWnd = nullptr;
+    if (!screenList)
+        return 0;
+    for (int i = 0; i < screenList->getWindowCount(); ++i) {
+        AWnd* wnd = screenList->getWndFromIndex(i, "");
+        if (!wnd || wnd->getWindowType() != AWnd::WND_SCREEN || wnd == getActiveScreen())
+            continue;
+        if (static_cast<AScreen*>(wnd)->isOpen())
+            wnd->close();
+    }
+    return 0;
+}

@@ -1,0 +1,157 @@
+// Statements that set something on any window. Flags count by their lowest bit, which the setters see to.
+
+#include "tgx/script/run.h"
+#include "tgx/script/statements.h"
+#include "tgx/wnd/tabstops.h"
+
+namespace {
+
+/// Appends the windows that tokens 1 onwards name, each to be found below target. What stands before a name
+/// that is not found stays.
+bool appendWnds(AWnd& target, const ScriptLine& line, WndList ATabStopInfo::*list)
+{
+    for (int i = 1; i < line.count; ++i) {
+        if (!line.run.spendOnWindowSearch())
+            return false;
+        AWnd* wnd = target.getWnd(line.text(i), 1);
+        if (!wnd)
+            return false;
+        (target.getTabStopInfo(1)->*list).Add(wnd);
+    }
+    return true;
+}
+
+} // namespace
+
+void bmpFile(AWnd& target, const ScriptLine& line)
+{
+    target.setBmpFilename(line.text(1), -1, -1);
+}
+
+void bmpFrame(AWnd& target, const ScriptLine& line)
+{
+    target.setCurrentFrame(line.number(1));
+}
+
+void bmpInfo(AWnd& target, const ScriptLine& line)
+{
+    target.setBmpInfo(line.number(1), line.number(2), line.number(3), line.number(4));
+}
+
+void bmpOffset(AWnd& target, const ScriptLine& line)
+{
+    target.setBmpOffset(line.number(1), line.number(2));
+}
+
+void bmpSource(AWnd& target, const ScriptLine& line)
+{
+    target.setBmpSourceInfo(line.number(1), line.number(2));
+}
+
+void bmpStretch(AWnd& target, const ScriptLine& line)
+{
+    target.setBmpStretch(line.number(1));
+}
+
+void bmpTile(AWnd& target, const ScriptLine& line)
+{
+    target.setBmpTile(line.number(1));
+}
+
+void bmpBlitMode(AWnd& target, const ScriptLine& line)
+{
+    target.setBmpBlitMode(line.number(1));
+}
+
+// Token 4 is the hot border of a list box; on any other window it is not read.
+void border(AWnd& target, const ScriptLine& line)
+{
+    target.setBorder(line.text(1), line.number(2), line.number(3));
+}
+
+void easyClose(AWnd& target, const ScriptLine& line)
+{
+    target.setEasyClose(line.number(1));
+}
+
+void enabled(AWnd& target, const ScriptLine& line)
+{
+    target.setEnabled(line.number(1));
+}
+
+bool font(AWnd& target, const ScriptLine& line)
+{
+    bmpfont* entry = line.window.getFont(line.number(1));
+    if (!entry)
+        return false;
+    target.setFont(entry);
+    return true;
+}
+
+// A word, read by its id; anything else there changes nothing and is no error.
+void justify(AWnd& target, const ScriptLine& line)
+{
+    switch (line.tokens[1].id) {
+    case keyword::left:
+        target.setTextJustify(AWnd::TJ_LEFT);
+        break;
+    case keyword::centre:
+        target.setTextJustify(AWnd::TJ_CENTRE);
+        break;
+    case keyword::right:
+        target.setTextJustify(AWnd::TJ_RIGHT);
+        break;
+    default:
+        break;
+    }
+}
+
+bool tabList1(AWnd& target, const ScriptLine& line)
+{
+    return appendWnds(target, line, &ATabStopInfo::insertDeleteWnds);
+}
+
+bool tabList2(AWnd& target, const ScriptLine& line)
+{
+    return appendWnds(target, line, &ATabStopInfo::homeEndWnds);
+}
+
+bool tabOrder(AWnd& target, const ScriptLine& line)
+{
+    return appendWnds(target, line, &ATabStopInfo::tabOrderWnds);
+}
+
+void text(AWnd& target, const ScriptLine& line)
+{
+    target.setWindowText(line.text(1));
+}
+
+void textCentreV(AWnd& target, const ScriptLine& line)
+{
+    target.setTextCentreV(line.number(1));
+}
+
+void textOffset(AWnd& target, const ScriptLine& line)
+{
+    target.setTextOffset(line.number(1), line.number(2));
+}
+
+void textRaw(AWnd& target, const ScriptLine& line)
+{
+    target.setTextRaw(line.number(1));
+}
+
+void textWrap(AWnd& target, const ScriptLine& line)
+{
+    target.setTextWrap(line.number(1));
+}
+
+void visible(AWnd& target, const ScriptLine& line)
+{
+    target.setVisible(line.number(1));
+}
+
+void wndPos(AWnd& target, const ScriptLine& line)
+{
+    target.setWndPos(line.number(1), line.number(2), line.number(3), line.number(4));
+}

@@ -1,0 +1,62 @@
+// Statements that act on no window: fonts and subroutine calls.
+
+#include "platform/display/msgbox.h"
+#include "platform/system/message.h"
+#include "tgx/script/run.h"
+#include "tgx/script/statements.h"
+
+#include <cstdlib>
+
+namespace {
+
+CFile* findCached(const ScriptLine& line, const CString& script)
+{
+    line.run.spendOnSearch(line.gotoFiles.GetSize());
+    for (CFile* cached : line.gotoFiles)
+        if (CString::equalNoCase(cached->GetFileName().view(), script.view()))
+            return cached;
+    return nullptr;
+}
+
+/// A script file, or the resource whose number script is; an empty stream when there is neither.
+CFile* openInCache(const ScriptLine& line, const CString& script)
+{
+    CFile* stream = line.run.open(script).release();
+    if (!stream) {
+        auto* memory = new CMemFile(1024);
+        line.window.convertResourceToFile(GetModuleHandleA(nullptr), static_cast<unsigned>(std::atoi(script)),
+                                          memory, "TGXScript");
+        stream = memory;
+    }
+    line.gotoFiles.Add(stream);
+    return stream;
+}
+
+CFile* streamOfSubroutine(const ScriptLine& line)
+{
+    const CString& script = line.text(2);
+    if (line.count < 3 || (line.stream && line.stream->GetFileName() == script))
+        return line.stream;
+    CFile* cached = findCached(line, script);
+    return cached ? cached : openInCache(line, script);
+}
+
+} // namespace
+
+bool addFont(const ScriptLine& line)
+{
+    line.window.addNewFont(line.text(1), line.text(2), line.number(3), line.number(4));
+    return true; // a font that cannot be loaded reports itself
+}
+
+bool goTo(const ScriptLine& line)
+{
+    if (!line.run.canCallDeeper())
+        return false;
+    const CString& name = line.text(1);
+    if (line.window.doSubroutine(streamOfSubroutine(line), name, line.current, line.gotoFiles))
+        return true;
+    MessageBoxA(line.window.m_hWnd, "Could not find SUBROUTINE", "ERROR", MB_SYSTEMMODAL);
+    MsgBox("Could not find SUBROUTINE %s", static_cast<const char*>(name));
+    return false;
+}

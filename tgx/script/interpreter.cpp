@@ -1,0 +1,51 @@
+#include "tgx/script/interpreter.h"
+
+#include "tgx/script/run.h"
+
+LineResult executeLine(const ScriptLine& line)
+{
+    constexpr LineResult failed{lineFailed};
+
+    if (line.count < 1)
+        return {};
+    const Statement* statement = statementById(line.tokens[0].id);
+    if (!statement)
+        return failed;
+    if (statement->kind == StatementKind::BlockBegin)
+        return {1};
+    if (statement->kind == StatementKind::BlockEnd)
+        return {-1};
+
+    // A line of too many tokens has a count that no row allows. One level below the stack's last a block may
+    // still hold commands.
+    const bool isCommand = statement->kind == StatementKind::Command;
+    const int maxDepth = isCommand ? wndStackSize : wndStackSize - 1;
+    AWnd* root = line.window.getScreenList();
+    if (!statement->counts.allow(line.count) || !statement->handler || line.depth > maxDepth || !root)
+        return failed;
+
+    AWnd* target = line.current ? line.current : root;
+    AWnd* made = nullptr;
+    if (isCommand)
+        return statement->handler(*target, line, made) ? LineResult{} : failed;
+    if (!statement->target.fits(target->getWindowType()))
+        return statement->target.otherwise == TargetRule::DoesNothing ? LineResult{0, true, nullptr} : failed;
+    if (statement->kind == StatementKind::Window && !line.run.mayGrow(*root, *target))
+        return failed;
+    if (!statement->handler(*target, line, made))
+        return failed;
+    if (made)
+        line.run.countWindow();
+    return {0, true, made};
+}
+
+int AMainWin::processLine(CFile* stream, TOKEN_INFO* tokens, int count, AWnd* current, AWnd** wndStack,
+                          int depth, CArray<CFile*, CFile*>& gotoFiles)
+{
+    ScriptRun::Scope scope(*this, stream ? stream->GetFileName() : CString());
+    const LineResult result =
+        executeLine({*this, scope.run(), stream, tokens, count, current, depth, gotoFiles});
+    if (result.stores)
+        wndStack[depth] = result.made;
+    return result.depthChange;
+}

@@ -1,0 +1,176 @@
+#include "tgx/script/vocabulary.h"
+
+#include "tgx/script/statements.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+
+namespace {
+
+using enum StatementKind;
+
+template<class... Type>
+constexpr std::uint32_t typeMask(Type... each)
+{
+    return (0u | ... | (1u << each));
+}
+constexpr TargetRule any{};
+constexpr TargetRule list{typeMask(AWnd::WND_LISTBOX)};
+constexpr TargetRule listOrElseNothing{typeMask(AWnd::WND_LISTBOX), TargetRule::DoesNothing};
+constexpr TargetRule combo{typeMask(AWnd::WND_COMBOBOX)};
+constexpr TargetRule comboOrElseNothing{typeMask(AWnd::WND_COMBOBOX), TargetRule::DoesNothing};
+constexpr TargetRule listOrCombo{typeMask(AWnd::WND_LISTBOX, AWnd::WND_COMBOBOX)};
+constexpr TargetRule graph{typeMask(AWnd::WND_GRAPH)};
+constexpr TargetRule buttonOrElseNothing{typeMask(AWnd::WND_BUTTON), TargetRule::DoesNothing};
+constexpr TargetRule radioOrElseNothing{typeMask(AWnd::WND_RADIOBUTTON), TargetRule::DoesNothing};
+// The types of AButton and of the classes that derive from it.
+constexpr TargetRule anyButton{typeMask(AWnd::WND_BUTTON, AWnd::WND_RADIOBUTTON, AWnd::WND_COMBOBOX)};
+
+constexpr TokenCounts noLine{};
+constexpr TokenCounts boxCounts = counts(6);
+constexpr TokenCounts textCounts = counts(7, 9, 10);
+constexpr TokenCounts buttonCounts = counts(7, 10, 13, 17, 18);
+constexpr TokenCounts stateCounts = counts(6, 9, 13, 14);
+constexpr TokenCounts barCounts = counts(9);
+
+constexpr const char* boxForm = R"("name" x y width height)";
+constexpr const char* textForm = R"("name" x y width height "text" textX textY "bitmap")";
+constexpr const char* buttonForm =
+    R"("name" x y width height "text" textX textY "bitmap" frameWidth frameHeight delay )"
+    "startupFrames normalFrames hotFrames pressedFrames disabledFrames";
+constexpr const char* stateForm = R"(x y width height "bitmap" frameWidth frameHeight delay )"
+                                  "startupFrames normalFrames hotFrames pressedFrames disabledFrames";
+constexpr const char* barForm = R"("name" x y width height "bitmap" frameWidth frameHeight)";
+constexpr const char* fiveStates = "startup normal hot pressed disabled";
+constexpr const char* justification = "LEFT|CENTRE|RIGHT";
+
+constexpr Statement rows[] = {
+    {14, "BEGIN", BlockBegin, counts(1), ""},
+    {15, "END", BlockEnd, counts(1), ""},
+    {36, "BARGRAPH", Window, boxCounts, boxForm, any},
+    {37, "BITMAP", Window, counts(7, 11),
+     R"("name" x y width height "bitmap" frameWidth frameHeight delay frames)", any, on<bitmap>},
+    {38, "BMPFILE", Attribute, counts(2), R"("bitmap")", any, on<bmpFile>},
+    {39, "BMPFRAME", Attribute, counts(2), "frame", any, on<bmpFrame>},
+    {40, "BMPINFO", Attribute, counts(5), "frameWidth frameHeight delay frames", any, on<bmpInfo>},
+    {41, "BMPOFFSET", Attribute, counts(3), "x y", any, on<bmpOffset>},
+    {42, "BMPSOURCE", Attribute, counts(3), "x y", any, on<bmpSource>},
+    {43, "BORDER", Attribute, counts(4, 5), R"("bitmap" width pieceSize "hotBitmap")", any, on<border>},
+    {44, "BUTTONFPS", Attribute, counts(5, 6), fiveStates, anyButton},
+    {45, "BUTTONFRAMES", Attribute, counts(5, 6), fiveStates, anyButton},
+    {46, "BUTTONLOOP", Attribute, counts(5, 6), fiveStates, anyButton},
+    {47, "BUTTON", Window, buttonCounts, buttonForm, any},
+    {48, "CENTRE", ArgumentWord, noLine, ""},
+    {49, "CHECKBOX", Window, buttonCounts, buttonForm, any},
+    {50, "CHECKBOXSTATE", Window, stateCounts, stateForm, buttonOrElseNothing},
+    {51, "COLUMNS", Attribute, atLeast(1), "width|LEFT|CENTRE|RIGHT ...", list},
+    {52, "COMBOBOX", Window, buttonCounts, buttonForm, any},
+    {53, "COMBOMENU", Window, counts(6), R"(x y width height "bitmap")", any},
+    {54, "COMBONEXT", Window, stateCounts, stateForm, comboOrElseNothing},
+    {55, "COMBOPREV", Window, stateCounts, stateForm, comboOrElseNothing},
+    {56, "COMBOWRAP", Attribute, counts(2), "flag", comboOrElseNothing},
+    {57, "ITEM", Attribute, atLeast(1), R"("text" ...)", listOrCombo},
+    {58, "EASYCLOSE", Attribute, counts(2), "flag", any, on<easyClose>},
+    {59, "EDITBOX", Window, textCounts, textForm, any},
+    {60, "ENABLED", Attribute, counts(2), "flag", any, on<enabled>},
+    {61, "FONT", Attribute, counts(2), "font", any, on<font>},
+    {62, "ADDFONT", Command, counts(4, 5), R"("file" "style" size spacing)", any, on<addFont>},
+    {63, "GOTO", Command, atLeast(1), R"("subroutine" "script")", any, on<goTo>},
+    {64, "GRAPH", Window, boxCounts, boxForm, any},
+    {66, "GRAPHINFO", Attribute, atLeast(1),
+     R"("text1" "text2" xLabelEvery yLabelEvery yGridEvery xGridEvery showEmptyBars)", graph},
+    {68, "COMBODROPS", Attribute, counts(2), "flag", combo},
+    {69, "HSCROLLBAR", Window, barCounts, barForm, any},
+    {71, "JUSTIFY", Attribute, counts(2), justification, any, on<justify>},
+    {72, "KEYBOARD", Window, boxCounts, boxForm, any},
+    {73, "LEFT", ArgumentWord, noLine, ""},
+    {74, "LISTOPTIONS", Attribute, atLeast(1), "zeroAsDash gradualReveal", list},
+    {75, "LINEGRAPH", Window, boxCounts, boxForm, any},
+    {76, "LISTBOX", Window, boxCounts, boxForm, any},
+    {77, "LISTHIGHLIGHT", Attribute, counts(3), R"("selectedBitmap" "hotBitmap")", list},
+    {78, "LISTFONTS", Attribute, atLeast(1), "row1 row2 row3 title", list},
+    {79, "LISTICONS", Attribute, atLeast(1), R"("bitmap" ...)", list},
+    {80, "LISTLOOK", Attribute, atLeast(2), "rowHeight titleShaded cellHighlight", list},
+    {81, "LISTFIXEDCOLUMNS", Attribute, atLeast(1), "column ...", list},
+    {82, "LISTFIXEDROWS", Attribute, atLeast(1), "row ...", list},
+    {83, "POINTER", Window, counts(2, 3), R"("window" "script")", any, on<pointer>},
+    {84, "COMBOBELOW", Attribute, counts(2), "flag", combo},
+    {85, "BUTTONTEXTSHIFT", Attribute, counts(2), "flag", anyButton},
+    {86, "PROGRESSBAR", Window, barCounts, barForm, any},
+    {87, "RADIOBUTTON", Window, buttonCounts, buttonForm, any},
+    {88, "RADIOSTATE", Window, stateCounts, stateForm, radioOrElseNothing},
+    {89, "RIGHT", ArgumentWord, noLine, ""},
+    {90, "SCREEN", Window, counts(7, 8), R"("name" x y width height "backdrop" "extra")", any, on<screen>},
+    {91, "SCROLLBARINFO", Attribute, counts(3), R"("bitmap" width)", listOrElseNothing},
+    {92, "TABLIST1", Attribute, atLeast(2), R"("window" ...)", any, on<tabList1>},
+    {93, "TABLIST2", Attribute, atLeast(2), R"("window" ...)", any, on<tabList2>},
+    {94, "BUTTONCHECK", Attribute, counts(2), "flag", anyButton},
+    {95, "BMPSTRETCH", Attribute, counts(2), "flag", any, on<bmpStretch>},
+    {96, "SUBROUTINE", Definition, counts(2), R"("name")"},
+    {97, "TABCONTROL", Window, boxCounts, boxForm, any},
+    {98, "TABORDER", Attribute, atLeast(2), R"("window" ...)", any, on<tabOrder>},
+    {99, "TEXTWND", Window, textCounts, textForm, any, on<textWnd>},
+    {100, "BMPTILE", Attribute, counts(2), "flag", any, on<bmpTile>},
+    {101, "TITLEBMP", Attribute, counts(2), R"("bitmap")", list},
+    {102, "TITLES", Attribute, atLeast(1), R"("text" ...)", list},
+    {103, "BMPBLITMODE", Attribute, counts(2), "mode", any, on<bmpBlitMode>},
+    {104, "TEXTOFFSET", Attribute, counts(3), "x y", any, on<textOffset>},
+    {105, "TEXT", Attribute, counts(2), R"("text")", any, on<text>},
+    {106, "USERDEF", Window, counts(6, 7), R"("name" x y width height "class")", any, on<userDef>},
+    {107, "TEXTCENTREV", Attribute, counts(2), "flag", any, on<textCentreV>},
+    {108, "TEXTRAW", Attribute, counts(2), "flag", any, on<textRaw>},
+    {109, "VIDIPRINTER", Window, textCounts, textForm, any},
+    {110, "VISIBLE", Attribute, counts(2), "flag", any, on<visible>},
+    {111, "VPROGRESSBAR", Window, barCounts, barForm, any},
+    {112, "VSCROLLBAR", Window, barCounts, barForm, any},
+    {113, "WINDOW", Window, boxCounts, boxForm, any, on<window>},
+    {114, "WNDPOS", Attribute, counts(5), "x y width height", any, on<wndPos>},
+    {115, "TEXTWRAP", Attribute, counts(2), "flag", any, on<textWrap>},
+};
+
+constexpr auto rowsById = [] {
+    std::array<const Statement*, 256> table{};
+    for (const Statement& row : rows)
+        table[static_cast<std::size_t>(row.id)] = &row;
+    return table;
+}();
+
+} // namespace
+
+std::span<const Statement> vocabulary()
+{
+    return rows;
+}
+
+const Statement* statementById(int id)
+{
+    return id >= 0 && id < 256 ? rowsById[static_cast<std::size_t>(id)] : nullptr;
+}
+
+const Statement* statementByKeyword(std::string_view keyword)
+{
+    for (const Statement& row : rows)
+        if (keyword == row.keyword)
+            return &row;
+    return nullptr;
+}
+
+ArgumentKind argumentKind(const Statement& statement, int token)
+{
+    std::string_view form = statement.form;
+    std::string_view argument;
+    for (; token > 0 && !form.empty(); --token) {
+        const std::string_view word = form.substr(0, form.find(' '));
+        form.remove_prefix(std::min(word.size() + 1, form.size()));
+        if (word != "...")
+            argument = word;
+    }
+    if (argument.empty())
+        return ArgumentKind::Number;
+    if (argument[0] == '"')
+        return ArgumentKind::String;
+    if (std::isupper(static_cast<unsigned char>(argument[0])))
+        return ArgumentKind::Word;
+    return argument.find('|') == std::string_view::npos ? ArgumentKind::Number : ArgumentKind::NumberOrWord;
+}

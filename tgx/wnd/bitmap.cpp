@@ -1,0 +1,148 @@
+#include "platform/display/msgbox.h"
+#include "platform/display/surface.h"
+#include "tgx/base/fixed.h"
+#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/wnd.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace {
+
+bool isPackName(std::string_view name)
+{
+    return name.size() >= 4 && CString::equalNoCase(name.substr(name.size() - 4), ".pak");
+}
+
+} // namespace
+
+void AWnd::setBmp(surface* newBmp)
+{
+    if (newBmp == bmp)
+        return;
+    AMainWin* main = getMainWin();
+    if (bmp && main)
+        main->deleteSurface(bmp);
+    bmp = newBmp;
+    if (!bmp)
+        return;
+
+    if (frameWidth <= 0)
+        frameWidth = to16(std::min(width(), int(bmp->width)));
+    if (frameHeight <= 0)
+        frameHeight = to16(std::min(height(), int(bmp->height)));
+    // A bitmap out of a pack is not loaded by name again.
+    bmpFilename = isPackName(bmp->filename) ? CString() : CString(bmp->filename);
+}
+
+void AWnd::setBmp(const CString& name)
+{
+    if (name.IsEmpty())
+        return;
+    AMainWin* main = getMainWin();
+    if (!main)
+        return;
+
+    const CString wanted = name; // it may be this window's own name, which loading changes
+    bmpFilename = wanted;
+    if (!bmp || wanted != bmp->filename)
+        setBmp(main->createsprite(wanted, -1, -1, -1));
+    if (!bmp)
+        MsgBox("cannot load %s", static_cast<const char*>(wanted));
+}
+
+void AWnd::deleteBmp()
+{
+    if (!bmp || isPointer())
+        return;
+    if (AMainWin* main = getMainWin())
+        main->deleteSurface(bmp);
+    bmp = nullptr;
+}
+
+void AWnd::setBmpFilename(const CString& name, int width, int height)
+{
+    bmpFilename = name;
+    frameWidth = to16(width);
+    frameHeight = to16(height);
+}
+
+void AWnd::setBmpInfo(int width, int height, int delay, int count)
+{
+    frameWidth = to16(width);
+    frameHeight = to16(height);
+    frameDelay = to16(delay);
+    frameCount = to16(count);
+}
+
+void AWnd::setBmpOffset(int x, int y)
+{
+    bmpOffsetX = to16(x);
+    bmpOffsetY = to16(y);
+}
+
+void AWnd::setBmpSourceInfo(int x, int y)
+{
+    bmpSourceX = to16(x);
+    bmpSourceY = to16(y);
+}
+
+void AWnd::setCurrentFrame(int frame)
+{
+    currentFrame = to16(frame);
+    if (frameCount == 1)
+        firstFrame = currentFrame;
+}
+
+int AWnd::doNextFrame(int frameStep)
+{
+    if (frameDelay <= 0)
+        return 0;
+    frameTimer = to16(frameTimer + frameStep);
+    if (frameTimer < frameDelay)
+        return 0;
+    frameTimer = 0;
+    return 1;
+}
+
+void AWnd::getStartPosForFrame(int frame, surface* strip, int width, int height, int& x, int& y)
+{
+    const int stride = width + 1;
+    x = stride * frame;
+    y = 0;
+    // Whole frames in a row; a strip too narrow for one, or frames without a width, have no rows to run on in.
+    const int row = stride > 0 ? strip->width / stride * stride : 0;
+    if (row > 0 && x >= row) {
+        y = x / row * (height + 1);
+        x %= row;
+    }
+}
+
+void AWnd::createBkgnd(surface* source, int darken)
+{
+    AMainWin* main = getMainWin();
+    if (!main)
+        return;
+    bkgnd = main->createBkgndSection(source, left(), top(), width(), height(), bkgnd);
+    if (darken)
+        darkenRect(0, 0, width(), height());
+}
+
+int AWnd::darkenRect(int fromX, int fromY, int toX, int toY)
+{
+    AMainWin* main = getMainWin();
+    if (!bkgnd || !main)
+        return 0;
+    const unsigned long black = main->getcol(0);
+    const int startX = std::max(fromX, 0);
+    const int startY = std::max(fromY, 0);
+    const int endX = std::min(toX, int(bkgnd->width));
+    const int endY = std::min(toY, int(bkgnd->height));
+    for (int y = startY; y < endY; ++y) {
+        // Every second pixel, counted from the rectangle's own corner.
+        const int offset = (startX - fromX + y - fromY) & 1;
+        for (int x = startX + offset; x < endX; x += 2)
+            bkgnd->setPixel(x, y, black);
+    }
+    return 1;
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "tgx/export.h"
+
+/// Exported for games that derive from it; the toolkit makes none and reads none.
+class TGX_API ABmpInfo {
+public:
+    ABmpInfo() = default;
+    ABmpInfo(const ABmpInfo&) = default;
+    ABmpInfo& operator=(const ABmpInfo&) = default;
+    virtual ~ABmpInfo() = default;
+};

@@ -1,0 +1,64 @@
+#include "tgx/wnd/border.h"
+
+#include "platform/display/msgbox.h"
+#include "platform/display/surface.h"
+#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/wnd.h"
+
+#include <algorithm>
+
+namespace {
+
+/// The pieces of a strip, clockwise from the top left corner.
+enum Piece { TopLeft, TopEdge, TopRight, RightEdge, BottomRight, BottomEdge, BottomLeft, LeftEdge };
+
+} // namespace
+
+ABorder::ABorder(surface* bmp, int width, int size)
+    : borderWidth(static_cast<short>(width)), borderBmp(bmp), pieceSize(static_cast<short>(size))
+{
+}
+
+void ABorder::draw(int x, int y, int width, int height)
+{
+    const int size = pieceSize;
+    if (!borderBmp || size <= 0)
+        return;
+
+    // skipX, skipY: pixels of the piece that stay away on its left and top.
+    const auto put = [&](Piece piece, int skipX, int skipY, int toX, int toY, int w, int h) {
+        borderBmp->blit(toX, toY, piece * (size + 1) + skipX, skipY, w, h, -1, -1, nullptr, -1);
+    };
+
+    for (int px = x + size; px < x + width - size; px += size) {
+        const int w = std::min(size, x + width - size - px);
+        put(TopEdge, 0, 0, px, y, w, size);
+        put(BottomEdge, 0, 0, px, y + height - size, w, size);
+    }
+    for (int py = y + size; py < y + height - size; py += size) {
+        const int h = std::min(size, y + height - size - py);
+        put(LeftEdge, 0, 0, x, py, size, h);
+        put(RightEdge, 0, 0, x + width - size, py, size, h);
+    }
+
+    // On a window smaller than two pieces each corner shows the part that lies towards the window's own corner.
+    const int w = std::min(size, width / 2);
+    const int h = std::min(size, height / 2);
+    const int skipX = size - w;
+    const int skipY = size - h;
+    put(TopLeft, 0, 0, x, y, w, h);
+    put(TopRight, skipX, 0, x + width - w, y, w, h);
+    put(BottomLeft, 0, skipY, x, y + height - h, w, h);
+    put(BottomRight, skipX, skipY, x + width - w, y + height - h, w, h);
+}
+
+ABorder* AWnd::setBorder(const CString& name, int borderWidth, int pieceSize)
+{
+    surface* strip = nullptr;
+    if (AMainWin* main = getMainWin())
+        strip = main->createsprite(name, -1, -1, -1);
+    if (!strip)
+        MsgBox("cannot load %s", static_cast<const char*>(name));
+    border = std::make_unique<ABorder>(strip, borderWidth, pieceSize);
+    return border.get();
+}

@@ -1,0 +1,148 @@
+#include "tgx/base/swapped.h"
+#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/reserved.h"
+#include "tgx/wnd/wnd.h"
+
+#include <algorithm>
+
+namespace {
+
+template<std::size_t N>
+bool isOneOf(const std::string_view (&ids)[N], std::string_view id)
+{
+    return std::find(std::begin(ids), std::end(ids), id) != std::end(ids);
+}
+
+/// Where Esc puts the pointer: the first of these that is there and enabled.
+constexpr const char* escTargets[] = {"TGX_BACK", "TGX_OK", "TGX_YES", "TGX_CLOSE", "continue"};
+
+/// An Esc search that reaches an edit box clicks it, which sends the key down the tree again: no search inside a search.
+bool escSearchRuns = false;
+
+} // namespace
+
+bool leavesScreen(std::string_view id)
+{
+    static constexpr std::string_view ids[] = {"TGX_EXIT", "TGX_CANCEL", "TGX_BACK", "TGX_CLOSE"};
+    return isOneOf(ids, id);
+}
+
+bool closesPopup(std::string_view id)
+{
+    static constexpr std::string_view ids[] = {"TGX_CLOSE", "TGX_YES", "TGX_NO", "TGX_OK", "TGX_CANCEL"};
+    return isOneOf(ids, id);
+}
+
+void AWnd::initialise()
+{
+    for (int i = 0; i < children.GetSize(); ++i)
+        if (AWnd* next = child(i))
+            next->initialise();
+}
+
+void AWnd::startup()
+{
+    if (anim)
+        anim->reset();
+    AMainWin* main = getMainWin();
+    if (bkgnd && main)
+        createBkgnd(main->getBackdrop(), 0);
+    setBmp(bmpFilename);
+    for (int i = 0; i < children.GetSize(); ++i)
+        if (AWnd* next = child(i))
+            next->startup();
+}
+
+void AWnd::close()
+{
+    for (int i = 0; i < children.GetSize(); ++i)
+        if (AWnd* next = child(i))
+            next->close();
+}
+
+void AWnd::returned()
+{
+    setBmp(bmpFilename);
+    for (int i = 0; i < children.GetSize(); ++i)
+        if (AWnd* next = child(i))
+            next->returned();
+}
+
+void AWnd::finishAnims()
+{
+    for (int i = 0; i < children.GetSize(); ++i)
+        if (AWnd* next = child(i))
+            next->finishAnims();
+}
+
+void AWnd::update() {}
+
+int AWnd::handleLostFocus()
+{
+    return 0;
+}
+
+int AWnd::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
+{
+    if (!isVisible(1))
+        return 0;
+
+    int result = 0;
+    const AMainWin* main = getMainWin();
+    const bool esc = main && main->keyCode == VK_ESCAPE;
+    if (action != MA_KEY && !esc) {
+        if (children.GetSize() > 0)
+            if (AWnd* hit = getWndAtPos(x, y, 0))
+                result = hit->handleMouseAction(about, wnd, x, y, action);
+    } else {
+        for (int i = 0; i < children.GetSize(); ++i)
+            if (AWnd* next = child(i))
+                next->handleMouseAction(about, wnd, x, y, action);
+        // Asked again: a handler may have taken the key, or changed it.
+        if (main && main->keyCode == VK_ESCAPE)
+            putPointerOnCancel();
+    }
+
+    // The handling may have hidden or disabled what it went through.
+    return isEnabled() ? result : 0;
+}
+
+void AWnd::putPointerOnCancel()
+{
+    if (escSearchRuns)
+        return;
+    AWnd* target = nullptr;
+    for (const char* name : escTargets) {
+        target = getWnd(name, 1);
+        if (target && target->isEnabled())
+            break;
+    }
+    if (!target || !target->isEnabled())
+        return;
+    const Swapped<bool> running(escSearchRuns, true);
+    getMainWin()->setMousePosOnWnd(target, 0);
+}
+
+int AWnd::handleKeyInput(char key)
+{
+    for (int i = 0; i < children.GetSize(); ++i)
+        if (AWnd* next = child(i))
+            next->handleKeyInput(key);
+    return handleMouseAction(id, this, -1, -1, MA_KEY);
+}
+
+int AWnd::handlePopupAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
+{
+    if (AWnd* holder = getParent())
+        holder->handlePopupAction(about, wnd, x, y, action);
+    if (action == MA_LBUTTONUP && closesPopup(about.view()) && getPopupWnd())
+        getMainWin()->deletePopupWnd();
+    return 0;
+}
+
+AWnd* AWnd::getPopupWnd() const
+{
+    const AMainWin* main = getMainWin();
+    AWnd* front = main && main->getPopupWndCount() > 0 ? main->getPopupWnd(0) : nullptr;
+    return front && front->getParent() == this ? front : nullptr;
+}

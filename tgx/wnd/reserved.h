@@ -1,0 +1,12 @@
+#pragma once
+
+#include "tgx/export.h"
+
+#include <string_view>
+
+// Ids with a meaning of their own; a script gives them to its buttons. All are compared exactly here.
+
+/// "TGX_EXIT", "TGX_CANCEL", "TGX_BACK", "TGX_CLOSE": a click leaves the screen.
+TGX_API bool leavesScreen(std::string_view id);
+/// "TGX_CLOSE", "TGX_YES", "TGX_NO", "TGX_OK", "TGX_CANCEL": a click closes the popup.
+TGX_API bool closesPopup(std::string_view id);

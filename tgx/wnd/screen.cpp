@@ -1,0 +1,74 @@
+#include "tgx/wnd/screen.h"
+
+#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/reserved.h"
+
+AScreen::AScreen(const CString& name, int x, int y, int width, int height) : AWnd(WND_SCREEN, name, x, y, width, height)
+{
+}
+
+void AScreen::draw(int frameStep)
+{
+    AWnd::draw(frameStep);
+}
+
+void AScreen::initialise()
+{
+    open = 1;
+    AMainWin* main = getMainWin();
+    main->setCursor(main->normalCursor);
+    RECT whole{0, 0, main->screenWidth, main->screenHeight};
+    main->adddirtyrect(whole);
+    AWnd::initialise();
+    main->setMousePosOnNextTabStop(this, nullptr, 0, 0);
+}
+
+void AScreen::startup()
+{
+    AWnd::startup();
+    deselectAllListBoxes(nullptr);
+    getMainWin()->flushMessages();
+}
+
+void AScreen::returned()
+{
+    AWnd::returned();
+    deselectAllListBoxes(nullptr);
+    getMainWin()->setMousePos(savedMouseX, savedMouseY, 0);
+}
+
+void AScreen::close()
+{
+    const AMainWin* main = getMainWin();
+    setSavedMousePos(main->mouseX, main->mouseY);
+    open = 0;
+    AWnd::close();
+}
+
+void AScreen::exitScreen()
+{
+    if (!caller.IsEmpty())
+        getMainWin()->changeScreenFromToolkit(caller);
+}
+
+int AScreen::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
+{
+    AWnd::handleMouseAction(about, wnd, x, y, action);
+
+    const AWnd* closeButton = getWnd("TGX_CLOSE", 1);
+    if (closeButton && !closeButton->isEnabled())
+        canExit = 0;
+    if (action != MA_LBUTTONUP && action != MA_RBUTTONUP)
+        return 0;
+    if (!wnd)
+        return 0;
+    if (wnd->getID() == id)
+        deselectOwnListBoxes();
+    if (!canExit || !leavesScreen(wnd->getID().view()))
+        return 0;
+    exitScreen();
+    return 1;
+}
+
+/// A click on the screen's own background clears the lists that lie directly on it, not those deeper down.
+void AScreen::deselectOwnListBoxes() {}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "tgx/wnd/screen.h"
+
+/// The root of the tree. Its children are the screens and the other top-level windows, popups among them.
+class TGX_API AScreenList : public AWnd {
+public:
+    AScreenList();
+    ~AScreenList() override;
+
+    AScreen* getActiveScreen() const { return static_cast<AScreen*>(activeScreen.get()); }
+    int getActiveScreenIndex() const { return activeScreenIndex; }
+    /// Null: none is active.
+    void setActiveScreen(AScreen* screen);
+
+    /// Marks wnd: it counts as gone, and is deleted at the end of the next dispatched input tick. Not owned. 1.
+    int addWndToDelete(AWnd* wnd);
+    /// 1 for a marked window and all inside it. They can still be found in the tree, so whoever finds one by name asks here.
+    int isWndToBeDeleted(AWnd* wnd) const;
+    /// Deletes the marked windows that are direct children, last first; the others only lose their mark. 1.
+    int deleteWndsPendingDelete();
+    int getWndsToDeleteCount() const { return wndsToDelete.GetSize(); }
+
+protected:
+    short activeScreenIndex = 0; // windowIndex of the active screen
+    WndRef activeScreen;
+    WndList wndsToDelete;
+};

@@ -1,0 +1,234 @@
+#include "platform/display/ddwin.h"
+#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/border.h"
+#include "tgx/wnd/links.h"
+#include "tgx/wnd/tabstops.h"
+#include "tgx/wnd/wnd.h"
+
+#include <algorithm>
+
+namespace {
+
+bmpfont* defaultFont()
+{
+    AMainWin* main = getMainWin();
+    return main ? main->getFont(0) : nullptr;
+}
+
+} // namespace
+
+AWnd::AWnd(E_WNDTYPE type, const CString& name, int x, int y, int width, int height)
+    : wndX_(static_cast<short>(x)), wndY_(static_cast<short>(y)), wndWidth(static_cast<short>(width)),
+      wndHeight(static_cast<short>(height)), font(defaultFont()), windowType(type),
+      id(name == "static" ? CString() : name)
+{
+}
+
+AWnd::~AWnd()
+{
+    tabStopInfo.reset();
+    border.reset();
+    anim.reset();
+    while (children.GetSize() > 0) {
+        AWnd* last = child(children.GetSize() - 1);
+        children.RemoveAt(children.GetSize() - 1);
+        if (!last)
+            continue;
+        if (last->links && last->links->listedTwice)
+            unlist(last);
+        if (last->owner == this) {
+            last->owner = nullptr; // it need not look for itself in a list that is going away
+            delete last;
+        } else if (last->parent == this) {
+            last->parent = nullptr;
+        }
+    }
+    if (links) {
+        while (links->ownedElsewhere.GetSize() > 0) {
+            AWnd* owned = links->ownedElsewhere[links->ownedElsewhere.GetSize() - 1];
+            links->ownedElsewhere.RemoveAt(links->ownedElsewhere.GetSize() - 1);
+            if (owned->owner == this)
+                delete owned;
+        }
+        for (int i = 0; i < links->holders.GetSize(); ++i)
+            links->holders[i]->unlist(this);
+        for (WndList* list : links->lists)
+            list->drop(this);
+    }
+    if (owner)
+        owner->unlist(this);
+    while (refs)
+        refs->detach();
+    LayoutVersion::bump();
+}
+
+AWnd::Links& AWnd::getLinks()
+{
+    if (!links)
+        links = std::make_unique<Links>();
+    return *links;
+}
+
+bool AWnd::lists(const AWnd* wnd) const
+{
+    return std::find(children.begin(), children.end(), wnd) != children.end();
+}
+
+void AWnd::unlist(AWnd* listed)
+{
+    for (int i = children.GetSize() - 1; i >= 0; --i)
+        if (child(i) == listed)
+            children.RemoveAt(i);
+}
+
+void AWnd::inheritFont()
+{
+    const AWnd* holder = parent;
+    if (holder && holder->font && font == defaultFont())
+        font = holder->font;
+}
+
+AWnd* AWnd::addChildWindow(AWnd* added)
+{
+    if (added->owner == this || (added->links && added->links->holders.contains(this)))
+        added->getLinks().listedTwice = true;
+
+    children.Add(added);
+    added->windowIndex = static_cast<short>(children.GetSize() - 1);
+    added->parent = this;
+    added->inheritFont();
+    if (added->owner != this) {
+        added->leaveOwner();
+        added->owner = this;
+    }
+    LayoutVersion::bump();
+    return added;
+}
+
+void AWnd::setParentAndIndex(AWnd* newParent, int index)
+{
+    parent = newParent;
+    windowIndex = static_cast<short>(index);
+    inheritFont();
+    LayoutVersion::bump();
+}
+
+// Who lists this window and does not own it any more must hear of its end all the same.
+void AWnd::leaveOwner()
+{
+    if (owner && owner->lists(this) && !getLinks().holders.contains(owner))
+        links->holders.Add(owner);
+    owner = nullptr;
+}
+
+void AWnd::setOwner(AWnd* newOwner)
+{
+    if (owner == newOwner)
+        return;
+    leaveOwner();
+    owner = newOwner;
+    if (newOwner && !newOwner->lists(this))
+        newOwner->getLinks().ownedElsewhere.Add(this);
+}
+
+void AWnd::setID(const CString& newId)
+{
+    id = newId;
+}
+
+int AWnd::isPointer() const
+{
+    const AMainWin* main = getMainWin();
+    const AWnd* root = main ? main->getScreenList() : nullptr;
+    for (const AWnd* wnd = this; wnd && wnd != root; wnd = wnd->owner)
+        if (wnd->pointerCount > 0)
+            return 1;
+    return 0;
+}
+
+AWnd* AWnd::getWnd(const CString& name, int recursive)
+{
+    for (int i = 0; i < children.GetSize(); ++i) {
+        AWnd* candidate = child(i);
+        if (!candidate)
+            continue;
+        if (CString::equalNoCase(candidate->id.view(), name.view()))
+            return candidate;
+        if (recursive && candidate->children.GetSize() > 0)
+            if (AWnd* deeper = candidate->getWnd(name, recursive))
+                return deeper;
+    }
+    return nullptr;
+}
+
+// The vocabulary's typed look-ups: every control derives from AWnd alone, so its address is the window's.
+AButton* AWnd::getButton(const CString& name, int recursive)
+{
+    return reinterpret_cast<AButton*>(getWnd(name, recursive));
+}
+
+AListBox* AWnd::getListBox(const CString& name, int recursive)
+{
+    return reinterpret_cast<AListBox*>(getWnd(name, recursive));
+}
+
+AWnd* AWnd::getWndFromIndex(int index, const CString& parentId)
+{
+    AWnd* holder = parentId.IsEmpty() ? this : getWnd(parentId, 1);
+    if (!holder || index >= holder->children.GetSize())
+        return nullptr;
+    return holder->children.GetAt(index);
+}
+
+AWnd* AWnd::getWndOfType(E_WNDTYPE type, int start, int wrap)
+{
+    const int count = children.GetSize();
+    const auto firstOfType = [&](int from, int end) -> AWnd* {
+        for (int i = from; i < end; ++i) {
+            AWnd* candidate = children.GetAt(i);
+            if (candidate && candidate->windowType == type)
+                return candidate;
+        }
+        return nullptr;
+    };
+    AWnd* found = firstOfType(start, count);
+    if (!found && wrap && start > 0)
+        found = firstOfType(0, std::min(start, count));
+    return found;
+}
+
+int AWnd::hasChildCalled(const CString& name) const
+{
+    for (const AWnd* candidate : children)
+        if (candidate && (candidate->id == name || candidate->hasChildCalled(name)))
+            return 1;
+    return 0;
+}
+
+int AWnd::hasParentCalled(const CString& name) const
+{
+    for (const AWnd* wnd = getParent(); wnd; wnd = wnd->getParent())
+        if (wnd->id == name)
+            return 1;
+    return 0;
+}
+
+void AWnd::showAllControls(int show)
+{
+    for (AWnd* control : children)
+        if (control)
+            control->setVisible(show);
+}
+
+void AWnd::deselectAllListBoxes(AWnd* except)
+{
+    for (AWnd* wnd : children)
+        if (wnd)
+            wnd->deselectAllListBoxes(except);
+}
+
+void AWnd::setSavedMousePos(int x, int y)
+{
+    savedMouseX = static_cast<short>(x);
+    savedMouseY = static_cast<short>(y);
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "tgx/export.h"
+
+#include <vector>
+
+class AWnd;
+
+/// A pointer to a window that owns nothing and empties itself when the window is deleted. Three words and no allocation:
+/// the refs to one window are linked through themselves.
+class TGX_API WndRef {
+public:
+    WndRef() = default;
+    WndRef(AWnd* target) { attach(target); }
+    WndRef(const WndRef& other) { attach(other.wnd); }
+    WndRef& operator=(const WndRef& other) { return *this = other.wnd; }
+    WndRef& operator=(AWnd* other)
+    {
+        if (wnd != other) {
+            detach();
+            attach(other);
+        }
+        return *this;
+    }
+    ~WndRef() { detach(); }
+
+    operator AWnd*() const { return wnd; }
+    AWnd* operator->() const { return wnd; }
+    AWnd* get() const { return wnd; }
+
+private:
+    friend class AWnd;
+    void attach(AWnd* target);
+    void detach();
+
+    AWnd* wnd = nullptr;
+    WndRef* next = nullptr;
+    WndRef** link = nullptr; // what points at this ref
+};
+
+/// A list of windows that owns none of them. A window that is deleted drops out of it wherever it stands. Indexes are checked
+/// as in CArray.
+class TGX_API WndList {
+public:
+    WndList() = default;
+    WndList(const WndList&) = delete;
+    WndList& operator=(const WndList&) = delete;
+    ~WndList() { RemoveAll(); }
+
+    int GetSize() const { return static_cast<int>(entries.size()); }
+    bool IsEmpty() const { return entries.empty(); }
+    AWnd* GetAt(int index) const;
+    AWnd* operator[](int index) const { return GetAt(index); }
+    int Add(AWnd* wnd)
+    {
+        InsertAt(GetSize(), wnd);
+        return GetSize() - 1;
+    }
+    void InsertAt(int index, AWnd* wnd);
+    void RemoveAt(int index);
+    void RemoveAll();
+    bool contains(const AWnd* wnd) const;
+    /// Place of the first entry that is wnd, or -1.
+    int find(const AWnd* wnd) const;
+
+private:
+    friend class AWnd;
+    void drop(const AWnd* wnd); // a window that is deleted, from all its places
+
+    std::vector<AWnd*> entries;
+};

@@ -1,0 +1,87 @@
+#include "tgx/wnd/wrap.h"
+
+#include "platform/display/bmpfont.h"
+#include "platform/framework/znfixed.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+// Width of the text in front of each character, so that the width of any part is one subtraction.
+std::vector<long long> widthBefore;
+
+constexpr std::size_t shortText = 20; // characters; longer texts get more space between their lines
+constexpr int wideFactor = 6553;      // 1.6
+
+} // namespace
+
+TextWrap::TextWrap(std::string_view wrapped, const bmpfont* with, int boxWidth, int boxHeight)
+    : text(wrapped), font(with), width(boxWidth), height(boxHeight), lineHeight(with ? with->lineHeight : 0),
+      factor(wrapped.size() > shortText ? wideFactor : ZnFixed::one)
+{
+    widthBefore.resize(text.size() + 1);
+    long long sum = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        widthBefore[i] = sum;
+        sum += font ? font->advance(static_cast<unsigned char>(text[i])) : 0;
+    }
+    widthBefore[text.size()] = sum;
+}
+
+int TextWrap::widthOf(std::size_t from, std::size_t end) const
+{
+    return end > from ? static_cast<int>(widthBefore[end] - widthBefore[from]) : 0;
+}
+
+int TextWrap::topFrom(int y) const
+{
+    return static_cast<int>((y * 4096LL + static_cast<long long>(lineHeight) * factor * lineCount) / 4096);
+}
+
+bool TextWrap::next()
+{
+    const long count = static_cast<long>(text.size());
+    if (full || scan >= count)
+        return false;
+    const long start = nextStart;
+    lineStart = static_cast<std::size_t>(start);
+
+    while (true) {
+        bool breakHere = false;
+        bool twoCharacters = false;
+        const char here = text[static_cast<std::size_t>(scan)];
+        if (scan > 0 && here == ' ' && text[static_cast<std::size_t>(scan - 1)] != ' ') {
+            lastBreak = scan;
+        } else if (here == '\n') {
+            breakHere = true;
+        } else if (here == '\\' && scan + 1 < count && text[static_cast<std::size_t>(scan + 1)] == 'n') {
+            breakHere = true;
+            twoCharacters = true;
+        }
+        const bool fits = widthOf(lineStart, static_cast<std::size_t>(std::max(scan, start))) <= width;
+        if (fits && scan < count - 1 && !breakHere) {
+            ++scan;
+            continue;
+        }
+
+        if (scan < count - 1) {
+            if (breakHere)
+                lastBreak = scan;
+            else if (lastBreak < start) // no blank on this line: the word is cut, and a character lost as a blank would be
+                lastBreak = --scan;
+            lineEnd = static_cast<std::size_t>(std::max(lastBreak, start));
+            nextStart = lastBreak + 1;
+            scan = lastBreak + 2;
+            if (breakHere && twoCharacters)
+                ++nextStart;
+        } else {
+            lineEnd = text.size();
+            scan = count;
+        }
+        nextStart = std::min(nextStart, count);
+        ++lineCount;
+        full = lineHeight * (lineCount + 2) > height;
+        return true;
+    }
+}

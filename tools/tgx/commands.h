@@ -1,0 +1,11 @@
+#pragma once
+
+namespace CLI {
+class App;
+}
+
+// Each adds one subcommand to the program. Its callback ends with exit status 0, or throws CLI::RuntimeError
+// with another: 1 the input is at fault, 2 the call is.
+void addBuild(CLI::App& app);
+void addDump(CLI::App& app);
+void addPlay(CLI::App& app);

@@ -1,0 +1,30 @@
+#include "tools/tgx/commands.h"
+#include "tools/tgx/files.h"
+#include "tools/tgx/script_text.h"
+
+#include <CLI/CLI.hpp>
+
+#include <memory>
+
+void addDump(CLI::App& app)
+{
+    struct DumpOptions {
+        std::string input;
+        std::string output = "-";
+    };
+    CLI::App* command = app.add_subcommand("dump", "Print a compiled script in text form");
+    auto options = std::make_shared<DumpOptions>();
+    command->add_option("input", options->input, "Compiled script; - for stdin")
+        ->required()
+        ->type_name("IN.tgx");
+    command->add_option("-o,--output", options->output, "Text; stdout if not given")->type_name("OUT.tgs");
+    command->footer(
+        std::string("Example: tgx dump game/UIG/menu.tgx -o menu.tgs\n\n"
+                    "Every file has a text form, and tgx build makes the same bytes of it again.\n\n") +
+        script_text::notation);
+    command->callback([options] {
+        const std::optional<std::string> bytes = readInput(options->input);
+        if (!bytes || !writeOutput(options->output, script_text::print(*bytes)))
+            throw CLI::RuntimeError(1);
+    });
+}
