@@ -13,7 +13,8 @@ std::vector<std::span<const Operation>>& gameOperations()
 std::vector<std::span<const Operation>> allOperations()
 {
     std::vector<std::span<const Operation>> families = gameOperations();
-    families.insert(families.end(), {mainWinOperations, ddwinOperations, screenOperations, wndOperations});
+    families.insert(families.end(),
+                    {mainWinOperations, ddwinOperations, screenOperations, controlOperations, wndOperations});
     return families;
 }
 
@@ -86,7 +87,7 @@ void addOperations(std::span<const Operation> rows)
 AWnd* findWindow(AMainWin& win, const std::string& id)
 {
     AScreenList* root = win.getScreenList();
-    if (!root || id.empty()) // an empty id would find the first window that has none
+    if (!root)
         return nullptr;
     if (AWnd* wnd = root->getWnd(CString(id), 1))
         return wnd;

@@ -1,5 +1,6 @@
 #include "player/events.h"
 
+#include "platform/framework/exceptions.h"
 #include "platform/host/headless_host.h"
 #include "platform/host/image_file.h"
 #include "player/calls.h"
@@ -168,9 +169,10 @@ const struct EventRow {
     std::size_t fewest, most; // words behind the name
     void (*run)(const Event& event);
     std::string_view form;
+    std::string_view place = "the event"; // where an invalid argument came up, for its reason
 } eventRows[] = {
-    {"frame", 0, 1, frame, "frame [N]"},
-    {"tick", 0, 1, tick, "tick [N]"},
+    {"frame", 0, 1, frame, "frame [N]", "a tick"},
+    {"tick", 0, 1, tick, "tick [N]", "a tick"},
     {"draw", 0, 1, draw, "draw [N]"},
     {"move", 2, 2, move, "move X Y"},
     {"press", 1, 1, press, "press left|right|middle"},
@@ -181,8 +183,8 @@ const struct EventRow {
     {"type", 1, 1, type, "type \"TEXT\""},
     {"hold", 1, 1, hold, "hold NAME"},
     {"lift", 1, 1, lift, "lift NAME"},
-    {"change", 1, 2, change, "change NAME [close]"},
-    {"exit", 0, 0, exit, "exit"},
+    {"change", 1, 2, change, "change NAME [close]", "the screen change"},
+    {"exit", 0, 0, exit, "exit", "the exit"},
     {"call", 2, std::numeric_limits<std::size_t>::max(), call, "call TARGET OPERATION ARG ..."},
     {"shot", 1, 1, shot, "shot FILE.png"},
     {"tree", 1, 1, tree, "tree FILE.json"},
@@ -204,7 +206,11 @@ void runEvent(Player& player, std::span<const Word> words, int line)
         if (arguments < row.fewest || arguments > row.most)
             throw WrongLine("expected " + std::string(row.form) + ", found " + std::to_string(arguments) +
                             (arguments == 1 ? " word behind " : " words behind ") + name);
-        row.run({player, *player.getMainWin(), player.getHost().input(), words, line});
+        try {
+            row.run({player, *player.getMainWin(), player.getHost().input(), words, line});
+        } catch (const CInvalidArgException&) {
+            throw WrongLine("invalid argument in " + std::string(row.place));
+        }
         return;
     }
     std::string suggestion = suggest(name, names);

@@ -3,6 +3,7 @@
 #include "player/export.h"
 #include "player/json.h"
 #include "player/words.h"
+#include "tgx/controls/button.h"
 #include "tgx/frame/mainwin.h"
 
 #include <concepts>
@@ -87,6 +88,8 @@ template<>
 inline constexpr int lastOf<AWnd::E_MOUSEACTION> = AWnd::MA_KEY;
 template<>
 inline constexpr int lastOf<AWnd::E_TEXTJUSTIFY> = AWnd::TJ_RIGHT;
+template<>
+inline constexpr int lastOf<AButton::E_BUTTON_STATE> = AButton::BS_DISABLED;
 
 template<class T>
 requires std::is_enum_v<T>
@@ -122,8 +125,10 @@ struct Kind<CString> {
     static const char* describe() { return "text"; }
     static int distance(const CallArgument& argument)
     {
-        return argument.number || argument.fixed ? far
-                                                 : exact; // a number is text only where nothing else fits
+        // A number is text only where nothing else fits, and null rather means no window.
+        if (argument.number || argument.fixed)
+            return far;
+        return argument.isNull ? close : exact;
     }
     static CString read(const CallArgument& argument) { return CString(argument.word.text); }
 };

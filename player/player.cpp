@@ -111,7 +111,8 @@ void Player::draw(int count)
 std::string Player::outputPath(const std::string& name) const
 {
     fs::path relative = fs::path(name).lexically_normal();
-    if (!relative.has_filename() || relative.is_absolute() || *relative.begin() == "..")
+    const bool hasZero = name.find('\0') != std::string::npos; // the system would end the name there
+    if (hasZero || !relative.has_filename() || relative.is_absolute() || *relative.begin() == "..")
         throw WrongLine("cannot write " + quote(name) + ": not a file name below the output directory");
     fs::path path = fs::path(options.outDirectory) / relative;
     std::error_code error; // a folder that cannot be made shows when the file is opened
@@ -151,8 +152,6 @@ std::optional<std::string> Player::runLine(std::string_view line, int number)
         runEvent(*this, splitWords(line), number);
     } catch (const WrongLine& wrong) {
         return wrong.what();
-    } catch (const CInvalidArgException&) {
-        return "invalid argument in a tick";
     }
     return std::nullopt;
 }

@@ -1,5 +1,9 @@
 #include "player/json.h"
 #include "player/reports.h"
+#include "tgx/controls/editbox.h"
+#include "tgx/controls/radiobutton.h"
+#include "tgx/controls/scrollbar.h"
+#include "tgx/controls/tabcontrol.h"
 #include "tgx/frame/mainwin.h"
 
 #include <cstdlib>
@@ -47,8 +51,37 @@ void screenFields(JsonWriter& json, const AScreen& screen)
         .field("backdrop", screen.getBackdropName().view());
 }
 
+void buttonFields(JsonWriter& json, const AButton& button)
+{
+    json.field("state", button.getButtonState()).field("selected", button.getSelected());
+}
+
+void radioButtonFields(JsonWriter& json, const ARadioButton& button)
+{
+    json.field("linked", button.getLinkedButtonsCount(0));
+}
+
+void tabControlFields(JsonWriter& json, const ATabControl& control)
+{
+    json.field("tabCount", control.getTabCount());
+}
+
+void scrollBarFields(JsonWriter& json, const AScrollBar& bar)
+{
+    json.field("percentage", bar.getPercentage().raw)
+        .field("step", bar.getStep().raw)
+        .field("leverHeld", bar.getLeverHeld());
+}
+
+void editBoxFields(JsonWriter& json, const AEditBox& box)
+{
+    json.field("cursor", box.getCursorPos()).field("password", box.getIsPassword());
+}
+
 constexpr ClassFields classFields[] = {
-    fieldsOf<AScreen, screenFields>(),
+    fieldsOf<AScreen, screenFields>(),           fieldsOf<AButton, buttonFields>(),
+    fieldsOf<ARadioButton, radioButtonFields>(), fieldsOf<ATabControl, tabControlFields>(),
+    fieldsOf<AScrollBar, scrollBarFields>(),     fieldsOf<AEditBox, editBoxFields>(),
 };
 
 void writeWindow(JsonWriter& json, AMainWin& win, AWnd& wnd)

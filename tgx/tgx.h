@@ -4,6 +4,11 @@
 
 #include "platform/display/msgbox.h"
 #include "tgx/base/numtext.h"
+#include "tgx/controls/button.h"
+#include "tgx/controls/editbox.h"
+#include "tgx/controls/radiobutton.h"
+#include "tgx/controls/scrollbar.h"
+#include "tgx/controls/tabcontrol.h"
 #include "tgx/frame/app.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/anim.h"

@@ -3,7 +3,9 @@
 #include "platform/export.h"
 #include "platform/framework/cstring.h"
 
+#include <algorithm>
 #include <array>
+#include <climits>
 #include <cstdint>
 #include <memory>
 #include <string_view>
@@ -37,13 +39,21 @@ public:
 
     /// Pixels from this character's pen position to the next one's, spacing included.
     int advance(unsigned char character) const { return advances[character]; }
-    /// Sum of the advances.
+    /// Sum of the advances; one that an int does not hold is INT_MAX.
     int stringLength(std::string_view text) const
     {
-        int length = 0;
+        std::int64_t length = 0;
         for (unsigned char character : text)
             length += advances[character];
-        return length;
+        return static_cast<int>(std::min<std::int64_t>(length, INT_MAX));
+    }
+    /// Pixels that all characters take in memory.
+    long long pixelCount() const
+    {
+        long long count = 0;
+        for (const Glyph& character : glyphs)
+            count += static_cast<long long>(character.pixels.size());
+        return count;
     }
     const Glyph& glyph(unsigned char character) const { return glyphs[character]; }
     /// Place in the font table.

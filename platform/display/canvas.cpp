@@ -120,5 +120,6 @@ void Canvas::endFrame()
         present();
     std::swap(running, last);
     isPresented = false;
+    surfaces.endFrame();
     beginList();
 }

@@ -84,7 +84,8 @@ public:
     /// Null when the picture cannot be loaded. The other arguments are -1.
     surface* createsprite(const char* name, int a, int b, long c);
     /// A surface that holds a copy of that rectangle of source; what lies outside source is black. old, if
-    /// not null, is reused and returned. Null for a null source.
+    /// not null, is reused and returned. For a null source, or a section that is too large, old is empty, 0
+    /// by 0; without old the result is null.
     surface* createBkgndSection(surface* source, int x, int y, int w, int h, surface* old);
     /// Releases a surface of this window; null and foreign ones are passed over. 1, or 0 for those.
     int deleteSurface(surface* released);

@@ -90,12 +90,7 @@ void ddwin::textout(int x, int y, const char* text, bmpfont* font, IDirectDrawSu
 
 int ddwin::getStringLength(const char* text, bmpfont* font)
 {
-    if (!text || !font)
-        return 0;
-    int length = 0;
-    for (const char* at = text; *at; at++)
-        length += font->advance(static_cast<unsigned char>(*at));
-    return length;
+    return text && font ? font->stringLength(text) : 0;
 }
 
 void ddwin::setbackdrop(unsigned long colour)
@@ -132,15 +127,18 @@ surface* ddwin::createsprite(const char* name, int, int, long)
 
 surface* ddwin::createBkgndSection(surface* source, int x, int y, int w, int h, surface* old)
 {
-    if (!source)
-        return nullptr;
     canvas->settleSize();
+    surface* made = old && canvas->surfaces.owns(old) ? old : nullptr;
+    const ImageRef image = source ? source->getImage() : nullptr; // kept: old may be the source
+    if (made)
+        made->setImage(makeImage(0, 0), CString()); // gives room
     const int width = std::clamp(w, 0, limits::imageSide);
     const int height = std::clamp(h, 0, limits::imageSide);
-    if (static_cast<long long>(width) * height > limits::imagePixels)
-        return nullptr;
+    const long long pixels = static_cast<long long>(width) * height;
+    if (!source || pixels > limits::imagePixels || livePixelCount() + pixels > limits::livePixels)
+        return made;
     ImageRef section = makeImage(width, height);
-    if (const ImageRef& image = source->getImage()) {
+    if (image) {
         const Box part = clipped(-std::int64_t(x), -std::int64_t(y), std::int64_t(image->width) - x,
                                  std::int64_t(image->height) - y, {0, 0, section->width, section->height});
         for (int row = part.y0; row < part.y1 && !part.isEmpty(); row++)
@@ -149,7 +147,8 @@ surface* ddwin::createBkgndSection(surface* source, int x, int y, int w, int h, 
         section->hasAlphaChannel = image->hasAlphaChannel;
         settleCoverage(*section);
     }
-    surface* made = old && canvas->surfaces.owns(old) ? old : canvas->surfaces.make(this);
+    if (!made)
+        made = canvas->surfaces.make(this);
     made->setImage(std::move(section), CString());
     return made;
 }
@@ -172,7 +171,10 @@ int ddwin::addNewFont(CString file, CString style, int size, int spacing)
         return -1;
     }
     std::unique_ptr<bmpfont> font = loadFontFile(file.view(), parseFontStyle(style.view()), size, spacing);
-    if (!font) {
+    long long glyphPixels = font ? font->pixelCount() : 0;
+    for (const auto& entry : fonts)
+        glyphPixels += entry->pixelCount();
+    if (!font || glyphPixels > limits::glyphPixels) {
         MsgBox("cannot load %s", static_cast<const char*>(file));
         font = std::make_unique<bmpfont>(*fonts.front());
     }

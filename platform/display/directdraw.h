@@ -12,6 +12,7 @@ struct IDirectDraw2 {};
 struct IDirectDrawClipper {};
 struct IDirectDrawPalette {};
 
+/// A surface of the display: the back buffer, or what is shown.
 struct TGX_PLATFORM_API IDirectDrawSurface {
     explicit IDirectDrawSurface(ddwin* owner = nullptr);
     ~IDirectDrawSurface();

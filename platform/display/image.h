@@ -44,5 +44,7 @@ constexpr std::uint32_t keyColour = 0xFF00FF;
 TGX_PLATFORM_API ImageRef makeImage(int width, int height);
 /// A copy with a fresh id.
 TGX_PLATFORM_API ImageRef copyImage(const Image& image);
+/// Pixels of all images that makeImage and copyImage have given out and that are still there.
+TGX_PLATFORM_API long long livePixelCount();
 /// Works out coverage from the alphas.
 TGX_PLATFORM_API void settleCoverage(Image& image);

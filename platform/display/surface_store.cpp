@@ -1,8 +1,11 @@
 #include "platform/display/surface_store.h"
 
 #include "platform/host/image_file.h"
+#include "platform/limits.h"
+#include "platform/system/datadir.h"
 
-#include <algorithm>
+#include <optional>
+#include <sys/stat.h>
 
 SurfaceStore::~SurfaceStore()
 {
@@ -17,25 +20,54 @@ ImageRef SurfaceStore::load(std::string_view name)
         if (ImageRef image = found->second.lock(); image && image->version == 0)
             return image;
     }
-    ImageRef image = loadImageFile(name);
-    if (image)
-        remember(name, image);
-    return image;
+    return decode(name);
 }
 
 ImageRef SurfaceStore::loadAnew(std::string_view name)
 {
     if (isReloadingAll)
         return load(name);
-    ImageRef image = loadImageFile(name);
-    if (image)
+    failures.clear();
+    return decode(name);
+}
+
+ImageRef SurfaceStore::decode(std::string_view name)
+{
+    constexpr std::size_t failuresAtMost = 4096;
+    const std::optional<std::string> path = findDataFile(name);
+    struct stat status;
+    if (!path || ::stat(path->c_str(), &status) != 0)
+        return nullptr;
+    Failure file{status.st_size,
+                 {status.st_mtim.tv_sec, status.st_mtim.tv_nsec},
+                 {status.st_ctim.tv_sec, status.st_ctim.tv_nsec}};
+    const auto hasNoRoomFor = [](long long pixels) { return livePixelCount() + pixels > limits::livePixels; };
+    if (const auto known = failures.find(*path); known != failures.end() && known->second.isOf(file)) {
+        const long long room = known->second.room;
+        if (room > 0 && hasNoRoomFor(room))
+            fresh.clear();
+        if (room == 0 || hasNoRoomFor(room))
+            return nullptr;
+    }
+    ImageRef image = loadImageFile(name, &file.room);
+    if (!image && file.room > 0 && !fresh.empty()) {
+        fresh.clear();
+        image = loadImageFile(name, &file.room);
+    }
+    if (image) {
         remember(name, image);
-    return image;
+        return image;
+    }
+    if (failures.size() >= failuresAtMost)
+        failures.clear();
+    failures.insert_or_assign(*path, file);
+    return nullptr;
 }
 
 void SurfaceStore::remember(std::string_view name, const ImageRef& image)
 {
     image->name = name;
+    fresh.push_back(image);
     if (images.size() >= pruneAt) {
         std::erase_if(images, [](const auto& entry) { return entry.second.expired(); });
         pruneAt = std::max<std::size_t>(64, images.size() * 2);
@@ -46,6 +78,8 @@ void SurfaceStore::remember(std::string_view name, const ImageRef& image)
 void SurfaceStore::reloadAll()
 {
     images.clear();
+    failures.clear();
+    fresh.clear();
     isReloadingAll = true;
     for (surface* owned : surfaces)
         if (*owned->filename)

@@ -2,10 +2,13 @@
 
 #include "platform/display/surface.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+#include <vector>
 
 /// The surfaces of a window, and the pixels of the files that they hold: surfaces of one name share them.
 class SurfaceStore {
@@ -15,12 +18,15 @@ public:
     SurfaceStore(const SurfaceStore&) = delete;
     SurfaceStore& operator=(const SurfaceStore&) = delete;
 
-    /// Pixels of a file, as they are in the file. Decoded once while any surface holds them. Null when it
-    /// cannot be loaded.
+    /// Pixels of a file, as they are in the file. Decoded once while any surface holds them, and within a
+    /// frame. Null when it cannot be loaded; a file that failed is not decoded again until it changes or is
+    /// loaded anew.
     ImageRef load(std::string_view name);
     /// The same, decoded anew, once for each name while reloadAll runs.
     ImageRef loadAnew(std::string_view name);
     void reloadAll();
+    /// Lets go of what was loaded and dropped again within the frame.
+    void endFrame() { fresh.clear(); }
 
     /// A new surface, owned here.
     surface* make(ddwin* window);
@@ -34,10 +40,26 @@ private:
         using is_transparent = void;
         std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
     };
+    /// A file as it was when it failed.
+    struct Failure {
+        std::int64_t size = 0;
+        std::int64_t modified[2] = {}; // seconds and nanoseconds
+        std::int64_t changed[2] = {};
+        long long room = 0; // pixels that it needs; 0 for a broken file
+
+        bool isOf(const Failure& file) const
+        {
+            return size == file.size && std::equal(modified, modified + 2, file.modified) &&
+                   std::equal(changed, changed + 2, file.changed);
+        }
+    };
+    ImageRef decode(std::string_view name);
     void remember(std::string_view name, const ImageRef& image);
 
     std::unordered_set<surface*> surfaces;
     std::unordered_map<std::string, std::weak_ptr<Image>, TextHash, std::equal_to<>> images;
-    std::size_t pruneAt = 64; // entries at which those whose image is gone are looked for
+    std::unordered_map<std::string, Failure> failures; // by path
+    std::vector<ImageRef> fresh; // loaded since the frame began: pictures named in turn are decoded once
+    std::size_t pruneAt = 64;    // entries at which those whose image is gone are looked for
     bool isReloadingAll = false;
 };

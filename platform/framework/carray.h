@@ -4,8 +4,8 @@
 
 #include <vector>
 
-/// A growable array with every index checked: one outside raises CInvalidArgException and changes nothing. ARG is
-/// the type by which elements are handed in.
+/// A growable array with every index checked: one outside raises CInvalidArgException and changes nothing.
+/// ARG is the type by which elements are handed in.
 template<class T, class ARG = const T&>
 class CArray {
 public:
@@ -36,7 +36,10 @@ public:
         return GetUpperBound();
     }
     /// Inserts in front of index, which may be the size.
-    void InsertAt(int index, ARG value) { items.insert(items.begin() + checked(index, GetSize() + 1), value); }
+    void InsertAt(int index, ARG value)
+    {
+        items.insert(items.begin() + checked(index, GetSize() + 1), value);
+    }
     void RemoveAt(int index, int count = 1)
     {
         if (count < 0 || index < 0 || index > GetSize() - count)

@@ -20,7 +20,7 @@ std::string_view withoutDirectory(std::string_view name)
 }
 
 /// Reads until the end rather than to the size that the file claims: what counts is what is there.
-std::optional<std::string> readUpToLimit(int descriptor, std::size_t claimed)
+std::optional<std::string> readUpToLimit(int descriptor, std::size_t claimed, bool& tooLarge)
 {
     std::string bytes;
     std::size_t filled = 0;
@@ -36,14 +36,16 @@ std::optional<std::string> readUpToLimit(int descriptor, std::size_t claimed)
         if (count == 0)
             break;
         filled += static_cast<std::size_t>(count);
-        if (filled > limits::fileBytes)
+        if (filled > limits::fileBytes) {
+            tooLarge = true;
             return std::nullopt;
+        }
     }
     bytes.resize(filled);
     return bytes;
 }
 
-std::optional<std::string> readRegularFile(const std::string& path)
+std::optional<std::string> readRegularFile(const std::string& path, bool& tooLarge)
 {
     // Not blocking, so that a pipe put in the file's place cannot hold the game up before it is seen to be
     // one. The last component is no link: a path that the data directory gives out has its links resolved.
@@ -52,9 +54,11 @@ std::optional<std::string> readRegularFile(const std::string& path)
         return std::nullopt;
     struct stat status;
     std::optional<std::string> bytes;
-    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
-        static_cast<std::size_t>(status.st_size) <= limits::fileBytes)
-        bytes = readUpToLimit(descriptor, static_cast<std::size_t>(status.st_size));
+    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)) {
+        tooLarge = static_cast<std::size_t>(status.st_size) > limits::fileBytes;
+        if (!tooLarge)
+            bytes = readUpToLimit(descriptor, static_cast<std::size_t>(status.st_size), tooLarge);
+    }
     ::close(descriptor);
     return bytes;
 }
@@ -64,12 +68,13 @@ std::optional<std::string> readRegularFile(const std::string& path)
 int CFile::Open(const char* name, unsigned, void*)
 {
     Close();
+    tooLarge = false;
     if (!name)
         return 0;
     const std::optional<std::string> path = findDataFile(name);
     if (!path)
         return 0;
-    std::optional<std::string> read = readRegularFile(*path);
+    std::optional<std::string> read = readRegularFile(*path, tooLarge);
     if (!read)
         return 0;
     share(name, std::make_shared<const std::string>(std::move(*read)));

@@ -7,8 +7,9 @@
 #include <memory>
 #include <string_view>
 
-/// A file open for reading. Opening reads the whole file, so that Seek costs nothing and a file that changes while it
-/// is read does no harm. Names are those of the data directory (platform/system/datadir.h): backslashes, any case.
+/// A file open for reading. Opening reads the whole file, so that Seek costs nothing and a file that changes
+/// while it is read does no harm. Names are those of the data directory (platform/system/datadir.h):
+/// backslashes, any case.
 class TGX_PLATFORM_API CFile {
 public:
     enum OpenFlags { modeRead = 0 };
@@ -19,9 +20,12 @@ public:
     CFile(const CFile&) = delete;
     CFile& operator=(const CFile&) = delete;
 
-    /// 1 when the file is open, 0 when there is none of that name, it is no regular file, or it is larger than
-    /// limits::fileBytes. exception is there for the vocabulary and is not used.
+    /// 1 when the file is open, 0 when there is none of that name, it is no regular file, or it is larger
+    /// than limits::fileBytes. exception is there for the vocabulary and is not used.
     int Open(const char* name, unsigned flags = modeRead, void* exception = nullptr);
+    /// The last Open found the file, but it is larger than limits::fileBytes: not missing, and worth a
+    /// report.
+    bool wasTooLarge() const { return tooLarge; }
     /// Moves the position; it is held between 0 and the length. The new position.
     unsigned Seek(long offset, unsigned from = begin);
     /// Copies up to count bytes. The number of bytes copied, 0 at the end.
@@ -33,7 +37,8 @@ public:
     /// The name without its directory, as it was given to Open; empty for a memory file.
     const CString& GetFileName() const { return fileName; }
 
-    /// All bytes, in place. Valid while the file is open and, for a file that Open read, while keepAlive() is held.
+    /// All bytes, in place. Valid while the file is open and, for a file that Open read, while keepAlive() is
+    /// held.
     std::string_view bytes() const { return contents; }
     /// Shares the ownership of bytes(); null for attached memory.
     std::shared_ptr<const void> keepAlive() const { return storage; }
@@ -45,6 +50,9 @@ protected:
     std::size_t position = 0;
     std::shared_ptr<const std::string> storage;
     CString fileName;
+
+private:
+    bool tooLarge = false;
 };
 
 /// A file that reads a block of memory which it does not own.

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-/// A counted string of 8-bit characters (code page 1252). It may hold any byte, 0 included; what reads it through
-/// the character pointer sees it up to the first 0.
+/// A counted string of 8-bit characters (code page 1252). It may hold any byte, 0 included; what reads it
+/// through the character pointer sees it up to the first 0.
 class TGX_PLATFORM_API CString {
 public:
     CString() = default;
@@ -68,7 +68,10 @@ public:
         return *this;
     }
 
-    friend CString operator+(const CString& a, const CString& b) { return CString(a.characters + b.characters); }
+    friend CString operator+(const CString& a, const CString& b)
+    {
+        return CString(a.characters + b.characters);
+    }
     friend CString operator+(const CString& a, const char* b) { return a + CString(b); }
     friend CString operator+(const char* a, const CString& b) { return CString(a) + b; }
     friend bool operator==(const CString& a, const CString& b) { return a.characters == b.characters; }

@@ -105,10 +105,13 @@ void loadCharacter(TTF_Font& from, unsigned char character, const FontStyle& sty
         return;
     font.advances[character] =
         static_cast<std::int16_t>(std::clamp(advance + spacing, 0, 8 * limits::fontPixels));
-    SdlPixels rendered(TTF_RenderGlyph32_Blended(&from, code, SDL_Color{255, 255, 255, 255}));
     // A font may claim any size for a character; one far larger than the others is left blank.
-    if (!rendered || rendered->format->BytesPerPixel != 4 || rendered->w > 4 * size ||
-        rendered->h > 4 * size || std::abs(minX) > 2 * size)
+    const int most = 2 * size;
+    if (std::int64_t(maxX) - minX > most || std::int64_t(maxY) - minY > most || minX < -most ||
+        maxX > 2 * most)
+        return;
+    SdlPixels rendered(TTF_RenderGlyph32_Blended(&from, code, SDL_Color{255, 255, 255, 255}));
+    if (!rendered || rendered->format->BytesPerPixel != 4 || rendered->w > 2 * most || rendered->h > 2 * most)
         return;
     // A picture begins at the pen, or further left by what reaches out of it.
     font.glyphs[character] = paintedGlyph(inkOf(*rendered, std::max(0, -minX)), style);
@@ -127,7 +130,8 @@ std::unique_ptr<bmpfont> loadFontFile(std::string_view name, const FontStyle& st
     if (!stream)
         return nullptr;
     const std::unique_ptr<TTF_Font, CloseFont> from(TTF_OpenFontRW(stream, 1, size));
-    if (!from)
+    // Every character is rendered on a picture of the font's own height.
+    if (!from || TTF_FontHeight(from.get()) > 4 * size)
         return nullptr;
     TTF_SetFontHinting(from.get(), TTF_HINTING_LIGHT);
     TTF_SetFontStyle(from.get(), (style.bold ? TTF_STYLE_BOLD : 0) | (style.italic ? TTF_STYLE_ITALIC : 0));

@@ -56,13 +56,16 @@ void copyIndexed(SDL_Surface& from, Image& to)
     }
 }
 
-ImageRef decodeWithSdl(std::string_view bytes, PictureKind kind)
+ImageRef decodeWithSdl(std::string_view bytes, const PictureHeader& header)
 {
     SDL_RWops* stream = SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
     if (!stream)
         return nullptr;
-    SdlPixels decoded(IMG_LoadTyped_RW(stream, 1, typeName(kind)));
-    if (!decoded || decoded->w > limits::imageSide || decoded->h > limits::imageSide)
+    SdlPixels decoded(IMG_LoadTyped_RW(stream, 1, typeName(header.kind)));
+    // The decoder reads the header by itself: what it made must be what was allowed. A GIF's first picture
+    // may be smaller than its screen.
+    if (!decoded || decoded->w > header.width || decoded->h > header.height ||
+        (header.kind != PictureKind::Gif && (decoded->w < header.width || decoded->h < header.height)))
         return nullptr;
     ImageRef image = makeImage(decoded->w, decoded->h);
     if (decoded->format->BitsPerPixel == 8) {
@@ -91,19 +94,26 @@ void applyKeyColour(Image& image)
 
 } // namespace
 
-ImageRef loadImageFile(std::string_view name)
+ImageRef loadImageFile(std::string_view name, long long* room)
 {
+    if (room)
+        *room = 0;
     CFile file;
     if (!file.Open(std::string(name).c_str()))
         return nullptr;
     const PictureHeader header = readPictureHeader(file.bytes());
     if (header.kind == PictureKind::Unknown || !isAllowed(header))
         return nullptr;
+    if (livePixelCount() + header.width * header.height > limits::livePixels) {
+        if (room)
+            *room = header.width * header.height;
+        return nullptr;
+    }
     ImageRef image;
     if (header.kind == PictureKind::Bmp) {
         image = decodeBmp(file.bytes());
     } else {
-        image = decodeWithSdl(file.bytes(), header.kind);
+        image = decodeWithSdl(file.bytes(), header);
         if (image)
             image->hasAlphaChannel = header.hasAlpha;
     }

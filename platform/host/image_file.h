@@ -8,8 +8,9 @@
 
 /// Decodes a picture of the data directory: BMP, PNG, JPEG, GIF or PCX, known by its first bytes, its size
 /// checked against limits before it is decoded. Null when it is missing, of another kind, too large or
-/// broken.
-TGX_PLATFORM_API ImageRef loadImageFile(std::string_view name);
+/// broken, or when there is no room for it: room, if not null, then takes the pixels that it needs, and 0
+/// otherwise.
+TGX_PLATFORM_API ImageRef loadImageFile(std::string_view name, long long* room = nullptr);
 
 /// Writes a picture as PNG, without alpha, whole or not at all. path is one of the machine, not of the data
 /// directory.

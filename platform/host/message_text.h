@@ -12,5 +12,6 @@ TGX_PLATFORM_API std::string oneLine(std::string_view message);
 /// "message: TEXT" to stderr.
 void printMessage(std::string_view message);
 
-/// The text of the one box for the messages of a frame: the first 20, and how many there were besides.
+/// The text of the one box for the messages of a frame: the first 20, each cut to 200 characters, and how
+/// many there were besides.
 TGX_PLATFORM_API std::string boxText(const std::vector<std::string>& messages);

@@ -11,18 +11,22 @@ namespace {
 
 void readPng(const ByteReader& file, PictureHeader& header)
 {
-    if (file.bytes.substr(12, 4) != "IHDR"sv)
+    constexpr std::size_t firstChunkEnd = 33; // signature, then the chunk that holds the size
+    if (file.bytes.size() < firstChunkEnd || file.bytes.substr(12, 4) != "IHDR"sv)
         return;
-    header.width = file.u32Big(16);
-    header.height = file.u32Big(20);
     const std::uint32_t colourType = file.u8(25);
     header.hasAlpha = colourType == 4 || colourType == 6;
     // Chunks: length, name, contents, checksum. Transparent colours come before the pixels.
-    for (std::size_t at = 8; at + 12 <= file.bytes.size();) {
+    bool hasPixels = false;
+    for (std::size_t at = firstChunkEnd; at + 8 <= file.bytes.size();) {
         const std::string_view name = file.bytes.substr(at + 4, 4);
-        if (name == "IDAT"sv)
+        if (name == "IEND"sv) { // a file cut short lacks it
+            header.width = file.u32Big(16);
+            header.height = file.u32Big(20);
             return;
-        if (name == "tRNS"sv)
+        }
+        hasPixels = hasPixels || name == "IDAT"sv;
+        if (name == "tRNS"sv && !hasPixels)
             header.hasAlpha = true;
         at += std::size_t(12) + file.u32Big(at);
     }
@@ -39,13 +43,14 @@ void readJpeg(const ByteReader& file, PictureHeader& header)
             at++;
             continue;
         }
-        if (mark == 0xDA) // pixels come before any size: broken
+        // 00 is no mark, and pixels (DA) do not come before any size: broken.
+        if (mark == 0x00 || mark == 0xDA)
             return;
         // C0 to CF are frames, but for tables (C4), a reserved one (C8) and arithmetic conditioning (CC).
         if (mark >= 0xC0 && mark <= 0xCF && mark != 0xC4 && mark != 0xC8 && mark != 0xCC) {
             // The decoder fills up what a file cut short lacks; a whole file has its end mark.
-            if (file.bytes.rfind("\xFF\xD9"sv) == std::string_view::npos ||
-                file.bytes.rfind("\xFF\xD9"sv) < at)
+            const std::size_t end = file.bytes.rfind("\xFF\xD9"sv);
+            if (end == std::string_view::npos || end < at)
                 return;
             header.height = file.u16Big(at + 5);
             header.width = file.u16Big(at + 7);
@@ -56,14 +61,30 @@ void readJpeg(const ByteReader& file, PictureHeader& header)
     }
 }
 
+// Bytes of a table of colours, as flags announce it.
+std::size_t gifTable(std::uint32_t flags)
+{
+    return flags & 0x80 ? std::size_t(3) << ((flags & 7) + 1) : 0;
+}
+
+// Where a chain of blocks ends, each its length and as many bytes: at the empty one, or behind the file.
+std::size_t gifChainEnd(const ByteReader& file, std::size_t at)
+{
+    while (file.u8(at) != 0)
+        at += 1 + file.u8(at);
+    return at;
+}
+
 // The first picture's own size; what says how it shows through stands before it.
 void readGif(const ByteReader& file, PictureHeader& header)
 {
-    const std::uint32_t flags = file.u8(10);
-    std::size_t at = 13 + (flags & 0x80 ? std::size_t(3) << ((flags & 7) + 1) : 0);
+    std::size_t at = 13 + gifTable(file.u8(10));
     while (at < file.bytes.size()) {
         const std::uint32_t block = file.u8(at);
         if (block == 0x2C) {
+            // The decoder fills up what a file cut short lacks; pixels that are all there have their end.
+            if (gifChainEnd(file, at + 11 + gifTable(file.u8(at + 9))) >= file.bytes.size())
+                return;
             header.width = std::max(file.u16(at + 5), file.u16(6));
             header.height = std::max(file.u16(at + 7), file.u16(8));
             if (file.u16(at + 5) == 0 || file.u16(at + 7) == 0)
@@ -74,10 +95,7 @@ void readGif(const ByteReader& file, PictureHeader& header)
             return;
         if (file.u8(at + 1) == 0xF9)
             header.hasAlpha = file.u8(at + 3) & 1;
-        at += 2;
-        while (file.u8(at) != 0)
-            at += 1 + file.u8(at);
-        at++;
+        at = gifChainEnd(file, at + 2) + 1;
     }
 }
 

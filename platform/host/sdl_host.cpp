@@ -110,7 +110,8 @@ bool SdlHost::startVideo()
 bool SdlHost::createWindow()
 {
     Uint32 flags = SDL_WINDOW_RESIZABLE;
-    if (game->fullScreen && !isSetInEnvironment("TGX_WINDOWED")) {
+    const bool isFullScreen = game->fullScreen && !isSetInEnvironment("TGX_WINDOWED");
+    if (isFullScreen) {
         flags |= SDL_WINDOW_FULLSCREEN_DESKTOP;
         if (game->topMost)
             flags |= SDL_WINDOW_ALWAYS_ON_TOP;
@@ -118,7 +119,11 @@ bool SdlHost::createWindow()
     int width = std::max<int>(game->screenWidth, 1);
     int height = std::max<int>(game->screenHeight, 1);
     SDL_Rect desktop;
-    if (SDL_GetDisplayUsableBounds(0, &desktop) == 0 && (width > desktop.w || height > desktop.h)) {
+    if (isFullScreen && SDL_GetDisplayBounds(0, &desktop) == 0) {
+        // Large from the start: without a window manager nobody makes it so.
+        width = desktop.w;
+        height = desktop.h;
+    } else if (SDL_GetDisplayUsableBounds(0, &desktop) == 0 && (width > desktop.w || height > desktop.h)) {
         const ScreenFit shrunk = ScreenFit::of(width, height, desktop.w, desktop.h);
         width = shrunk.w;
         height = shrunk.h;

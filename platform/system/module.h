@@ -21,8 +21,8 @@ TGX_PLATFORM_API HGLOBAL LoadResource(HINSTANCE module, HRSRC resource);
 TGX_PLATFORM_API const void* LockResource(HGLOBAL loaded);
 TGX_PLATFORM_API unsigned SizeofResource(HINSTANCE module, HRSRC resource);
 
-/// Enters a resource into the executable for as long as the object lives. tgx_embed_scripts writes one of these for
-/// each script. Not owned: bytes and type must outlive the object.
+/// Enters a resource into the executable for as long as the object lives. tgx_embed_scripts writes one of
+/// these for each script. Not owned: bytes and type must outlive the object.
 class TGX_PLATFORM_API EmbeddedResource {
 public:
     EmbeddedResource(const char* type, unsigned id, const unsigned char* bytes, std::size_t size);

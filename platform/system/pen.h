@@ -6,7 +6,8 @@
 
 class ddwin;
 
-/// A device context of the back buffer: lines that go through it are recorded like every other drawing operation.
+/// A device context of the back buffer: lines that go through it are recorded like every other drawing
+/// operation.
 using HDC = struct DeviceContext*;
 using HGDIOBJ = struct GdiObject*;
 using HPEN = HGDIOBJ;

@@ -2,7 +2,8 @@
 
 #include <utility>
 
-/// Puts another value into a variable for as long as the object lives, and the old one back however the block is left.
+/// Puts another value into a variable for as long as the object lives, and the old one back however the block
+/// is left.
 template<class T>
 class Swapped {
 public:

@@ -19,7 +19,8 @@ extern TGX_API int gInterfaceSound;
 class TGX_API AControlsApp : public CWinApp {
 public:
     /// Becomes pApp. program and company say where settings are kept; without a program none are kept.
-    explicit AControlsApp(const CString& program = "", const CString& company = "", const CString& version = "");
+    explicit AControlsApp(const CString& program = "", const CString& company = "",
+                          const CString& version = "");
     ~AControlsApp() override;
 
     /// Runs mainWin until it is closed. The exit status for main.

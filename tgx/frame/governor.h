@@ -4,10 +4,12 @@
 
 #include <cstdint>
 
-/// Works out how many animation ticks a frame stands for, so that animations keep their speed whatever the frame rate.
+/// Works out how many animation ticks a frame stands for, so that animations keep their speed whatever the
+/// frame rate.
 class TGX_API FrameGovernor {
 public:
-    /// Ticks for a frame drawn at now, milliseconds: 0 to skip, 1, or more to catch up. Stores the measured rate.
+    /// Ticks for a frame drawn at now, milliseconds: 0 to skip, 1, or more to catch up. Stores the measured
+    /// rate.
     int stepFor(std::uint32_t now, int targetFPS);
     /// The next frame is measured from now on.
     void frameStarted(std::uint32_t now) { lastDrawTime = now; }

@@ -1,7 +1,7 @@
 #include "tgx/base/fixed.h"
+#include "tgx/controls/button.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/tabstops.h"
-
 
 namespace {
 
@@ -21,8 +21,8 @@ void loseFocusFrom(AWnd* wnd)
 
 } // namespace
 
-// One tick. A window that the handlers delete drops out of the refs held here; one that they only mark lives on until the end
-// of the tick.
+// One tick. A window that the handlers delete drops out of the refs held here; one that they only mark lives
+// on until the end of the tick.
 void AMainWin::OnMouseAction()
 {
     if (!screenList)
@@ -44,7 +44,8 @@ void AMainWin::OnMouseAction()
     const WndRef target = inputTarget();
     if (screenList->isWndToBeDeleted(target))
         return;
-    if (!screen || !screen->isVisible(1) || !getActiveScreen()->isOpen() || screenList->isWndToBeDeleted(screen)) {
+    if (!screen || !screen->isVisible(1) || !getActiveScreen()->isOpen() ||
+        screenList->isWndToBeDeleted(screen)) {
         ddwin::OnMouseAction();
         return;
     }
@@ -92,6 +93,8 @@ AWnd* AMainWin::inputTarget() const
     return getActiveScreen();
 }
 
+/// The first input that is there, in this order. A key may be spent here, on an edit box or on a move to a
+/// tab stop.
 AWnd::E_MOUSEACTION AMainWin::chooseAction(AWnd* target)
 {
     if (lButtonDown)
@@ -124,11 +127,11 @@ AWnd::E_MOUSEACTION AMainWin::chooseAction(AWnd* target)
         return AWnd::MA_WHEELUP;
     if (keyCode == 0 && keyCode2 == 0)
         return AWnd::MA_MOVE;
-    return moveToTabStop(target) ? AWnd::MA_MOVE : AWnd::MA_KEY;
+    return takeKey(target) ? AWnd::MA_MOVE : AWnd::MA_KEY;
 }
 
 /// Whether the key has moved the pointer. A key that is typed into an edit box goes there instead.
-bool AMainWin::moveToTabStop(AWnd* target)
+bool AMainWin::takeKey(AWnd* target)
 {
     const bool typing = isOfType(target, AWnd::WND_EDITBOX);
     if (typing && keyCode != VK_TAB) {
@@ -138,7 +141,8 @@ bool AMainWin::moveToTabStop(AWnd* target)
     if (keyCode != VK_TAB && keyCode != VK_LEFT && keyCode != VK_RIGHT)
         return false;
     const bool backwards = keyCode == VK_LEFT || (keyCode == VK_TAB && keyDown[VK_SHIFT]);
-    AWnd* root = typing ? getActiveWnd() : target; // Tab leaves an edit box for the next stop of its screen or popup
+    AWnd* root =
+        typing ? getActiveWnd() : target; // Tab leaves an edit box for the next stop of its screen or popup
     return setMousePosOnNextTabStop(root, curFocusWnd, backwards, 0) != 0;
 }
 
@@ -170,7 +174,8 @@ void AMainWin::dispatch(AWnd* to, AWnd::E_MOUSEACTION action)
     WndRef about = curFocusWnd;
     int x = mouseX;
     int y = mouseY;
-    if (action == AWnd::MA_KEY) {
+    const bool isKey = action == AWnd::MA_KEY;
+    if (isKey) {
         about = keyWindow(target);
         x = y = -1;
     } else {
@@ -188,10 +193,11 @@ void AMainWin::dispatch(AWnd* to, AWnd::E_MOUSEACTION action)
     if (!target || !target->getNotifyParent())
         return;
     if (AWnd* parent = target->getParent())
-        parent->handlePopupAction(id, about, mouseX, mouseY, action);
+        parent->handlePopupAction(id, about, isKey ? mouseX : x, isKey ? mouseY : y, action);
 }
 
-/// Where Home, End, Insert and Delete go: the first window of the target's list for them, if that is one that takes keys.
+/// Where Home, End, Insert and Delete go: the first window of the target's list for them, if that is one that
+/// takes keys.
 AWnd* AMainWin::keyWindow(AWnd* target) const
 {
     const auto isKey = [this](VirtualKey key) { return keyDown[key] || keyCode2 == key; };
@@ -282,12 +288,13 @@ int AMainWin::setMousePosOnWnd(AWnd* wnd, int jump)
     return 1;
 }
 
-int AMainWin::setMousePosOnNextTabStop(AWnd* root, AWnd* from, int backwards, int jump)
+int AMainWin::setMousePosOnNextTabStop(AWnd* below, AWnd* from, int backwards, int jump)
 {
-    if (!root)
-        return 0;
-    const auto stopCount = [root] {
-        const ATabStopInfo* stops = root->getTabStopInfo(0);
+    const WndRef root = below;
+    if (isOfType(from, AWnd::WND_BUTTON))
+        static_cast<AButton*>(from)->setButtonState(AButton::BS_NORMAL);
+    const auto stopCount = [&root] {
+        const ATabStopInfo* stops = root ? root->getTabStopInfo(0) : nullptr;
         return stops ? stops->tabOrderWnds.GetSize() : 0;
     };
     for (int pass = 0; pass < stopCount(); ++pass) {
@@ -302,6 +309,7 @@ int AMainWin::setMousePosOnNextTabStop(AWnd* root, AWnd* from, int backwards, in
             return 1;
         from = next;
     }
-    setMousePosOnWnd(root, jump);
+    if (root)
+        setMousePosOnWnd(root, jump);
     return 0;
 }

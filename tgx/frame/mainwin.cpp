@@ -57,7 +57,7 @@ int AMainWin::startup()
     setbackdrop(0);
     if (darkWnd || !screenList)
         return 1;
-    readScriptFile(commonScriptName, GetModuleHandleA(nullptr), noResource, "DARKWND", 0);
+    readScriptFile(commonScriptFile, GetModuleHandleA(nullptr), noResource, "DARKWND", 0);
     darkWnd = screenList->getWnd("DARKWND", 1);
     if (darkWnd)
         darkWnd->startup();
@@ -72,11 +72,9 @@ AWnd* AMainWin::createNewWindow(const CString&, int, int, int, int, const CStrin
 void AMainWin::drawscreen()
 {
     if (exitRequested) {
-        exitProgram();
+        completeExit();
         return;
     }
-    if (!screenList)
-        return;
 
     frameStep = governor.stepFor(timeGetTime(), targetFPS);
     governor.frameStarted(timeGetTime());
@@ -102,13 +100,14 @@ void AMainWin::drawPopups()
     for (int i = popupWnds.GetSize() - 1; i >= 0; --i) {
         if (i >= popupWnds.GetSize())
             continue;
-        AWnd* popup = popupWnds[i];
+        const WndRef popup = popupWnds[i];
         if (!dimmed && !popup->isEasyClose()) {
             dimmed = true;
             if (darkWnd)
                 darkWnd->draw(frameStep);
         }
-        popup->draw(frameStep);
+        if (popup)
+            popup->draw(frameStep);
     }
 }
 
@@ -128,12 +127,14 @@ void AMainWin::countTowardsChange()
         next->initialise();
 }
 
+/// Called from handlers, inside the tree: nothing is deleted under them, however often they ask.
 void AMainWin::exitProgram()
 {
-    if (!exitRequested) {
-        exitRequested = true;
-        return;
-    }
+    exitRequested = true;
+}
+
+void AMainWin::completeExit()
+{
     if (!screenList)
         return;
     g_Connection.Close();
@@ -146,7 +147,12 @@ void AMainWin::exitProgram()
 
 void AMainWin::recreateScreenList()
 {
-    // What points into the tree empties itself with the windows.
+    darkWnd = nullptr;
+    popupWnds.RemoveAll();
+    mouseCaptureWnds.RemoveAll();
+    prevFocusWnd = nullptr;
+    curFocusWnd = nullptr;
+    mouseDownWnd = nullptr;
     screenList.reset();
     screenList = std::make_unique<AScreenList>();
     focusWndHotTime = 0;

@@ -12,18 +12,11 @@
 
 class ScriptRun;
 
-/// The game's main window: root of the window tree, frame loop, screens and popups, input, and the interface script. The game
-/// derives from it and replaces startup (to read its main script), drawscreen, OnMouseAction, OnKeyInput, createNewWindow,
-/// readScriptFile, addScreen or doChangeScreenSpecial.
+/// The game's main window: root of the window tree, frame loop, screens and popups, input, and the interface
+/// script. The game derives from it and replaces startup (to read its main script), drawscreen,
+/// OnMouseAction, OnKeyInput, createNewWindow, readScriptFile, addScreen or doChangeScreenSpecial.
 class TGX_API AMainWin : public ddwin {
 public:
-    /// The main script, from which screens are read when they are first needed: its file, and its resource.
-    static constexpr const char* mainScriptName = "script.tgx";
-    static constexpr unsigned mainScriptResource = 141;
-    /// The script of the dimming window and of the message boxes. It has no resource.
-    static constexpr const char* commonScriptName = "common.tgx";
-    static constexpr unsigned noResource = ~0u;
-
     /// Reads the settings. width and height in pixels; bitDepth counts where none is stored.
     AMainWin(int width, int height, int bitDepth);
     /// Deletes all windows and stores the settings.
@@ -38,14 +31,14 @@ public:
     /// One input tick.
     void OnMouseAction() override;
     void OnKeyInput() override;
-    /// A window of the game's own class, by class name: for USERDEF lines, and for screens, where className is the id. The caller
-    /// owns it. Null: none of the game's.
+    /// A window of the game's own class, by class name: for USERDEF lines, and for screens, where className
+    /// is the id. The caller owns it. Null: none of the game's.
     virtual AWnd* createNewWindow(const CString& id, int x, int y, int w, int h, const CString& className);
-    /// Runs a compiled script: the file below UIG, or the resource of instance if there is no such file, or nothing. A toWindow
-    /// that is not empty reads only that window's definition and answers the top-level window of that id, or null. finalRead
-    /// opens the first screen.
-    virtual AWnd* readScriptFile(const CString& name, HINSTANCE instance, unsigned resourceId, const CString& toWindow,
-                                 int finalRead);
+    /// Runs a compiled script: the file below UIG, or the resource of instance if there is no such file, or
+    /// nothing. A toWindow that is not empty reads only that window's definition and answers the top-level
+    /// window of that id, or null. finalRead opens the first screen.
+    virtual AWnd* readScriptFile(const CString& name, HINSTANCE instance, unsigned resourceId,
+                                 const CString& toWindow, int finalRead);
     /// Puts a screen into the list: the game's class for that id, or a plain AScreen. Owned by the list.
     virtual AScreen* addScreen(const CString& id, int x, int y, int w, int h);
 
@@ -56,8 +49,8 @@ protected:
 public:
     // Frame (mainwin.cpp).
 
-    /// Asks for the end; the next frame carries it out: the screen is closed, all windows are deleted, the window is told to
-    /// close.
+    /// Asks for the end; the next frame carries it out: the screen is closed, all windows are deleted, the
+    /// window is told to close.
     void exitProgram();
     /// Deletes all windows. Nothing points at them any more; startup brings the dimming window back.
     void recreateScreenList();
@@ -77,13 +70,10 @@ public:
 
     // Screens (screens.cpp).
 
-    /// Asks for a change, carried out behind the fifth frame from now. closeCurrent: the present screen is closed for good,
-    /// otherwise the new one can go back to it. Null. While a change waits, that one is carried out at once instead, and its
-    /// screen is the answer.
+    /// Asks for a change, carried out behind the fifth frame from now. closeCurrent: the present screen is
+    /// closed for good, otherwise the new one can go back to it. Null. While a change waits, that one is
+    /// carried out at once instead, and its screen is the answer.
     AScreen* changeScreen(const CString& name, int closeCurrent, unsigned resource, const CString& file);
-    /// The same, back to a screen of the main script that closes the present one, for the toolkit's own buttons: a change that
-    /// it carries out is finished with initialise.
-    AScreen* changeScreenFromToolkit(const CString& name);
     /// Closes every open screen but the active one; they stay in the tree. 0.
     int closeAllScreensExceptCurrent();
     const CString& getPendingScreen() const { return pendingScreen; }
@@ -99,12 +89,13 @@ public:
     int getMouseCaptureWndCount() const { return mouseCaptureWnds.GetSize(); }
     /// Puts wnd on top of the stack; null takes the top away.
     void setMouseCaptureWnd(AWnd* wnd);
-    /// Repeat of a held button: 1 on the first tick, and from 3 times interval on at each multiple of it. -1: 10 ticks; 0 or
-    /// less otherwise: 1.
+    /// Repeat of a held button: 1 on the first tick, and from 3 times interval on at each multiple of it. -1:
+    /// 10 ticks; 0 or less otherwise: 1.
     int isMouseDownInterval(int interval) const;
     /// With jump the previous position goes along.
     void setMousePos(int x, int y, int jump);
-    /// Puts the pointer on the middle of wnd. 0 for a list without a row that can take it, else 1, also for null.
+    /// Puts the pointer on the middle of wnd. 0 for a list without a row that can take it, else 1, also for
+    /// null.
     int setMousePosOnWnd(AWnd* wnd, int jump);
     /// Puts the pointer on the next tab stop of root behind from. 1, or 0 when none could take it.
     int setMousePosOnNextTabStop(AWnd* root, AWnd* from, int backwards, int jump);
@@ -113,8 +104,8 @@ public:
 
     // Popups (popups.cpp).
 
-    /// Opens popup for parent, in front, or hidden at the end when parent has the front popup too. Null closes the front popup.
-    /// popup.
+    /// Opens popup for parent, in front, or hidden at the end when parent has the front popup too. Null
+    /// closes the front popup. popup.
     AWnd* setPopupWnd(AWnd* popup, AWnd* parent, int centre);
     /// Finds the window or reads it, and opens it centred.
     AWnd* setPopupWnd(const CString& name, AWnd* parent, unsigned resource, const CString& file);
@@ -125,10 +116,13 @@ public:
     int getPopupWndCount() const { return popupWnds.GetSize(); }
     /// Exact.
     int isInPopupList(const CString& id) const;
-    /// Opens the box "MESSAGEBOX" of "common.tgx". An id of "messageBox" is made unique. 1, or 0 when there is no such box.
-    int messageBox(const CString& title, const CString& text, const CString& third, const CString& id, AWnd* parent);
+    /// Opens the box "MESSAGEBOX" of "common.tgx". An id of "messageBox" is made unique. 1, or 0 when there
+    /// is no such box.
+    int messageBox(const CString& title, const CString& text, const CString& third, const CString& id,
+                   AWnd* parent);
     /// The same with "QUERYBOX", its buttons named Yes and No with yesNo, else OK and Cancel.
-    int queryBox(const CString& title, const CString& text, const CString& third, const CString& id, AWnd* parent, int yesNo);
+    int queryBox(const CString& title, const CString& text, const CString& third, const CString& id,
+                 AWnd* parent, int yesNo);
 
     // Script (script/).
 
@@ -139,7 +133,8 @@ public:
     int doSubroutine(CFile* stream, const CString& name, AWnd* parent, CArray<CFile*, CFile*>& gotoFiles);
     /// Makes file read the bytes of a resource, in place. 1, or 0 when there is none.
     int convertResourceToFile(HINSTANCE instance, unsigned resource, CMemFile* file, const CString& type);
-    /// Closes and deletes the streams and empties the array. A stream that a subroutine runs from lives until that has ended.
+    /// Closes and deletes the streams and empties the array. A stream that a subroutine runs from lives until
+    /// that has ended.
     void deleteAllGotoFiles(CArray<CFile*, CFile*>& gotoFiles);
 
 protected:
@@ -171,24 +166,28 @@ private:
     void countTowardsChange();
     AScreen* doChangeScreen();
     AScreen* usableScreen(AWnd* wnd, bool closesCurrent) const;
-    AScreen* findOrReadScreen(const CString& name, bool closesCurrent, unsigned resource, const CString& file);
+    AScreen* findOrReadScreen(const CString& name, bool closesCurrent, unsigned resource,
+                              const CString& file);
+    void reportMissingScreen(const CString& name);
     void showBackdropOf(const AScreen& screen);
+    void completeExit();
     void loseFocus();
     AWnd* inputTarget() const;
     AWnd* alive(AWnd* wnd) const;
     AWnd::E_MOUSEACTION chooseAction(AWnd* target);
-    bool moveToTabStop(AWnd* target);
+    bool takeKey(AWnd* target);
     void moveFocus(AWnd* target);
     void dispatch(AWnd* to, AWnd::E_MOUSEACTION action);
     AWnd* keyWindow(AWnd* target) const;
     AWnd* findOrReadPopup(const CString& name, unsigned resource, const CString& file);
     void closePopup();
-    AWnd* openBox(const CString& name, const CString& id, const CString& title, const CString& text, AWnd* parent);
+    AWnd* openBox(const CString& name, const CString& id, const CString& title, const CString& text,
+                  AWnd* parent);
 
-    int frameStep = 0;         // of the running or last frame
+    int frameStep = 0; // of the running or last frame
     bool exitRequested = false;
-    bool wipeSwapsBackdrop = false; // the running wipe has yet to bring the new backdrop
-    bool wipeReturns = false;       // its screen was suspended: returned falls to the last frame
+    bool wipeSwapsBackdrop = false;       // the running wipe has yet to bring the new backdrop
+    bool wipeReturns = false;             // its screen was suspended: returned falls to the last frame
     std::unique_ptr<ScriptRun> scriptRun; // of the outermost read that runs; null between reads
     friend class ScriptRun;
 };

@@ -2,7 +2,6 @@
 #include "tgx/base/numtext.h"
 #include "tgx/frame/mainwin.h"
 
-
 namespace {
 
 /// Whether wnd is above or lies inside it, up the parents.
@@ -41,10 +40,12 @@ AWnd* AMainWin::setPopupWnd(AWnd* popup, AWnd* parent, int centre)
     }
     popup->setSavedMousePos(mouseX, mouseY);
     setMousePosOnNextTabStop(popup, nullptr, 0, 0);
+    if (!opened)
+        return nullptr;
 
     if (popupWnds.GetSize() > 1 && sameParent) {
-        // The popup in front keeps the pointer. The last one's stop waits in the one before it, for the moment when that one
-        // closes, and the last one takes over the way back.
+        // The popup in front keeps the pointer. The last one's stop waits in the one before it, for the
+        // moment when that one closes, and the last one takes over the way back.
         AWnd* last = popupWnds[popupWnds.GetSize() - 1];
         AWnd* before = popupWnds[popupWnds.GetSize() - 2];
         const int x = last->getSavedMouseX();
@@ -119,9 +120,10 @@ int AMainWin::isInPopupList(const CString& id) const
 }
 
 /// Null when the script has no such box: that is reported, and open popups stay as they are.
-AWnd* AMainWin::openBox(const CString& name, const CString& id, const CString& title, const CString& text, AWnd* parent)
+AWnd* AMainWin::openBox(const CString& name, const CString& id, const CString& title, const CString& text,
+                        AWnd* parent)
 {
-    AWnd* found = findOrReadPopup(name, noResource, commonScriptName);
+    AWnd* found = findOrReadPopup(name, noResource, commonScriptFile);
     if (!found) {
         MsgBox("cannot load %s", static_cast<const char*>(name));
         return nullptr;
@@ -137,7 +139,8 @@ AWnd* AMainWin::openBox(const CString& name, const CString& id, const CString& t
     return box;
 }
 
-int AMainWin::messageBox(const CString& title, const CString& text, const CString&, const CString& id, AWnd* parent)
+int AMainWin::messageBox(const CString& title, const CString& text, const CString&, const CString& id,
+                         AWnd* parent)
 {
     CString boxId = id;
     if (boxId == "messageBox") {
@@ -150,8 +153,8 @@ int AMainWin::messageBox(const CString& title, const CString& text, const CStrin
     return openBox("MESSAGEBOX", boxId, title, text, parent) != nullptr;
 }
 
-int AMainWin::queryBox(const CString& title, const CString& text, const CString&, const CString& id, AWnd* parent,
-                       int yesNo)
+int AMainWin::queryBox(const CString& title, const CString& text, const CString&, const CString& id,
+                       AWnd* parent, int yesNo)
 {
     if (!openBox("QUERYBOX", id, title, text, parent))
         return 0;
@@ -170,11 +173,15 @@ int AMainWin::queryBox(const CString& title, const CString& text, const CString&
 int AWnd::messageBox(const CString& title, const CString& text, const CString& third, const CString& name)
 {
     AMainWin* main = getMainWin();
-    return main ? main->messageBox(title, text, third, name, this) : 0;
+    if (main)
+        main->messageBox(title, text, third, name, this);
+    return 1;
 }
 
 int AWnd::queryBox(const CString& title, const CString& text, const CString& third, const CString& name)
 {
     AMainWin* main = getMainWin();
-    return main ? main->queryBox(title, text, third, name, this, 0) : 0;
+    if (main)
+        main->queryBox(title, text, third, name, this, 0);
+    return 1;
 }

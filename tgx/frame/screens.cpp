@@ -1,8 +1,6 @@
 #include "platform/display/msgbox.h"
 #include "tgx/frame/mainwin.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr int wipeStrip = 40; // pixels that a wipe uncovers a frame
@@ -29,7 +27,7 @@ AScreen* AMainWin::doChangeScreenSpecial(const CString&)
 
 AScreen* AMainWin::changeScreen(const CString& name, int closeCurrent, unsigned resource, const CString& file)
 {
-    if (!screenList)
+    if (!screenList || (name.IsEmpty() && pendingScreen.IsEmpty()))
         return nullptr;
     const AWnd* wanted = screenList->getWnd(name, 1);
     const bool isOpen = wanted && wanted->getWindowType() == AWnd::WND_SCREEN &&
@@ -49,32 +47,25 @@ AScreen* AMainWin::changeScreen(const CString& name, int closeCurrent, unsigned 
     return nullptr;
 }
 
-AScreen* AMainWin::changeScreenFromToolkit(const CString& name)
-{
-    AScreen* reached = changeScreen(name, 1, mainScriptResource, mainScriptName);
-    if (reached && !reached->isOpen())
-        reached->initialise();
-    return reached;
-}
-
-/// A screen that a change can lead to. The one that the change closes for good cannot be its own successor, nor can what
-/// lies inside it.
+/// A screen that a change can lead to. What the change deletes cannot be its own successor: the popups, the
+/// present screen if it is closed for good, and all inside them.
 AScreen* AMainWin::usableScreen(AWnd* wnd, bool closesCurrent) const
 {
     if (!wnd || wnd->getWindowType() != AWnd::WND_SCREEN || screenList->isWndToBeDeleted(wnd))
         return nullptr;
-    if (closesCurrent)
-        for (const AWnd* above = wnd; above; above = above->getParent())
-            if (above == getActiveScreen())
-                return nullptr;
+    for (const AWnd* above = wnd; above; above = above->getParent())
+        if (popupWnds.contains(above) || (closesCurrent && above == getActiveScreen()))
+            return nullptr;
     return static_cast<AScreen*>(wnd);
 }
 
-AScreen* AMainWin::findOrReadScreen(const CString& name, bool closesCurrent, unsigned resource, const CString& file)
+AScreen* AMainWin::findOrReadScreen(const CString& name, bool closesCurrent, unsigned resource,
+                                    const CString& file)
 {
     AScreen* found = usableScreen(screenList->getWnd(name, 1), closesCurrent);
     if (!found)
-        found = usableScreen(readScriptFile(file, GetModuleHandleA(nullptr), resource, name, 0), closesCurrent);
+        found =
+            usableScreen(readScriptFile(file, GetModuleHandleA(nullptr), resource, name, 0), closesCurrent);
     return found;
 }
 
@@ -89,10 +80,9 @@ AScreen* AMainWin::doChangeScreen()
     pendingScreen.Empty();
 
     // A screen that is not to be had is found out before anything is taken down for it.
-    const WndRef target = findOrReadScreen(name, closesCurrent, resource, file);
+    WndRef target = findOrReadScreen(name, closesCurrent, resource, file);
     if (!target) {
-        MsgBox("cannot find screen %s", static_cast<const char*>(name));
-        setCursor(normalCursor);
+        reportMissingScreen(name);
         return nullptr;
     }
 
@@ -109,9 +99,16 @@ AScreen* AMainWin::doChangeScreen()
         else if (current)
             static_cast<AScreen*>(current.get())->setOpen(1);
     }
+    // A handler may have deleted it meanwhile.
+    if (!target || screenList->isWndToBeDeleted(target))
+        target = findOrReadScreen(name, closesCurrent, resource, file);
     auto* next = static_cast<AScreen*>(target.get());
-    if (!next)
-        return nullptr; // a handler has deleted it meanwhile
+    if (!next) {
+        if (closesCurrent)
+            screenList->setActiveScreen(nullptr);
+        reportMissingScreen(name);
+        return nullptr;
+    }
 
     screenList->setActiveScreen(next);
     if (!closesCurrent && current)
@@ -129,6 +126,7 @@ AScreen* AMainWin::doChangeScreen()
             next->startup();
         return static_cast<AScreen*>(target.get());
     }
+    wipeFramesLeft = 0;
     showBackdropOf(*next);
     if (next->isOpen())
         next->returned();
@@ -138,6 +136,12 @@ AScreen* AMainWin::doChangeScreen()
     return static_cast<AScreen*>(target.get());
 }
 
+void AMainWin::reportMissingScreen(const CString& name)
+{
+    MsgBox("cannot find screen %s", static_cast<const char*>(name));
+    setCursor(normalCursor);
+}
+
 void AMainWin::showBackdropOf(const AScreen& screen)
 {
     setbackdrop(screen.getBackdropName(), -1);
@@ -145,8 +149,8 @@ void AMainWin::showBackdropOf(const AScreen& screen)
 }
 
 // A wipe of a screen 640 wide, frame by frame:
-//   wipeFramesLeft   16 15   14        13 ... 3       2       1
-//   done             nothing backdrop  120 ... 520    whole   whole, returned
+//   wipeFramesLeft   16  15   14        13 ... 3       2       1
+//   uncovered        0   40   backdrop  120 ... 520    whole   whole, returned
 //   then             drawbackdrop, each time
 void AMainWin::screenWipe()
 {
@@ -159,8 +163,10 @@ void AMainWin::screenWipe()
     const bool swaps = wipeSwapsBackdrop && (left <= total - 2 || left == 1);
     if (swaps) {
         wipeSwapsBackdrop = false;
-        if (screen)
+        if (screen) {
             showBackdropOf(*screen);
+            screen->renewBkgnds(); // a new screen was started over the old backdrop
+        }
     }
     const bool onlySwaps = swaps && left == total - 2 && left > 1;
     if (!onlySwaps) {

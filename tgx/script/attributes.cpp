@@ -11,9 +11,7 @@ namespace {
 bool appendWnds(AWnd& target, const ScriptLine& line, WndList ATabStopInfo::*list)
 {
     for (int i = 1; i < line.count; ++i) {
-        if (!line.run.spendOnWindowSearch())
-            return false;
-        AWnd* wnd = target.getWnd(line.text(i), 1);
+        AWnd* wnd = line.run.findByIndex(target, line.text(i));
         if (!wnd)
             return false;
         (target.getTabStopInfo(1)->*list).Add(wnd);

@@ -9,15 +9,6 @@
 
 namespace {
 
-CFile* findCached(const ScriptLine& line, const CString& script)
-{
-    line.run.spendOnSearch(line.gotoFiles.GetSize());
-    for (CFile* cached : line.gotoFiles)
-        if (CString::equalNoCase(cached->GetFileName().view(), script.view()))
-            return cached;
-    return nullptr;
-}
-
 /// A script file, or the resource whose number script is; an empty stream when there is neither.
 CFile* openInCache(const ScriptLine& line, const CString& script)
 {
@@ -37,7 +28,7 @@ CFile* streamOfSubroutine(const ScriptLine& line)
     const CString& script = line.text(2);
     if (line.count < 3 || (line.stream && line.stream->GetFileName() == script))
         return line.stream;
-    CFile* cached = findCached(line, script);
+    CFile* cached = line.run.findStream(line.gotoFiles, script);
     return cached ? cached : openInCache(line, script);
 }
 

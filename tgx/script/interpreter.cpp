@@ -6,6 +6,8 @@ LineResult executeLine(const ScriptLine& line)
 {
     constexpr LineResult failed{lineFailed};
 
+    if (!line.run.mayExecute())
+        return failed;
     if (line.count < 1)
         return {};
     const Statement* statement = statementById(line.tokens[0].id);
@@ -34,8 +36,6 @@ LineResult executeLine(const ScriptLine& line)
         return failed;
     if (!statement->handler(*target, line, made))
         return failed;
-    if (made)
-        line.run.countWindow();
     return {0, true, made};
 }
 

@@ -27,12 +27,14 @@ struct LineLoop {
     TOKEN_INFO tokens[maxLineTokens] = {};
     WndRef open[wndStackSize] = {}; // empty out when the game's code deletes a window during the read
 
-    /// False at the end of the stream and when the budget is used up.
+    /// False at the end of the stream.
     bool next()
     {
         const unsigned start = stream->GetPosition();
-        return readScriptLine(stream, tokens, maxLineTokens, &count) &&
-               run.spendOnLine(stream->GetPosition() - start);
+        if (!readScriptLine(stream, tokens, maxLineTokens, &count))
+            return false;
+        run.countBytes(stream->GetPosition() - start);
+        return true;
     }
 
     int execute()
@@ -81,11 +83,11 @@ int AMainWin::convertResourceToFile(HINSTANCE instance, unsigned resource, CMemF
 
 void AMainWin::deleteAllGotoFiles(CArray<CFile*, CFile*>& gotoFiles)
 {
+    if (scriptRun) {
+        scriptRun->releaseAll(gotoFiles);
+        return;
+    }
     for (CFile* stream : gotoFiles) {
-        if (scriptRun) {
-            scriptRun->release(stream);
-            continue;
-        }
         stream->Close();
         delete stream;
     }
@@ -161,8 +163,8 @@ AWnd* AMainWin::readScriptFile(const CString& name, HINSTANCE instance, unsigned
             const bool bearsName =
                 !wholeScript && loop.tokens[1].id == stringToken && loop.tokens[1].text == toWindow;
             const int change = loop.execute();
-            // A line that the end of the budget stopped is not at fault.
-            if (change <= lineFailed && run.isSpent())
+            // A line that the end of the run stopped is not at fault.
+            if (change <= lineFailed && run.isOver())
                 break;
             if (change <= lineFailed)
                 MsgBox("Encountered an error on line %d in %s\nThe line is :\n\t%s", lineNumber,

@@ -4,31 +4,77 @@
 #include "tgx/frame/mainwin.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace {
 
-/// What a walk below a window sees. A window that stands in several places counts in each.
+AWnd* childAt(AWnd& wnd, int index)
+{
+    static const CString here;
+    return wnd.getWndFromIndex(index, here);
+}
+
+/// The places of windows below a window, that one included. A window that stands in several places counts in
+/// each.
 struct Census {
     const AWnd* sought;
-    long windows = 0;
+    long most = std::numeric_limits<long>::max(); // behind so many it stops
+    long places = 0;
     int height = 0; // levels below the first window
     long timesFound = 0;
     int deepestFound = 0;
 
     void walk(AWnd& wnd, int level)
     {
-        ++windows;
+        ++places;
         height = std::max(height, level);
         if (&wnd == sought) {
             ++timesFound;
             deepestFound = std::max(deepestFound, level);
         }
-        static const CString here;
-        for (int i = 0; AWnd* child = wnd.getWndFromIndex(i, here); ++i)
-            walk(*child, level + 1);
+        const int count = wnd.getWindowCount();
+        for (int i = 0; i < count && places <= most; ++i)
+            if (AWnd* child = childAt(wnd, i))
+                walk(*child, level + 1);
     }
 };
+
+AWnd* find(AWnd& below, std::string_view id, long long& steps)
+{
+    const int count = below.getWindowCount();
+    for (int i = 0; i < count; ++i) {
+        AWnd* child = childAt(below, i);
+        if (!child)
+            continue;
+        ++steps;
+        if (CString::equalNoCase(child->getID().view(), id))
+            return child;
+        if (child->getWindowCount() > 0)
+            if (AWnd* deeper = find(*child, id, steps))
+                return deeper;
+    }
+    return nullptr;
+}
+
+/// Text as a key that ignores case.
+std::string folded(CString text)
+{
+    return text.MakeLower().str();
+}
+
+/// Enters the first window of each name, in the order of a search.
+void enterNames(AWnd& below, std::unordered_map<std::string, AWnd*>& first, long long& steps)
+{
+    const int count = below.getWindowCount();
+    for (int i = 0; i < count; ++i) {
+        if (AWnd* child = childAt(below, i)) {
+            ++steps;
+            first.try_emplace(folded(child->getID()), child);
+            enterNames(*child, first, steps);
+        }
+    }
+}
 
 } // namespace
 
@@ -69,15 +115,10 @@ ScriptRun::~ScriptRun()
         delete stream;
 }
 
-bool ScriptRun::spend(long lines)
+bool ScriptRun::refuse()
 {
-    linesLeft -= std::min(lines, linesLeft + 1);
-    if (linesLeft >= 0)
-        return true;
-    if (!reported) {
-        reported = true;
+    if (!std::exchange(reported, true))
         MsgBox("%s runs too long", static_cast<const char*>(name));
-    }
     return false;
 }
 
@@ -93,13 +134,14 @@ std::unique_ptr<CFile> ScriptRun::open(const CString& file)
         return stream;
     }
     const bool opened = stream->Open(path) != 0;
-    // The outermost script may be of any size: it is read once.
+    // The outermost script may be of any size that can be opened.
     if (!std::exchange(firstFile, false))
-        spend(linesPerFile + static_cast<long>(stream->GetLength() / bytesPerLine));
+        workLeft -= openedName + openedByte * stream->GetLength();
     files[path.str()] = opened ? std::static_pointer_cast<const std::string>(stream->keepAlive()) : nullptr;
     return opened ? std::move(stream) : nullptr;
 }
 
+// Not charged: a stream is gone through twice at most, and opening it has cost more.
 ScriptIndex& ScriptRun::indexOf(const CFile& stream)
 {
     const std::string_view bytes = stream.bytes();
@@ -114,43 +156,92 @@ bool ScriptRun::isRunning(const CFile* stream) const
     return std::find(running.begin(), running.end(), stream) != running.end();
 }
 
-void ScriptRun::release(CFile* stream)
+CFile* ScriptRun::findStream(const CArray<CFile*, CFile*>& gotoFiles, const CString& file)
 {
-    if (isRunning(stream)) {
-        released.push_back(stream);
-        return;
-    }
-    stream->Close();
-    delete stream;
+    StreamNames& names = streamNames[&gotoFiles];
+    for (; names.known < gotoFiles.GetSize(); ++names.known)
+        names.first.try_emplace(folded(gotoFiles.GetAt(names.known)->GetFileName()), names.known);
+    const auto found = names.first.find(folded(file));
+    return found == names.first.end() ? nullptr : gotoFiles.GetAt(found->second);
 }
 
+void ScriptRun::releaseAll(CArray<CFile*, CFile*>& gotoFiles)
+{
+    for (CFile* stream : gotoFiles) {
+        if (isRunning(stream)) {
+            released.push_back(stream);
+        } else {
+            stream->Close();
+            delete stream;
+        }
+    }
+    gotoFiles.RemoveAll();
+    streamNames.erase(&gotoFiles);
+}
+
+AWnd* ScriptRun::findBelow(AWnd& below, const CString& id)
+{
+    long long steps = 0;
+    AWnd* found = find(below, id.view(), steps);
+    workLeft -= steps;
+    return found;
+}
+
+AWnd* ScriptRun::findByIndex(AWnd& below, const CString& id)
+{
+    // Lines of other kinds may have changed the tree.
+    const bool isFresh = wndNames.below == &below && wndNames.linesLeft <= linesLeft + 1;
+    if (!isFresh) {
+        wndNames.below = &below;
+        wndNames.first = {};
+        long long steps = 0;
+        enterNames(below, wndNames.first, steps);
+        workLeft -= steps * indexedWindow;
+    }
+    wndNames.linesLeft = linesLeft;
+    const auto found = wndNames.first.find(folded(id));
+    return found == wndNames.first.end() ? nullptr : found->second;
+}
+
+bool ScriptRun::takePlaces(long places)
+{
+    if (places > placesLeft)
+        return false;
+    placesLeft -= places;
+    return true;
+}
+
+/// Up the owners to the first that is shown twice: the windows below that one are shown as often as it is.
 ScriptRun::Places ScriptRun::placesOf(AWnd& root, AWnd& wnd)
 {
-    if (wnd.isPointer()) {
-        Census all{&wnd};
-        all.walk(root, 0);
-        spendOnSearch(all.windows);
-        return {std::max(all.timesFound, 1L), all.deepestFound};
-    }
     int level = 0;
-    for (AWnd* above = wnd.getParent(); above; above = above->getParent())
+    AWnd* shared = &wnd;
+    for (; shared && shared != &root && shared->getPointerCount() == 0; shared = shared->getOwner())
         ++level;
-    return {1, level};
+    if (!shared || shared == &root)
+        return {1, level};
+    if (counted != shared) {
+        Census all{shared};
+        all.walk(root, 0);
+        workLeft -= all.places;
+        counted = shared;
+        countedPlaces = {std::max(all.timesFound, 1L), all.deepestFound};
+    }
+    return {countedPlaces.times, countedPlaces.deepest + level};
 }
 
 bool ScriptRun::mayShow(AWnd& root, AWnd& target, AWnd& wnd)
 {
-    Census below{&target};
+    Census below{&target, placesLeft};
     below.walk(wnd, 0);
-    if (below.timesFound > 0)
-        return false;
+    workLeft -= below.places;
     const Places places = placesOf(root, target);
-    if (places.deepest + 1 + below.height > limits::windowDepth)
+    if (below.timesFound > 0 || below.places > placesLeft ||
+        places.deepest + 1 + below.height > limits::windowDepth || !takePlaces(places.times * below.places))
         return false;
+    counted = nullptr;
     noteShared();
-    // Windows inside windows that are shown twice double at each level: what is shown is what counts, not
-    // what was made.
-    return spend(places.times * below.windows);
+    return true;
 }
 
 bool ScriptRun::mayGrowShared(AWnd& root, AWnd& target)
@@ -158,5 +249,5 @@ bool ScriptRun::mayGrowShared(AWnd& root, AWnd& target)
     if (!target.isPointer())
         return true;
     const Places places = placesOf(root, target);
-    return places.deepest < limits::windowDepth && spend(places.times - 1);
+    return places.deepest < limits::windowDepth && takePlaces(places.times);
 }

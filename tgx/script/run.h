@@ -4,17 +4,20 @@
 #include "platform/framework/cfile.h"
 #include "platform/limits.h"
 #include "tgx/script/index.h"
+#include "tgx/wnd/wndref.h"
 
 #include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 class AMainWin;
 class AWnd;
 
-/// What all reads inside one outermost read of a script share: the budget that bounds them, the bytes of the
-/// files that they opened, the indexes of those, the streams that subroutines run from.
+/// What all reads inside one outermost read of a script share: the limits that end them, the bytes of the
+/// files that they opened, the indexes of those, the streams that subroutines run from. A tree that the
+/// game's own code changes in a way that no script can, during a read, may be counted wrongly.
 class ScriptRun {
 public:
     /// Holds the main window's run; makes it for the outermost read and ends it with that.
@@ -60,20 +63,22 @@ public:
     explicit ScriptRun(const CString& script) : name(script) {}
     ~ScriptRun();
 
-    // Budget. It is counted in lines; other work is weighed as so many lines that a run of short lines takes
-    // about as long.
+    // What ends a run: its lines, and the work that they make beyond being lines. Work is counted as it is
+    // done; the line at hand is still carried out.
 
-    /// False once the budget is used up, which is reported here: then every loop over lines ends.
-    bool spend(long lines);
-    bool isSpent() const { return linesLeft < 0; }
-    /// A line of that many bytes.
-    bool spendOnLine(std::size_t bytes) { return spend(1 + static_cast<long>(bytes / bytesPerLine)); }
-    /// A walk over that many windows or streams.
-    bool spendOnSearch(long steps) { return spend(steps / stepsPerLine); }
-    bool spendOnWindowSearch() { return spendOnSearch(windowsMade); }
-    void countWindow() { ++windowsMade; }
+    /// Whether one more line may be executed, which counts it. The first time that it may not is reported.
+    bool mayExecute()
+    {
+        if (linesLeft <= 0 || workLeft < 0)
+            return refuse();
+        --linesLeft;
+        return true;
+    }
+    bool isOver() const { return reported; }
+    /// Bytes of a line that was read.
+    void countBytes(unsigned bytes) { workLeft -= bytes; }
 
-    bool canReadDeeper() const { return readsRunning < limits::readDepth; }
+    bool canReadDeeper() const { return readsRunning <= limits::readDepth; } // the outermost one is in none
     bool canCallDeeper() const { return static_cast<int>(running.size()) < limits::subroutineDepth; }
 
     // Streams.
@@ -82,40 +87,69 @@ public:
     /// name.
     std::unique_ptr<CFile> open(const CString& file);
     ScriptIndex& indexOf(const CFile& stream);
-    /// Closes and deletes stream, now or when no subroutine runs from it any more.
-    void release(CFile* stream);
+    /// The first of gotoFiles that has that name, ignoring case, or null.
+    CFile* findStream(const CArray<CFile*, CFile*>& gotoFiles, const CString& file);
+    /// Empties gotoFiles. Its streams are closed and deleted now, or when no subroutine runs from them any
+    /// more.
+    void releaseAll(CArray<CFile*, CFile*>& gotoFiles);
+
+    // Windows by name. Both answer as getWnd(id, 1) on below.
+
+    AWnd* findBelow(AWnd& below, const CString& id);
+    /// For lines that name many windows: the names below a window are gone through once for all such lines
+    /// that follow one another.
+    AWnd* findByIndex(AWnd& below, const CString& id);
 
     // Windows that are shown in several places.
 
-    /// Whether wnd may be shown in target too: the tree keeps no cycle, no more than limits::windowDepth
-    /// levels, and shows no more windows than the budget has lines.
+    /// Whether wnd may be shown in target too: the tree keeps no cycle, and stays within
+    /// limits::windowDepth and limits::sharedPlaces. Counts the places.
     bool mayShow(AWnd& root, AWnd& target, AWnd& wnd);
     /// Whether target may be given a new child. Costs a look at a flag until some window is shown twice.
     bool mayGrow(AWnd& root, AWnd& target) { return !sharesWindows || mayGrowShared(root, target); }
     void noteShared() { sharesWindows = true; }
 
 private:
-    static constexpr std::size_t bytesPerLine = 256;
-    static constexpr long stepsPerLine = 256;
-    static constexpr long linesPerFile = 32; // finding a name on the disk
+    // Work in steps of a search.
+    static constexpr long long openedName = 20'000; // finding a file on the disk, or that there is none
+    static constexpr long long openedByte = 8;      // the bytes stay in memory until the run ends
+    static constexpr long long indexedWindow = 32;
 
     struct Places {
-        long times;  // how often the window is shown
-        int deepest; // levels below the root
+        long times = 1;  // how often the window is shown
+        int deepest = 0; // levels below the root
     };
+    /// Streams by name: the place of the first of each name in an array, which is read up to known.
+    struct StreamNames {
+        int known = 0;
+        std::unordered_map<std::string, int> first;
+    };
+    struct WndNames {
+        WndRef below;
+        long linesLeft = 0; // behind the line that asked last
+        std::unordered_map<std::string, AWnd*> first;
+    };
+
+    bool refuse();
     Places placesOf(AWnd& root, AWnd& wnd);
     bool mayGrowShared(AWnd& root, AWnd& target);
+    bool takePlaces(long places);
     bool isRunning(const CFile* stream) const;
 
     CString name; // of the outermost script
     long linesLeft = limits::scriptLines;
+    long long workLeft = limits::scriptWork;
     bool reported = false;
-    long windowsMade = 0;
     int readsRunning = 0;
     bool sharesWindows = false;
+    long placesLeft = limits::sharedPlaces;
+    WndRef counted; // the shared window whose places were counted last
+    Places countedPlaces;
+    WndNames wndNames;
     bool firstFile = true;
-    std::vector<CFile*> running;  // one for each subroutine, innermost last
-    std::vector<CFile*> released; // by the cache, while a subroutine runs from them
+    std::vector<CFile*> running;                    // one for each subroutine, innermost last
+    std::vector<CFile*> released;                   // by the cache, while a subroutine runs from them
+    std::map<const void*, StreamNames> streamNames; // by array
     std::map<std::string, std::shared_ptr<const std::string>, std::less<>>
         files; // null: there is no such file
     std::map<std::pair<const char*, std::size_t>, std::unique_ptr<ScriptIndex>> indexes;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tgx/controls/button.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/script/vocabulary.h"
 
@@ -90,3 +91,23 @@ void textRaw(AWnd& target, const ScriptLine& line);
 void textWrap(AWnd& target, const ScriptLine& line);
 void visible(AWnd& target, const ScriptLine& line);
 void wndPos(AWnd& target, const ScriptLine& line);
+
+// Forms that statements of several families share: what stands behind id and box.
+void applyTextForm(AWnd& wnd, const ScriptLine& line);
+void applyBarForm(AWnd& bar, const ScriptLine& line);
+
+// Buttons, tabs, edit boxes and scroll bars (buttons.cpp).
+AWnd* button(AWnd& target, const ScriptLine& line);
+AWnd* checkBox(AWnd& target, const ScriptLine& line);
+AWnd* checkBoxState(AWnd& target, const ScriptLine& line);
+AWnd* editBox(AWnd& target, const ScriptLine& line);
+AWnd* hScrollBar(AWnd& target, const ScriptLine& line);
+AWnd* radioButton(AWnd& target, const ScriptLine& line);
+AWnd* radioState(AWnd& target, const ScriptLine& line);
+AWnd* tabControl(AWnd& target, const ScriptLine& line);
+AWnd* vScrollBar(AWnd& target, const ScriptLine& line);
+void buttonCheck(AButton& target, const ScriptLine& line);
+void buttonFps(AButton& target, const ScriptLine& line);
+void buttonFrames(AButton& target, const ScriptLine& line);
+void buttonLoop(AButton& target, const ScriptLine& line);
+void buttonTextShift(AButton& target, const ScriptLine& line);

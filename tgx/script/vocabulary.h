@@ -24,7 +24,9 @@ enum class StatementKind {
     BlockBegin,
     BlockEnd,
     Command,      // acts on no window and leaves the window stack alone
-    Window,       // makes a window and opens it for the block behind it
+    Window,       // makes a child of the target and opens it for the block behind it
+    Screen,       // the same for a child of the root, whatever the target
+    Reference,    // shows a window that there is in the target too, and opens it
     Attribute,    // changes the target
     Definition,   // found by a search; as a line that is executed it fails
     ArgumentWord, // stands behind another keyword only

@@ -15,6 +15,15 @@ AWnd* makePlain(const ScriptLine& line)
 
 } // namespace
 
+/// Text, its offset, bitmap.
+void applyTextForm(AWnd& wnd, const ScriptLine& line)
+{
+    wnd.setWindowText(line.text(6));
+    wnd.setTextOffset(line.number(7), line.number(8));
+    if (line.count == 10)
+        wnd.setBmpFilename(line.text(9), -1, -1);
+}
+
 AWnd* window(AWnd& target, const ScriptLine& line)
 {
     return target.addChildWindow(makePlain(line));
@@ -34,10 +43,7 @@ AWnd* bitmap(AWnd& target, const ScriptLine& line)
 AWnd* textWnd(AWnd& target, const ScriptLine& line)
 {
     AWnd* wnd = target.addChildWindow(makePlain(line));
-    wnd->setWindowText(line.text(6));
-    wnd->setTextOffset(line.number(7), line.number(8));
-    if (line.count == 10)
-        wnd->setBmpFilename(line.text(9), -1, -1);
+    applyTextForm(*wnd, line);
     return wnd;
 }
 
@@ -77,15 +83,12 @@ AWnd* pointer(AWnd& target, const ScriptLine& line)
     const WndRef place(&target); // as above
     const CString& name = line.text(1);
     line.window.deleteAllGotoFiles(line.gotoFiles);
-    if (!line.run.spendOnWindowSearch())
-        return nullptr;
 
-    AWnd* wnd = line.window.getScreenList()->getWnd(name, 1);
+    AWnd* wnd = line.run.findBelow(*line.window.getScreenList(), name);
     if (!wnd) {
         line.window.readScriptFile(line.text(2), GetModuleHandleA(nullptr), mainScriptResource, name, 0);
         AWnd* root = line.window.getScreenList();
-        line.run.spendOnWindowSearch();
-        wnd = root ? root->getWnd(name, 1) : nullptr;
+        wnd = root ? line.run.findBelow(*root, name) : nullptr;
     }
     AWnd* root = line.window.getScreenList();
     if (!wnd || !place || !line.run.mayShow(*root, *place, *wnd))

@@ -20,7 +20,8 @@ bool isScaleAtRest(ZnFixed scale)
     return scale == fullScale || scale.raw == 0;
 }
 
-/// Only the whole part of the increment counts: half a pixel a tick moves nothing. Past the end the offset stops there.
+/// Only the whole part of the increment counts: half a pixel a tick moves nothing. Past the end the offset
+/// stops there.
 void walk(short& offset, short end, ZnFixed increment, int frameStep)
 {
     if (increment.raw == 0 || offset == end)
@@ -31,6 +32,23 @@ void walk(short& offset, short end, ZnFixed increment, int frameStep)
 }
 
 } // namespace
+
+APhysicalAnim& APhysicalAnim::operator=(const APhysicalAnim& other)
+{
+    incPosX = other.incPosX;
+    incPosY = other.incPosY;
+    animOffsetX = other.animOffsetX;
+    animOffsetY = other.animOffsetY;
+    endPosX = other.endPosX;
+    endPosY = other.endPosY;
+    incScaleW = other.incScaleW;
+    incScaleH = other.incScaleH;
+    scaleW = other.scaleW;
+    scaleH = other.scaleH;
+    deleteWhenDone = other.deleteWhenDone;
+    LayoutVersion::bump();
+    return *this;
+}
 
 void APhysicalAnim::setMoveAnimation(int startX, int startY, int endX, int endY, ZnFixed incX, ZnFixed incY,
                                      int whenDone)
@@ -50,7 +68,6 @@ void APhysicalAnim::setScaleAnimation(ZnFixed, ZnFixed, ZnFixed, ZnFixed, int) {
 void APhysicalAnim::reset()
 {
     *this = APhysicalAnim();
-    LayoutVersion::bump();
 }
 
 int APhysicalAnim::updatePos(int frameStep)

@@ -110,7 +110,8 @@ void AWnd::getStartPosForFrame(int frame, surface* strip, int width, int height,
     const int stride = width + 1;
     x = stride * frame;
     y = 0;
-    // Whole frames in a row; a strip too narrow for one, or frames without a width, have no rows to run on in.
+    // Whole frames in a row; a strip too narrow for one, or frames without a width, have no rows to run on
+    // in.
     const int row = stride > 0 ? strip->width / stride * stride : 0;
     if (row > 0 && x >= row) {
         y = x / row * (height + 1);
@@ -128,6 +129,16 @@ void AWnd::createBkgnd(surface* source, int darken)
         darkenRect(0, 0, width(), height());
 }
 
+void AWnd::renewBkgnds()
+{
+    AMainWin* main = getMainWin();
+    if (bkgnd && main)
+        createBkgnd(main->getBackdrop(), 0);
+    for (int i = 0; i < children.GetSize(); ++i)
+        if (AWnd* next = child(i))
+            next->renewBkgnds();
+}
+
 int AWnd::darkenRect(int fromX, int fromY, int toX, int toY)
 {
     AMainWin* main = getMainWin();
@@ -140,7 +151,7 @@ int AWnd::darkenRect(int fromX, int fromY, int toX, int toY)
     const int endY = std::min(toY, int(bkgnd->height));
     for (int y = startY; y < endY; ++y) {
         // Every second pixel, counted from the rectangle's own corner.
-        const int offset = (startX - fromX + y - fromY) & 1;
+        const int offset = static_cast<int>((0LL + startX - fromX + y - fromY) & 1);
         for (int x = startX + offset; x < endX; x += 2)
             bkgnd->setPixel(x, y, black);
     }

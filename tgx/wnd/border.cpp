@@ -16,8 +16,7 @@ enum Piece { TopLeft, TopEdge, TopRight, RightEdge, BottomRight, BottomEdge, Bot
 
 ABorder::ABorder(surface* bmp, int width, int size)
     : borderWidth(static_cast<short>(width)), borderBmp(bmp), pieceSize(static_cast<short>(size))
-{
-}
+{}
 
 void ABorder::draw(int x, int y, int width, int height)
 {
@@ -41,7 +40,8 @@ void ABorder::draw(int x, int y, int width, int height)
         put(RightEdge, 0, 0, x + width - size, py, size, h);
     }
 
-    // On a window smaller than two pieces each corner shows the part that lies towards the window's own corner.
+    // On a window smaller than two pieces each corner shows the part that lies towards the window's own
+    // corner.
     const int w = std::min(size, width / 2);
     const int h = std::min(size, height / 2);
     const int skipX = size - w;

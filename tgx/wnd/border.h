@@ -4,8 +4,8 @@
 
 class surface;
 
-/// A frame along a window's edge, drawn from a strip of eight square pieces with a gap of 1 pixel: clockwise from the top left
-/// corner. Not owned: the strip stays with the display library.
+/// A frame along a window's edge, drawn from a strip of eight square pieces with a gap of 1 pixel: clockwise
+/// from the top left corner. Not owned: the strip stays with the display library.
 class TGX_API ABorder {
 public:
     /// borderWidth: pixels that the window's bitmap stays from the edge; pieceSize: side of a piece.

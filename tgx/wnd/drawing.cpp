@@ -1,4 +1,5 @@
 #include "platform/display/surface.h"
+#include "tgx/base/fixed.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/border.h"
 #include "tgx/wnd/wnd.h"
@@ -48,8 +49,8 @@ void AWnd::draw(int frameStep)
     if (!windowText.IsEmpty()) {
         // A right-justified text ends textOffsetX short of the right edge.
         const int x = textJustify == TJ_RIGHT ? atLeft : atLeft + textOffsetX;
-        textOut(x, atTop + textOffsetY, width() - textOffsetX, height() - textOffsetY, windowText, textJustify, textWrap,
-                ZnFixed::fromInt(1), 0, nullptr);
+        textOut(x, atTop + textOffsetY, width() - textOffsetX, height() - textOffsetY, windowText,
+                textJustify, textWrap, ZnFixed::fromInt(1), 0, nullptr);
     }
     for (int i = 0; i < children.GetSize(); ++i) {
         fetchAhead(i);
@@ -69,8 +70,8 @@ void AWnd::draw(int frameStep)
     }
 }
 
-/// Drawing many small windows waits for memory more than it computes: the windows to come, and their bitmaps, are asked for
-/// while this one is drawn.
+/// Drawing many small windows waits for memory more than it computes: the windows to come, and their bitmaps,
+/// are asked for while this one is drawn.
 void AWnd::fetchAhead(int index) const
 {
     constexpr int windowsAhead = 3;
@@ -93,7 +94,7 @@ void AWnd::advanceFrame(int frameStep)
     int next = currentFrame + frameStep;
     if (next >= end)
         next = loop ? firstFrame : end - 1;
-    currentFrame = static_cast<short>(std::max<int>(next, firstFrame));
+    currentFrame = to16(std::max<int>(next, firstFrame));
 }
 
 void AWnd::paintBitmap(int atLeft, int atTop)
@@ -139,8 +140,8 @@ void AWnd::paintTiles(int srcX, int srcY, int x, int y, int w, int h)
         const int toY = y + row * bmp->height;
         for (int column = columns.first; column < columns.end; ++column) {
             const int toX = x + column * bmp->width;
-            bmp->blit(toX, toY, srcX, srcY, std::min(tileW, x + w - toX), std::min(tileH, y + h - toY), -1, -1,
-                      nullptr, bmpBlitMode);
+            bmp->blit(toX, toY, srcX, srcY, std::min(tileW, x + w - toX), std::min(tileH, y + h - toY), -1,
+                      -1, nullptr, bmpBlitMode);
         }
     }
 }

@@ -16,7 +16,8 @@ bool isOneOf(const std::string_view (&ids)[N], std::string_view id)
 /// Where Esc puts the pointer: the first of these that is there and enabled.
 constexpr const char* escTargets[] = {"TGX_BACK", "TGX_OK", "TGX_YES", "TGX_CLOSE", "continue"};
 
-/// An Esc search that reaches an edit box clicks it, which sends the key down the tree again: no search inside a search.
+/// An Esc search that reaches an edit box clicks it, which sends the key down the tree again: no search
+/// inside a search.
 bool escSearchRuns = false;
 
 } // namespace

@@ -14,8 +14,8 @@ private:
     static std::uint64_t value; // from 1, so that a fresh window's layout counts as stale
 };
 
-/// What a window's place in the tree makes of it. Kept in the window and worked out anew, from the parent's, when anything in
-/// the tree has changed since: asking costs the same at every depth.
+/// What a window's place in the tree makes of it. Kept in the window and worked out anew, from the parent's,
+/// when anything in the tree has changed since: asking costs the same at every depth.
 struct Layout {
     std::uint64_t version = 0;
     int left = 0; // screen pixels, with all animation

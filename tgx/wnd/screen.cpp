@@ -3,9 +3,9 @@
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/reserved.h"
 
-AScreen::AScreen(const CString& name, int x, int y, int width, int height) : AWnd(WND_SCREEN, name, x, y, width, height)
-{
-}
+AScreen::AScreen(const CString& name, int x, int y, int width, int height)
+    : AWnd(WND_SCREEN, name, x, y, width, height)
+{}
 
 void AScreen::draw(int frameStep)
 {
@@ -47,8 +47,12 @@ void AScreen::close()
 
 void AScreen::exitScreen()
 {
-    if (!caller.IsEmpty())
-        getMainWin()->changeScreenFromToolkit(caller);
+    if (caller.IsEmpty())
+        return;
+    // A change that waited is carried out here; its screen is then ours to open.
+    AScreen* reached = getMainWin()->changeScreen(caller, 1, mainScriptResource, mainScriptFile);
+    if (reached && !reached->isOpen())
+        reached->initialise();
 }
 
 int AScreen::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
@@ -70,5 +74,6 @@ int AScreen::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_
     return 1;
 }
 
-/// A click on the screen's own background clears the lists that lie directly on it, not those deeper down.
+/// A click on the screen's own background clears the list boxes that lie directly on it, not those deeper
+/// down. There are none yet.
 void AScreen::deselectOwnListBoxes() {}

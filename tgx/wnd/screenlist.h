@@ -13,9 +13,11 @@ public:
     /// Null: none is active.
     void setActiveScreen(AScreen* screen);
 
-    /// Marks wnd: it counts as gone, and is deleted at the end of the next dispatched input tick. Not owned. 1.
+    /// Marks wnd: it counts as gone, and is deleted at the end of the next dispatched input tick. Not
+    /// owned. 1.
     int addWndToDelete(AWnd* wnd);
-    /// 1 for a marked window and all inside it. They can still be found in the tree, so whoever finds one by name asks here.
+    /// 1 for a marked window and all inside it. They can still be found in the tree, so whoever finds one by
+    /// name asks here.
     int isWndToBeDeleted(AWnd* wnd) const;
     /// Deletes the marked windows that are direct children, last first; the others only lose their mark. 1.
     int deleteWndsPendingDelete();

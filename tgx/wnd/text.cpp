@@ -1,39 +1,12 @@
-#include "platform/display/bmpfont.h"
+#include "tgx/base/fixed.h"
 #include "tgx/base/numtext.h"
 #include "tgx/frame/mainwin.h"
-#include "tgx/wnd/wnd.h"
+#include "tgx/wnd/textline.h"
 #include "tgx/wnd/wrap.h"
 
 namespace {
 
 constexpr ZnFixed atFullSize = ZnFixed::fromInt(1);
-
-int leftEdge(AWnd::E_TEXTJUSTIFY justify, int x, int width, int length)
-{
-    switch (justify) {
-    case AWnd::TJ_CENTRE:
-        return x + (width - length) / 2;
-    case AWnd::TJ_RIGHT:
-        return x + width - length;
-    default:
-        return x;
-    }
-}
-
-int textLength(const bmpfont* font, std::string_view text)
-{
-    return font ? font->stringLength(text) : 0;
-}
-
-/// text without the characters at its end that do not fit, in one pass. length: the width of what is left.
-std::string_view cutToWidth(const bmpfont* font, std::string_view text, int width, int& length)
-{
-    length = textLength(font, text);
-    std::size_t count = text.size();
-    while (count > 0 && length > width)
-        length -= font ? font->advance(static_cast<unsigned char>(text[--count])) : 0;
-    return text.substr(0, count);
-}
 
 } // namespace
 
@@ -49,8 +22,8 @@ void AWnd::setWindowText(const CString& text)
 
 void AWnd::setTextOffset(int x, int y)
 {
-    textOffsetX = static_cast<short>(x);
-    textOffsetY = static_cast<short>(y);
+    textOffsetX = to16(x);
+    textOffsetY = to16(y);
 }
 
 void AWnd::textOut(int x, int y, int width, int height, const CString& text, E_TEXTJUSTIFY justify, int wrap,
@@ -64,7 +37,8 @@ void AWnd::textOut(int x, int y, int width, int height, const CString& text, E_T
         return;
     }
 
-    static std::string line; // the display library takes text that ends in 0; kept, so that a frame allocates nothing
+    static std::string
+        line; // the display library takes text that ends in 0; kept, so that a frame allocates nothing
     if (!wrap) {
         int length = 0;
         const std::string_view fits = cutToWidth(font, text.view(), width, length);
@@ -81,7 +55,7 @@ void AWnd::textOut(int x, int y, int width, int height, const CString& text, E_T
 
     for (TextWrap wrapped(text.view(), font, width, height); wrapped.next();) {
         line = wrapped.line();
-        main->textout(leftEdge(justify, x, width, wrapped.length()), wrapped.topFrom(y), line.c_str(), font, dest, 0,
-                      atFullSize, 1);
+        main->textout(leftEdge(justify, x, width, wrapped.length()), wrapped.topFrom(y), line.c_str(), font,
+                      dest, 0, atFullSize, 1);
     }
 }

@@ -1,4 +1,6 @@
 #include "platform/display/ddwin.h"
+#include "tgx/base/fixed.h"
+#include "tgx/controls/button.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/border.h"
 #include "tgx/wnd/links.h"
@@ -18,11 +20,9 @@ bmpfont* defaultFont()
 } // namespace
 
 AWnd::AWnd(E_WNDTYPE type, const CString& name, int x, int y, int width, int height)
-    : wndX_(static_cast<short>(x)), wndY_(static_cast<short>(y)), wndWidth(static_cast<short>(width)),
-      wndHeight(static_cast<short>(height)), font(defaultFont()), windowType(type),
-      id(name == "static" ? CString() : name)
-{
-}
+    : wndX_(to16(x)), wndY_(to16(y)), wndWidth(to16(width)), wndHeight(to16(height)), font(defaultFont()),
+      windowType(type), id(name == "static" ? CString() : name)
+{}
 
 AWnd::~AWnd()
 {
@@ -41,6 +41,7 @@ AWnd::~AWnd()
             delete last;
         } else if (last->parent == this) {
             last->parent = nullptr;
+            LayoutVersion::bump();
         }
     }
     if (links) {
@@ -94,7 +95,7 @@ AWnd* AWnd::addChildWindow(AWnd* added)
         added->getLinks().listedTwice = true;
 
     children.Add(added);
-    added->windowIndex = static_cast<short>(children.GetSize() - 1);
+    added->windowIndex = to16(children.GetSize() - 1);
     added->parent = this;
     added->inheritFont();
     if (added->owner != this) {
@@ -108,7 +109,7 @@ AWnd* AWnd::addChildWindow(AWnd* added)
 void AWnd::setParentAndIndex(AWnd* newParent, int index)
 {
     parent = newParent;
-    windowIndex = static_cast<short>(index);
+    windowIndex = to16(index);
     inheritFont();
     LayoutVersion::bump();
 }
@@ -161,10 +162,10 @@ AWnd* AWnd::getWnd(const CString& name, int recursive)
     return nullptr;
 }
 
-// The vocabulary's typed look-ups: every control derives from AWnd alone, so its address is the window's.
+// Typed look-ups: every control derives from AWnd alone, so its address is the window's.
 AButton* AWnd::getButton(const CString& name, int recursive)
 {
-    return reinterpret_cast<AButton*>(getWnd(name, recursive));
+    return static_cast<AButton*>(getWnd(name, recursive));
 }
 
 AListBox* AWnd::getListBox(const CString& name, int recursive)
@@ -220,6 +221,7 @@ void AWnd::showAllControls(int show)
             control->setVisible(show);
 }
 
+// No window is a list box yet: the walk finds none.
 void AWnd::deselectAllListBoxes(AWnd* except)
 {
     for (AWnd* wnd : children)
@@ -229,6 +231,6 @@ void AWnd::deselectAllListBoxes(AWnd* except)
 
 void AWnd::setSavedMousePos(int x, int y)
 {
-    savedMouseX = static_cast<short>(x);
-    savedMouseY = static_cast<short>(y);
+    savedMouseX = to16(x);
+    savedMouseY = to16(y);
 }

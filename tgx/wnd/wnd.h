@@ -18,11 +18,12 @@ class bmpfont;
 class surface;
 struct IDirectDrawSurface;
 
-/// Base of everything on the screen: a position and size, a bitmap strip, a text, a border, a movement, child windows and tab
-/// stops. It has no platform window behind it and draws on the main window's back buffer.
+/// Base of everything on the screen: a position and size, a bitmap strip, a text, a border, a movement, child
+/// windows and tab stops. It has no platform window behind it and draws on the main window's back buffer.
 ///
-/// Positions and sizes are pixels, 16 bits signed when stored. Flags that an operation takes as an int use its lowest bit, but
-/// for setVisible and showAllControls, which ask whether it is above 0. Answers of handlers are 1 for taken, 0 for not taken.
+/// Positions and sizes are pixels, 16 bits signed when stored. Flags that an operation takes as an int use
+/// its lowest bit, but for setVisible and showAllControls, which ask whether it is above 0. Answers of
+/// handlers are 1 for taken, 0 for not taken.
 class TGX_API AWnd {
 public:
     /// What a window is; controls are told apart by it.
@@ -67,15 +68,17 @@ public:
 
     // Virtual operations, in slot order.
 
-    /// Deletes the children that it owns, last first, and unhooks the others. Afterwards no pointer of the toolkit leads here.
+    /// Deletes the children that it owns, last first, and unhooks the others. Afterwards no pointer of the
+    /// toolkit leads here.
     virtual ~AWnd();
-    /// Paints background, bitmap, border and text, then the children, then moves on. frameStep: animation ticks that this frame
-    /// stands for; 0 paints and moves nothing.
+    /// Paints background, bitmap, border and text, then the children, then moves on. frameStep: animation
+    /// ticks that this frame stands for; 0 paints and moves nothing.
     virtual void draw(int frameStep);
     /// The decimal text of value, through the text form of this operation.
     virtual void setWindowText(int value);
     virtual void setWindowText(const CString& text);
-    /// Behind startup, when a screen has opened for the first time. The base goes on to the children, as do the next three.
+    /// Behind startup, when a screen has opened for the first time. The base goes on to the children, as do
+    /// the next three.
     virtual void initialise();
     /// When a screen or popup opens: movement back to rest, background taken anew, bitmap loaded.
     virtual void startup();
@@ -83,13 +86,14 @@ public:
     virtual void close();
     /// When it is come back to: bitmaps that are missing are loaded.
     virtual void returned();
-    /// An action on its way down the tree. id and wnd: what the action is about; x, y: the pointer in screen pixels, or -1 for
-    /// a key. The base passes it to the topmost usable child under the point, a key to all children.
+    /// An action on its way down the tree. id and wnd: what the action is about; x, y: the pointer in screen
+    /// pixels, or -1 for a key. The base passes it to the topmost usable child under the point, a key to all
+    /// children.
     virtual int handleMouseAction(const CString& id, AWnd* wnd, int x, int y, E_MOUSEACTION action);
     /// Children first, then its own handleMouseAction with MA_KEY.
     virtual int handleKeyInput(char key);
-    /// An action in a popup that this window opened. The base climbs to the root first, and closes the popup on a click with one
-    /// of the ids that answer a box. 0.
+    /// An action in a popup that this window opened. The base climbs to the root first, and closes the popup
+    /// on a click with one of the ids that answer a box. 0.
     virtual int handlePopupAction(const CString& id, AWnd* wnd, int x, int y, E_MOUSEACTION action);
     /// The pointer has left. The base does nothing and answers 0.
     virtual int handleLostFocus();
@@ -100,9 +104,11 @@ public:
 
     // Tree (tree.cpp).
 
-    /// Appends child. Owns child from here on. A child with the default font takes this window's font. The child.
+    /// Appends child. Owns child from here on. A child with the default font takes this window's font. The
+    /// child.
     AWnd* addChildWindow(AWnd* child);
-    /// Hangs this window under another one without being listed there. Not owned by it: owner stays. Takes its font as above.
+    /// Hangs this window under another one without being listed there. Not owned by it: owner stays. Takes
+    /// its font as above.
     void setParentAndIndex(AWnd* parent, int index);
     /// Null for a window that has no parent or is its own.
     AWnd* getParent() const { return parent.get() == this ? nullptr : parent.get(); }
@@ -123,19 +129,20 @@ public:
     AWnd* getNextWnd(AWnd*) { return this; }
     /// Places in the tree beyond the first that show this window.
     int getPointerCount() const { return pointerCount; }
-    void addPointer() { ++pointerCount; }
+    void addPointer() { pointerCount = static_cast<short>(pointerCount + (pointerCount < 32767)); }
     /// 1 when this window or an owner on the way to the root is shown in a second place.
     int isPointer() const;
-    /// Depth first, ignoring case; with recursive 0 only the direct children. The first match, or null; this window itself is
-    /// not tested. An empty id matches the first window without one.
+    /// Depth first, ignoring case; with recursive 0 only the direct children. The first match, or null; this
+    /// window itself is not tested. An empty id matches the first window without one.
     AWnd* getWnd(const CString& id, int recursive);
     /// The same window, typed; its real type is not asked.
     AButton* getButton(const CString& id, int recursive);
     AListBox* getListBox(const CString& id, int recursive);
-    /// Child at index, of this window or of the one called parentId below it. Null behind the last; a negative index raises the
-    /// invalid-argument exception.
+    /// Child at index, of this window or of the one called parentId below it. Null behind the last; a
+    /// negative index raises the invalid-argument exception.
     AWnd* getWndFromIndex(int index, const CString& parentId);
-    /// First direct child of that type from start on; with wrap and start above 0 then from the first to start - 1. Null if none.
+    /// First direct child of that type from start on; with wrap and start above 0 then from the first to
+    /// start - 1. Null if none.
     AWnd* getWndOfType(E_WNDTYPE type, int start, int wrap);
     /// Exact, whole sub-tree.
     int hasChildCalled(const CString& id) const;
@@ -145,7 +152,7 @@ public:
     void showAllControls(int show);
     /// Clears the selection of every list box below, but for except.
     void deselectAllListBoxes(AWnd* except);
-    /// Opens a box with this window as its parent. 1, or 0 when the script has no such box.
+    /// Opens a box with this window as its parent. 1; a box that the script has not is reported.
     int messageBox(const CString& title, const CString& text, const CString& third, const CString& id);
     int queryBox(const CString& title, const CString& text, const CString& third, const CString& id);
     /// The front popup when this window opened it, else null.
@@ -175,12 +182,13 @@ public:
     int getWndY(int screenY) const { return screenY - top(); }
     /// A negative width or height keeps the old one.
     void setWndPos(int x, int y, int w, int h);
-    /// Centres on the screen, or with inParent in the parent; a screen, or a window without a parent, stays then.
+    /// Centres on the screen, or with inParent in the parent; a screen, or a window without a parent, stays
+    /// then.
     void setWndPosCentred(int horizontal, int vertical, int inParent);
     /// Both far edges are inside: 10 pixels wide at 0 holds the points 0 to 10.
     int pointInside(int x, int y) const;
-    /// The topmost usable child under the point, or the deepest with recursive; never this window. A disabled child lets the point
-    /// through to what lies below.
+    /// The topmost usable child under the point, or the deepest with recursive; never this window. A disabled
+    /// child lets the point through to what lies below.
     AWnd* getWndAtPos(int x, int y, int recursive);
     /// Its own flag, or with withParents whether all above it show too.
     int isVisible(int withParents) const;
@@ -222,7 +230,8 @@ public:
     int getFrameWidth() const { return frameWidth; }
     int getFrameHeight() const { return frameHeight; }
     int getCurrentFrame() const { return currentFrame; }
-    /// Of the whole strip. With a frameCount of 1 it also becomes the first frame, so that a still window keeps it.
+    /// Of the whole strip. With a frameCount of 1 it also becomes the first frame, so that a still window
+    /// keeps it.
     void setCurrentFrame(int frame);
     int getFirstFrame() const { return firstFrame; }
     int getFrameCount() const { return frameCount; }
@@ -234,18 +243,21 @@ public:
     int doNextFrame(int frameStep);
     /// Corner of a frame of that size in a strip that runs on in rows.
     void getStartPosForFrame(int frame, surface* strip, int width, int height, int& x, int& y);
-    /// Keeps that part of source, a backdrop, which lies under this window; darken: a checkerboard of black over it.
+    /// Keeps that part of source, a backdrop, which lies under this window; darken: a checkerboard of black
+    /// over it.
     void createBkgnd(surface* source, int darken);
     int hasBkgnd() const { return bkgnd != nullptr; }
+    /// Takes every background that this window and those below keep anew from the present backdrop.
+    void renewBkgnds();
     /// Blackens every second pixel of the kept background; right and bottom excluded. 0 without one, else 1.
     int darkenRect(int left, int top, int right, int bottom);
 
     // Text (text.cpp).
 
-    /// Writes text into the box, in screen pixels: whole where textRaw is set, on one line cut to the width, or wrapped. scale and
-    /// mode are those of ddwin::textout and count on one line only.
-    void textOut(int x, int y, int width, int height, const CString& text, E_TEXTJUSTIFY justify, int wrap, ZnFixed scale,
-                 int mode, IDirectDrawSurface* dest);
+    /// Writes text into the box, in screen pixels: whole where textRaw is set, on one line cut to the width,
+    /// or wrapped. scale and mode are those of ddwin::textout and count on one line only.
+    void textOut(int x, int y, int width, int height, const CString& text, E_TEXTJUSTIFY justify, int wrap,
+                 ZnFixed scale, int mode, IDirectDrawSurface* dest);
     /// The text's buffer; valid until the text changes.
     char* getWindowText() { return windowText.GetBuffer(); }
     const CString& getText() const { return windowText; }
@@ -266,18 +278,20 @@ public:
 
     // Border (border.cpp).
 
-    /// Frames the window with that strip; one that cannot be loaded is reported with "cannot load %s" and not drawn. Owned by
-    /// this window; the one before is deleted.
+    /// Frames the window with that strip; one that cannot be loaded is reported with "cannot load %s" and not
+    /// drawn. Owned by this window; the one before is deleted.
     ABorder* setBorder(const CString& name, int borderWidth, int pieceSize);
     ABorder* getBorder() const { return border.get(); }
 
     // Movement (anim.cpp).
 
     /// As in APhysicalAnim; the record is made if there is none.
-    void setMoveAnimation(int startX, int startY, int endX, int endY, ZnFixed incX, ZnFixed incY, int deleteWhenDone);
+    void setMoveAnimation(int startX, int startY, int endX, int endY, ZnFixed incX, ZnFixed incY,
+                          int deleteWhenDone);
     /// Makes the record and stores nothing.
     void setScaleAnimation(ZnFixed, ZnFixed, ZnFixed, ZnFixed);
-    /// Slides by half its size to the lower right, at speed pixels a tick, and is at rest again when done. The size stays.
+    /// Slides by half its size to the lower right, at speed pixels a tick, and is at rest again when done.
+    /// The size stays.
     void setShrinkAnimation(ZnFixed speed);
     /// Slides from half its size at the lower right back to rest.
     void setGrowAnimation(ZnFixed speed);
@@ -294,8 +308,8 @@ public:
     ATabStopInfo* createTabStopInfo();
     /// Null when there is none and create is 0.
     ATabStopInfo* getTabStopInfo(int create);
-    /// The next usable stop behind from, wrapping; from the first on when from is not in the list. Null if none. list is not
-    /// read.
+    /// The next usable stop behind from, wrapping; from the first on when from is not in the list. Null if
+    /// none. list is not read.
     AWnd* getNextTabStop(AWnd* from, int backwards, CArray<AWnd*, AWnd*>* list);
 
     /// Where the pointer goes when this popup closes, screen pixels.
@@ -304,11 +318,12 @@ public:
     void setSavedMousePos(int x, int y);
 
 protected:
-    /// To be called by a class that writes parent, wndX_, wndY_, visible or enabled itself instead of through the operations
-    /// above: positions and visibility are kept until then.
+    /// To be called by a class that writes parent, wndX_, wndY_, visible, enabled or anim (or the offsets in
+    /// it) itself instead of through the operations above: positions and visibility are kept until then.
     static void layoutChanged() { LayoutVersion::bump(); }
 
-    // What the drawing of a window without text reads stands together, in two cache lines: thousands are drawn each frame.
+    // What the drawing of a window without text reads stands together, in two cache lines: thousands are
+    // drawn each frame.
 private:
     mutable Layout place;
 
@@ -336,11 +351,11 @@ protected:
     short bmpSourceY = 0;
     short frameWidth = 0;
     short frameHeight = 0;
-    short currentFrame = 0; // of the whole strip
-    short firstFrame = 0;   // of the running sequence
-    short frameCount = 1;   // in the running sequence
-    short frameTimer = 0;   // ticks towards frameDelay
-    short frameDelay = 0;   // ticks
+    short currentFrame = 0;        // of the whole strip
+    short firstFrame = 0;          // of the running sequence
+    short frameCount = 1;          // in the running sequence
+    short frameTimer = 0;          // ticks towards frameDelay
+    short frameDelay = 0;          // ticks
     CArray<AWnd*, AWnd*> children; // drawing order
     CString windowText;
 

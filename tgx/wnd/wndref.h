@@ -6,8 +6,8 @@
 
 class AWnd;
 
-/// A pointer to a window that owns nothing and empties itself when the window is deleted. Three words and no allocation:
-/// the refs to one window are linked through themselves.
+/// A pointer to a window that owns nothing and empties itself when the window is deleted. Three words and no
+/// allocation: the refs to one window are linked through themselves.
 class TGX_API WndRef {
 public:
     WndRef() = default;
@@ -38,8 +38,8 @@ private:
     WndRef** link = nullptr; // what points at this ref
 };
 
-/// A list of windows that owns none of them. A window that is deleted drops out of it wherever it stands. Indexes are checked
-/// as in CArray.
+/// A list of windows that owns none of them. A window that is deleted drops out of it wherever it stands.
+/// Indexes are checked as in CArray.
 class TGX_API WndList {
 public:
     WndList() = default;

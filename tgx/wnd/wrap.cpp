@@ -4,11 +4,13 @@
 #include "platform/framework/znfixed.h"
 
 #include <algorithm>
+#include <climits>
 #include <vector>
 
 namespace {
 
-// Width of the text in front of each character, so that the width of any part is one subtraction.
+// Width of the text in front of each character, as far as it has been asked for, so that the width of any
+// part is one subtraction.
 std::vector<long long> widthBefore;
 
 constexpr std::size_t shortText = 20; // characters; longer texts get more space between their lines
@@ -20,23 +22,36 @@ TextWrap::TextWrap(std::string_view wrapped, const bmpfont* with, int boxWidth, 
     : text(wrapped), font(with), width(boxWidth), height(boxHeight), lineHeight(with ? with->lineHeight : 0),
       factor(wrapped.size() > shortText ? wideFactor : ZnFixed::one)
 {
-    widthBefore.resize(text.size() + 1);
-    long long sum = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        widthBefore[i] = sum;
-        sum += font ? font->advance(static_cast<unsigned char>(text[i])) : 0;
-    }
-    widthBefore[text.size()] = sum;
+    widthBefore.assign(1, 0);
 }
 
-int TextWrap::widthOf(std::size_t from, std::size_t end) const
+long long TextWrap::widthOf(std::size_t from, std::size_t end) const
 {
-    return end > from ? static_cast<int>(widthBefore[end] - widthBefore[from]) : 0;
+    if (end <= from)
+        return 0;
+    while (widthBefore.size() <= end) {
+        const auto next = static_cast<unsigned char>(text[widthBefore.size() - 1]);
+        widthBefore.push_back(widthBefore.back() + (font ? font->advance(next) : 0));
+    }
+    return widthBefore[end] - widthBefore[from];
+}
+
+int TextWrap::length() const
+{
+    return static_cast<int>(std::min<long long>(widthOf(lineStart, lineEnd), INT_MAX));
 }
 
 int TextWrap::topFrom(int y) const
 {
     return static_cast<int>((y * 4096LL + static_cast<long long>(lineHeight) * factor * lineCount) / 4096);
+}
+
+void TextWrap::lookAt(long place, std::size_t end)
+{
+    if (place != watched)
+        return;
+    seenLine = lineCount + 1;
+    seenWidth = static_cast<int>(widthOf(lineStart, end));
 }
 
 bool TextWrap::next()
@@ -59,8 +74,9 @@ bool TextWrap::next()
             breakHere = true;
             twoCharacters = true;
         }
-        const bool fits = widthOf(lineStart, static_cast<std::size_t>(std::max(scan, start))) <= width;
-        if (fits && scan < count - 1 && !breakHere) {
+        const auto measured = static_cast<std::size_t>(std::max(scan, start));
+        if (widthOf(lineStart, measured) <= width && scan < count - 1 && !breakHere) {
+            lookAt(scan, measured);
             ++scan;
             continue;
         }
@@ -68,7 +84,8 @@ bool TextWrap::next()
         if (scan < count - 1) {
             if (breakHere)
                 lastBreak = scan;
-            else if (lastBreak < start) // no blank on this line: the word is cut, and a character lost as a blank would be
+            else if (lastBreak < start) // no blank on this line: the word is cut, and a character lost as a
+                                        // blank would be
                 lastBreak = --scan;
             lineEnd = static_cast<std::size_t>(std::max(lastBreak, start));
             nextStart = lastBreak + 1;
@@ -76,9 +93,11 @@ bool TextWrap::next()
             if (breakHere && twoCharacters)
                 ++nextStart;
         } else {
+            lookAt(scan, measured);
             lineEnd = text.size();
             scan = count;
         }
+        lookAt(scan, lineEnd);
         nextStart = std::min(nextStart, count);
         ++lineCount;
         full = lineHeight * (lineCount + 2) > height;

@@ -6,15 +6,24 @@
 
 class bmpfont;
 
-/// Breaks a text into the lines of a box, at blanks and at line-break marks (a line feed, or a backslash and an "n"). One pass
-/// over the text, whatever its length. While one of these is in use no other may be: they share their working storage.
+/// Breaks a text into the lines of a box, at blanks and at line-break marks (a line feed, or a backslash and
+/// an "n"). One pass, and no further than the box's height asks for. While one of these is in use no other
+/// may be: they share their working storage.
 ///
 ///     for (TextWrap wrapped(text, font, width, height); wrapped.next();)
 ///         use(wrapped.line(), wrapped.topFrom(y));
 class TGX_API TextWrap {
 public:
-    /// text is not copied. width and height of the box in pixels; a null font gives all characters a width of 0.
+    /// text is not copied. width and height of the box in pixels; a null font gives all characters a width of
+    /// 0.
     TextWrap(std::string_view text, const bmpfont* font, int width, int height);
+
+    /// A place in the text that the scan is to look out for, such as a caret's. What it passes over, behind a
+    /// break, it does not see; where it comes by twice the later time counts.
+    void watch(int place) { watched = place; }
+    /// Line at which the watched place was seen, or -1, and the width in pixels of that line in front of it.
+    int getSeenLine() const { return seenLine; }
+    int getSeenWidth() const { return seenWidth; }
 
     /// Goes on to the next line. False when the text or the box's height is used up.
     bool next();
@@ -24,12 +33,13 @@ public:
     int getLineStart() const { return static_cast<int>(lineStart); }
     int getLineCount() const { return lineCount; }
     /// Width of the line in pixels.
-    int length() const { return widthOf(lineStart, lineEnd); }
+    int length() const;
     /// Top of the line when the box starts at y.
     int topFrom(int y) const;
 
 private:
-    int widthOf(std::size_t from, std::size_t end) const;
+    long long widthOf(std::size_t from, std::size_t end) const;
+    void lookAt(long place, std::size_t end);
 
     std::string_view text;
     const bmpfont* font;
@@ -43,5 +53,8 @@ private:
     std::size_t lineStart = 0;
     std::size_t lineEnd = 0;
     int lineCount = -1; // of the lines in front of this one
-    bool full = false;  // the next line would stand out of the box
+    long watched = -1;
+    int seenLine = -1;
+    int seenWidth = 0;
+    bool full = false; // the next line would stand out of the box
 };

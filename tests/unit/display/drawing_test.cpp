@@ -402,6 +402,9 @@ TEST_F(TextTest, HostileTextsEnd)
     write(longText.c_str(), 0, 4096, 1, -700000);
     EXPECT_GT(window.count(0xFFFFFF), 100) << "the middle of a long text";
     EXPECT_EQ(window.getStringLength(nullptr, font), 0);
+    bmpfont wide;
+    wide.advances['W'] = INT16_MAX;
+    EXPECT_EQ(window.getStringLength(longText.c_str(), &wide), INT_MAX);
 }
 
 TEST_F(TextTest, AFontThatCannotBeLoadedIsReportedAndReplaced)

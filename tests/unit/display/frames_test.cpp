@@ -2,6 +2,9 @@
 
 #include "platform/framework/exceptions.h"
 
+#include <map>
+#include <set>
+
 namespace {
 
 class FramesTest : public DisplayTest {
@@ -156,6 +159,64 @@ TEST_F(FramesTest, AReloadShowsWhatTheFilesHoldNow)
     EXPECT_EQ(window.at(1, 0), 0x99u) << "the pixels stay when the file is gone";
 }
 
+TEST_F(FramesTest, PicturesNamedInTurnAreDecodedOnceInAFrame)
+{
+    for (const char* name : {"a.bmp", "b.bmp"})
+        write(name, bmpFile(1, 1, {24, 0, "", std::string("\x30\x20\x10\0", 4)}));
+    std::map<std::string, std::set<std::uint32_t>> ids;
+    for (int round = 0; round < 3; round++)
+        for (const char* name : {"a.bmp", "b.bmp"}) {
+            surface* sprite = window.createsprite(name, -1, -1, -1);
+            ASSERT_TRUE(sprite);
+            ids[name].insert(sprite->getImage()->id);
+            window.deleteSurface(sprite);
+        }
+    EXPECT_EQ(ids["a.bmp"].size(), 1u);
+    EXPECT_EQ(ids["b.bmp"].size(), 1u);
+    const long long before = livePixelCount();
+    window.frame();
+    EXPECT_EQ(livePixelCount(), before - 2 * (4 + 16)) << "nothing keeps them behind the frame";
+}
+
+TEST_F(FramesTest, AFileThatFailedIsDecodedAgainOnlyWhenItChangedOrByAReload)
+{
+    // Each try at decoding takes an image's id.
+    const auto idsTaken = [&](auto act) {
+        const std::uint32_t before = makeImage(0, 0)->id;
+        act();
+        return makeImage(0, 0)->id - before - 1;
+    };
+    const auto tryIt = [&] {
+        for (const char* name : {"a.bmp", "A.BMP", "./a.bmp"})
+            EXPECT_EQ(window.createsprite(name, -1, -1, -1), nullptr);
+    };
+    const std::string palette(16, '\x40');
+    write("a.bmp", bmpFile(2, 2, {8, 1, palette, std::string("\x02\x01", 2)})); // runs without an end
+    EXPECT_EQ(idsTaken(tryIt), 1u);
+    EXPECT_EQ(idsTaken([&] { window.frame(tryIt); }), 0u);
+    window.reloadsurfaces();
+    EXPECT_EQ(idsTaken(tryIt), 1u);
+    write("a.bmp", bmpFile(2, 2, {8, 1, palette, std::string("\x02\x01\0\x01", 4)}));
+    EXPECT_NE(window.createsprite("a.bmp", -1, -1, -1), nullptr);
+}
+
+TEST_F(FramesTest, PixelsOfAllPicturesTogetherAreBounded)
+{
+    write("small.bmp", bmpFile(1, 1, {24, 0, "", std::string(4, 1)}));
+    write("large.bmp", bmpFile(8000, 8000, {8, 1, std::string(16, 0), std::string("\0\x01", 2)}));
+    std::vector<surface*> sections;
+    for (int i = 0; i < 3; i++)
+        sections.push_back(window.createBkgndSection(&white, 0, 0, 8000, 8000, nullptr));
+    EXPECT_EQ(std::count(sections.begin(), sections.end(), nullptr), 0);
+    EXPECT_EQ(window.createBkgndSection(&white, 0, 0, 8000, 8000, nullptr), nullptr);
+    EXPECT_EQ(window.createBkgndSection(&white, 0, 0, 8000, 8000, sections[0]), sections[0]);
+    EXPECT_EQ(sections[0]->width, 8000) << "takes the place of its own pixels";
+    EXPECT_EQ(window.createsprite("large.bmp", -1, -1, -1), nullptr);
+    EXPECT_NE(window.createsprite("small.bmp", -1, -1, -1), nullptr);
+    window.deleteSurface(sections[0]);
+    EXPECT_NE(window.createsprite("large.bmp", -1, -1, -1), nullptr) << "no room is not remembered as broken";
+}
+
 TEST_F(FramesTest, ABackdropSpreadsWhereItIsMarked)
 {
     writeBackdrop("one.bmp", '\x11');
@@ -209,7 +270,11 @@ TEST_F(FramesTest, ABackdropFitsTheScreenOrIsPlain)
     EXPECT_EQ(section->getImage()->row(0)[1], 0xFF000000u);
     EXPECT_EQ(window.createBkgndSection(window.getBackdrop(), 0, 0, 2, 2, section), section);
     EXPECT_EQ(section->getImage()->row(1)[1], 0xFFFF00FFu);
-    EXPECT_EQ(window.createBkgndSection(nullptr, 0, 0, 2, 2, section), nullptr);
+    EXPECT_EQ(window.createBkgndSection(section, 1, 1, 1, 1, section), section) << "out of itself";
+    EXPECT_EQ(section->getImage()->row(0)[0], 0xFFFF00FFu);
+    EXPECT_EQ(window.createBkgndSection(nullptr, 0, 0, 2, 2, nullptr), nullptr);
+    EXPECT_EQ(window.createBkgndSection(nullptr, 0, 0, 2, 2, section), section);
+    EXPECT_EQ(section->width, 0) << "the old one is empty and still there";
     EXPECT_NE(window.createBkgndSection(window.getBackdrop(), INT_MIN, INT_MAX, INT_MAX, 1, nullptr),
               nullptr);
 

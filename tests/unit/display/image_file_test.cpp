@@ -190,6 +190,7 @@ TEST_F(ImageFileTest, WhatIsMissingForeignTooLargeOrBrokenIsRefused)
         {"a PNG cut short", pngFile(1, 1, 2, "", "\0\x11\x22\x33"s).substr(0, 50)},
         {"a GIF cut short", gifFile(false).substr(0, 25)},
         {"a JPEG cut short", jpegFile().substr(0, jpegFile().size() - 3)},
+        {"a JPEG with a mark that is none", jpegFile().insert(2, "\xFF\0\0\x02"s)},
         {"a PCX of a negative size", "\x0A\x05\x01\x08"s + le(9, 4) + std::string(120, 0)},
     };
     for (const auto& row : rows) {
@@ -198,6 +199,33 @@ TEST_F(ImageFileTest, WhatIsMissingForeignTooLargeOrBrokenIsRefused)
         EXPECT_FALSE(loadImageFile("picture.bmp"));
     }
     EXPECT_FALSE(loadImageFile("none.bmp"));
+}
+
+TEST_F(ImageFileTest, AFileCutAnywhereIsRefused)
+{
+    const struct {
+        const char* name;
+        std::string bytes;
+        std::size_t spare; // bytes at the end that may be missing
+    } rows[] = {
+        {"BMP: the padding of the last row", bmpFile(2, 2, {24, 0, "", std::string(16, 1)}), 2},
+        {"BMP, palette", bmpFile(8, 2, {8, 0, redBlueKey, std::string(16, 1)}), 0},
+        {"BMP, runs", bmpFile(4, 2, {8, 1, redBlueKey, "\x02\x01\0\x02\0\0\x01\x03\0\x01"s}), 0},
+        {"PNG: the last checksum", pngFile(2, 1, 3, chunk("PLTE", "\xFF\0\0\0\0\xFF"s), "\0\0\x01"s), 4},
+        {"GIF: the end mark", gifFile(true), 1},
+        {"JPEG", jpegFile(), 0},
+        {"PCX", pcxFile(), 0},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        for (std::size_t length = 0; length <= row.bytes.size(); length++) {
+            write("picture", row.bytes.substr(0, length));
+            EXPECT_EQ(loadImageFile("picture") != nullptr, length + row.spare >= row.bytes.size())
+                << length << " of " << row.bytes.size() << " bytes";
+        }
+    }
+    write("picture", jpegFile().insert(2, "\xFF\xFF"));
+    EXPECT_TRUE(loadImageFile("picture")) << "fill bytes before a mark";
 }
 
 TEST_F(ImageFileTest, AnyDamagedByteGivesAPictureOrNone)

@@ -72,21 +72,25 @@ TEST_F(FrameTest, OneFrameInItsOrder)
     play("call main setPopupWnd EASY T 0", "frame");
     EXPECT_EQ(order(), "backdrop screen easy shown ") << "easy-close popups get no dimming";
     play("call main setPopupWnd BOX EASY 0", "call main setPopupWnd FRONT BOX 0", "frame");
-    EXPECT_EQ(order(), "backdrop screen easy dark box front shown ") << "under the deepest that wants it, once";
+    EXPECT_EQ(order(), "backdrop screen easy dark box front shown ")
+        << "under the deepest that wants it, once";
     play("call main deletePopupWnd", "frame");
     EXPECT_EQ(order(), "backdrop screen easy dark box shown ");
     play("key f7", "frame");
     EXPECT_EQ(order(), "backdrop screen easy dark box redraw shown ");
     play("draw");
-    EXPECT_EQ(order(), "backdrop screen easy dark box redraw shown ") << "in every frame behind the key's tick";
+    EXPECT_EQ(order(), "backdrop screen easy dark box redraw shown ")
+        << "in every frame behind the key's tick";
     play("frame");
     EXPECT_EQ(order(), "backdrop screen easy dark box shown ");
 }
 
 TEST_F(FrameTest, APopupThatHasSlidAwayIsClosedByItsOpener)
 {
-    start("SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nWINDOW \"OPENER\" 0 0 50 50\nEND\nWINDOW \"BOX\" 0 0 100 100\n");
-    play("frame 2", "call main setPopupWnd BOX OPENER 0", "call BOX setMoveAnimation 0 0 30 0 10.0 0 0", "frame 3");
+    start("SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nWINDOW \"OPENER\" 0 0 50 50\nEND\nWINDOW \"BOX\" 0 0 100 "
+          "100\n");
+    play("frame 2", "call main setPopupWnd BOX OPENER 0", "call BOX setMoveAnimation 0 0 30 0 10.0 0 0",
+         "frame 3");
     EXPECT_EQ(win().getPopupWndCount(), 1) << "the opener is drawn before the popup moves";
     play("frame");
     EXPECT_EQ(win().getPopupWndCount(), 0);
@@ -123,7 +127,8 @@ TEST_F(FrameTest, ANewListForgetsTheOldOne)
 {
     script("WINDOW \"DARKWND\" 0 0 640 480\n", "common.tgx");
     start("SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nWINDOW \"W\" 0 0 50 50\nEND\nWINDOW \"BOX\" 0 0 9 9\n");
-    play("frame 2", "move 5 5", "frame", "call main setPopupWnd BOX W 0", "call main setMouseCaptureWnd W", "change S");
+    play("frame 2", "move 5 5", "frame", "call main setPopupWnd BOX W 0", "call main setMouseCaptureWnd W",
+         "change S");
     win().recreateScreenList();
     EXPECT_EQ(win().getPopupWndCount(), 0);
     EXPECT_EQ(win().getMouseCaptureWndCount(), 0);

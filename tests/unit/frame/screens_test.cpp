@@ -8,8 +8,7 @@ class NotingScreen : public AScreen {
 public:
     NotingScreen(const CString& name, int x, int y, int w, int h, std::vector<std::string>& calls)
         : AScreen(name, x, y, w, h), noted(calls)
-    {
-    }
+    {}
     ~NotingScreen() override { note("deleted"); }
     void startup() override { note("startup"), AScreen::startup(); }
     void initialise() override { note("initialise"), AScreen::initialise(); }
@@ -33,7 +32,8 @@ protected:
                 return new NotingScreen(id, x, y, w, h, calls);
             };
         script("SCREEN \"A\" 0 0 640 480 \"a.bmp\"\nBEGIN\nWINDOW \"W\" 0 0 100 100\nEND\n"
-               "SCREEN \"B\" 0 0 640 480 \"b.bmp\"\nBEGIN\nWINDOW \"TGX_BACK\" 0 0 100 100\nWINDOW \"TGX_CLOSE\" 200 0 50 50\n"
+               "SCREEN \"B\" 0 0 640 480 \"b.bmp\"\nBEGIN\nWINDOW \"TGX_BACK\" 0 0 100 100\nWINDOW "
+               "\"TGX_CLOSE\" 200 0 50 50\n"
                "END\nSCREEN \"C\" 0 0 640 480 \"\"\nWINDOW \"PLAIN\" 0 0 10 10\n");
         bitmap("a.bmp", 640, 480, 0x112233);
         bitmap("b.bmp", 640, 480, 0x445566);
@@ -45,7 +45,8 @@ protected:
     std::string active() { return win().getActiveScreen() ? win().getActiveScreen()->getID().str() : "none"; }
     void click(int x, int y)
     {
-        play("move " + std::to_string(x) + " " + std::to_string(y), "press left", "frame", "release left", "frame");
+        play("move " + std::to_string(x) + " " + std::to_string(y), "press left", "frame", "release left",
+             "frame");
     }
 
     static inline Calls calls; // outlives the windows that note in it
@@ -115,7 +116,8 @@ TEST_F(ScreensTest, ADyingScreenIsReadAnew)
     EXPECT_EQ(active(), "A");
     EXPECT_NE(static_cast<AWnd*>(win().getActiveScreen()), dying);
     play("frame");
-    EXPECT_EQ(taken(), (Calls{"B close", "A startup", "A initialise", "A deleted"})) << "the old one, by pointer";
+    EXPECT_EQ(taken(), (Calls{"B close", "A startup", "A initialise", "A deleted"}))
+        << "the old one, by pointer";
     EXPECT_EQ(active(), "A");
 }
 
@@ -126,7 +128,8 @@ TEST_F(ScreensTest, ToTheActiveScreenItself)
     EXPECT_EQ(taken(), (Calls{"A close", "A returned"}));
     EXPECT_EQ(screen("A")->getCaller(), "A");
     play("change A close", "frame 6");
-    EXPECT_EQ(taken(), (Calls{"A close", "A startup", "A initialise", "A deleted"})) << "a new one takes its place";
+    EXPECT_EQ(taken(), (Calls{"A close", "A startup", "A initialise", "A deleted"}))
+        << "a new one takes its place";
     EXPECT_TRUE(screen("A")->isOpen());
 }
 

@@ -1,6 +1,7 @@
 // Names from scripts reach files of the data directory, and nothing else.
 
 #include "platform/framework/cfile.h"
+#include "platform/limits.h"
 #include "platform/system/datadir.h"
 
 #include <gtest/gtest.h>
@@ -119,7 +120,11 @@ TEST_F(Files, readingAndSeekingStayInsideTheFile)
     EXPECT_EQ(file.Seek(std::numeric_limits<long>::max(), CFile::current), 10u);
     EXPECT_EQ(file.Seek(std::numeric_limits<long>::min(), CFile::end), 0u);
 
+    fs::resize_file(base / "data/both.txt", limits::fileBytes + 1);
+    EXPECT_EQ(file.Open("both.txt"), 0);
+    EXPECT_TRUE(file.wasTooLarge());
     EXPECT_EQ(file.Open("missing.txt"), 0);
+    EXPECT_FALSE(file.wasTooLarge());
     EXPECT_EQ(file.GetLength(), 0u) << "nothing of the file before is left";
     ASSERT_EQ(file.Open("UIG\\menu.tgx"), 1);
     EXPECT_STREQ(file.GetFileName(), "menu.tgx");

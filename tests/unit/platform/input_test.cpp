@@ -150,14 +150,14 @@ TEST_F(Input, keysKeepTheirOrderAndCountAsHeldForTheirTick)
     queue().key('B', 'b', 'B');
     EXPECT_EQ(run(3), (Seen{"shift key A=A", "key B=b+second", "-"}))
         << "Shift was let go before the first tick";
-    EXPECT_EQ(wnd->keyDown['A'], 0);
+    EXPECT_EQ(wnd->keyDown[int('A')], 0);
 
     queue().hold(*wnd, 'A', true);
     queue().key('A', 'a');
     run(2);
-    EXPECT_EQ(wnd->keyDown['A'], 1) << "its event ends, and it is held all the same";
+    EXPECT_EQ(wnd->keyDown[int('A')], 1) << "its event ends, and it is held all the same";
     queue().hold(*wnd, 'A', false);
-    EXPECT_EQ(wnd->keyDown['A'], 0);
+    EXPECT_EQ(wnd->keyDown[int('A')], 0);
 }
 
 TEST_F(Input, aTickThatWasNotEndedComesAgainWithoutNewInput)

@@ -155,6 +155,8 @@ TEST(Messages, oneBoxListsTwentyAndCountsTheRest)
     const std::string full = boxText(std::vector<std::string>(20, "m"));
     EXPECT_EQ(full.size(), 39u);
     EXPECT_EQ(boxText(std::vector<std::string>(23, "m")), full + "\nand 3 more");
+    EXPECT_EQ(boxText({std::string(200, 'a'), std::string(201, 'b')}),
+              std::string(200, 'a') + "\n" + std::string(200, 'b') + "...");
 }
 
 TEST(CodePage, charactersComeInAndGoOut)

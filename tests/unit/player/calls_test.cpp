@@ -160,6 +160,26 @@ TEST_F(CallsTest, WhatCannotBeCalledSaysWhy)
     EXPECT_EQ(out.str(), "") << "a wrong line writes no value";
 }
 
+TEST_F(CallsTest, NullWithoutQuotesIsNoText)
+{
+    bitmap("b.bmp", 8, 8);
+    call("BOX setBmp \"b.bmp\"");
+    ASSERT_NE(wnd("BOX")->getBmp(), nullptr);
+    call("BOX setBmp null");
+    EXPECT_EQ(wnd("BOX")->getBmp(), nullptr);
+    EXPECT_EQ(call("BOX getBmpFilename"), R"("b.bmp")") << "the name stays";
+    expectMessage("cannot load null");
+    call("BOX setBmp \"null\"");
+}
+
+TEST_F(CallsTest, AnEmptyIdIsTheFirstWindowWithoutOne)
+{
+    wnd("MENU")->addChildWindow(new AWnd(AWnd::WND_PLAIN, "static", 77, 0, 5, 5));
+    EXPECT_EQ(call("\"\" left"), "77");
+    EXPECT_EQ(call("main setMouseCaptureWnd \"\""), "null");
+    EXPECT_EQ(call("main getMouseCaptureWnd 0"), R"("")");
+}
+
 TEST_F(CallsTest, CallsAreVirtual)
 {
     struct Loud : AWnd {

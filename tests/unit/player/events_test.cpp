@@ -69,6 +69,7 @@ TEST_F(EventsTest, ALineThatIsWrongSaysWhy)
         {"tree ../out.json", "cannot write \"../out.json\": not a file name below the output directory"},
         {"tree a/../../out.json",
          "cannot write \"a/../../out.json\": not a file name below the output directory"},
+        {"tree \"a\\x00.json\"", "cannot write \"a\\x00.json\": not a file name below the output directory"},
         {"shot /tmp/a.png", "cannot write \"/tmp/a.png\": not a file name below the output directory"},
     };
     for (const auto& row : rows)
@@ -262,6 +263,19 @@ TEST_F(EventsTest, AnInvalidArgumentEndsItsFrameAndIsReportedOnce)
     play("move 5 205", "press left");
     EXPECT_EQ(playWrong("tick"), "invalid argument in a tick");
     EXPECT_EQ(call("MENU getWndFromIndex -1 \"\""), R"({"error": "invalid argument"})");
+}
+
+TEST_F(EventsTest, AnInvalidArgumentInAChangeSaysSo)
+{
+    struct Faulty : AWnd {
+        using AWnd::AWnd;
+        void startup() override { getWndFromIndex(-1, ""); }
+    };
+    start(menu);
+    wnd("OPTIONS")->addChildWindow(new Faulty(AWnd::WND_PLAIN, "FAULTY", 0, 200, 10, 10));
+    play("change OPTIONS");
+    EXPECT_EQ(playWrong("change MENU"), "invalid argument in the screen change")
+        << "the second change carries the first out";
 }
 
 } // namespace

@@ -7,14 +7,6 @@ using namespace std::string_literals;
 
 namespace {
 
-std::string repeat(int times, const std::string& text)
-{
-    std::string out;
-    while (times-- > 0)
-        out += text;
-    return out;
-}
-
 TEST_F(ScriptTest, BlocksBelongToTheWindowBeforeThem)
 {
     const std::string tooMany = "\x71" + repeat(30, "\3\1\0"s) + "\7";

@@ -2,6 +2,7 @@
 
 #include "platform/limits.h"
 #include "platform/system/module.h"
+#include "tgx/wnd/tabstops.h"
 
 using namespace std::string_literals;
 
@@ -207,44 +208,173 @@ TEST_F(ScriptTest, CallsAndReadsNestOnlySoDeep)
     file("chain.tgx", chain);
     newWindow();
     read("chain.tgx", "W1");
-    EXPECT_NE(get(numbered("W", limits::readDepth).c_str()), nullptr);
-    EXPECT_EQ(get(numbered("W", limits::readDepth + 1).c_str()), nullptr);
+    const int deepest = 1 + limits::readDepth; // the outermost read is in none
+    EXPECT_NE(get(numbered("W", deepest).c_str()), nullptr);
+    EXPECT_EQ(get(numbered("W", deepest + 1).c_str()), nullptr);
     EXPECT_EQ(messages.size(), 1u) << "the line whose window could not be read";
 }
 
-TEST_F(ScriptTest, WhatDoublesAtEachStepIsStopped)
+TEST_F(ScriptTest, AnEmptyScriptNameIsTheFirstStreamWithoutAName)
 {
-    std::string calls = sub("S0", line("VISIBLE", 1));
+    const std::string resource = sub("S", wnd("R"));
+    const EmbeddedResource embedded("TGXScript", 300, reinterpret_cast<const unsigned char*>(resource.data()),
+                                    resource.size());
+    const std::string call = line("GOTO", "S", "300");
+    const std::string unnamed = line("GOTO", "S", "");
+    runScript(call + unnamed);
+    EXPECT_EQ(tree(), "R R");
+    EXPECT_EQ(messages, Messages{});
+    newWindow();
+    runScript(line("GOTO", "S", "") + call + unnamed + call);
+    EXPECT_EQ(tree(), "R R");
+    EXPECT_EQ(messages.size(), 6u) << "no resource 0 is an empty stream, and it stays the first";
+}
+
+TEST_F(ScriptTest, AReadExecutesSoManyLinesAndNoMore)
+{
+    const std::string lines = repeat(limits::scriptLines - 1, "\7") + wnd("LAST");
+    runScript(lines);
+    EXPECT_EQ(tree(), "LAST");
+    EXPECT_EQ(messages, Messages{});
+    newWindow();
+    runScript(lines + wnd("BEHIND"));
+    EXPECT_EQ(tree(), "LAST");
+    EXPECT_EQ(messages, Messages{"t.tgx runs too long"});
+    read("t.tgx", "BEHIND");
+    EXPECT_EQ(tree(), "LAST BEHIND") << "the next read starts afresh";
+}
+
+TEST_F(ScriptTest, LargeScriptsRunWholeAndEndlessOnesEnd)
+{
+    const std::string resource = sub("S", wnd("R"));
+    const EmbeddedResource embedded("TGXScript", 300, reinterpret_cast<const unsigned char*>(resource.data()),
+                                    resource.size());
+    std::string doubling = sub("S0", line("VISIBLE", 1));
+    for (int i = 1; i <= 60; ++i)
+        doubling += sub(numbered("S", i),
+                        block(line("GOTO", numbered("S", i - 1)) + line("GOTO", numbered("S", i - 1))));
+    file("doubling.tgx", doubling);
+    file("long.tgx", sub("S", line("TEXT", std::string(60'000, 'x'))));
+    file("panel.tgx", wnd("PANEL") + block(repeat(79, wnd("P"))));
+    const std::string longCall = line("GOTO", "S", "long.tgx");
+    const Messages tooLong{"t.tgx runs too long"};
+    const struct {
+        const char* name;
+        std::string script;
+        Messages said;
+    } rows[] = {
+        {"ten thousand windows that share a panel of eighty",
+         repeat(10'000, wnd("W") + block(line("POINTER", "PANEL", "panel.tgx"))),
+         {}},
+        {"thirty thousand calls into a resource", repeat(30'000, line("GOTO", "S", "300")), {}},
+        {"ten thousand calls that set a long text", repeat(10'000, longCall), {}},
+        {"calls without a use that read the long text until the work is used up", repeat(50'000, longCall),
+         tooLong},
+        {"calls that double at each step", line("GOTO", "S60", "doubling.tgx"), tooLong},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        newWindow();
+        runScript(row.script + wnd("BEHIND"));
+        EXPECT_EQ(messages, row.said);
+        EXPECT_EQ(get("BEHIND") != nullptr, row.said.empty());
+    }
+}
+
+TEST_F(ScriptTest, TenThousandWindowsStandInThreeTabLists)
+{
+    constexpr int count = 10'000;
+    std::string windows;
+    std::string lists;
+    std::string names;
+    for (int i = 0; i < count; ++i)
+        windows += wnd(numbered("W", i));
+    for (const char* keyword : {"TABORDER", "TABLIST1", "TABLIST2"})
+        for (int i = 0; i < count;) {
+            names = "";
+            for (int end = std::min(i + maxLineTokens - 1, count); i < end; ++i)
+                append(names, numbered("w", i));
+            lists += line(keyword).insert(1, names);
+        }
+    // A window that is made between two such lines is found, and the first of a name is the one.
+    runScript(wnd("A") +
+              block(windows + lists + wnd("LATE") + block(wnd("W5")) + line("TABORDER", "LATE", "W5")));
+    EXPECT_EQ(messages, Messages{});
+    const ATabStopInfo* stops = get("A")->getTabStopInfo(0);
+    ASSERT_NE(stops, nullptr);
+    ASSERT_EQ(stops->tabOrderWnds.GetSize(), count + 2);
+    EXPECT_EQ(stops->insertDeleteWnds.GetSize(), count);
+    EXPECT_EQ(stops->homeEndWnds.GetSize(), count);
+    for (int i : {0, 28, 29, 5'000, count - 1})
+        EXPECT_EQ(stops->tabOrderWnds[i], get("A")->getWndFromIndex(i, "")) << i;
+    EXPECT_EQ(stops->tabOrderWnds[count], get("LATE"));
+    EXPECT_EQ(stops->tabOrderWnds[count + 1], stops->tabOrderWnds[5]);
+}
+
+/// Windows that a drawing of the tree would visit.
+long placesBelow(AWnd& wnd)
+{
+    long places = 0;
+    for (int i = 0; AWnd* child = wnd.getWndFromIndex(i, ""); ++i)
+        places += 1 + placesBelow(*child);
+    return places;
+}
+
+TEST_F(ScriptTest, WindowsThatAreShownTwiceInEachOtherStayDrawable)
+{
     std::string inside = wnd("W0");
     std::string windows = wnd("W0");
     std::string fromAbove;
     for (int i = 1; i <= 60; ++i) {
         const std::string last = numbered("W", i - 1);
         const std::string twice = block(line("POINTER", last) + line("POINTER", last));
-        calls += sub(numbered("S", i),
-                     block(line("GOTO", numbered("S", i - 1)) + line("GOTO", numbered("S", i - 1))));
         inside += wnd(numbered("W", i)) + twice;
         windows += wnd(numbered("W", i));
         fromAbove = line("POINTER", numbered("W", i)) + twice + fromAbove;
     }
-    file("calls.tgx", calls);
     const struct {
         const char* name;
         std::string script;
     } rows[] = {
-        {"calls", line("GOTO", "S60", "calls.tgx")},
-        {"windows shown twice in each other", inside},
-        {"the same, the outermost first", windows + fromAbove},
+        {"the innermost first", inside},
+        {"the outermost first", windows + fromAbove},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         newWindow();
         runScript(row.script + wnd("BEHIND"));
-        EXPECT_EQ(messages, Messages{"t.tgx runs too long"});
-        EXPECT_EQ(get("BEHIND"), nullptr);
-        read("t.tgx", "BEHIND");
-        EXPECT_NE(get("BEHIND"), nullptr) << "the next read starts afresh";
+        EXPECT_NE(get("BEHIND"), nullptr) << "only the lines that would show too much fail";
+        EXPECT_FALSE(messages.empty());
+        for (const std::string& said : messages)
+            EXPECT_TRUE(said.starts_with("Encountered an error on line")) << said;
+        const long places = placesBelow(*window->getScreenList());
+        EXPECT_LE(places, limits::sharedPlaces + 62);
+        EXPECT_GT(places, limits::sharedPlaces / 2);
     }
+}
+
+TEST_F(ScriptTest, AWindowInsideASharedOneCountsInEachOfItsPlaces)
+{
+    constexpr long times = 2000; // the window itself is one of them
+    constexpr long fit = (limits::sharedPlaces - (times - 1)) / times;
+    runScript(
+        wnd("P") + repeat(times - 2, wnd("W") + block(line("POINTER", "P"))) + wnd("Q") +
+        block(line("POINTER", "P") + block(repeat(fit + 1, wnd("C")) + line("SCREEN", "S", 0, 0, 9, 9, "") +
+                                           line("TEXT", "still here"))));
+    EXPECT_EQ(get("P")->getPointerCount(), times - 1);
+    EXPECT_EQ(get("P")->getWindowCount(), fit);
+    EXPECT_EQ(messages.size(), 1u) << "the one window too many";
+    EXPECT_NE(get("S"), nullptr) << "a screen is the root's child wherever its line stands";
+    EXPECT_EQ(get("P")->getText(), "still here");
+}
+
+TEST_F(ScriptTest, TheCountOfPlacesHoldsAtItsEnd)
+{
+    runScript(wnd("P"));
+    for (int i = 0; i < 40'000; ++i)
+        get("P")->addPointer();
+    EXPECT_EQ(get("P")->getPointerCount(), 32767);
+    EXPECT_EQ(get("P")->isPointer(), 1);
 }
 
 } // namespace

@@ -48,6 +48,14 @@ inline std::string block(const std::string& lines)
     return line("BEGIN") + lines + line("END");
 }
 
+inline std::string repeat(long times, const std::string& text)
+{
+    std::string out;
+    while (times-- > 0)
+        out += text;
+    return out;
+}
+
 using Messages = std::vector<std::string>;
 
 inline std::string lineError(int number, const std::string& script, const std::string& text = "")

@@ -44,9 +44,12 @@ TEST_F(DrawingTest, TheFirstOfTilingAndStretchingThatIsSetHolds)
 TEST_F(DrawingTest, TilesOffTheScreenAreLeftOut)
 {
     pic()->setBmpTile(1);
-    pic()->setWndPos(-32000, 450, 32767, 32767); // tiles lie every 128 pixels from -32000: at 0, 128, ...; the last one ends at 767
-    EXPECT_EQ(drawn("PIC"), (Trace{tileAt(0, 450, 128, 64), tileAt(128, 450, 128, 64), tileAt(256, 450, 128, 64),
-                                   tileAt(384, 450, 128, 64), tileAt(512, 450, 128, 64)}));
+    pic()->setWndPos(
+        -32000, 450, 32767,
+        32767); // tiles lie every 128 pixels from -32000: at 0, 128, ...; the last one ends at 767
+    EXPECT_EQ(drawn("PIC"),
+              (Trace{tileAt(0, 450, 128, 64), tileAt(128, 450, 128, 64), tileAt(256, 450, 128, 64),
+                     tileAt(384, 450, 128, 64), tileAt(512, 450, 128, 64)}));
     pic()->setWndPos(700, 0, 300, 100);
     EXPECT_EQ(drawn("PIC"), Trace{});
 }
@@ -60,12 +63,13 @@ TEST_F(DrawingTest, ABorderInsetsTheBitmapAndKeepsItAPixelWide)
     const auto corner = [](int sx, int sy, int x, int y) {
         return blit("border.bmp").from(sx, sy).to(x, y, 5, 3).mode(-1);
     };
-    EXPECT_EQ(drawn("PIC"), (Trace{corner(0, 0, 0, 0), corner(21, 0, 5, 0), corner(54, 5, 0, 3), corner(39, 5, 5, 3)}));
+    EXPECT_EQ(drawn("PIC"),
+              (Trace{corner(0, 0, 0, 0), corner(21, 0, 5, 0), corner(54, 5, 0, 3), corner(39, 5, 5, 3)}));
 
     pic()->setBmpInfo(128, 64, 0, 1);
     EXPECT_EQ(drawn("PIC").operations("blit"),
-              (Trace{blit("tile.bmp").from(0, 0, 128, 64).to(8, 8, 1, 1), corner(0, 0, 0, 0), corner(21, 0, 5, 0),
-                     corner(54, 5, 0, 3), corner(39, 5, 5, 3)}));
+              (Trace{blit("tile.bmp").from(0, 0, 128, 64).to(8, 8, 1, 1), corner(0, 0, 0, 0),
+                     corner(21, 0, 5, 0), corner(54, 5, 0, 3), corner(39, 5, 5, 3)}));
 }
 
 TEST_F(DrawingTest, TheEdgesOfABorderAreTiledUnderItsCorners)
@@ -76,10 +80,10 @@ TEST_F(DrawingTest, TheEdgesOfABorderAreTiledUnderItsCorners)
     const auto piece = [](int k, int x, int y, int w, int h) {
         return blit("border.bmp").from(k * 9, 0).to(x, y, w, h).mode(-1);
     };
-    EXPECT_EQ(drawn("PIC"),
-              (Trace{piece(1, 8, 0, 8, 8), piece(5, 8, 13, 8, 8), piece(1, 16, 0, 4, 8), piece(5, 16, 13, 4, 8),
-                     piece(7, 0, 8, 8, 5), piece(3, 20, 8, 8, 5), piece(0, 0, 0, 8, 8), piece(2, 20, 0, 8, 8),
-                     piece(6, 0, 13, 8, 8), piece(4, 20, 13, 8, 8)}));
+    EXPECT_EQ(drawn("PIC"), (Trace{piece(1, 8, 0, 8, 8), piece(5, 8, 13, 8, 8), piece(1, 16, 0, 4, 8),
+                                   piece(5, 16, 13, 4, 8), piece(7, 0, 8, 8, 5), piece(3, 20, 8, 8, 5),
+                                   piece(0, 0, 0, 8, 8), piece(2, 20, 0, 8, 8), piece(6, 0, 13, 8, 8),
+                                   piece(4, 20, 13, 8, 8)}));
     pic()->setBorder("border.bmp", 8, 0);
     EXPECT_EQ(drawn("PIC"), Trace{}) << "pieces without a size";
     expectMessage("cannot load none.bmp");
@@ -144,8 +148,9 @@ TEST_F(DrawingTest, WhereAFrameLiesInItsStrip)
             printed << drawn("PIC");
             return printed.str();
         }();
-        EXPECT_NE(line.find("\"sx\":" + std::to_string(row.srcX) + ",\"sy\":" + std::to_string(row.srcY) + ","),
-                  std::string::npos)
+        EXPECT_NE(
+            line.find("\"sx\":" + std::to_string(row.srcX) + ",\"sy\":" + std::to_string(row.srcY) + ","),
+            std::string::npos)
             << line;
     }
 }

@@ -71,10 +71,18 @@ TEST_F(TextTest, WrappedLines)
          55,
          100,
          {{"aaa", 0}, {"bbb", 25}, {"ccc", 51}, {"ddd", 76}, {"eee", 102}, {"fff ggg", 127}}},
-        {"the last character ends the text, over the box", "aaa bbb ccc", 55, 100, {{"aaa", 0}, {"bbb ccc", 16}}},
+        {"the last character ends the text, over the box",
+         "aaa bbb ccc",
+         55,
+         100,
+         {{"aaa", 0}, {"bbb ccc", 16}}},
         {"at a mark of two characters", "abc\\nde", 55, 100, {{"abc", 0}, {"de", 16}}},
         {"at a line feed", "abc\nde", 55, 100, {{"abc", 0}, {"de", 16}}},
-        {"at a mark where the line has no blank", "aaa bbb\\nccc", 35, 100, {{"aaa", 0}, {"bbb", 16}, {"ccc", 32}}},
+        {"at a mark where the line has no blank",
+         "aaa bbb\\nccc",
+         35,
+         100,
+         {{"aaa", 0}, {"bbb", 16}, {"ccc", 32}}},
         {"a word too long is cut, and a character lost",
          "aaa bbbbbbbbbbbb ccc",
          55,
@@ -84,7 +92,11 @@ TEST_F(TextTest, WrappedLines)
         {"of two blanks the second opens the next line", "aa  bb cc", 45, 100, {{"aa", 0}, {" bb cc", 16}}},
         {"one line fits", "aaa bbb cccc", 55, 31, {{"aaa", 0}}},
         {"two lines fit", "aaa bbb cccc", 55, 32, {{"aaa", 0}, {"bbb", 16}}},
-        {"a box without a width still ends", "abcdef", -5, 100, {{"", 0}, {"", 16}, {"", 32}, {"", 48}, {"", 64}, {"ef", 80}}},
+        {"a box without a width still ends",
+         "abcdef",
+         -5,
+         100,
+         {{"", 0}, {"", 16}, {"", 32}, {"", 48}, {"", 64}, {"ef", 80}}},
     };
     t()->setTextWrap(1);
     for (const auto& row : rows) {
@@ -97,7 +109,8 @@ TEST_F(TextTest, WrappedLines)
         drawn("T");
         for (const DrawCommand& command : win().getLastFrame().commands())
             if (command.op == DrawOp::TextOut) {
-                seen.push_back(std::string(win().getLastFrame().text(command)) + " at " + std::to_string(command.y));
+                seen.push_back(std::string(win().getLastFrame().text(command)) + " at " +
+                               std::to_string(command.y));
                 EXPECT_EQ(command.mode, 1);
             }
         EXPECT_EQ(seen, expected);

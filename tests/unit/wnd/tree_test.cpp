@@ -47,7 +47,8 @@ TEST_F(TreeTest, LookingUp)
     AWnd* a = wnd("A");
     EXPECT_EQ(a->getWnd("OKBUTTON", 0), wnd("OkButton")) << "ignoring case";
     EXPECT_EQ(a->getWnd("DEEP", 0), nullptr) << "direct children only";
-    EXPECT_NE(a->getWnd("twice", 1), a->getWnd("twice", 0)) << "depth first: the deep one in an earlier child comes first";
+    EXPECT_NE(a->getWnd("twice", 1), a->getWnd("twice", 0))
+        << "depth first: the deep one in an earlier child comes first";
     EXPECT_EQ(a->getWnd("", 1)->getID(), "") << "an empty id finds the first nameless window";
     EXPECT_FALSE(a->hasChildCalled("OKBUTTON"));
     EXPECT_TRUE(a->hasChildCalled("TWICE"));
@@ -157,13 +158,29 @@ TEST_F(TreeTest, APopupThatLosesItsParentOrDiesLeavesNoPointer)
     play("move 5 5", "frame 3");
 }
 
-// Every window of both screens, at each step of a sequence that has focus, press, capture, popup, pending list and change.
+// Every window of both screens, at each step of a sequence that has focus, press, capture, popup, pending
+// list and change.
 TEST_F(TreeTest, AnyWindowMayDieAtAnyMoment)
 {
     const std::vector<std::string> sequence = {
-        "frame 6",     "move 5 5",    "press left", "frame", "call main setPopupWnd \"B\" \"P\" 1",
-        "release left", "frame",      "move 300 300", "frame", "call main setMouseCaptureWnd R",
-        "frame",       "call main setMouseCaptureWnd null", "change B", "frame 3", "frame 3", "key esc", "frame", "key return",
+        "frame 6",
+        "move 5 5",
+        "press left",
+        "frame",
+        "call main setPopupWnd \"B\" \"P\" 1",
+        "release left",
+        "frame",
+        "move 300 300",
+        "frame",
+        "call main setMouseCaptureWnd R",
+        "frame",
+        "call main setMouseCaptureWnd null",
+        "change B",
+        "frame 3",
+        "frame 3",
+        "key esc",
+        "frame",
+        "key return",
         "frame 8",
     };
     const std::vector<std::string> ids = {"OkButton", "DEEP", "TWICE", "P", "Q", "R", "TGX_BACK", "A", "B"};

@@ -1,0 +1,279 @@
+#include "tests/unit/support/tgx_test.h"
+#include "tgx/controls/radiobutton.h"
+#include "tgx/controls/tabcontrol.h"
+
+namespace {
+
+const char* const form = R"(
+SCREEN "S" 0 0 640 480 ""
+BEGIN
+  BUTTON "GO" 0 0 100 40 "Go" 0 0 "strip.bmp" 40 20 1 0 1 1 1 1
+  BUTTON "STOP" 200 0 100 40 "Stop"
+  CHECKBOX "CHECK" 0 100 100 40 "Check"
+  CHECKBOX "TICKED" 200 100 100 40 "Ticked"
+  BEGIN
+    CHECKBOXSTATE 5 5 30 30 "strip.bmp" 40 20 1 0 1 1 1
+  END
+  RADIOBUTTON "R1" 0 200 50 20 "one"
+  RADIOBUTTON "R2" 100 200 50 20 "two"
+  RADIOBUTTON "R3" 200 200 50 20 "three"
+  WINDOW "BETWEEN" 300 200 20 20
+  RADIOBUTTON "ALONE" 400 200 50 20 "alone"
+  TABCONTROL "TABS" 0 300 640 180
+  BEGIN
+    RADIOBUTTON "TAB1" 0 0 100 20 "A"
+    RADIOBUTTON "TAB2" 100 0 100 20 "B"
+    WINDOW "PAGE1" 0 20 640 160
+    BEGIN
+      BUTTON "INNER" 10 10 50 50 ""
+    END
+    WINDOW "PAGE2" 0 20 640 160
+    BEGIN
+      VISIBLE 0
+    END
+  END
+  TABORDER "GO" "STOP" "CHECK"
+  TABLIST2 "R1"
+END
+)";
+
+class ButtonTest : public TgxTest {
+protected:
+    void SetUp() override
+    {
+        strip("strip.bmp", 40, 20, 4);
+        start(form);
+        play("frame 6");
+    }
+    AButton* button(const std::string& id) { return static_cast<AButton*>(wnd(id)); }
+    ARadioButton* radio(const std::string& id) { return static_cast<ARadioButton*>(wnd(id)); }
+    void click(const std::string& id)
+    {
+        moveOnto(id);
+        play("press left", "tick", "release left", "tick");
+    }
+    void moveOnto(const std::string& id)
+    {
+        play("move " + std::to_string(wnd(id)->centreX()) + " " + std::to_string(wnd(id)->centreY()), "tick");
+    }
+    std::string selectedRadio() { return radio("R1")->getSelectedButton()->getID().str(); }
+};
+
+TEST_F(ButtonTest, TheStateFollowsThePointerTickByTick)
+{
+    const struct {
+        const char* event;
+        AButton::E_BUTTON_STATE state;
+        int enabled;
+        const char* clicked;
+    } rows[] = {
+        {"move 10 10", AButton::BS_HOT, 1, ""},
+        {"press left", AButton::BS_PRESSED, 1, ""},
+        {"", AButton::BS_PRESSED, 1, ""},
+        {"release left", AButton::BS_NORMAL, 1, "GO"},
+        {"", AButton::BS_HOT, 1, ""},
+        {"press left", AButton::BS_PRESSED, 1, ""},
+        {"move 210 10", AButton::BS_NORMAL, 1, ""}, // the focus has gone; nothing goes out to the other one
+        {"release left", AButton::BS_NORMAL, 1, ""},
+        {"", AButton::BS_NORMAL, 1, ""},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.event);
+        play(row.event, "tick");
+        EXPECT_EQ(button("GO")->getButtonState(), row.state);
+        EXPECT_EQ(clicks(), *row.clicked ? std::vector<std::string>{row.clicked} : none);
+    }
+    EXPECT_EQ(button("STOP")->getButtonState(), AButton::BS_HOT)
+        << "the press is over: the pointer counts again";
+    play("key return", "tick");
+    EXPECT_EQ(clicks(), std::vector<std::string>{"STOP"}) << "Return is a click where the pointer is";
+}
+
+TEST_F(ButtonTest, RunsOfFramesLieInTheStripBehindEachOther)
+{
+    button("GO")->setButtonAnimFrames(4, 1, 2, 1, 0);
+    const struct {
+        const char* name;
+        AButton::E_BUTTON_STATE state;
+        int first, count;
+    } rows[] = {
+        {"opening", AButton::BS_STARTUP, 0, 4},
+        {"normal", AButton::BS_NORMAL, 4, 1},
+        {"hot", AButton::BS_HOT, 5, 2},
+        {"pressed", AButton::BS_PRESSED, 7, 1},
+        {"disabled has no run: it goes on showing what it showed", AButton::BS_DISABLED, 7, 1},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        button("GO")->setButtonState(row.state);
+        EXPECT_EQ(button("GO")->getFirstFrame(), row.first);
+        EXPECT_EQ(button("GO")->getFrameCount(), row.count);
+    }
+    EXPECT_FALSE(button("GO")->isEnabled());
+    button("GO")->setButtonState(AButton::BS_HOT);
+    EXPECT_TRUE(button("GO")->isEnabled());
+}
+
+TEST_F(ButtonTest, TheTextMovesWhileItIsPressedAndWaitsForTheOpeningRun)
+{
+    play("move 210 10", "tick");
+    const auto textAt = [&] {
+        const Trace lines = drawn("STOP").operations("textout");
+        return lines;
+    };
+    const auto label = [&](int x, int y) { return text("Stop").at(x, y); };
+    const int y = (40 - win().getFont(0)->charHeight) / 2;
+    EXPECT_EQ(textAt(), (Trace{label(200, y)}));
+    play("press left", "tick");
+    EXPECT_EQ(textAt(), (Trace{label(201, y + 1)}));
+    button("STOP")->setTextShift(0);
+    play("release left", "tick", "press left", "tick");
+    EXPECT_EQ(textAt(), (Trace{label(200, y)}));
+
+    button("GO")->setButtonAnimFrames(3, 1, 1, 1, 1);
+    button("GO")->setButtonState(AButton::BS_STARTUP);
+    EXPECT_EQ(drawn("GO").operations("textout"), Trace{}) << "no text during the opening run";
+    play("draw 4");
+    EXPECT_EQ(button("GO")->getButtonState(), AButton::BS_NORMAL);
+    EXPECT_STREQ(button("GO")->getWindowText(), "Go");
+}
+
+TEST_F(ButtonTest, CheckBoxesFlipThemselvesOrTheirTick)
+{
+    for (const char* id : {"CHECK", "TICKED"}) {
+        SCOPED_TRACE(id);
+        click(id);
+        EXPECT_TRUE(button(id)->isSelected());
+        play("tick");
+        click(id);
+        EXPECT_FALSE(button(id)->isSelected());
+    }
+    click("TICKED");
+    AButton* tick = button("CheckboxState");
+    EXPECT_FALSE(button("TICKED")->getSelected()) << "the tick carries the selection";
+    EXPECT_TRUE(tick->getSelected());
+    EXPECT_EQ(tick->getButtonState(), AButton::BS_PRESSED);
+    EXPECT_FALSE(tick->getEnabled()) << "and never takes the pointer";
+
+    button("CHECK")->setButtonState(AButton::BS_DISABLED);
+    button("CHECK")->setSelected(1);
+    EXPECT_FALSE(button("CHECK")->isSelected());
+    play("move 50 120", "press left", "tick", "release left", "tick");
+    EXPECT_FALSE(button("CHECK")->isSelected());
+}
+
+TEST_F(ButtonTest, TheClickedWindowMayBeDeletedByItsOwnClick)
+{
+    struct Fatal : AScreen {
+        using AScreen::AScreen;
+        int handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action) override
+        {
+            AScreen::handleMouseAction(about, wnd, x, y, action);
+            if (action == MA_LBUTTONUP)
+                delete getWnd(about, 1);
+            return 0;
+        }
+    };
+    win().classes["FATAL"] = [](const CString& id, int x, int y, int w, int h) {
+        return new Fatal(id, x, y, w, h);
+    };
+    script("SCREEN \"FATAL\" 0 0 640 480 \"\"\nBEGIN\nBUTTON \"BOMB\" 0 0 100 40 \"\"\nEND\n");
+    play("change FATAL close", "frame 6", "move 10 10", "press left", "frame", "release left", "frame 2");
+    EXPECT_EQ(win().getWnd("BOMB", 1), nullptr);
+}
+
+TEST_F(ButtonTest, ARadioGroupIsARunOfNeighbours)
+{
+    for (const char* id : {"R1", "R2", "R3"})
+        EXPECT_EQ(radio(id)->getLinkedButtonsCount(0), 3) << id;
+    EXPECT_EQ(radio("ALONE")->getLinkedButtonsCount(0), 1);
+    EXPECT_EQ(radio("R3")->getLinkedButton(0), radio("R3")) << "itself first, then the nearest";
+    EXPECT_EQ(radio("R3")->getLinkedButton(1), radio("R2"));
+    EXPECT_THROW(radio("R3")->getLinkedButton(3), CInvalidArgException);
+    EXPECT_EQ(selectedRadio(), "R1") << "the first of them to start";
+
+    click("R2");
+    EXPECT_EQ(selectedRadio(), "R2");
+    click("R2");
+    EXPECT_EQ(selectedRadio(), "R2") << "a click always selects";
+    radio("R1")->setSelectedButton(radio("ALONE"));
+    EXPECT_EQ(selectedRadio(), "R2") << "not of the group";
+}
+
+TEST_F(ButtonTest, KeysStepThroughARadioGroup)
+{
+    const struct {
+        const char* name;
+        const char* event;
+        const char* disabled;
+        const char* selected;
+    } rows[] = {
+        {"End: the next", "key end", "",
+         "R3"}, // the first lists itself, then R2, R3 in the order of their making
+        {"wrapping", "key end", "", "R1"},
+        {"Home: the one before", "key home", "", "R3"},
+        {"the release of the right button is End", "release right", "", "R1"},
+        {"past a disabled one", "key end", "R2", "R3"},
+    };
+    radio("R1")->setSelectedButton(radio("R2"));
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        if (*row.disabled)
+            wnd(row.disabled)->setEnabled(0);
+        play(row.event, "tick", "tick");
+        EXPECT_EQ(selectedRadio(), row.selected);
+    }
+    radio("R1")->setAllNonSelected();
+    radio("R1")->selectNextButton(0);
+    EXPECT_EQ(radio("R1")->getSelectedButton(), nullptr) << "none selected: nothing to step from";
+    delete wnd("R2");
+    EXPECT_EQ(radio("R1")->getLinkedButtonsCount(0), 2);
+}
+
+TEST_F(ButtonTest, TabsShowTheirPageAndThePointerLeavesWhatGoes)
+{
+    auto* tabs = static_cast<ATabControl*>(wnd("TABS"));
+    EXPECT_EQ(tabs->getTabCount(), 2);
+    EXPECT_EQ(tabs->getActiveWnd(), wnd("PAGE1"));
+    click("TAB2");
+    EXPECT_EQ(tabs->getActiveWnd(), wnd("PAGE2"));
+    EXPECT_EQ(win().getCurFocusWnd(), wnd("TAB2")) << "on the tab itself the pointer stays";
+    click("TAB1");
+    moveOnto("INNER");
+    tabs->setActiveWnd(button("TAB2"), 1);
+    play("tick");
+    EXPECT_EQ(win().getCurFocusWnd(), wnd("GO")) << "the first tab stop";
+    button("TAB1")->setButtonState(AButton::BS_DISABLED);
+    play("move 50 310", "press left", "tick", "release left", "tick");
+    EXPECT_EQ(tabs->getActiveWnd(), wnd("PAGE2"));
+}
+
+TEST_F(ButtonTest, TabAndEscMoveThePointerAndReturnClicks)
+{
+    const struct {
+        const char* event;
+        const char* focus;
+    } rows[] = {
+        {"key tab", "STOP"},   {"key right", "CHECK"}, {"key tab", "GO"},
+        {"key left", "CHECK"}, {"key esc", "GO"},
+    };
+    moveOnto("GO");
+    for (const auto& row : rows) {
+        if (std::string(row.event) == "key esc")
+            wnd("GO")->setID("TGX_OK");
+        play(row.event, "tick", "tick");
+        EXPECT_EQ(win().getCurFocusWnd(),
+                  std::string(row.event) == "key esc" ? wnd("TGX_OK") : wnd(row.focus))
+            << row.event;
+    }
+    clicks();
+    play("key return", "tick");
+    EXPECT_EQ(clicks(), std::vector<std::string>{"TGX_OK"});
+    wnd("STOP")->setEnabled(0);
+    wnd("CHECK")->setVisible(0);
+    play("key tab", "tick", "tick");
+    EXPECT_EQ(win().getCurFocusWnd(), wnd("TGX_OK")) << "the only usable stop follows itself";
+    play("hold shift", "key tab", "wheel up", "tick 3", "lift shift");
+}
+
+} // namespace

@@ -1,0 +1,193 @@
+#include "tests/unit/support/tgx_test.h"
+#include "tgx/controls/button.h"
+#include "tgx/controls/editbox.h"
+
+#include <algorithm>
+
+namespace {
+
+class EditBoxTest : public TgxTest {
+protected:
+    void SetUp() override
+    {
+        start("SCREEN \"S\" 0 0 640 480 \"\"\n"
+              "BEGIN\n"
+              "  EDITBOX \"NAME\" 100 100 100 20 \"\"\n"
+              "  EDITBOX \"PassWord1\" 100 150 200 20 \"\"\n"
+              "  EDITBOX \"NOTES\" 100 200 215 100 \"\"\n"
+              "  BEGIN\n"
+              "    TEXTWRAP 1\n"
+              "  END\n"
+              "  BUTTON \"OTHER\" 400 100 50 50 \"\"\n"
+              "  TABORDER \"NAME\" \"PassWord1\" \"OTHER\"\n"
+              "END\n");
+        play("frame 6");
+        ASSERT_TRUE(isTypedIn("NAME")) << "the first tab stop of a new screen";
+        play("call main setMouseCaptureWnd null");
+        measureFont(0);
+    }
+    AEditBox* box(const std::string& id) { return static_cast<AEditBox*>(wnd(id)); }
+    bool isTypedIn(const std::string& id) { return win().getMouseCaptureWnd(0) == wnd(id); }
+    void click(int x, int y)
+    {
+        play("move " + std::to_string(x) + " " + std::to_string(y), "press left", "tick", "release left",
+             "tick");
+    }
+    void type(const std::string& keys)
+    {
+        play("type \"" + keys + "\"", "tick " + std::to_string(keys.size()));
+    }
+    /// "ab|c": the text with the caret.
+    std::string state(const std::string& id)
+    {
+        std::string shown = box(id)->getWindowText();
+        return shown.insert(static_cast<std::size_t>(box(id)->getCursorPos()), "|");
+    }
+    /// Where the caret is drawn, or "".
+    std::string caret(const std::string& id)
+    {
+        box(id)->setBmpInfo(0, 0, 400, 1); // on for long
+        win().runFrame();
+        for (const DrawCommand& command : win().getLastFrame().commands())
+            if (command.op == DrawOp::Rectangle)
+                return std::to_string(command.x) + " " + std::to_string(command.y);
+        return "";
+    }
+};
+
+TEST_F(EditBoxTest, TypingGoesInAtTheCaret)
+{
+    click(110, 110);
+    ASSERT_TRUE(isTypedIn("NAME"));
+    const struct {
+        const char* event;
+        const char* state;
+    } rows[] = {
+        {"key a", "a|"},       {"key b", "ab|"},          {"key left", "a|b"},   {"key x", "ax|b"},
+        {"key home", "|axb"},  {"key backspace", "|axb"}, {"key delete", "|xb"}, {"key end", "xb|"},
+        {"key delete", "xb|"}, {"key backspace", "x|"},   {"key right", "x|"},   {"key up", "x|"},
+        {"key 0xBE", "x|"},    {"key space", "x |"},
+    };
+    for (const auto& row : rows) {
+        play(row.event, "tick");
+        EXPECT_EQ(state("NAME"), row.state) << row.event;
+    }
+}
+
+TEST_F(EditBoxTest, WhatIsAcceptedAndHowMuch)
+{
+    click(110, 110);
+    type("abcdefghijkl");
+    EXPECT_EQ(state("NAME"), "abcdefghij|") << "a box of one line takes what it can show";
+    box("NAME")->setWindowText(CString("é"));
+    type("\\xE9\\xBEz");
+    play("tick 4");
+    EXPECT_EQ(std::string(box("NAME")->getWindowText()), std::string("é") + "\xBEz")
+        << "above 0x7E only 0xBE";
+
+    box("NAME")->setWindowText(CString("ab"));
+    box("NAME")->setForceUpper(1);
+    box("NAME")->setMaxLength(3);
+    box("NAME")->setFullWnd(wnd("OTHER"));
+    type("c");
+    EXPECT_EQ(state("NAME"), "ABC|") << "the whole text";
+    EXPECT_EQ(win().mouseX, 425) << "full: the pointer goes on";
+    type("d");
+    EXPECT_EQ(state("NAME"), "ABC|");
+}
+
+TEST_F(EditBoxTest, HowTypingBeginsAndEnds)
+{
+    play("move 110 110", "tick", "key tab", "tick", "tick");
+    EXPECT_TRUE(isTypedIn("PassWord1")) << "arriving by Tab starts the typing";
+    type("ab");
+    play("key tab", "tick", "tick");
+    EXPECT_EQ(win().getMouseCaptureWndCount(), 0) << "Tab leaves it";
+    EXPECT_EQ(win().getCurFocusWnd(), wnd("OTHER"));
+
+    click(110, 110);
+    EXPECT_TRUE(isTypedIn("NAME"));
+    click(410, 110);
+    EXPECT_FALSE(isTypedIn("NAME")) << "a click elsewhere, which goes where it fell";
+    EXPECT_EQ(clicks().back(), "OTHER");
+
+    click(110, 110);
+    box("NAME")->setOnEnterWnd(wnd("OTHER"));
+    play("key return", "tick");
+    EXPECT_FALSE(isTypedIn("NAME"));
+    EXPECT_EQ(clicks().back(), "OTHER") << "the end of typing presses the button";
+    EXPECT_EQ(win().mouseX, 425);
+}
+
+TEST_F(EditBoxTest, BoxesThatLeadToEachOtherComeToRest)
+{
+    box("NAME")->setLeaveWnd(box("PassWord1"));
+    box("NAME")->setOnEnterWnd(box("NAME"));
+    box("PassWord1")->setOnEnterWnd(box("NAME"));
+    click(110, 110);
+    type("abc");
+    play("key return", "tick", "tick");
+    EXPECT_STREQ(box("NAME")->getWindowText(), "") << "a box that is its own end empties itself";
+    play("key return", "tick", "key esc", "tick", "key tab", "tick 3");
+    delete wnd("PassWord1");
+    EXPECT_EQ(box("NAME")->getLeaveWnd(), nullptr);
+    play("key return", "tick 2");
+}
+
+TEST_F(EditBoxTest, APasswordShowsStarsAndKeepsItsText)
+{
+    click(110, 160);
+    type("key");
+    EXPECT_EQ(drawn("PassWord1").operations("textout"), (Trace{text("***").at(100, 154)}));
+    EXPECT_STREQ(box("PassWord1")->getWindowText(), "key");
+    EXPECT_EQ(drawn("PassWord1").operations("adddirtyrect"), (Trace{dirty(100, 150, 300, 170)}));
+}
+
+TEST_F(EditBoxTest, WhereTheCaretStands)
+{
+    click(110, 110);
+    EXPECT_EQ(caret("NAME"), "100 104") << "an empty box";
+    type("abc");
+    EXPECT_EQ(caret("NAME"), "130 104");
+    play("key left", "tick");
+    EXPECT_EQ(caret("NAME"), "120 104");
+    box("NAME")->setTextJustify(AWnd::TJ_RIGHT);
+    EXPECT_EQ(caret("NAME"), "190 104");
+    box("NAME")->setTextOffset(4, 2);
+    box("NAME")->setTextJustify(AWnd::TJ_CENTRE);
+    EXPECT_EQ(caret("NAME"), "159 106");
+    play("key return", "tick");
+    EXPECT_EQ(caret("NAME"), "") << "only while it is typed in";
+}
+
+TEST_F(EditBoxTest, TheCaretOfSeveralLines)
+{
+    // Lines of the text are broken 60 pixels earlier than they could be, and lie 25.6 apart.
+    click(110, 210);
+    type("aaaa bbbb cccc dddd eeee");
+    EXPECT_EQ(caret("NOTES"), "190 225")
+        << "at the end: dddd eeee, of which the last character counts no more";
+    play("key home", "tick");
+    EXPECT_EQ(caret("NOTES"), "100 200");
+    for (int i = 0; i < 4; ++i)
+        play("key right", "tick");
+    EXPECT_EQ(caret("NOTES"), "140 200");
+}
+
+TEST_F(EditBoxTest, TheCaretBlinks)
+{
+    click(110, 110);
+    std::string shown;
+    for (int i = 0; i < 80; ++i) {
+        win().runFrame();
+        bool on = false;
+        for (const DrawCommand& command : win().getLastFrame().commands())
+            on = on || command.op == DrawOp::Rectangle;
+        shown += on ? '1' : '0';
+    }
+    EXPECT_EQ(std::count(shown.begin(), shown.end(), '1'), 40);
+    EXPECT_NE(shown.find(std::string(20, '1')), std::string::npos) << shown;
+    EXPECT_NE(shown.find(std::string(20, '0')), std::string::npos) << shown;
+}
+
+} // namespace

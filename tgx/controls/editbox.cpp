@@ -1,0 +1,236 @@
+#include "tgx/controls/editbox.h"
+
+#include "tgx/base/fixed.h"
+#include "tgx/base/swapped.h"
+#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/textline.h"
+#include "tgx/wnd/wrap.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <optional>
+
+namespace {
+
+constexpr int blinkPeriod = 40;  // frames
+constexpr int caretWidth = 2;    // pixels
+constexpr int wideFactor = 6553; // 1.6, raw: the distance of the lines of a wrapped text
+
+bool isPasswordId(const CString& id)
+{
+    constexpr std::string_view start = "PASSWORD";
+    return CString::equalNoCase(id.view().substr(0, start.size()), start);
+}
+
+bool isAccepted(unsigned char character)
+{
+    return (character >= 0x20 && character <= 0x7E) || character == 0xBE;
+}
+
+/// Boxes whose leave and enter windows lead to each other would end each other's typing without end.
+bool endOfTypingRuns = false;
+
+} // namespace
+
+AEditBox::AEditBox(const CString& name, int x, int y, int width, int height)
+    : AWnd(WND_EDITBOX, name, x, y, width, height), isPassword(isPasswordId(name))
+{
+    frameDelay = blinkPeriod;
+}
+
+bool AEditBox::isTypedIn() const
+{
+    return getMainWin()->getMouseCaptureWnd(0) == this;
+}
+
+void AEditBox::setWindowText(const CString& text)
+{
+    AWnd::setWindowText(text);
+    if (isTypedIn())
+        cursorPos = to16(windowText.GetLength());
+}
+
+int AEditBox::handleLostFocus()
+{
+    AMainWin* main = getMainWin();
+    main->setCursor(main->normalCursor);
+    return 1;
+}
+
+int AEditBox::handleKeyInput(char key)
+{
+    AWnd::handleKeyInput(key);
+
+    const int length = windowText.GetLength();
+    cursorPos = to16(std::clamp<int>(cursorPos, 0, std::min(length, INT16_MAX)));
+    switch (static_cast<unsigned char>(key)) {
+    case VK_RIGHT:
+        if (cursorPos < length)
+            ++cursorPos;
+        break;
+    case VK_LEFT:
+        if (cursorPos > 0)
+            --cursorPos;
+        break;
+    case VK_HOME:
+        cursorPos = 0;
+        break;
+    case VK_END:
+        cursorPos = to16(length);
+        break;
+    case VK_DELETE:
+        if (cursorPos < length)
+            windowText = windowText.Left(cursorPos) + windowText.Mid(cursorPos + 1);
+        break;
+    case VK_BACK:
+        if (cursorPos > 0) {
+            windowText = windowText.Left(cursorPos - 1) + windowText.Mid(cursorPos);
+            --cursorPos;
+            break;
+        }
+        typeCharacter();
+        break;
+    default:
+        typeCharacter();
+        break;
+    }
+    return 1;
+}
+
+void AEditBox::typeCharacter()
+{
+    AMainWin* main = getMainWin();
+    // A box of one line takes no more than it can show, counted before the character.
+    if (!textWrap && main->getStringLength(windowText, font) >= width() - 2 * textOffsetX)
+        return;
+    const char character = main->keyChar;
+    if (!isAccepted(static_cast<unsigned char>(character)))
+        return;
+    const auto isFull = [this] { return maxLength != -1 && windowText.GetLength() >= maxLength; };
+    if (isFull() || windowText.GetLength() >= INT16_MAX)
+        return;
+
+    windowText = windowText.Left(cursorPos) + CString(&character, 1) + windowText.Mid(cursorPos);
+    if (forceUpper)
+        windowText.MakeUpper();
+    ++cursorPos;
+    if (isFull() && fullWnd)
+        main->setMousePosOnWnd(fullWnd, 0);
+}
+
+int AEditBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
+{
+    AWnd::handleMouseAction(about, wnd, x, y, action);
+    if (action != MA_LBUTTONUP)
+        return 0;
+    if (!isTypedIn()) {
+        if (pointInside(x, y)) {
+            cursorPos = to16(windowText.GetLength());
+            getMainWin()->setMouseCaptureWnd(this);
+        }
+        return 0;
+    }
+    endTyping();
+    return 0;
+}
+
+void AEditBox::endTyping()
+{
+    AMainWin* main = getMainWin();
+    cursorPos = to16(windowText.GetLength());
+    main->setMouseCaptureWnd(nullptr);
+    if (endOfTypingRuns)
+        return;
+    const Swapped<bool> running(endOfTypingRuns, true);
+
+    // What is pressed may delete this box, or any other window.
+    const WndRef self = this;
+    const auto press = [main](AWnd* wnd) {
+        AScreen* screen = main->getActiveScreen();
+        if (!wnd || !screen || wnd->getWindowType() != WND_BUTTON)
+            return;
+        const CString name = wnd->getID();
+        screen->handleMouseAction(name, wnd, main->mouseX, main->mouseY, MA_LBUTTONUP);
+    };
+    if (const WndRef leaving = leaveWnd.get()) {
+        main->setMousePosOnWnd(leaving, 0);
+        press(leaving);
+        if (!self)
+            return;
+    }
+    if (!onEnterWnd)
+        if (AWnd* active = main->getActiveWnd())
+            onEnterWnd = active->getWnd("EDITBOX_ONENTER", 1);
+    const WndRef entering = onEnterWnd.get();
+    if (!entering)
+        return;
+    if (entering == this)
+        setWindowText(CString());
+    main->setMousePosOnWnd(entering, 0);
+    press(entering);
+}
+
+void AEditBox::draw(int frameStep)
+{
+    // Text and caret are worked out on the stars; the real text is there again whatever happens.
+    std::optional<Swapped<CString>> stars;
+    if (isPassword)
+        stars.emplace(windowText, CString(std::string(windowText.view().size(), '*')));
+    AWnd::draw(frameStep);
+    if (!isVisible(1))
+        return;
+    RECT box{left(), top(), right(), bottom()};
+    getMainWin()->adddirtyrect(box); // the caret changes without the window moving
+    if (isTypedIn())
+        drawCaret();
+}
+
+void AEditBox::drawCaret()
+{
+    if (++frameTimer >= frameDelay)
+        frameTimer = 0;
+    if (frameTimer >= frameDelay / 2)
+        return;
+
+    AMainWin* main = getMainWin();
+    const int x = left() + textOffsetX;
+    const int y = top() + textOffsetY;
+    int lineWidth = width();
+    if (textWrap)
+        lineWidth -= main->getStringLength("wwwwww", font);
+    int caretX = -1;
+    int caretY = -1;
+    if (textWrap && !windowText.IsEmpty())
+        caretInLines(x, y, lineWidth, caretX, caretY);
+    else
+        caretInLine(x, y, lineWidth, caretX, caretY);
+    if (caretX < 0 || caretY < 0)
+        return;
+    const int lineHeight = font ? font->lineHeight : 0;
+    main->rectangle(caretX, caretY, caretX + caretWidth, caretY + lineHeight, main->getcol(caretColour));
+}
+
+void AEditBox::caretInLine(int x, int y, int lineWidth, int& caretX, int& caretY) const
+{
+    AMainWin* main = getMainWin();
+    int shown = 0;
+    cutToWidth(font, windowText.view(), lineWidth, shown);
+    caretX =
+        leftEdge(textJustify, x, lineWidth, shown) + main->getStringLength(windowText.Left(cursorPos), font);
+    caretY = textCentreV ? y + (height() - (font ? font->charHeight : 0)) / 2 : y;
+}
+
+void AEditBox::caretInLines(int x, int y, int lineWidth, int& caretX, int& caretY) const
+{
+    TextWrap wrapped(windowText.view(), font, lineWidth, height());
+    wrapped.watch(cursorPos);
+    while (wrapped.next()) {
+    }
+    if (wrapped.getSeenLine() < 0)
+        return;
+    const int whole = getMainWin()->getStringLength(windowText, font);
+    const int lineHeight = font ? font->lineHeight : 0;
+    caretX = leftEdge(textJustify, x, lineWidth, whole) + wrapped.getSeenWidth();
+    caretY = static_cast<int>(
+        (y * 4096LL + static_cast<long long>(lineHeight) * wideFactor * wrapped.getSeenLine()) / 4096);
+}

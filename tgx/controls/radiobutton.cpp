@@ -1,0 +1,134 @@
+#include "tgx/controls/radiobutton.h"
+
+#include "tgx/controls/tabcontrol.h"
+#include "tgx/frame/mainwin.h"
+
+ARadioButton::ARadioButton(const CString& name, int x, int y, int width, int height)
+    : AButton(name, x, y, width, height, WND_RADIOBUTTON)
+{
+    textShift = 0;
+}
+
+void ARadioButton::startup()
+{
+    AWnd::startup(); // a radio button has no opening run
+    setSelected(getSelectedButton() == nullptr);
+}
+
+int ARadioButton::addLinkedButton(AButton* button)
+{
+    return linkedButtons.Add(button);
+}
+
+AButton* ARadioButton::getLinkedButton(int index) const
+{
+    return static_cast<AButton*>(linkedButtons[index]);
+}
+
+int ARadioButton::getLinkedButtonsCount(int visibleOnly) const
+{
+    if (!visibleOnly)
+        return linkedButtons.GetSize();
+    int count = 0;
+    for (int i = 0; i < linkedButtons.GetSize(); ++i)
+        count += linkedButtons[i]->isVisible(1);
+    return count;
+}
+
+AButton* ARadioButton::getSelectedButton()
+{
+    if (isSelected())
+        return this;
+    for (int i = 0; i < linkedButtons.GetSize(); ++i)
+        if (getLinkedButton(i)->isSelected())
+            return getLinkedButton(i);
+    return nullptr;
+}
+
+void ARadioButton::setAllNonSelected()
+{
+    setSelected(0);
+    for (int i = 0; i < linkedButtons.GetSize(); ++i)
+        getLinkedButton(i)->setSelected(0);
+}
+
+void ARadioButton::setSelectedButton(AButton* button)
+{
+    if (!button || button == this)
+        button = this;
+    else if (!linkedButtons.contains(button))
+        return;
+    setAllNonSelected();
+    button->setSelected(1);
+}
+
+void ARadioButton::selectNextButton(int backwards)
+{
+    const AButton* from = getSelectedButton();
+    if (!from)
+        return;
+    const int count = linkedButtons.GetSize();
+    if (!from->isVisible(1)) {
+        for (int i = 0; i < count; ++i)
+            if (linkedButtons[i]->isVisible(1)) {
+                setSelectedButton(getLinkedButton(i));
+                return;
+            }
+        return;
+    }
+
+    int at = linkedButtons.find(from);
+    if (at < 0)
+        at = count;
+    for (int steps = 0; steps < count; ++steps) {
+        at += backwards ? -1 : 1;
+        if (at < 0)
+            at = count - 1;
+        else if (at >= count)
+            at = 0;
+        if (linkedButtons[at]->isEnabled()) {
+            setSelectedButton(getLinkedButton(at));
+            return;
+        }
+    }
+}
+
+int ARadioButton::handleKeyInput(char key)
+{
+    return AWnd::handleKeyInput(key);
+}
+
+int ARadioButton::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
+{
+    AButton::handleMouseAction(about, wnd, x, y, action);
+    if (isMeantForAnother(wnd))
+        return 0;
+
+    AMainWin* main = getMainWin();
+    if (action == MA_KEY) {
+        const int key = main->keyCode;
+        const bool back = key == VK_HOME || key == VK_INSERT;
+        if (back || key == VK_END || key == VK_DELETE) {
+            selectNextButton(back);
+            tellOfChoice();
+        }
+    }
+    if (!isVisible(1))
+        return 0;
+    if (action == MA_LBUTTONUP && buttonState != BS_DISABLED) {
+        setSelected(1);
+        for (int i = 0; i < linkedButtons.GetSize(); ++i)
+            if (linkedButtons[i] != this)
+                getLinkedButton(i)->setSelected(0);
+    }
+    return 0;
+}
+
+void ARadioButton::tellOfChoice()
+{
+    AWnd* holder = getParent();
+    if (holder && holder->getWindowType() == WND_TABCONTROL)
+        static_cast<ATabControl*>(holder)->setActiveWnd(getSelectedButton(), 1);
+    else if (AWnd* active = getMainWin()->getActiveWnd())
+        active->update();
+}

@@ -1,0 +1,155 @@
+#include "tgx/controls/scrollbar.h"
+
+#include "platform/display/surface.h"
+#include "tgx/frame/mainwin.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr ZnFixed full = ZnFixed::fromInt(100);
+
+enum Frame { FirstButton, FirstPressed, SecondButton, SecondPressed, Trough, Lever };
+
+constexpr unsigned long outlineColour = 0xFFFFFF;
+
+} // namespace
+
+AScrollBar::AScrollBar(const CString& name, int x, int y, int width, int height)
+    : AWnd(WND_SCROLLBAR, name, x, y, width, height)
+{}
+
+void AScrollBar::startup()
+{
+    AWnd::startup();
+}
+
+void AScrollBar::close()
+{
+    AWnd::close();
+}
+
+void AScrollBar::setPercentage(ZnFixed value)
+{
+    percentage = std::clamp(value, ZnFixed(), full);
+}
+
+/// Centre of the lever: one and a half frames from the start, and the fraction of the travel.
+int AScrollBar::getLeverWndPos() const
+{
+    constexpr int oneAndAHalf = 6144;
+    const long long fraction = (percentage / full).raw;
+    return static_cast<int>((fraction * getTravel() + static_cast<long long>(getFrameSize()) * oneAndAHalf) /
+                            ZnFixed::one);
+}
+
+/// Whole percent, not bounded: a dragged lever moves in steps of 1.0, whatever step says. A bar without
+/// travel gives 0.
+int AScrollBar::getPercentageFromWndPos(int pos) const
+{
+    const long long fromStart = (pos * 4096LL - getFrameSize() * 6144LL) / ZnFixed::one;
+    return ((static_cast<int>(fromStart) / ZnFixed::fromInt(getTravel())) * full).toInt();
+}
+
+int AScrollBar::handleMouseAction(const CString&, AWnd*, int x, int y, E_MOUSEACTION action)
+{
+    if (!isVisible(1))
+        return 0;
+    // An end button shows pressed only behind an action that has pressed it.
+    prevPressed = 0;
+    nextPressed = 0;
+    switch (action) {
+    case MA_LBUTTONDOWN: // on every tick of the hold: dragging and repeating rest on that
+        getMainWin()->setMouseCaptureWnd(this);
+        press(getMouseWndPos(x, y));
+        hold();
+        break;
+    case MA_LBUTTONUP:
+        release();
+        hold();
+        break;
+    case MA_MOVE:
+        release();
+        break;
+    default:
+        break;
+    }
+    return 0;
+}
+
+void AScrollBar::release()
+{
+    leverHeld = 0;
+    AMainWin* main = getMainWin();
+    if (main->getMouseCaptureWnd(0) == this)
+        main->setMouseCaptureWnd(nullptr);
+}
+
+void AScrollBar::press(int pos)
+{
+    const int lever = getLeverWndPos();
+    const int half = getFrameSize() / 2;
+    if (lever - half <= pos && pos <= lever + half)
+        leverHeld = 1;
+    if (leverHeld) {
+        percentage = ZnFixed::fromInt(std::clamp(getPercentageFromWndPos(pos), 0, 100));
+        return;
+    }
+    // Beside the lever a press pages, but only in a list. No list box holds a bar yet, so here it does
+    // nothing.
+    if (!getMainWin()->isMouseDownInterval(-1))
+        return;
+    if (pos < getFrameSize()) {
+        prevPressed = 1;
+        move(-1);
+    } else if (pos > getScrollLength() - getFrameSize()) {
+        nextPressed = 1;
+        move(1);
+    }
+}
+
+void AScrollBar::move(int direction)
+{
+    const long long moved = percentage.raw + static_cast<long long>(direction) * step.raw;
+    percentage = ZnFixed::fromRaw(static_cast<int>(std::clamp<long long>(moved, 0, full.raw)));
+}
+
+/// Blits a frame at its own width across the axis.
+void AScrollBar::put(int frame, int along, int length)
+{
+    const int source = frame * (frameWidth + 1);
+    if (horizontal)
+        bmp->blit(left() + along, top(), source, 0, length, frameHeight, -1, -1, nullptr, -1);
+    else
+        bmp->blit(left(), top() + along, source, 0, frameWidth, length, -1, -1, nullptr, -1);
+}
+
+void AScrollBar::outlineLever(int lever)
+{
+    const int size = getFrameSize() > 0 ? getFrameSize() : getScrollWide();
+    const int start = lever - size / 2;
+    const int x = left() + (horizontal ? start : 0);
+    const int y = top() + (horizontal ? 0 : start);
+    getMainWin()->rectangle(x, y, x + (horizontal ? size : getScrollWide()),
+                            y + (horizontal ? getScrollWide() : size), outlineColour);
+}
+
+void AScrollBar::draw(int frameStep)
+{
+    AWnd::draw(frameStep);
+    if (!isVisible(1))
+        return;
+    const int lever = getLeverWndPos();
+    if (!bmp) {
+        outlineLever(lever);
+        return;
+    }
+    const int size = getFrameSize();
+    const int end = getScrollLength() - size;
+    if (size > 0)
+        for (int along = size; along < end; along += size)
+            put(Trough, along, std::min(size, end - along));
+    put(prevPressed ? FirstPressed : FirstButton, 0, size);
+    put(nextPressed ? SecondPressed : SecondButton, end, size);
+    put(Lever, lever - size / 2, size);
+}

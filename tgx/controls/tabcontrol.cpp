@@ -1,0 +1,98 @@
+#include "tgx/controls/tabcontrol.h"
+
+#include "tgx/base/fixed.h"
+#include "tgx/controls/radiobutton.h"
+#include "tgx/frame/mainwin.h"
+
+ATabControl::ATabControl(const CString& name, int x, int y, int width, int height)
+    : AWnd(WND_TABCONTROL, name, x, y, width, height)
+{}
+
+bool ATabControl::isTab(const AWnd* wnd)
+{
+    return wnd && (wnd->getWindowType() == WND_BUTTON || wnd->getWindowType() == WND_RADIOBUTTON);
+}
+
+void ATabControl::startup()
+{
+    AWnd::startup();
+    auto* first = static_cast<ARadioButton*>(getWndOfType(WND_RADIOBUTTON, 0, 0));
+    if (!first)
+        return;
+    if (tabCount == 0)
+        tabCount = to16(first->getLinkedButtonsCount(0));
+
+    int pagesBefore = 0; // the first one that is visible
+    for (const AWnd* wnd : children) {
+        if (!wnd || wnd->getWindowType() == WND_RADIOBUTTON)
+            continue;
+        if (wnd->isVisible(0))
+            break;
+        ++pagesBefore;
+    }
+    if (pagesBefore < first->getLinkedButtonsCount(0))
+        setActiveWnd(first->getLinkedButton(pagesBefore), 0);
+}
+
+AWnd* ATabControl::getActiveWnd()
+{
+    for (AWnd* wnd : children)
+        if (wnd && !isTab(wnd) && wnd->isVisible(1))
+            return wnd;
+    return nullptr;
+}
+
+AWnd* ATabControl::pageOf(const AWnd& tab) const
+{
+    int index = tab.getWindowIndex() + tabCount;
+    if (index >= children.GetSize())
+        index = tab.getWindowIndex() - tabCount;
+    return index >= 0 && index < children.GetSize() ? children.GetAt(index) : nullptr;
+}
+
+void ATabControl::setActiveWnd(AButton* tab, int interactive)
+{
+    if (!tab)
+        return;
+    AMainWin* main = getMainWin();
+    AScreen* screen = main->getActiveScreen();
+    const WndRef under = screen ? screen->getWndAtPos(main->mouseX, main->mouseY, 1) : nullptr;
+    if (tab->getWindowType() == WND_RADIOBUTTON)
+        static_cast<ARadioButton*>(tab)->setSelectedButton(tab);
+
+    if (AWnd* page = pageOf(*tab)) {
+        for (AWnd* wnd : children)
+            if (wnd && !isTab(wnd))
+                wnd->setVisible(0);
+        page->setVisible(1);
+    }
+    if (!interactive || !screen)
+        return;
+    const WndRef shown = screen;
+    screen->update();
+    if (shown && (!under || !under->isEnabled()))
+        main->setMousePosOnNextTabStop(shown, under, 0, 0);
+}
+
+int ATabControl::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
+{
+    AWnd::handleMouseAction(about, wnd, x, y, action);
+    if (!isVisible(1) || action != MA_LBUTTONUP)
+        return 0;
+    AWnd* hit = getWndAtPos(x, y, 0);
+    if (isTab(hit) && static_cast<AButton*>(hit)->getButtonState() != AButton::BS_DISABLED)
+        setActiveWnd(static_cast<AButton*>(hit), 1);
+    return 0;
+}
+
+void ATabControl::draw(int frameStep)
+{
+    if (!isVisible(1))
+        return;
+    AWnd::draw(frameStep);
+    for (int i = 0; i < children.GetSize(); ++i) {
+        AWnd* tab = children.GetAt(i);
+        if (isTab(tab) && static_cast<AButton*>(tab)->isSelected())
+            tab->draw(0);
+    }
+}

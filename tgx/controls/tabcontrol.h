@@ -1,0 +1,34 @@
+#pragma once
+
+#include "tgx/wnd/wnd.h"
+
+class AButton;
+
+/// Shows one page out of several. Its children are the tabs, buttons in one radio group, and the pages, any
+/// other windows, in the same order and number: the page of the tab at child i is child i + tabCount, or i -
+/// tabCount where the pages come first.
+class TGX_API ATabControl : public AWnd {
+public:
+    ATabControl(const CString& id, int x, int y, int width, int height);
+
+    /// The selected tab once more, over its neighbours and the pages.
+    void draw(int frameStep) override;
+    /// Counts the tabs and selects the one of the first page that is visible.
+    void startup() override;
+    /// A click on a tab shows its page. 0.
+    int handleMouseAction(const CString& id, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
+
+    /// The page that shows, or null.
+    AWnd* getActiveWnd();
+    /// Selects tab and shows its page. interactive: the screen's update is called, and the pointer leaves
+    /// what has gone away.
+    void setActiveWnd(AButton* tab, int interactive);
+    int getTabCount() const { return tabCount; }
+
+protected:
+    short tabCount = 0;
+
+private:
+    static bool isTab(const AWnd* wnd);
+    AWnd* pageOf(const AWnd& tab) const;
+};

@@ -1,0 +1,174 @@
+// Statements that make buttons, tab controls, edit boxes and scroll bars, and those that set a button's
+// attributes. The forms that several share stand first.
+
+#include "tgx/controls/editbox.h"
+#include "tgx/controls/radiobutton.h"
+#include "tgx/controls/scrollbar.h"
+#include "tgx/controls/tabcontrol.h"
+#include "tgx/script/statements.h"
+
+namespace {
+
+template<class Control>
+Control* makeControl(const ScriptLine& line)
+{
+    return new Control(line.text(1), line.number(2), line.number(3), line.number(4), line.number(5));
+}
+
+/// Text, its offset, bitmap, frame size and delay, frames of the states; each group may be left out from the
+/// end.
+void applyButtonForm(AButton& button, const ScriptLine& line)
+{
+    button.setWindowText(line.text(6));
+    if (line.count >= 10) {
+        button.setTextOffset(line.number(7), line.number(8));
+        button.setBmpFilename(line.text(9), -1, -1);
+    }
+    if (line.count >= 13) {
+        const int width = line.number(10) < 0 ? button.width() : line.number(10);
+        const int height = line.number(11) < 0 ? button.height() : line.number(11);
+        const int delay = line.number(12) < 0 ? 1 : line.number(12);
+        button.setBmpInfo(width, height, delay, 1);
+        button.setButtonAnimFPS(delay, delay, delay, delay, delay);
+    } else {
+        button.setBmpInfo(line.number(4), line.number(5), 1, 1);
+    }
+    if (line.count >= 17)
+        button.setButtonAnimFrames(line.number(13), line.number(14), line.number(15), line.number(16),
+                                   line.number(17));
+}
+
+/// Box, bitmap, frame size and delay, frames of the states, of a part that its control finds by a fixed name.
+AWnd* stateButton(const char* name, AWnd& target, const ScriptLine& line)
+{
+    auto* button = new AButton(name, line.number(1), line.number(2), line.number(3), line.number(4));
+    target.addChildWindow(button);
+    button->setBmpFilename(line.text(5), -1, -1);
+    button->setBmpInfo(line.number(6), line.number(7), line.number(8), 1);
+    if (line.count >= 13)
+        button->setButtonAnimFrames(line.number(9), line.number(10), line.number(11), line.number(12),
+                                    line.number(13));
+    return button;
+}
+
+/// How many radio buttons stand at the end of target's children, up to limit.
+int lastRadioButtons(AWnd& target, int limit)
+{
+    int count = 0;
+    for (int i = target.getWindowCount() - 1; i >= 0 && count < limit; --i, ++count) {
+        const AWnd* wnd = target.getWndFromIndex(i, "");
+        if (!wnd || wnd->getWindowType() != AWnd::WND_RADIOBUTTON)
+            break;
+    }
+    return count;
+}
+
+AWnd* scrollBar(bool horizontal, AWnd& target, const ScriptLine& line)
+{
+    auto* bar = makeControl<AScrollBar>(line);
+    target.addChildWindow(bar);
+    bar->setHorizontal(horizontal);
+    applyBarForm(*bar, line);
+    return bar;
+}
+
+} // namespace
+
+void applyBarForm(AWnd& bar, const ScriptLine& line)
+{
+    bar.setBmpFilename(line.text(6), -1, -1);
+    bar.setBmpInfo(line.number(7), line.number(8), 1, 1);
+}
+
+AWnd* button(AWnd& target, const ScriptLine& line)
+{
+    auto* made = makeControl<AButton>(line);
+    target.addChildWindow(made);
+    applyButtonForm(*made, line);
+    return made;
+}
+
+AWnd* checkBox(AWnd& target, const ScriptLine& line)
+{
+    AWnd* made = button(target, line);
+    static_cast<AButton*>(made)->setCheckBox(1);
+    return made;
+}
+
+AWnd* checkBoxState(AWnd& target, const ScriptLine& line)
+{
+    return stateButton("CheckboxState", target, line);
+}
+
+AWnd* radioState(AWnd& target, const ScriptLine& line)
+{
+    return stateButton("RadioState", target, line);
+}
+
+// The radio buttons directly in front of it are its group: each comes to know all others.
+AWnd* radioButton(AWnd& target, const ScriptLine& line)
+{
+    const int others = lastRadioButtons(target, ARadioButton::maxScriptMembers);
+    if (others >= ARadioButton::maxScriptMembers)
+        return nullptr;
+    const int place = target.getWindowCount();
+    auto* made = makeControl<ARadioButton>(line);
+    target.addChildWindow(made);
+    applyButtonForm(*made, line);
+    made->addLinkedButton(made);
+    for (int i = place - 1; i >= place - others; --i) {
+        auto* member = static_cast<ARadioButton*>(target.getWndFromIndex(i, ""));
+        made->addLinkedButton(member);
+        member->addLinkedButton(made);
+    }
+    return made;
+}
+
+AWnd* tabControl(AWnd& target, const ScriptLine& line)
+{
+    return target.addChildWindow(makeControl<ATabControl>(line));
+}
+
+AWnd* editBox(AWnd& target, const ScriptLine& line)
+{
+    AWnd* made = target.addChildWindow(makeControl<AEditBox>(line));
+    applyTextForm(*made, line);
+    return made;
+}
+
+AWnd* hScrollBar(AWnd& target, const ScriptLine& line)
+{
+    return scrollBar(true, target, line);
+}
+
+AWnd* vScrollBar(AWnd& target, const ScriptLine& line)
+{
+    return scrollBar(false, target, line);
+}
+
+// An argument behind the line's end reads as 0: a button without a disabled run leaves it out.
+void buttonFps(AButton& target, const ScriptLine& line)
+{
+    target.setButtonAnimFPS(line.number(1), line.number(2), line.number(3), line.number(4), line.number(5));
+}
+
+void buttonFrames(AButton& target, const ScriptLine& line)
+{
+    target.setButtonAnimFrames(line.number(1), line.number(2), line.number(3), line.number(4),
+                               line.number(5));
+}
+
+void buttonLoop(AButton& target, const ScriptLine& line)
+{
+    target.setButtonAnimLoop(line.number(1), line.number(2), line.number(3), line.number(4), line.number(5));
+}
+
+void buttonTextShift(AButton& target, const ScriptLine& line)
+{
+    target.setTextShift(line.number(1));
+}
+
+void buttonCheck(AButton& target, const ScriptLine& line)
+{
+    target.setCheckBox(line.number(1));
+}
