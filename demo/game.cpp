@@ -1,9 +1,12 @@
 #include "demo/game.h"
 
 #include "platform/system/datadir.h"
+#include "tgx/controls/button.h"
+#include "tgx/controls/scrollbar.h"
 
 #include <algorithm>
 #include <cstdlib>
+#include <string>
 
 void useDemoData(int argc, char** argv)
 {
@@ -25,13 +28,13 @@ AWnd* HarbourWindow::createNewWindow(const CString& id, int x, int y, int w, int
         return new SlidingPanel(id, x, y, w, h, SlidingPanel::Right);
     if (className == "FromBelow")
         return new SlidingPanel(id, x, y, w, h, SlidingPanel::Below);
-    if (className == "Label")
-        return new Label(id, x, y, w, h);
     if (className == "Ship")
         return new SailingShip(id, x, y, w, h);
     if (className == "CHART")
         return new ChartScreen(id, x, y, w, h);
-    if (className == "TITLE" || className == "COMPANY")
+    if (className == "OPTIONS")
+        return new OptionsScreen(id, x, y, w, h);
+    if (className == "TITLE" || className == "COMPANY" || className == "NEWGAME")
         return new HarbourScreen(id, x, y, w, h);
     return nullptr;
 }
@@ -106,34 +109,6 @@ void SailingShip::initialise()
     setMoveAnimation(-posX(1) - getWndWidth() / 2, 0, 0, 0, ZnFixed::fromInt(1), ZnFixed(), 1);
 }
 
-// Label
-
-Label::Label(const CString& name, int x, int y, int width, int height)
-    : AWnd(WND_PLAIN, name, x, y, width, height)
-{}
-
-int Label::handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action)
-{
-    AWnd::handleMouseAction(subject, wnd, x, y, action);
-
-    if (wnd != this || action == MA_KEY)
-        return 0;
-    show(action == MA_LBUTTONDOWN ? Pressed : PointedAt);
-    return 1;
-}
-
-int Label::handleLostFocus()
-{
-    show(AtRest);
-    return AWnd::handleLostFocus();
-}
-
-void Label::show(Look look)
-{
-    setCurrentFrame(look);
-    setTextOffset(0, look == Pressed ? 2 : 0);
-}
-
 // Screens
 
 int HarbourScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action)
@@ -151,6 +126,13 @@ int HarbourScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, i
         return 1;
     }
     return 0;
+}
+
+void HarbourScreen::tell(const char* window, const char* text)
+{
+    AWnd* shown = getWnd(window, 1);
+    if (shown && shown->getWindowText() != text)
+        shown->setWindowText(text);
 }
 
 namespace {
@@ -195,8 +177,66 @@ int ChartScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, int
     return 0;
 }
 
-void ChartScreen::tell(const char* window, const char* text)
+// OptionsScreen
+
+namespace {
+
+const struct Dial {
+    const char* bar;
+    const char* value; // the window that tells it
+    int percent;       // at the start
+} dials[] = {
+    {"SOUND_SEA", "SOUND_SEA_NOW", 60},    {"SOUND_ENGINE", "SOUND_ENGINE_NOW", 35},
+    {"SOUND_GULLS", "SOUND_GULLS_NOW", 5}, {"LIGHT_LAMP", "LIGHT_LAMP_NOW", 25},
+    {"LIGHT_MOON", "LIGHT_MOON_NOW", 50},  {"LIGHT_FIRE", "LIGHT_FIRE_NOW", 80},
+};
+
+} // namespace
+
+void OptionsScreen::startup()
 {
-    if (AWnd* shown = getWnd(window, 1))
-        shown->setWindowText(text);
+    HarbourScreen::startup();
+    // A button that starts is at rest, so it is disabled behind that.
+    if (auto* keep = static_cast<AButton*>(getWnd("KEEP", 1)))
+        keep->setButtonState(AButton::BS_DISABLED);
+    for (const Dial& dial : dials) {
+        if (auto* bar = static_cast<AScrollBar*>(getWnd(dial.bar, 1)))
+            bar->setPercentage(ZnFixed::fromInt(dial.percent));
+    }
+}
+
+void OptionsScreen::draw(int frameStep)
+{
+    // A held bar keeps the mouse to itself, so its value is read here.
+    for (const Dial& dial : dials) {
+        if (auto* bar = static_cast<AScrollBar*>(getWnd(dial.bar, 1)))
+            tell(dial.value, (std::to_string(bar->getPercentage().toInt()) + " %").c_str());
+    }
+    HarbourScreen::draw(frameStep);
+}
+
+int OptionsScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action)
+{
+    if (HarbourScreen::handleMouseAction(subject, wnd, x, y, action))
+        return 1;
+    auto* keep = static_cast<AButton*>(getWnd("KEEP", 1));
+    if (action != MA_LBUTTONUP || !keep)
+        return 0;
+    CString family = subject.Left(5);
+    if (family == "RULE_" || family == "COIN_" || subject.Left(4) == "SKY_") {
+        if (keep->getButtonState() == AButton::BS_DISABLED)
+            keep->setButtonState(AButton::BS_NORMAL);
+        tell("NOTE", "Changed, and not yet kept.");
+        return 1;
+    }
+    if (subject == "KEEP" && keep->isEnabled()) {
+        keep->setButtonState(AButton::BS_DISABLED);
+        tell("NOTE", "Kept, in ink.");
+        return 1;
+    }
+    if (subject == "HORN") {
+        tell("NOTE", "Somewhere in the fog, another horn answers.");
+        return 1;
+    }
+    return 0;
 }

@@ -33,23 +33,15 @@ public:
     void initialise() override;
 };
 
-/// A plate with text whose bitmap strip has a frame for at rest, pointed at and pressed.
-class Label : public AWnd {
-public:
-    enum Look { AtRest = 0, PointedAt = 1, Pressed = 2 };
-    Label(const CString& name, int x, int y, int width, int height);
-    int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
-    int handleLostFocus() override;
-
-private:
-    void show(Look look);
-};
-
 /// A screen of the demo. A click on a window whose id is "GO_" and the name of a screen opens that screen.
 class HarbourScreen : public AScreen {
 public:
     using AScreen::AScreen;
     int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
+
+protected:
+    /// Writes text into the window of that id, if there is one.
+    void tell(const char* window, const char* text);
 };
 
 /// The chart: what is pointed at is told in the panel beside it.
@@ -57,9 +49,15 @@ class ChartScreen : public HarbourScreen {
 public:
     using HarbourScreen::HarbourScreen;
     int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
+};
 
-private:
-    void tell(const char* window, const char* text);
+/// The options: the values of the bars are written beside them, and a change can be kept.
+class OptionsScreen : public HarbourScreen {
+public:
+    using HarbourScreen::HarbourScreen;
+    void startup() override;
+    void draw(int frameStep) override;
+    int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
 };
 
 /// The demo's main window: it knows the classes that the scripts name.

@@ -3,7 +3,7 @@
 #include <cstdint>
 
 /// The demo's one palette, 0xRRGGBB: a harbour before sunrise. Pictures take their colours from here and mix
-/// between them; the fonts in scripts/main.tgs name the same values.
+/// between them; the fonts in scripts/script.tgs name the same values.
 namespace palette {
 
 constexpr std::uint32_t night = 0x0D1826;   // panels, silhouettes in front

@@ -43,8 +43,22 @@ Canvas emblem();
 Canvas beamStrip();
 Canvas flagStrip();
 Canvas steamerStrip();
-Canvas labelStrip();
 Canvas portStrip();
+/// Copies frame number n into a strip.
+void putFrame(Canvas& strip, const Canvas& frame, int n);
+
+// The strips of controls, each with the frames that its control looks for.
+/// 240 x 44: an opening run, then at rest, pointed at, pressed, disabled.
+Canvas buttonStrip(int opening);
+Canvas checkStrip();
+Canvas radioStrip();
+/// What lies in a check box or a radio button that is selected.
+Canvas tick();
+Canvas dot();
+/// 164 x 38.
+Canvas tabStrip();
+Canvas scrollStrip(bool horizontal);
+Canvas fieldFill();
 
 // Window furniture.
 /// Metal that is bright on the upper left side of shape.

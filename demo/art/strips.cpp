@@ -6,14 +6,6 @@
 
 namespace {
 
-/// Copies frame number n into a strip of frames with a pixel between them.
-void putFrame(Canvas& strip, const Canvas& frame, int n)
-{
-    for (int y = 0; y < frame.height; ++y)
-        for (int x = 0; x < frame.width; ++x)
-            strip.at(n * (frame.width + 1) + x, y) = frame.at(x, y);
-}
-
 constexpr float pi = 3.14159265f;
 
 /// The mean of nine points of each pixel, for paint that has edges of its own.
@@ -34,32 +26,11 @@ Paint sampled(Paint paint)
 
 } // namespace
 
-Canvas labelStrip()
+void putFrame(Canvas& strip, const Canvas& frame, int n)
 {
-    // Four frames, 240 x 44: at rest, pointed at, pressed, disabled.
-    Canvas strip(4 * 241, 44);
-    for (int n = 0; n < 4; ++n) {
-        Canvas frame(240, 44);
-        Colour top = mix(rgb(palette::slate), rgb(palette::harbour), 0.35f), bottom = rgb(palette::harbour);
-        if (n == 1) {
-            top = mix(rgb(palette::brass), rgb(palette::slate), 0.35f);
-            bottom = mix(rgb(palette::brass), rgb(palette::night), 0.5f);
-        } else if (n == 2) {
-            top = rgb(palette::night);
-            bottom = mix(rgb(palette::harbour), rgb(palette::brass), 0.3f);
-        } else if (n == 3) {
-            top = bottom = mix(rgb(palette::harbour), rgb(palette::night), 0.6f);
-        }
-        Shape plate = box(1, 1, 239, 43, 6);
-        frame.fill(plate, [&](float, float y) { return mix(top, bottom, y / 44); });
-        frame.fill(outline(box(1.5f, 1.5f, 238.5f, 42.5f, 5.5f), 1.4f), rgb(palette::brass, n == 1   ? 1.0f
-                                                                                            : n == 3 ? 0.25f
-                                                                                                     : 0.7f));
-        if (n != 2 && n != 3)
-            frame.fill(stroke({{8, 3.2f}, {232, 3.2f}}, 1), rgb(palette::cream, 0.22f));
-        putFrame(strip, frame, n);
-    }
-    return strip;
+    for (int y = 0; y < frame.height; ++y)
+        for (int x = 0; x < frame.width; ++x)
+            strip.at(n * (frame.width + 1) + x, y) = frame.at(x, y);
 }
 
 Canvas portStrip()

@@ -2,6 +2,7 @@
 
 #include "platform/display/ddwin.h"
 #include "platform/framework/cfile.h"
+#include "platform/limits.h"
 #include "platform/system/module.h"
 #include "tgx/frame/app.h"
 #include "tgx/frame/governor.h"
@@ -159,7 +160,9 @@ protected:
     int pendingCloseCurrent = 0;
     unsigned pendingResource = 0;
     CString pendingFile;
-    std::unique_ptr<char[]> ownedBuffer; // for a subclass
+    std::unique_ptr<char[]> ownedBuffer;    // for a subclass
+    long scriptLines = limits::scriptLines; // that one outermost read may execute; a subclass may allow fewer
+    long long scriptWork = limits::scriptWork; // and what they may cost beyond being lines
 
 private:
     void drawPopups();

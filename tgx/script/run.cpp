@@ -82,7 +82,7 @@ ScriptRun::Scope::Scope(AMainWin& mainWin, const CString& script)
     : window(mainWin), isOutermost(mainWin.scriptRun == nullptr)
 {
     if (isOutermost)
-        window.scriptRun = std::make_unique<ScriptRun>(script);
+        window.scriptRun = std::make_unique<ScriptRun>(script, window.scriptLines, window.scriptWork);
     running = window.scriptRun.get();
 }
 
@@ -134,6 +134,8 @@ std::unique_ptr<CFile> ScriptRun::open(const CString& file)
         return stream;
     }
     const bool opened = stream->Open(path) != 0;
+    if (stream->wasTooLarge())
+        MsgBox("cannot load %s", static_cast<const char*>(path));
     // The outermost script may be of any size that can be opened.
     if (!std::exchange(firstFile, false))
         workLeft -= openedName + openedByte * stream->GetLength();

@@ -6,6 +6,7 @@
 #include "tgx/script/index.h"
 #include "tgx/wnd/wndref.h"
 
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <string>
@@ -60,7 +61,9 @@ public:
         ScriptRun& run;
     };
 
-    explicit ScriptRun(const CString& script) : name(script) {}
+    ScriptRun(const CString& script, long lines, long long work)
+        : name(script), linesLeft(lines), workLeft(work), placesLeft(std::min(lines, limits::sharedPlaces))
+    {}
     ~ScriptRun();
 
     // What ends a run: its lines, and the work that they make beyond being lines. Work is counted as it is
@@ -137,12 +140,12 @@ private:
     bool isRunning(const CFile* stream) const;
 
     CString name; // of the outermost script
-    long linesLeft = limits::scriptLines;
-    long long workLeft = limits::scriptWork;
+    long linesLeft;
+    long long workLeft;
     bool reported = false;
     int readsRunning = 0;
     bool sharesWindows = false;
-    long placesLeft = limits::sharedPlaces;
+    long placesLeft;
     WndRef counted; // the shared window whose places were counted last
     Places countedPlaces;
     WndNames wndNames;

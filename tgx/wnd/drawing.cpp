@@ -74,7 +74,8 @@ void AWnd::draw(int frameStep)
 /// are asked for while this one is drawn.
 void AWnd::fetchAhead(int index) const
 {
-    constexpr int windowsAhead = 3;
+    constexpr int windowsAhead = 8;
+    constexpr int bitmapsAhead = 4;
     const int count = children.GetSize();
     if (index + windowsAhead < count) {
         const char* wnd = reinterpret_cast<const char*>(child(index + windowsAhead));
@@ -82,8 +83,8 @@ void AWnd::fetchAhead(int index) const
         __builtin_prefetch(wnd + 64);
         __builtin_prefetch(wnd + 128);
     }
-    if (index + 1 < count && child(index + 1))
-        __builtin_prefetch(child(index + 1)->bmp);
+    if (index + bitmapsAhead < count && child(index + bitmapsAhead))
+        __builtin_prefetch(child(index + bitmapsAhead)->bmp);
 }
 
 void AWnd::advanceFrame(int frameStep)

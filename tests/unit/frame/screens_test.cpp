@@ -28,7 +28,7 @@ protected:
     {
         start("SCREEN \"FIRST\" 0 0 640 480 \"\"\n", width);
         for (const char* name : {"A", "B", "C"})
-            win().classes[name] = [this, name](const CString& id, int x, int y, int w, int h) {
+            win().classes[name] = [](const CString& id, int x, int y, int w, int h) {
                 return new NotingScreen(id, x, y, w, h, calls);
             };
         script("SCREEN \"A\" 0 0 640 480 \"a.bmp\"\nBEGIN\nWINDOW \"W\" 0 0 100 100\nEND\n"
