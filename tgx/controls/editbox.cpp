@@ -12,9 +12,8 @@
 
 namespace {
 
-constexpr int blinkPeriod = 40;  // frames
-constexpr int caretWidth = 2;    // pixels
-constexpr int wideFactor = 6553; // 1.6, raw: the distance of the lines of a wrapped text
+constexpr int blinkPeriod = 40; // frames
+constexpr int caretWidth = 2;   // pixels
 
 bool isPasswordId(const CString& id)
 {
@@ -232,5 +231,6 @@ void AEditBox::caretInLines(int x, int y, int lineWidth, int& caretX, int& caret
     const int lineHeight = font ? font->lineHeight : 0;
     caretX = leftEdge(textJustify, x, lineWidth, whole) + wrapped.getSeenWidth();
     caretY = static_cast<int>(
-        (y * 4096LL + static_cast<long long>(lineHeight) * wideFactor * wrapped.getSeenLine()) / 4096);
+        (y * 4096LL + static_cast<long long>(lineHeight) * TextWrap::wideFactor * wrapped.getSeenLine()) /
+        4096);
 }

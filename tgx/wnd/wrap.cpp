@@ -14,7 +14,6 @@ namespace {
 std::vector<long long> widthBefore;
 
 constexpr std::size_t shortText = 20; // characters; longer texts get more space between their lines
-constexpr int wideFactor = 6553;      // 1.6
 
 } // namespace
 

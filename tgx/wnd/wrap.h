@@ -14,6 +14,8 @@ class bmpfont;
 ///         use(wrapped.line(), wrapped.topFrom(y));
 class TGX_API TextWrap {
 public:
+    static constexpr int wideFactor = 6553; // raw fixed point, 1.6: distance of spread lines, in line heights
+
     /// text is not copied. width and height of the box in pixels; a null font gives all characters a width of
     /// 0.
     TextWrap(std::string_view text, const bmpfont* font, int width, int height);
