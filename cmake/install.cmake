@@ -26,7 +26,7 @@ install(EXPORT tgxTargets NAMESPACE tgx:: DESTINATION ${tgx_cmake_dir})
 # A header is public when it exports something, or when a public one includes it. What is left over is private to its
 # library and not installed.
 file(GLOB_RECURSE headers RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS platform/*.h tgx/*.h player/*.h)
-set(open_headers platform/limits.h)
+set(open_headers platform/limits.h tgx/tgx.h)
 foreach(header IN LISTS headers)
   file(STRINGS ${header} exports REGEX "(TGX_API|TGX_PLATFORM_API|TGX_PLAYER_API) " LIMIT_COUNT 1)
   if(exports)

@@ -2,7 +2,7 @@
 #
 # Builds scripts into an executable as resources of type "TGXScript". A script then needs no file beside the program; a file of
 # the script directory with the asked-for name still comes first. ID is the resource id, 0 to 65535: 141 is the main script's.
-# FILE is a script in text form (.tgs), which the tool compiles, or a compiled one (.tgx), taken as it is; a relative
+# FILE is a script in text form (.tgs), which the tool compiles, with what it includes, or a compiled one (.tgx), taken as it is; a relative
 # name counts from the folder of the calling CMakeLists.txt.
 #
 #   add_executable(game main.cpp)
@@ -36,8 +36,9 @@ function(tgx_embed_scripts target)
     if(kind STREQUAL ".tgs")
       set(bytes ${out_dir}/${id}_${name}.tgx)
       add_custom_command(OUTPUT ${bytes}
-        COMMAND tgx::tool build ${source} -o ${bytes}
+        COMMAND tgx::tool build ${source} -o ${bytes} --depfile ${bytes}.d
         DEPENDS ${source} tgx::tool
+        DEPFILE ${bytes}.d # what the script includes
         COMMENT "Compiling script ${file}" VERBATIM)
     elseif(kind STREQUAL ".tgx")
       set(bytes ${source})

@@ -1,7 +1,11 @@
 #include "demo/game.h"
 
+#include "demo/cargo.h"
+#include "demo/fleet.h"
+#include "demo/market.h"
 #include "platform/system/datadir.h"
 #include "tgx/controls/button.h"
+#include "tgx/controls/listbox/listbox.h"
 #include "tgx/controls/scrollbar.h"
 
 #include <algorithm>
@@ -20,6 +24,35 @@ void useDemoData(int argc, char** argv)
     setDataDirectory(folder ? folder : DEMO_DATA_DIR);
 }
 
+namespace {
+
+template<class Screen>
+AWnd* make(const CString& id, int x, int y, int w, int h)
+{
+    return new Screen(id, x, y, w, h);
+}
+
+const struct ScreenOfDemo {
+    const char* name;
+    AWnd* (*make)(const CString& id, int x, int y, int w, int h);
+    const char* script;
+} screens[] = {
+    {"TITLE", make<HarbourScreen>, "script.tgx"},   {"COMPANY", make<HarbourScreen>, "script.tgx"},
+    {"CHART", make<ChartScreen>, "script.tgx"},     {"FLEET", make<FleetScreen>, "fleet.tgx"},
+    {"CARGO", make<CargoScreen>, "cargo.tgx"},      {"MARKET", make<MarketScreen>, "market.tgx"},
+    {"OPTIONS", make<OptionsScreen>, "script.tgx"}, {"NEWGAME", make<HarbourScreen>, "script.tgx"},
+};
+
+const ScreenOfDemo* screenCalled(const CString& name)
+{
+    for (const ScreenOfDemo& screen : screens)
+        if (name == screen.name)
+            return &screen;
+    return nullptr;
+}
+
+} // namespace
+
 AWnd* HarbourWindow::createNewWindow(const CString& id, int x, int y, int w, int h, const CString& className)
 {
     if (className == "FromLeft")
@@ -30,13 +63,17 @@ AWnd* HarbourWindow::createNewWindow(const CString& id, int x, int y, int w, int
         return new SlidingPanel(id, x, y, w, h, SlidingPanel::Below);
     if (className == "Ship")
         return new SailingShip(id, x, y, w, h);
-    if (className == "CHART")
-        return new ChartScreen(id, x, y, w, h);
-    if (className == "OPTIONS")
-        return new OptionsScreen(id, x, y, w, h);
-    if (className == "TITLE" || className == "COMPANY" || className == "NEWGAME")
-        return new HarbourScreen(id, x, y, w, h);
-    return nullptr;
+    const ScreenOfDemo* screen = screenCalled(className);
+    return screen ? screen->make(id, x, y, w, h) : nullptr;
+}
+
+/// Whoever asks for a screen, also for one to go back to, names the main script.
+AWnd* HarbourWindow::readScriptFile(const CString& name, HINSTANCE instance, unsigned resourceId,
+                                    const CString& toWindow, int finalRead)
+{
+    const ScreenOfDemo* screen = screenCalled(toWindow);
+    return AMainWin::readScriptFile(screen ? CString(screen->script) : name, instance, resourceId, toWindow,
+                                    finalRead);
 }
 
 int HarbourGame::startup()
@@ -71,11 +108,14 @@ void SlidingPanel::draw(int frameStep)
     else if (frameStep > 0)
         brake();
     AWnd::draw(frameStep);
+    if (sliding && !getAnim())
+        arrive();
 }
 
 void SlidingPanel::enter()
 {
     entering = 0;
+    sliding = 1;
     int startX = from == Left    ? -posX(1) - getWndWidth()
                  : from == Right ? getMainWin()->screenWidth - posX(1)
                                  : 0;
@@ -95,6 +135,13 @@ void SlidingPanel::brake()
     };
     int x = movement->getAnimOffsetX(), y = movement->getAnimOffsetY();
     setMoveAnimation(x, y, 0, 0, step(x), step(y), 1);
+}
+
+/// What has slid under a resting pointer is pointed at: the next tick counts as a movement of the pointer.
+void SlidingPanel::arrive()
+{
+    sliding = 0;
+    getMainWin()->prevMouseX = -1;
 }
 
 // SailingShip
@@ -122,7 +169,8 @@ int HarbourScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, i
         return 1;
     }
     if (subject.Left(3) == "GO_") {
-        getMainWin()->changeScreen(subject.Mid(3), 0, 141, "script.tgx");
+        if (screenCalled(subject.Mid(3)))
+            getMainWin()->changeScreen(subject.Mid(3), 0, 141, "script.tgx");
         return 1;
     }
     return 0;
@@ -133,6 +181,12 @@ void HarbourScreen::tell(const char* window, const char* text)
     AWnd* shown = getWnd(window, 1);
     if (shown && shown->getWindowText() != text)
         shown->setWindowText(text);
+}
+
+bool HarbourScreen::clicksTitles(const AListBox& titled, const AWnd* wnd, int y, E_MOUSEACTION action)
+{
+    const bool clicks = action == MA_LBUTTONDOWN || action == MA_LBUTTONUP || action == MA_LBUTTONDBLCLK;
+    return clicks && wnd == &titled && y < titled.getItemsStartPosY(1) + titled.getRowHeight();
 }
 
 namespace {

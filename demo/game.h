@@ -21,9 +21,11 @@ public:
 private:
     void enter();
     void brake();
+    void arrive();
 
     From from;
     unsigned entering : 1 = 0; // the next frame starts the movement
+    unsigned sliding : 1 = 0;
 };
 
 /// A ship that crosses the picture at one pixel a tick and drops anchor at its place.
@@ -33,7 +35,8 @@ public:
     void initialise() override;
 };
 
-/// A screen of the demo. A click on a window whose id is "GO_" and the name of a screen opens that screen.
+/// A screen of the demo. A click on a window whose id is "GO_" and the name of a screen opens that screen, if
+/// there is one.
 class HarbourScreen : public AScreen {
 public:
     using AScreen::AScreen;
@@ -42,6 +45,9 @@ public:
 protected:
     /// Writes text into the window of that id, if there is one.
     void tell(const char* window, const char* text);
+    /// Whether this is a press or click on the titles of that list: it is not to reach the row that may have
+    /// been scrolled away behind them.
+    static bool clicksTitles(const AListBox& titled, const AWnd* wnd, int y, E_MOUSEACTION action);
 };
 
 /// The chart: what is pointed at is told in the panel beside it.
@@ -60,11 +66,13 @@ public:
     int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
 };
 
-/// The demo's main window: it knows the classes that the scripts name.
+/// The demo's main window: it knows the classes that the scripts name, and which script holds a screen.
 class HarbourWindow : public AMainWin {
 public:
     using AMainWin::AMainWin;
     AWnd* createNewWindow(const CString& id, int x, int y, int w, int h, const CString& className) override;
+    AWnd* readScriptFile(const CString& name, HINSTANCE instance, unsigned resourceId,
+                         const CString& toWindow, int finalRead) override;
 };
 
 /// The main window as the game runs it: it reads its script by itself.

@@ -11,6 +11,7 @@ constexpr std::uint32_t harbour = 0x1B3148; // panel fills, the sky's top
 constexpr std::uint32_t slate = 0x3D5A73;   // hills, lines between rows
 constexpr std::uint32_t mist = 0x9FB4BD;    // small text on dark, far hills
 constexpr std::uint32_t sea = 0x2F6270;     // water, the chart's sea
+constexpr std::uint32_t lagoon = 0x6BB1C4;  // slate's line and bar
 constexpr std::uint32_t foam = 0xBFD8D2;    // light on water
 constexpr std::uint32_t rose = 0xD9816B;    // dawn above the horizon
 constexpr std::uint32_t amber = 0xF2B866;   // sun, headings, what the pointer is on

@@ -13,8 +13,8 @@ std::vector<std::span<const Operation>>& gameOperations()
 std::vector<std::span<const Operation>> allOperations()
 {
     std::vector<std::span<const Operation>> families = gameOperations();
-    families.insert(families.end(),
-                    {mainWinOperations, ddwinOperations, screenOperations, controlOperations, wndOperations});
+    families.insert(families.end(), {mainWinOperations, ddwinOperations, screenOperations, controlOperations,
+                                     displayOperations, listOperations, wndOperations});
     return families;
 }
 
@@ -46,7 +46,7 @@ CallTarget findTarget(AMainWin& win, const std::string& name)
         return {&win, nullptr};
     AWnd* wnd = findWindow(win, name);
     if (!wnd)
-        throw WrongLine("no window " + quote(name) + "; " + describeWindows(win));
+        throw WrongLine(describeMissingWindow(win, name));
     return {nullptr, wnd};
 }
 
@@ -94,6 +94,11 @@ AWnd* findWindow(AMainWin& win, const std::string& id)
     return CString::equalNoCase(root->getID().view(), id) ? root : nullptr;
 }
 
+std::string describeMissingWindow(AMainWin& win, const std::string& id)
+{
+    return "no window " + quote(id) + "; " + describeWindows(win);
+}
+
 std::string callOperation(AMainWin& win, std::span<const Word> words)
 {
     CallTarget target = findTarget(win, words[0].text);
@@ -129,6 +134,6 @@ std::string callOperation(AMainWin& win, std::span<const Word> words)
     try {
         return best->call(target, arguments);
     } catch (const CInvalidArgException&) {
-        return R"({"error": "invalid argument"})";
+        return invalidArgumentValue;
     }
 }

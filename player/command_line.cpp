@@ -1,6 +1,9 @@
-#include "player/player.h"
+#include "player/suite.h"
 
 #include <CLI/CLI.hpp>
+
+#include <filesystem>
+#include <iostream>
 
 namespace {
 
@@ -19,17 +22,10 @@ std::string readSize(const std::string& size, PlayOptions& options)
     return "";
 }
 
-} // namespace
-
-void addPlayArguments(CLI::App& app, PlayOptions& options)
+/// What is played and how large.
+void addSceneArguments(CLI::App& app, PlayOptions& options)
 {
-    app.add_option("DIR", options.dataDirectory, "Data directory; scripts lie in its UIG/")->required();
-    app.add_option("--script", options.script, "Compiled script, by its name below UIG/")
-        ->required()
-        ->type_name("NAME");
-    app.add_option("--events", options.eventsFile,
-                   "Events to play, - for stdin; without it 60 frames, then the picture screen.png")
-        ->type_name("FILE");
+    app.add_option("--script", options.script, "Compiled script, by its name below UIG/")->type_name("NAME");
     app.add_option_function<std::string>(
            "--size",
            [&options](const std::string& size) {
@@ -42,19 +38,92 @@ void addPlayArguments(CLI::App& app, PlayOptions& options)
     app.add_option("--frame-ms", options.frameMs, "Milliseconds from one frame to the next [41]")
         ->check(CLI::NonNegativeNumber)
         ->type_name("N");
-    app.add_option("--out", options.outDirectory, "Where files that the events write go [.]")
-        ->type_name("DIR2");
 }
 
-int playMain(int argc, char** argv, const MainWinFactory& factory)
+/// What `tgx play` and `tgx test` have in common beside them.
+void addRunArguments(CLI::App& app, PlayOptions& options, const char* outText)
 {
-    CLI::App app("Plays the interface without a window and without a clock");
-    PlayOptions options;
-    addPlayArguments(app, options);
+    app.add_option("--out", options.outDirectory, outText)->type_name("DIR2");
+    app.add_flag("--update", options.update, "Write expected files that are missing or differ");
+    app.add_flag("--log-input", options.logInput,
+                 "Tell on stderr which window each input reached, and why others did not get it");
+}
+
+} // namespace
+
+void addPlayArguments(CLI::App& app, PlayOptions& options)
+{
+    app.add_option("DIR", options.dataDirectory, "Data directory; scripts lie in its UIG/")->required();
+    addSceneArguments(app, options);
+    app.get_option("--script")->required();
+    app.add_option("--events", options.eventsFile,
+                   "Events to play, - for stdin; without it 60 frames, then the picture screen.png")
+        ->type_name("FILE");
+    addRunArguments(app, options, "Where files that the events write go [.]");
+}
+
+void addTestArguments(CLI::App& app, TestOptions& options)
+{
+    options.play.outDirectory = "tgx-test";
+    app.add_option("DIR", options.directory, "Folder; every file *.events below it is played")->required();
+    app.add_option("FILTER", options.filter, "Only files with this in their name");
+    app.add_option("--jobs", options.jobs, "Processes at a time [as many as processors]")
+        ->check(CLI::PositiveNumber)
+        ->type_name("N");
+    app.add_option("--junit", options.junitFile, "Also write the results as JUnit XML")->type_name("FILE");
+    app.add_option("--data", options.play.dataDirectory, "Data directory of files that name none")
+        ->type_name("DATA");
+    addSceneArguments(app, options.play);
+    addRunArguments(app, options.play, "Where files that the events write go, a folder for each [tgx-test]");
+    app.footer("An events file names what it is played on in its first lines, DATA relative to the file:\n"
+               "    # tgx: play DATA --script NAME --size WxH\n"
+               "What it leaves out is taken from the command line.");
+}
+
+std::string readPlayWords(const std::vector<std::string>& words, const std::string& folder,
+                          PlayOptions& options)
+{
+    CLI::App app;
+    std::string data;
+    app.add_option("DATA", data);
+    addSceneArguments(app, options);
+    try {
+        app.parse(std::vector<std::string>(words.rbegin(), words.rend())); // taken from the back
+    } catch (const CLI::ParseError& error) {
+        return error.what();
+    }
+    if (!data.empty())
+        options.dataDirectory = (std::filesystem::path(folder) / data).lexically_normal().string();
+    return "";
+}
+
+namespace {
+
+/// Parses and runs. Exit status for main.
+int parseAndRun(CLI::App& app, int argc, char** argv, const std::function<int()>& run)
+{
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : static_cast<int>(PlayStatus::WrongCall); // 0: --help
     }
-    return play(options, factory);
+    return run();
+}
+
+} // namespace
+
+int playMain(int argc, char** argv, const MainWinFactory& factory)
+{
+    if (argc > 1 && std::string_view(argv[1]) == "test") {
+        CLI::App app("Plays every events file below a folder, side by side", "test");
+        TestOptions options;
+        addTestArguments(app, options);
+        return parseAndRun(app, argc - 1, argv + 1,
+                           [&] { return runTests(options, factory, std::cout, std::cerr); });
+    }
+    CLI::App app("Plays the interface without a window and without a clock");
+    PlayOptions options;
+    addPlayArguments(app, options);
+    app.footer("With the word test in front, every events file below a folder: test --help tells more.");
+    return parseAndRun(app, argc, argv, [&] { return play(options, factory); });
 }

@@ -4,8 +4,10 @@
 #include "platform/host/headless_host.h"
 #include "platform/host/image_file.h"
 #include "player/calls.h"
+#include "player/expect.h"
 #include "player/keys.h"
 #include "player/player.h"
+#include "player/pointing.h"
 #include "player/reports.h"
 
 #include <limits>
@@ -13,65 +15,53 @@
 
 namespace {
 
-/// The words of one event, and what its handler works on.
-struct Event {
-    Player& player;
-    AMainWin& win;
-    InputQueue& input;
-    std::span<const Word> words; // [0] is the event's name
-    int line;
-
-    bool has(std::size_t index) const { return index < words.size(); }
-    const std::string& text(std::size_t index) const { return words[index].text; }
-    std::int64_t number(std::size_t index, std::int64_t lowest, std::int64_t highest) const
-    {
-        auto value = parseNumber(words[index]);
-        if (!value || *value < lowest || *value > highest)
-            throw WrongLine("expected a number from " + std::to_string(lowest) + " to " +
-                            std::to_string(highest) + ", found " + quote(text(index)));
-        return *value;
-    }
-    /// The [N] of an event; 1 without one.
-    int count() const { return has(1) ? static_cast<int>(number(1, 0, std::numeric_limits<int>::max())) : 1; }
-};
+/// The [N] of an event; 1 without one.
+int countOf(const Event& event)
+{
+    return event.has(1) ? static_cast<int>(event.number(1, 0, std::numeric_limits<int>::max())) : 1;
+}
 
 void frame(const Event& event)
 {
-    for (int i = event.count(); i > 0 && !event.player.hasEnded(); --i) {
-        event.player.tick(1);
-        event.player.draw(1);
-    }
+    for (int i = countOf(event); i > 0 && !event.player.hasEnded(); --i)
+        event.player.frame();
 }
 
 void tick(const Event& event)
 {
-    event.player.tick(event.count());
+    event.player.tick(countOf(event));
 }
 
 void draw(const Event& event)
 {
-    event.player.draw(event.count());
+    event.player.draw(countOf(event));
 }
 
 void move(const Event& event)
 {
-    constexpr int lowest = std::numeric_limits<std::int16_t>::min();
-    constexpr int highest = std::numeric_limits<std::int16_t>::max();
-    int x = static_cast<int>(event.number(1, lowest, highest));
-    int y = static_cast<int>(event.number(2, lowest, highest));
-    event.input.move(x, y);
+    if (event.text(1) == "to")
+        return moveTo(event);
+    if (event.has(3))
+        throw WrongLine("expected move X Y or move to ID [X Y]");
+    event.input.move(event.coordinate(1), event.coordinate(2));
 }
 
-MouseButton button(const Event& event)
+std::optional<MouseButton> buttonCalled(const std::string& name)
 {
-    const std::string& name = event.text(1);
     if (name == "left")
         return MouseButton::Left;
     if (name == "right")
         return MouseButton::Right;
     if (name == "middle")
         return MouseButton::Middle;
-    throw WrongLine("no button " + quote(name) + "; buttons are left, right and middle");
+    return std::nullopt;
+}
+
+MouseButton button(const Event& event)
+{
+    if (const auto named = buttonCalled(event.text(1)))
+        return *named;
+    throw WrongLine("no button " + quote(event.text(1)) + "; buttons are left, right and middle");
 }
 
 void press(const Event& event)
@@ -86,7 +76,10 @@ void release(const Event& event)
 
 void doubleClick(const Event& event)
 {
-    event.input.doubleClick(button(event));
+    if (const auto named = buttonCalled(event.text(1)))
+        event.input.doubleClick(*named);
+    else
+        doubleClickOn(event);
 }
 
 void wheel(const Event& event)
@@ -110,12 +103,12 @@ void type(const Event& event)
 
 void hold(const Event& event)
 {
-    event.input.hold(event.win, parseKey(event.words[1]), true);
+    event.player.getHost().input().hold(event.win, parseKey(event.words[1]), true);
 }
 
 void lift(const Event& event)
 {
-    event.input.hold(event.win, parseKey(event.words[1]), false);
+    event.player.getHost().input().hold(event.win, parseKey(event.words[1]), false);
 }
 
 void change(const Event& event)
@@ -163,6 +156,18 @@ void fonts(const Event& event)
     event.player.writeFile(event.text(1), fontsReport(event.win));
 }
 
+void include(const Event& event)
+{
+    event.player.include(event.text(1));
+}
+
+void test(const Event& event)
+{
+    event.player.beginTest();
+}
+
+constexpr std::size_t anyNumber = std::numeric_limits<std::size_t>::max();
+
 /// The language: an event a row.
 const struct EventRow {
     std::string_view name;
@@ -174,10 +179,10 @@ const struct EventRow {
     {"frame", 0, 1, frame, "frame [N]", "a tick"},
     {"tick", 0, 1, tick, "tick [N]", "a tick"},
     {"draw", 0, 1, draw, "draw [N]"},
-    {"move", 2, 2, move, "move X Y"},
+    {"move", 2, 4, move, "move X Y or move to ID [X Y]"},
     {"press", 1, 1, press, "press left|right|middle"},
     {"release", 1, 1, release, "release left|right|middle"},
-    {"doubleclick", 1, 1, doubleClick, "doubleclick left|right|middle"},
+    {"doubleclick", 1, 1, doubleClick, "doubleclick left|right|middle|ID", "a tick"},
     {"wheel", 1, 1, wheel, "wheel up|down"},
     {"key", 1, 1, key, "key NAME"},
     {"type", 1, 1, type, "type \"TEXT\""},
@@ -185,7 +190,14 @@ const struct EventRow {
     {"lift", 1, 1, lift, "lift NAME"},
     {"change", 1, 2, change, "change NAME [close]", "the screen change"},
     {"exit", 0, 0, exit, "exit", "the exit"},
-    {"call", 2, std::numeric_limits<std::size_t>::max(), call, "call TARGET OPERATION ARG ..."},
+    {"click", 1, 1, click, "click ID", "a tick"},
+    {"hover", 1, 1, hover, "hover ID", "a tick"},
+    {"row", 2, 3, clickRow, "row ID N [COLUMN]", "a tick"},
+    {"wait", 2, anyNumber, waitUntil, "wait until EXPECTATION [N]", "a tick"},
+    {"expect", 1, anyNumber, expect, "expect EXPECTATION"},
+    {"include", 1, 1, include, "include FILE"},
+    {"test", 1, 1, test, "test \"NAME\"", "the start"},
+    {"call", 2, anyNumber, call, "call TARGET OPERATION ARG ..."},
     {"shot", 1, 1, shot, "shot FILE.png"},
     {"tree", 1, 1, tree, "tree FILE.json"},
     {"trace", 1, 1, trace, "trace FILE.jsonl"},
@@ -193,6 +205,21 @@ const struct EventRow {
 };
 
 } // namespace
+
+std::int64_t Event::number(std::size_t index, std::int64_t lowest, std::int64_t highest) const
+{
+    const auto value = parseNumber(words[index]);
+    if (!value || *value < lowest || *value > highest)
+        throw WrongLine("expected a number from " + std::to_string(lowest) + " to " +
+                        std::to_string(highest) + ", found " + quote(text(index)));
+    return *value;
+}
+
+int Event::coordinate(std::size_t index) const
+{
+    using Limits = std::numeric_limits<std::int16_t>;
+    return static_cast<int>(number(index, Limits::min(), Limits::max()));
+}
 
 void runEvent(Player& player, std::span<const Word> words, int line)
 {
@@ -207,7 +234,7 @@ void runEvent(Player& player, std::span<const Word> words, int line)
             throw WrongLine("expected " + std::string(row.form) + ", found " + std::to_string(arguments) +
                             (arguments == 1 ? " word behind " : " words behind ") + name);
         try {
-            row.run({player, *player.getMainWin(), player.getHost().input(), words, line});
+            row.run({player, *player.getMainWin(), player.getInput(), words, line});
         } catch (const CInvalidArgException&) {
             throw WrongLine("invalid argument in " + std::string(row.place));
         }

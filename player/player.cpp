@@ -6,19 +6,31 @@
 #include "platform/system/clock.h"
 #include "platform/system/datadir.h"
 #include "platform/system/module.h"
-#include "player/events.h"
+#include "player/files.h"
+#include "player/reach.h"
+#include "player/words.h"
 #include "tgx/frame/mainwin.h"
 
 #include <filesystem>
-#include <fstream>
-#include <iostream>
+#include <ostream>
 
 namespace fs = std::filesystem;
 
 namespace {
 
 constexpr int bitDepth = 32;
-constexpr int framesWithoutEvents = 60;
+
+PointerAct actOf(PlayedInput::Kind kind)
+{
+    switch (kind) {
+    case PlayedInput::Kind::Press:
+        return PointerAct::Press;
+    case PlayedInput::Kind::Release:
+        return PointerAct::Release;
+    default:
+        return PointerAct::Point;
+    }
+}
 
 } // namespace
 
@@ -41,10 +53,7 @@ Player::~Player()
 {
     if (!before)
         return;
-    if (mainWin)
-        host->close(*mainWin);
-    mainWin.reset();
-    app.reset();
+    shut();
     displayhost::use(std::move(before->host));
     setDataDirectory(before->dataDirectory);
     useRealTime();
@@ -55,13 +64,20 @@ void Player::start()
     std::error_code error;
     if (!fs::is_directory(options.dataDirectory, error))
         throw std::runtime_error("no data directory " + quote(options.dataDirectory));
+    before.reset(new Surroundings{displayhost::use(nullptr), dataDirectory()});
+    setDataDirectory(options.dataDirectory);
+    open();
+}
 
+void Player::open()
+{
     auto headless = std::make_unique<HeadlessHost>();
     host = headless.get();
     host->onMessage = [this](const CString& text) { showMessage(text); };
-    before.reset(new Surroundings{displayhost::use(std::move(headless)), dataDirectory()});
-    setDataDirectory(options.dataDirectory);
+    displayhost::use(std::move(headless));
     setVirtualTime(0);
+    invalidArgumentShown = false;
+    isFresh = true;
     app = std::make_unique<AControlsApp>(); // without a program name: no settings are read or written
     mainWin = factory(options.width, options.height, bitDepth);
     app->mainWin = mainWin.get();
@@ -75,6 +91,15 @@ void Player::start()
     }
 }
 
+void Player::shut()
+{
+    if (mainWin)
+        host->close(*mainWin);
+    mainWin.reset();
+    app.reset();
+    input.clear();
+}
+
 bool Player::hasEnded() const
 {
     return mainWin && mainWin->running == 0;
@@ -82,16 +107,47 @@ bool Player::hasEnded() const
 
 void Player::showMessage(const CString& text)
 {
+    messages.push_back({text.str(), place()});
     if (onMessage)
         onMessage(text);
-    else
+    else if (!options.messagesFail) // else told with the part's end, unless a line expected it
         err << "message: " << oneLine(text.view()) << '\n' << std::flush;
 }
 
 void Player::tick(int count)
 {
-    for (; count > 0 && !hasEnded(); --count)
-        mainWin->runTick();
+    for (; count > 0 && !hasEnded(); --count) {
+        const std::string reached = logOfNextTick();
+        try {
+            mainWin->runTick();
+        } catch (...) {
+            err << reached;
+            throw;
+        }
+        if (!reached.empty() &&
+            host->input().empty()) // else the tick before had not ended, so this one took nothing
+            err << reached << std::flush;
+    }
+}
+
+/// Hands the next input to the host; the line about what it reaches, "" without --log-input.
+std::string Player::logOfNextTick()
+{
+    const PlayedInput::Next& next = input.handTo(host->input());
+    if (!options.logInput || !next.transition)
+        return "";
+    const PlayedInput::Entry& transition = *next.transition;
+    const int x = next.move ? next.move->x : mainWin->mouseX;
+    const int y = next.move ? next.move->y : mainWin->mouseY;
+    const std::string reached = transition.kind == PlayedInput::Kind::Key
+                                    ? describeKeyReach(*mainWin, transition.name, x, y)
+                                    : describeReach(*mainWin, transition.name, x, y, actOf(transition.kind));
+    return transition.place + reached + '\n';
+}
+
+bool Player::hasWaitingInput() const
+{
+    return !input.empty() || !host->input().empty();
 }
 
 void Player::draw(int count)
@@ -108,17 +164,19 @@ void Player::draw(int count)
     }
 }
 
+void Player::frame()
+{
+    tick(1);
+    draw(1);
+}
+
 std::string Player::outputPath(const std::string& name) const
 {
-    fs::path relative = fs::path(name).lexically_normal();
-    const bool hasZero = name.find('\0') != std::string::npos; // the system would end the name there
-    if (hasZero || !relative.has_filename() || relative.is_absolute() || *relative.begin() == "..")
+    if (!staysBelow(name))
         throw WrongLine("cannot write " + quote(name) + ": not a file name below the output directory");
-    fs::path path = fs::path(options.outDirectory) / relative;
-    std::error_code error; // a folder that cannot be made shows when the file is opened
-    if (path.has_parent_path())
-        fs::create_directories(path.parent_path(), error);
-    return path.string();
+    const std::string path = (fs::path(options.outDirectory) / fs::path(name).lexically_normal()).string();
+    makeFoldersOf(path);
+    return path;
 }
 
 void Player::writeFile(const std::string& name, std::string_view contents)
@@ -127,82 +185,6 @@ void Player::writeFile(const std::string& name, std::string_view contents)
         out << contents << std::flush;
         return;
     }
-    std::string path = outputPath(name);
-    std::string temporary = path + ".new"; // renamed when it is whole
-    std::ofstream file(temporary, std::ios::binary);
-    file << contents;
-    file.close();
-    std::error_code error;
-    if (file)
-        fs::rename(temporary, path, error);
-    if (!file || error) {
-        fs::remove(temporary, error);
+    if (!writeWhole(outputPath(name), contents))
         throw WrongLine("cannot write " + quote(name));
-    }
-}
-
-std::optional<std::string> Player::runLine(std::string_view line, int number)
-{
-    if (line.ends_with('\r'))
-        line.remove_suffix(1);
-    try {
-        std::size_t start = line.find_first_not_of(" \t");
-        if (start == std::string_view::npos || line[start] == '#')
-            return std::nullopt;
-        runEvent(*this, splitWords(line), number);
-    } catch (const WrongLine& wrong) {
-        return wrong.what();
-    }
-    return std::nullopt;
-}
-
-PlayStatus Player::runEvents(std::istream& events, const std::string& name)
-{
-    std::string line;
-    for (int number = 1; !hasEnded() && std::getline(events, line); ++number) {
-        if (auto reason = runLine(line, number)) {
-            err << name << ':' << number << ": " << *reason << '\n' << std::flush;
-            return PlayStatus::WrongLine;
-        }
-    }
-    return PlayStatus::Done;
-}
-
-PlayStatus Player::runWithoutEvents()
-{
-    for (int i = 0; i < framesWithoutEvents; ++i) {
-        auto reason = runLine("frame");
-        if (!reason && i + 1 == framesWithoutEvents && !hasEnded())
-            reason = runLine("shot screen.png");
-        if (reason) {
-            err << options.script << ": " << *reason << '\n' << std::flush;
-            return PlayStatus::WrongLine;
-        }
-    }
-    return PlayStatus::Done;
-}
-
-PlayStatus Player::run()
-{
-    try {
-        std::ifstream file; // opened first: a wrong call runs nothing
-        bool fromStdin = options.eventsFile == "-";
-        if (!options.eventsFile.empty() && !fromStdin) {
-            file.open(options.eventsFile, std::ios::binary);
-            if (!file || fs::is_directory(options.eventsFile))
-                throw std::runtime_error("cannot read the events file " + quote(options.eventsFile));
-        }
-        start();
-        if (options.eventsFile.empty())
-            return runWithoutEvents();
-        return runEvents(fromStdin ? std::cin : file, options.eventsFile);
-    } catch (const std::runtime_error& wrongCall) {
-        err << "play: " << wrongCall.what() << '\n' << std::flush;
-        return PlayStatus::WrongCall;
-    }
-}
-
-int play(const PlayOptions& options, const MainWinFactory& factory)
-{
-    return static_cast<int>(Player(options, factory, std::cout, std::cerr).run());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "player/export.h"
+#include "player/played_input.h"
 
 #include <functional>
 #include <iosfwd>
@@ -8,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 class AControlsApp;
 class AMainWin;
@@ -25,12 +27,16 @@ struct PlayOptions {
     std::string outDirectory;  // files that the events write go below it; empty: the working directory
     int width = 640;           // pixels
     int height = 480;
-    int frameMs = 41; // that timeGetTime moves on by before each frame
+    int frameMs = 41;          // that timeGetTime moves on by before each frame
+    bool update = false;       // expected files that are missing or differ are written
+    bool logInput = false;     // each transition tells on err what it reached
+    bool messagesFail = false; // a message that no line expected is a failure
 };
 
 /// Makes the game's main window. Called once the headless host, the clock and pApp stand.
 using MainWinFactory = std::function<std::unique_ptr<AMainWin>(int width, int height, int bitDepth)>;
 
+/// WrongLine: a line was wrong, could not be carried out, or expected what was not so.
 enum class PlayStatus { Done = 0, WrongLine = 1, WrongCall = 2 };
 
 /// Plays an interface without a window and without a clock: the same files and the same events give the same
@@ -48,8 +54,8 @@ public:
     /// Constructs the main window, starts it and reads the script. Raises std::runtime_error when there is no
     /// data directory.
     void start();
-    /// Carries out one line of events. The reason why it is wrong or could not be carried out; nothing when
-    /// all went well.
+    /// Carries out one line of events. The reason why it is wrong, could not be carried out or expected what
+    /// was not so; nothing when all went well.
     std::optional<std::string> runLine(std::string_view line, int number = 0);
     /// The whole run. Reasons go to err as FILE:LINE: reason.
     PlayStatus run();
@@ -60,11 +66,34 @@ public:
     bool hasEnded() const;
     const PlayOptions& getOptions() const { return options; }
 
+    // For events.
+
     /// count input ticks. An invalid argument comes out of it as the exception.
     void tick(int count);
     /// count frames, the clock moved on before each. An invalid argument ends its frame and is reported once
     /// in a run.
     void draw(int count);
+    /// A tick and a frame.
+    void frame();
+    PlayedInput& getInput() { return input; }
+    /// Whether input waits that no tick has taken.
+    bool hasWaitingInput() const;
+    /// Plays the events of another file, named from the one that is played. Raises WrongLine for the first of
+    /// its lines that is wrong, or when it cannot be read.
+    void include(const std::string& name);
+    /// Starts the interface anew, unless nothing has happened to it yet. Raises WrongLine in an included
+    /// file.
+    void beginTest();
+    /// Reports what the present line expected and did not find. The run goes on.
+    void fail(const std::string& reason);
+    /// Tells something about the present line on err.
+    void note(const std::string& text) const;
+    /// Takes the first message of that text out of those that no line has expected yet; those that are there,
+    /// if it is not among them.
+    std::optional<std::string> takeMessage(const std::string& text);
+    /// Path of a file that lies beside the events file of the present line.
+    std::string pathBesideEvents(const std::string& name) const;
+
     /// Writes a file below the output directory, whole or not at all; "-" is out.
     void writeFile(const std::string& name, std::string_view contents);
     /// The path of a file below the output directory, its folder made if need be. Raises WrongLine for a name
@@ -77,8 +106,25 @@ public:
     std::function<void(const CString& text)> onMessage;
 
 private:
+    /// An events file that is being played.
+    struct Source {
+        std::string name;
+        int line; // 0 before the first
+    };
+    struct Message {
+        std::string text;
+        std::string place;
+    };
+    void open();
+    void shut();
     void showMessage(const CString& text);
-    PlayStatus runEvents(std::istream& events, const std::string& name);
+    std::string logOfNextTick();
+    void carryOut(std::string_view line, int number);
+    void playLines(std::istream& events, const std::string& name, bool isInteractive);
+    bool isPassedOver(std::string_view event, bool abandoned) const;
+    void endPart();
+    std::string place() const;
+    void report(const std::string& where, const std::string& reason);
     PlayStatus runWithoutEvents();
 
     PlayOptions options;
@@ -91,6 +137,12 @@ private:
     std::unique_ptr<AControlsApp> app;
     std::unique_ptr<AMainWin> mainWin;
     bool invalidArgumentShown = false;
+    PlayedInput input;
+    std::vector<Source> sources;   // the main file first, then what it includes
+    std::vector<Message> messages; // shown in this part, and not expected by any line yet
+    bool isFresh = false;          // no line has been carried out since the start
+    int failures = 0;
+    std::string lastFailure;
 };
 
 /// Enters the arguments of `tgx play` into app. options must outlive the parse.
@@ -99,7 +151,7 @@ TGX_PLAYER_API void addPlayArguments(CLI::App& app, PlayOptions& options);
 /// A run on stdout and stderr. Exit status for main.
 TGX_PLAYER_API int play(const PlayOptions& options, const MainWinFactory& factory);
 
-/// A game's own player is a main of one line:
+/// A game's own player is a main of one line; it plays, and with "test" as its first word it tests:
 ///
 ///     int main(int argc, char** argv) { return playMain(argc, argv, makeMyMainWin); }
 TGX_PLAYER_API int playMain(int argc, char** argv, const MainWinFactory& factory);

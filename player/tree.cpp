@@ -1,11 +1,16 @@
 #include "player/json.h"
 #include "player/reports.h"
+#include "tgx/controls/combobox.h"
 #include "tgx/controls/editbox.h"
+#include "tgx/controls/graph.h"
+#include "tgx/controls/progressbar.h"
 #include "tgx/controls/radiobutton.h"
 #include "tgx/controls/scrollbar.h"
 #include "tgx/controls/tabcontrol.h"
+#include "tgx/controls/vidiprinter.h"
 #include "tgx/frame/mainwin.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cxxabi.h>
 #include <memory>
@@ -78,10 +83,70 @@ void editBoxFields(JsonWriter& json, const AEditBox& box)
     json.field("cursor", box.getCursorPos()).field("password", box.getIsPassword());
 }
 
+void comboBoxFields(JsonWriter& json, const AComboBox& box)
+{
+    json.field("selectedItem", box.getSelectedItem());
+    json.key("items").open('[');
+    for (int i = 0; i < box.getItemCount(); ++i)
+        json.value(box.getItemText(i).view());
+    json.close(']');
+}
+
+void listBoxFields(JsonWriter& json, const AListBox& list)
+{
+    json.field("rows", list.getItemCount())
+        .field("columns", list.getColumnCount())
+        .field("firstVisibleItem", list.getFirstVisibleItem())
+        .field("selectedItem", list.getSelectedItem())
+        .field("selectedColumn", list.getSelectedColumn())
+        .field("hotItem", list.getHotItem())
+        .field("hotColumn", list.getHotColumn())
+        .field("revealedItems", list.getRevealedItems());
+    json.key("cells").open('[');
+    const int first = std::max(list.getFirstVisibleItem(), 0);
+    const int end = std::min(first + list.getItemsPerPage(), list.getItemCount());
+    for (int row = first; row < end; ++row) {
+        json.open('[');
+        for (int column = 0; column < list.getColumnCount(); ++column)
+            json.value(list.getItemText(row, column).view());
+        json.close(']');
+    }
+    json.close(']');
+}
+
+void progressBarFields(JsonWriter& json, const AProgressBar& bar)
+{
+    json.field("percentage", bar.getPercentage().raw);
+}
+
+void vidiPrinterFields(JsonWriter& json, const AVidiPrinter& printer)
+{
+    json.field("progress", printer.getPrintProgress().raw);
+}
+
+void graphFields(JsonWriter& json, const AGraph& graph)
+{
+    json.field("growth", graph.getGrowth().raw)
+        .field("xRange", graph.getXRange())
+        .field("yRange", graph.getYRange());
+    json.key("counts").open('[');
+    for (int series = 0; series < AGraph::seriesCount; ++series)
+        json.value(graph.getItemCount(series));
+    json.close(']');
+}
+
 constexpr ClassFields classFields[] = {
-    fieldsOf<AScreen, screenFields>(),           fieldsOf<AButton, buttonFields>(),
-    fieldsOf<ARadioButton, radioButtonFields>(), fieldsOf<ATabControl, tabControlFields>(),
-    fieldsOf<AScrollBar, scrollBarFields>(),     fieldsOf<AEditBox, editBoxFields>(),
+    fieldsOf<AScreen, screenFields>(),
+    fieldsOf<AButton, buttonFields>(),
+    fieldsOf<ARadioButton, radioButtonFields>(),
+    fieldsOf<ATabControl, tabControlFields>(),
+    fieldsOf<AComboBox, comboBoxFields>(),
+    fieldsOf<AListBox, listBoxFields>(),
+    fieldsOf<AScrollBar, scrollBarFields>(),
+    fieldsOf<AEditBox, editBoxFields>(),
+    fieldsOf<AProgressBar, progressBarFields>(),
+    fieldsOf<AVidiPrinter, vidiPrinterFields>(),
+    fieldsOf<AGraph, graphFields>(),
 };
 
 void writeWindow(JsonWriter& json, AMainWin& win, AWnd& wnd)

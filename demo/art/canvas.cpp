@@ -200,6 +200,25 @@ void Canvas::draw(const Canvas& picture, int x, int y, float strength)
             over(x + px, y + py, faded(picture.at(px, py), strength));
 }
 
+Canvas shrunk(const Canvas& large, int factor)
+{
+    Canvas small(large.width / factor, large.height / factor);
+    float share = 1.0f / static_cast<float>(factor * factor);
+    for (int y = 0; y < small.height; ++y) {
+        for (int x = 0; x < small.width; ++x) {
+            Colour sum;
+            for (int i = 0; i < factor * factor; ++i) {
+                const Colour& part = large.at(x * factor + i % factor, y * factor + i / factor);
+                sum = {sum.r + part.r * part.a, sum.g + part.g * part.a, sum.b + part.b * part.a,
+                       sum.a + part.a};
+            }
+            if (sum.a > 0)
+                small.at(x, y) = {sum.r / sum.a, sum.g / sum.a, sum.b / sum.a, sum.a * share};
+        }
+    }
+    return small;
+}
+
 std::vector<Point> Place::operator()(std::vector<Point> points) const
 {
     for (Point& point : points)

@@ -69,6 +69,9 @@ private:
     std::vector<Colour> pixels;
 };
 
+/// A picture that is painted factor times as large, made small: fine lines keep their weight.
+Canvas shrunk(const Canvas& large, int factor);
+
 /// Points in a shape's own units, put on a canvas: the origin at x, y, scaled, mirrored where facing is -1.
 struct Place {
     float x, y, scale = 1, facing = 1;

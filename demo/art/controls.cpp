@@ -1,15 +1,24 @@
-#include "demo/art/pictures.h"
+#include "demo/art/plates.h"
 #include "demo/palette.h"
 
 #include <cmath>
 
 namespace {
 
-/// What a control's frame shows; the order is that of a button's strip behind its opening run.
-enum Look { Rest, Hot, Pressed, Disabled };
-constexpr int looks = 4;
+/// The well that a tick or a dot lies in.
+Canvas well(Look look, const Shape& rim, const Shape& hole)
+{
+    Canvas frame(24, 24);
+    frame.fill(rim, look == Hot ? rgb(palette::amber)
+                                : mix(rgb(palette::brass), rgb(palette::night), look == Disabled ? 0.6f : 0));
+    Colour ground = look == Pressed ? mix(rgb(palette::brass), rgb(palette::night), 0.5f)
+                                    : mix(rgb(palette::night), rgb(palette::harbour), 0.4f);
+    frame.fill(hole, ground);
+    return frame;
+}
 
-/// A strip for count frames of one size.
+} // namespace
+
 Canvas stripOf(int count, int width, int height)
 {
     return Canvas(count * (width + 1), height);
@@ -20,7 +29,6 @@ Colour edge(Look look)
     return rgb(palette::brass, look == Hot ? 1.0f : look == Disabled ? 0.35f : 0.75f);
 }
 
-/// A plate with round corners, lit from above unless it is pressed.
 Canvas plate(Look look, int width, int height, float rounding)
 {
     Canvas frame(width, height);
@@ -44,19 +52,6 @@ Canvas plate(Look look, int width, int height, float rounding)
     return frame;
 }
 
-/// The well that a tick or a dot lies in.
-Canvas well(Look look, const Shape& rim, const Shape& hole)
-{
-    Canvas frame(24, 24);
-    frame.fill(rim, look == Hot ? rgb(palette::amber)
-                                : mix(rgb(palette::brass), rgb(palette::night), look == Disabled ? 0.6f : 0));
-    Colour ground = look == Pressed ? mix(rgb(palette::brass), rgb(palette::night), 0.5f)
-                                    : mix(rgb(palette::night), rgb(palette::harbour), 0.4f);
-    frame.fill(hole, ground);
-    return frame;
-}
-
-/// An arrow head in a square of 24, its point away from the bar's middle.
 Shape arrow(bool horizontal, bool forwards)
 {
     float base = forwards ? 9.0f : 15.0f, tip = forwards ? 16.0f : 8.0f;
@@ -64,24 +59,22 @@ Shape arrow(bool horizontal, bool forwards)
                       : polygon({{6.5f, base}, {12, tip}, {17.5f, base}});
 }
 
-} // namespace
-
-Canvas buttonStrip(int opening)
+Canvas buttonStrip(int opening, int width)
 {
-    constexpr int width = 240, height = 44;
+    constexpr int height = 44;
+    const float middle = static_cast<float>(width) / 2;
     Canvas strip = stripOf(opening + looks, width, height);
     for (int n = 0; n < opening; ++n) {
         // The plate is uncovered from its middle, behind two edges of lamplight.
-        float reach = smooth(0, 1, static_cast<float>(n + 1) / static_cast<float>(opening)) * width / 2;
+        float reach = smooth(0, 1, static_cast<float>(n + 1) / static_cast<float>(opening)) * middle;
         Canvas frame = plate(Rest, width, height, 6);
-        frame.fill(box(3, 3, width - 3, height - 3, 4), [&](float x, float) {
-            float behind = reach - std::abs(x - width / 2.0f);
+        frame.fill(box(3, 3, 2 * middle - 3, height - 3, 4), [&](float x, float) {
+            float behind = reach - std::abs(x - middle);
             return rgb(palette::amber, 0.85f * smooth(46, 0, behind) * smooth(-2, 0, behind));
         });
         for (int y = 0; y < height; ++y)
             for (int x = 0; x < width; ++x)
-                frame.at(x, y).a *=
-                    clamp01(reach - std::abs(static_cast<float>(x) + 0.5f - width / 2.0f) + 0.5f);
+                frame.at(x, y).a *= clamp01(reach - std::abs(static_cast<float>(x) + 0.5f - middle) + 0.5f);
         putFrame(strip, frame, n);
     }
     for (int look = 0; look < looks; ++look)

@@ -3,10 +3,6 @@
 
 #include <cmath>
 
-namespace {
-
-/// A border strip: eight square pieces clockwise from the top left corner, a pixel between neighbours, cut
-/// out of a frame three pieces wide and high that paint draws.
 Canvas cutBorder(const Canvas& frame)
 {
     int side = frame.width / 3;
@@ -21,8 +17,6 @@ Canvas cutBorder(const Canvas& frame)
                     frame.at(pieces[piece].column * side + x, pieces[piece].row * side + y);
     return strip;
 }
-
-} // namespace
 
 Paint metal(Colour base, const Shape& shape)
 {

@@ -16,6 +16,11 @@ struct Livery {
 void drawSteamer(Canvas& canvas, Place at, const Livery& livery);
 void drawTug(Canvas& canvas, Place at, const Livery& livery);
 void drawSchooner(Canvas& canvas, Place at, const Livery& livery);
+void drawLighter(Canvas& canvas, Place at, const Livery& livery);
+void drawCutter(Canvas& canvas, Place at, const Livery& livery);
+void drawLaunch(Canvas& canvas, Place at, const Livery& livery);
+void drawSkiff(Canvas& canvas, Place at, const Livery& livery);
+void drawHulk(Canvas& canvas, Place at, const Livery& livery);
 /// age 0 leaves the funnel, 1 is gone.
 void drawSmoke(Canvas& canvas, Place funnel, float age, Colour colour);
 
@@ -47,9 +52,12 @@ Canvas portStrip();
 /// Copies frame number n into a strip.
 void putFrame(Canvas& strip, const Canvas& frame, int n);
 
+/// Frames as a list box cuts them out of an icon: a grid of so many columns, a pixel behind each frame.
+Canvas frameGrid(const std::vector<Canvas>& frames, int columns);
+
 // The strips of controls, each with the frames that its control looks for.
-/// 240 x 44: an opening run, then at rest, pointed at, pressed, disabled.
-Canvas buttonStrip(int opening);
+/// 44 high: an opening run, then at rest, pointed at, pressed, disabled.
+Canvas buttonStrip(int opening, int width = 240);
 Canvas checkStrip();
 Canvas radioStrip();
 /// What lies in a check box or a radio button that is selected.
@@ -60,9 +68,70 @@ Canvas tabStrip();
 Canvas scrollStrip(bool horizontal);
 Canvas fieldFill();
 
+// List boxes, combo boxes and the boxes that pop up.
+/// The band of a selected row, and of the one that is pointed at, 29 high.
+Canvas rowBand(bool selected);
+/// The line in a text that is pointed at.
+Canvas readingLine();
+/// A cell of a grid, selected or pointed at, 84 x 52.
+Canvas cellFrame(bool selected);
+Canvas titleBand();
+Canvas listFill();
+Canvas hotCordBorder();
+/// The bar that a list makes for itself: six frames of 16 x 26.
+Canvas listBarStrip();
+enum class Drop { None, Below, Above };
+/// 184 x 36, with a mark for the menu if there is one; room for a button at each end, or only text.
+Canvas comboStrip(Drop drop, bool buttons);
+Canvas stepStrip(bool forwards);
+Canvas menuFill();
+Canvas menuBorder();
+Canvas noticeFill();
+Canvas bell();
+Canvas helm();
+
+// The fleet.
+/// A vessel that has no picture of its own, 218 x 118.
+Canvas fleetPicture(int vessel);
+/// Eight silhouettes, frames of 44 x 28.
+Canvas vesselKinds();
+/// Six flags, frames of 24 x 28.
+Canvas signalFlags();
+/// The two panels of a progress cell, 76 x 28.
+Canvas gauge(bool coal);
+
+// The cargo.
+/// Eight kinds of goods, frames of 28 x 28, for lists.
+Canvas goodsIcons();
+/// The places of a hold, frames of 64 x 52: empty, then the goods.
+Canvas goodsStowed();
+/// The Alma cut open along her keel, 584 x 244.
+Canvas holdSection();
+Canvas quayCrane();
+
+// The market.
+/// 18 x 14, for a legend: the lines of the four goods, then the two marks on them.
+Canvas marketMark(int kind);
+/// The two panels of a progress bar, 168 x 18.
+Canvas stockBar(int goods);
+/// The two panels of an upright one, 44 x 80, and what joins four of them, 208 x 20.
+Canvas oilTank();
+Canvas oilPipe();
+/// 848 x 36, and 64 x 44.
+Canvas tickerTape();
+Canvas tickerMachine();
+/// 242 x 106, with an empty board for the name.
+Canvas newShipStern();
+/// Ten keys by four without letters, 490 x 188, and the frame of one, 58 x 46.
+Canvas keyCaps();
+Canvas keyFrame(bool pressed);
+
 // Window furniture.
 /// Metal that is bright on the upper left side of shape.
 Paint metal(Colour base, const Shape& shape);
+/// A border strip: eight square pieces clockwise from the top left corner, a pixel between neighbours, cut
+/// out of a frame three pieces wide and high.
+Canvas cutBorder(const Canvas& frame);
 Canvas brassBorder();
 Canvas cordBorder();
 Canvas paperBorder();

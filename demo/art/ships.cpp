@@ -1,16 +1,15 @@
-#include "demo/art/pictures.h"
+#include "demo/art/shipyard.h"
 #include "demo/palette.h"
 
 #include <cmath>
 
-namespace {
+namespace shipyard {
 
 Colour seen(const Livery& livery, Colour colour)
 {
     return mix(colour, livery.haze, livery.distance);
 }
 
-/// A row of portholes or windows.
 void windows(Canvas& canvas, Place at, const Livery& livery, float from, float to, float y, float step,
              float radius)
 {
@@ -34,7 +33,6 @@ void rope(Canvas& canvas, Place at, const Livery& livery, Point from, Point to)
                 seen(livery, rgb(palette::night, 0.7f)));
 }
 
-/// The hull: shaded downwards, with a boot top in brick along the waterline and a light rail.
 void hull(Canvas& canvas, Place at, const Livery& livery, std::vector<Point> points)
 {
     Shape shape = polygon(at(std::move(points)));
@@ -74,7 +72,19 @@ void funnel(Canvas& canvas, Place at, const Livery& livery, float x, float top, 
     });
 }
 
-} // namespace
+void sail(Canvas& canvas, Place at, const Livery& livery, std::vector<Point> points, float shade)
+{
+    Shape shape = polygon(at(std::move(points)));
+    canvas.fill(shape, [&](float x, float y) {
+        float seam = std::abs(std::fmod((y - at.y) / at.scale + 400, 11.0f) - 5.5f) < 0.4f ? 0.08f : 0.0f;
+        float belly = 0.12f * noise(x / (30 * at.scale), y / (40 * at.scale), 5);
+        return seen(livery, mix(livery.house, rgb(palette::slate), shade + seam + belly));
+    });
+}
+
+} // namespace shipyard
+
+using namespace shipyard;
 
 void drawSteamer(Canvas& canvas, Place at, const Livery& livery)
 {
@@ -136,14 +146,6 @@ void drawTug(Canvas& canvas, Place at, const Livery& livery)
 
 void drawSchooner(Canvas& canvas, Place at, const Livery& livery)
 {
-    auto sail = [&](std::vector<Point> points, float shade) {
-        Shape shape = polygon(at(std::move(points)));
-        canvas.fill(shape, [&](float x, float y) {
-            float seam = std::abs(std::fmod((y - at.y) / at.scale + 400, 11.0f) - 5.5f) < 0.4f ? 0.08f : 0.0f;
-            float belly = 0.12f * noise(x / (30 * at.scale), y / (40 * at.scale), 5);
-            return seen(livery, mix(livery.house, rgb(palette::slate), shade + seam + belly));
-        });
-    };
     mast(canvas, at, livery, -34, -16, -132);
     mast(canvas, at, livery, 30, -16, -138);
     canvas.fill(stroke({at(84, -24), at(124, -38)}, 2.0f * at.scale), seen(livery, rgb(palette::timber)));
@@ -151,12 +153,12 @@ void drawSchooner(Canvas& canvas, Place at, const Livery& livery)
     rope(canvas, at, livery, {30, -110}, {100, -30});
     rope(canvas, at, livery, {-34, -131}, {30, -137});
     rope(canvas, at, livery, {-34, -131}, {-92, -24});
-    sail({{-37, -26}, {-37, -94}, {-84, -118}, {-98, -30}}, 0.05f);
-    sail({{-37, -98}, {-36, -130}, {-80, -120}}, 0.12f);
-    sail({{27, -26}, {27, -98}, {-12, -122}, {-24, -30}}, 0.10f);
-    sail({{27, -102}, {28, -134}, {-9, -124}}, 0.18f);
-    sail({{36, -104}, {94, -34}, {40, -30}}, 0.14f);
-    sail({{52, -104}, {118, -40}, {100, -38}}, 0.02f);
+    sail(canvas, at, livery, {{-37, -26}, {-37, -94}, {-84, -118}, {-98, -30}}, 0.05f);
+    sail(canvas, at, livery, {{-37, -98}, {-36, -130}, {-80, -120}}, 0.12f);
+    sail(canvas, at, livery, {{27, -26}, {27, -98}, {-12, -122}, {-24, -30}}, 0.10f);
+    sail(canvas, at, livery, {{27, -102}, {28, -134}, {-9, -124}}, 0.18f);
+    sail(canvas, at, livery, {{36, -104}, {94, -34}, {40, -30}}, 0.14f);
+    sail(canvas, at, livery, {{52, -104}, {118, -40}, {100, -38}}, 0.02f);
     hull(canvas, at, livery,
          {{-98, -24}, {-60, -17}, {30, -16}, {70, -20}, {98, -28}, {80, -4}, {72, 0}, {-80, 0}, {-92, -10}});
     canvas.fill(stroke({at(-98, -24.5f), at(-60, -17.5f), at(30, -16.5f), at(70, -20.5f), at(98, -28.5f)},

@@ -35,7 +35,11 @@ surface& surface::operator=(const surface& other)
     return *this;
 }
 
-surface::~surface() = default;
+surface::~surface()
+{
+    while (refs)
+        refs->detach();
+}
 
 int surface::reload()
 {
@@ -101,4 +105,28 @@ void surface::setPixel(int x, int y, unsigned long colour)
         image->coverage = Coverage::Masked;
     image->row(y)[x] = isTransparent ? rgb : 0xFF000000 | rgb;
     image->version++;
+}
+
+void SurfaceRef::attach(surface* to)
+{
+    target = to;
+    if (!to)
+        return;
+    next = to->refs;
+    if (next)
+        next->link = &next;
+    link = &to->refs;
+    to->refs = this;
+}
+
+void SurfaceRef::detach()
+{
+    if (!target)
+        return;
+    *link = next;
+    if (next)
+        next->link = link;
+    target = nullptr;
+    next = nullptr;
+    link = nullptr;
 }

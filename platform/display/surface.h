@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/display/image.h"
+#include "platform/display/surface_ref.h"
 #include "platform/export.h"
 #include "platform/framework/cstring.h"
 
@@ -47,4 +48,8 @@ protected:
     ddwin* owner = nullptr;
     ImageRef image;
     CString name; // what filename points into
+
+private:
+    friend class SurfaceRef;
+    SurfaceRef* refs = nullptr; // first of those that point here
 };

@@ -29,9 +29,11 @@ public:
     T* GetData() { return items.data(); }
     const T* GetData() const { return items.data(); }
 
-    /// Index of the new element.
+    /// Index of the new element. Large arrays grow by a quarter.
     int Add(ARG value)
     {
+        if (items.size() == items.capacity() && items.size() >= 64)
+            items.reserve(items.size() + items.size() / 4);
         items.push_back(value);
         return GetUpperBound();
     }

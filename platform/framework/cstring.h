@@ -25,6 +25,8 @@ public:
     int GetLength() const { return static_cast<int>(characters.size()); }
     bool IsEmpty() const { return characters.empty(); }
     void Empty() { characters.clear(); }
+    /// Takes a copy of text, in the memory that it has if that is enough.
+    void assign(std::string_view text) { characters.assign(text); }
     /// The character at index; an index outside the string raises the invalid-argument exception.
     char GetAt(int index) const;
     void SetAt(int index, char value);

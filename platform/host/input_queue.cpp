@@ -4,6 +4,7 @@
 #include "platform/system/clock.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 
 namespace {
@@ -102,7 +103,7 @@ void InputQueue::beginTick(ddwin& window)
         const Event event = events.front();
         events.pop_front();
         apply(window, event);
-        if (event.kind != Kind::Move && event.kind != Kind::Hold)
+        if (isTransition(event))
             break;
     }
 }
@@ -164,21 +165,28 @@ void InputQueue::hold(ddwin& window, std::uint8_t code, bool held)
         window.keyDown[code] = held;
 }
 
+void InputQueue::dropMovesAtHead()
+{
+    const auto end = std::find_if(events.begin(), events.end(), isTransition);
+    events.erase(std::remove_if(events.begin(), end, isMove), end);
+}
+
 void InputQueue::dropStale(std::uint32_t now, std::uint32_t oldest)
 {
+    if (events.empty())
+        return;
     const auto isStale = [&](const Event& event) { return now - event.time > oldest; };
     std::erase_if(events, [&](const Event& event) {
         const bool isWheel = event.kind == Kind::WheelUp || event.kind == Kind::WheelDown;
         return isStale(event) && (isWheel || event.repeat);
     });
     // The last of several moves stays: what stands behind it was aimed from there.
-    std::deque<Event> left;
+    auto end = events.begin(); // of those that stay
     for (const Event& event : events) {
-        if (event.kind == Kind::Move && !left.empty() && left.back().kind == Kind::Move &&
-            isStale(left.back()))
-            left.back() = event;
-        else
-            left.push_back(event);
+        const bool isFirst = end == events.begin();
+        if (isFirst || !isMove(event) || !isMove(*std::prev(end)) || !isStale(*std::prev(end)))
+            ++end;
+        *std::prev(end) = event;
     }
-    events.swap(left);
+    events.erase(end, events.end());
 }

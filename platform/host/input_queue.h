@@ -35,6 +35,8 @@ public:
     /// transition. So Shift still counts as held for a key that was typed with it, when both have been let go
     /// before the tick.
     void holdInTurn(std::uint8_t code, bool held);
+    /// Drops the moves that stand in front of the first transition: the pointer has been put elsewhere since.
+    void dropMovesAtHead();
     /// Drops moves, wheel notches and repeats that have waited for longer than this many milliseconds;
     /// presses, releases and keys stay.
     void dropStale(std::uint32_t now, std::uint32_t oldest);
@@ -53,6 +55,8 @@ private:
         std::int16_t y = 0;
         std::uint32_t time = 0;
     };
+    static bool isMove(const Event& event) { return event.kind == Kind::Move; }
+    static bool isTransition(const Event& event) { return !isMove(event) && event.kind != Kind::Hold; }
     void add(Event event);
     void apply(ddwin& window, const Event& event);
     std::deque<Event> events;

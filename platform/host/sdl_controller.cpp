@@ -1,6 +1,5 @@
 #include "platform/host/sdl_controller.h"
 
-#include "platform/display/keys.h"
 #include "platform/host/input_queue.h"
 #include "platform/host/sdl_keys.h"
 
@@ -14,38 +13,6 @@ constexpr int pressBeyond = 16000;
 constexpr int releaseBelow = 12000;
 constexpr std::uint32_t firstRepeatMillis = 400;
 constexpr std::uint32_t nextRepeatMillis = 80;
-
-std::uint8_t keyOfButton(std::uint8_t button)
-{
-    switch (button) {
-    case SDL_CONTROLLER_BUTTON_A:
-        return VK_RETURN;
-    case SDL_CONTROLLER_BUTTON_B:
-        return VK_ESCAPE;
-    case SDL_CONTROLLER_BUTTON_LEFTSHOULDER:
-        return VK_HOME;
-    case SDL_CONTROLLER_BUTTON_RIGHTSHOULDER:
-        return VK_END;
-    default:
-        return 0;
-    }
-}
-
-int directionOfButton(std::uint8_t button)
-{
-    switch (button) {
-    case SDL_CONTROLLER_BUTTON_DPAD_LEFT:
-        return 0;
-    case SDL_CONTROLLER_BUTTON_DPAD_UP:
-        return 1;
-    case SDL_CONTROLLER_BUTTON_DPAD_RIGHT:
-        return 2;
-    case SDL_CONTROLLER_BUTTON_DPAD_DOWN:
-        return 3;
-    default:
-        return -1;
-    }
-}
 
 void typeKey(std::uint8_t code, bool repeat, InputQueue& input)
 {
@@ -61,91 +28,150 @@ SdlController::~SdlController()
 
 void SdlController::closeAll()
 {
-    for (SDL_GameController* controller : open)
-        SDL_GameControllerClose(controller);
-    open.clear();
+    for (const Pad& pad : pads) {
+        if (pad.device)
+            SDL_GameControllerClose(pad.device);
+    }
+    pads.clear();
+}
+
+SdlController::Pad& SdlController::padOf(SDL_JoystickID id)
+{
+    const auto found = std::find_if(pads.begin(), pads.end(), [id](const Pad& pad) { return pad.id == id; });
+    return found == pads.end() ? pads.emplace_back(Pad{id}) : *found;
+}
+
+void SdlController::add(int deviceIndex)
+{
+    SDL_GameController* device = SDL_GameControllerOpen(deviceIndex);
+    if (!device)
+        return;
+    Pad& pad = padOf(SDL_JoystickInstanceID(SDL_GameControllerGetJoystick(device)));
+    if (pad.device)
+        SDL_GameControllerClose(device); // counted twice otherwise
+    pad.device = device;
+}
+
+void SdlController::remove(SDL_JoystickID id, InputQueue& input)
+{
+    const auto found = std::find_if(pads.begin(), pads.end(), [id](const Pad& pad) { return pad.id == id; });
+    if (found == pads.end())
+        return;
+    letGo(*found, input);
+    if (found->device)
+        SDL_GameControllerClose(found->device);
+    pads.erase(found);
+}
+
+SdlController::Key* SdlController::keyOfButton(Pad& pad, std::uint8_t button)
+{
+    switch (button) {
+    case SDL_CONTROLLER_BUTTON_DPAD_LEFT:
+        return &pad.keys[Left];
+    case SDL_CONTROLLER_BUTTON_DPAD_UP:
+        return &pad.keys[Up];
+    case SDL_CONTROLLER_BUTTON_DPAD_RIGHT:
+        return &pad.keys[Right];
+    case SDL_CONTROLLER_BUTTON_DPAD_DOWN:
+        return &pad.keys[Down];
+    case SDL_CONTROLLER_BUTTON_A:
+        return &pad.keys[Return];
+    case SDL_CONTROLLER_BUTTON_B:
+        return &pad.keys[Esc];
+    case SDL_CONTROLLER_BUTTON_LEFTSHOULDER:
+        return &pad.keys[Home];
+    case SDL_CONTROLLER_BUTTON_RIGHTSHOULDER:
+        return &pad.keys[End];
+    default:
+        return nullptr;
+    }
 }
 
 bool SdlController::handle(const SDL_Event& event, InputQueue& input)
 {
     switch (event.type) {
     case SDL_CONTROLLERDEVICEADDED:
-        if (SDL_GameController* controller = SDL_GameControllerOpen(event.cdevice.which))
-            open.push_back(controller);
+        add(event.cdevice.which);
         return true;
     case SDL_CONTROLLERDEVICEREMOVED:
-        letGo(input);
-        std::erase_if(open, [&](SDL_GameController* controller) {
-            if (SDL_GameControllerGetAttached(controller))
-                return false;
-            SDL_GameControllerClose(controller);
-            return true;
-        });
+        remove(event.cdevice.which, input);
         return true;
     case SDL_CONTROLLERBUTTONDOWN:
-    case SDL_CONTROLLERBUTTONUP: {
-        const bool held = event.type == SDL_CONTROLLERBUTTONDOWN;
-        const int direction = directionOfButton(event.cbutton.button);
-        if (direction >= 0)
-            setDirection(directions[static_cast<std::size_t>(direction)], Pad, held, input);
-        else if (const std::uint8_t code = keyOfButton(event.cbutton.button)) {
-            input.holdInTurn(code, held);
-            if (held)
-                typeKey(code, false, input);
-        }
+    case SDL_CONTROLLERBUTTONUP:
+        if (Key* key = keyOfButton(padOf(event.cbutton.which), event.cbutton.button))
+            setKey(*key, Button, event.type == SDL_CONTROLLERBUTTONDOWN, input);
+        return true;
+    case SDL_CONTROLLERAXISMOTION: {
+        Pad& pad = padOf(event.caxis.which);
+        if (event.caxis.axis == SDL_CONTROLLER_AXIS_LEFTX)
+            moveStick(pad.keys[Left], pad.keys[Right], event.caxis.value, input);
+        else if (event.caxis.axis == SDL_CONTROLLER_AXIS_LEFTY)
+            moveStick(pad.keys[Up], pad.keys[Down], event.caxis.value, input);
         return true;
     }
-    case SDL_CONTROLLERAXISMOTION:
-        if (event.caxis.axis == SDL_CONTROLLER_AXIS_LEFTX)
-            moveStick(directions[0], directions[2], event.caxis.value, input);
-        else if (event.caxis.axis == SDL_CONTROLLER_AXIS_LEFTY)
-            moveStick(directions[1], directions[3], event.caxis.value, input);
-        return true;
     default:
         return false;
     }
 }
 
-void SdlController::moveStick(Direction& negative, Direction& positive, int value, InputQueue& input)
+void SdlController::moveStick(Key& negative, Key& positive, int value, InputQueue& input)
 {
-    const auto isPushed = [](const Direction& direction, int way) {
-        return way > (direction.heldBy & Stick ? releaseBelow : pressBeyond);
+    const auto isPushed = [](const Key& key, int way) {
+        return way > (key.heldBy & Stick ? releaseBelow : pressBeyond);
     };
-    setDirection(negative, Stick, isPushed(negative, -value), input);
-    setDirection(positive, Stick, isPushed(positive, value), input);
+    setKey(negative, Stick, isPushed(negative, -value), input);
+    setKey(positive, Stick, isPushed(positive, value), input);
 }
 
-void SdlController::setDirection(Direction& direction, Source source, bool held, InputQueue& input)
+void SdlController::setKey(Key& key, Source source, bool held, InputQueue& input)
 {
-    const bool wasHeld = direction.heldBy != 0;
-    direction.heldBy =
-        static_cast<std::uint8_t>(held ? direction.heldBy | source : direction.heldBy & ~source);
-    const bool isHeld = direction.heldBy != 0;
-    if (isHeld == wasHeld)
+    const bool wasHeld = key.heldBy != 0;
+    key.heldBy = static_cast<std::uint8_t>(held ? key.heldBy | source : key.heldBy & ~source);
+    const bool isHeldNow = key.heldBy != 0;
+    if (isHeldNow == wasHeld)
         return;
-    input.holdInTurn(direction.code, isHeld);
-    if (isHeld) {
-        typeKey(direction.code, false, input);
-        direction.nextRepeat = SDL_GetTicks() + firstRepeatMillis;
+    if (isHeldNow) {
+        input.holdInTurn(key.code, true);
+        typeKey(key.code, false, input);
+        key.nextRepeat = SDL_GetTicks() + firstRepeatMillis;
+    } else if (!isHeld(key.code)) {
+        input.holdInTurn(key.code, false);
     }
+}
+
+bool SdlController::isHeld(std::uint8_t code) const
+{
+    for (const Pad& pad : pads) {
+        for (const Key& key : pad.keys) {
+            if (key.code == code && key.heldBy != 0)
+                return true;
+        }
+    }
+    return false;
 }
 
 void SdlController::repeat(std::uint32_t now, InputQueue& input)
 {
-    for (Direction& direction : directions) {
-        if (direction.heldBy == 0 || !SDL_TICKS_PASSED(now, direction.nextRepeat))
-            continue;
-        typeKey(direction.code, true, input);
-        direction.nextRepeat = now + nextRepeatMillis;
+    for (Pad& pad : pads) {
+        for (Key& key : pad.keys) {
+            if (!key.repeats || key.heldBy == 0 || !SDL_TICKS_PASSED(now, key.nextRepeat))
+                continue;
+            typeKey(key.code, true, input);
+            key.nextRepeat = now + nextRepeatMillis;
+        }
+    }
+}
+
+void SdlController::letGo(Pad& pad, InputQueue& input)
+{
+    for (Key& key : pad.keys) {
+        setKey(key, Button, false, input);
+        setKey(key, Stick, false, input);
     }
 }
 
 void SdlController::letGo(InputQueue& input)
 {
-    for (Direction& direction : directions) {
-        setDirection(direction, Pad, false, input);
-        setDirection(direction, Stick, false, input);
-    }
-    for (std::uint8_t code : {VK_RETURN, VK_ESCAPE, VK_HOME, VK_END})
-        input.holdInTurn(code, false);
+    for (Pad& pad : pads)
+        letGo(pad, input);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/display/keys.h"
+
 #include <SDL.h>
 
 #include <array>
@@ -9,7 +11,7 @@
 class InputQueue;
 
 /// Game controllers, as many as are plugged in, as the keys: directions, Return, Esc, Home and End. A held
-/// direction repeats as a held key does.
+/// direction repeats as a held key does. A key is let go when no controller holds it any more.
 class SdlController {
 public:
     ~SdlController();
@@ -22,15 +24,35 @@ public:
     void closeAll();
 
 private:
-    enum Source : std::uint8_t { Pad = 1, Stick = 2 };
-    struct Direction {
+    enum Source : std::uint8_t { Button = 1, Stick = 2 };
+    struct Key {
         std::uint8_t code;
+        bool repeats = false;
         std::uint8_t heldBy = 0; // sources
         std::uint32_t nextRepeat = 0;
     };
-    void setDirection(Direction& direction, Source source, bool held, InputQueue& input);
-    void moveStick(Direction& negative, Direction& positive, int value, InputQueue& input);
+    enum Place : std::size_t { Left, Up, Right, Down, Return, Esc, Home, End };
+    struct Pad {
+        SDL_JoystickID id;
+        SDL_GameController* device = nullptr;
+        // By Place.
+        std::array<Key, 8> keys = {{{VK_LEFT, true},
+                                    {VK_UP, true},
+                                    {VK_RIGHT, true},
+                                    {VK_DOWN, true},
+                                    {VK_RETURN},
+                                    {VK_ESCAPE},
+                                    {VK_HOME},
+                                    {VK_END}}};
+    };
+    static Key* keyOfButton(Pad& pad, std::uint8_t button);
+    Pad& padOf(SDL_JoystickID id);
+    void add(int deviceIndex);
+    void remove(SDL_JoystickID id, InputQueue& input);
+    void setKey(Key& key, Source source, bool held, InputQueue& input);
+    void moveStick(Key& negative, Key& positive, int value, InputQueue& input);
+    void letGo(Pad& pad, InputQueue& input);
+    bool isHeld(std::uint8_t code) const;
 
-    std::array<Direction, 4> directions = {{{0x25}, {0x26}, {0x27}, {0x28}}}; // left, up, right, down
-    std::vector<SDL_GameController*> open;
+    std::vector<Pad> pads;
 };

@@ -349,6 +349,7 @@ void SdlHost::movePointer(int x, int y)
     // A window in the background leaves the pointer to the one in front.
     if (!window || SDL_GetKeyboardFocus() != window)
         return;
+    input().dropMovesAtHead();
     mouseAndKeys.pointerWasMoved(x, y, SDL_GetTicks());
     const ScreenFit::Point place = mouseAndKeys.getFit().toWindow(x, y);
     SDL_WarpMouseInWindow(window, place.x, place.y);

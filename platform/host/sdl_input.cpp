@@ -4,8 +4,10 @@
 #include "platform/host/codepage.h"
 #include "platform/host/sdl_keys.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -23,21 +25,6 @@ std::optional<MouseButton> buttonOf(std::uint8_t button)
         return MouseButton::Middle;
     default:
         return std::nullopt;
-    }
-}
-
-/// The left and the right key of a pair have one code: it is held while either is.
-bool isHeldByTwin(const SDL_Keysym& key, std::uint8_t code)
-{
-    switch (code) {
-    case VK_SHIFT:
-        return key.mod & KMOD_SHIFT;
-    case 0x11:
-        return key.mod & KMOD_CTRL;
-    case 0x12:
-        return key.mod & KMOD_ALT;
-    default:
-        return false;
     }
 }
 
@@ -123,20 +110,34 @@ void SdlInput::handleKeyDown(const SDL_KeyboardEvent& event)
     const std::uint8_t code = virtualKeyOf(event.keysym);
     if (code == 0)
         return;
-    if (!heldKeys.test(code))
-        queue.holdInTurn(code, true);
-    heldKeys.set(code);
+    setCode(event.keysym.scancode, code);
     waitingKey = code;
     waitingIsRepeat = event.repeat != 0;
 }
 
+/// The code that the key went down with is let go, whatever its code would be by now.
 void SdlInput::handleKeyUp(const SDL_KeyboardEvent& event)
 {
-    const std::uint8_t code = virtualKeyOf(event.keysym);
-    if (code == 0 || !heldKeys.test(code) || isHeldByTwin(event.keysym, code))
+    setCode(event.keysym.scancode, 0);
+}
+
+bool SdlInput::isHeld(std::uint8_t code) const
+{
+    return std::find(codes.begin(), codes.end(), code) != codes.end();
+}
+
+/// Some keys share a code, such as the two Shift keys: it is held while any of them is.
+void SdlInput::setCode(SDL_Scancode key, std::uint8_t code)
+{
+    const auto place = static_cast<std::size_t>(key);
+    if (place >= codes.size() || codes[place] == code)
         return;
-    heldKeys.reset(code);
-    queue.holdInTurn(code, false);
+    const std::uint8_t old = std::exchange(codes[place], std::uint8_t{0});
+    if (old != 0 && !isHeld(old))
+        queue.holdInTurn(old, false);
+    if (code != 0 && !isHeld(code))
+        queue.holdInTurn(code, true);
+    codes[place] = code;
 }
 
 void SdlInput::handleText(std::string_view text)
@@ -170,11 +171,8 @@ void SdlInput::letGo()
             queue.release(button);
     }
     heldButtons.reset();
-    for (std::size_t code = 0; code < heldKeys.size(); ++code) {
-        if (heldKeys.test(code))
-            queue.holdInTurn(static_cast<std::uint8_t>(code), false);
-    }
-    heldKeys.reset();
+    for (std::size_t key = 0; key < codes.size(); ++key)
+        setCode(static_cast<SDL_Scancode>(key), 0);
 }
 
 void SdlInput::pointerWasMoved(int screenX, int screenY, std::uint32_t now)

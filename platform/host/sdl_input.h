@@ -5,6 +5,7 @@
 
 #include <SDL.h>
 
+#include <array>
 #include <bitset>
 #include <cstdint>
 #include <string_view>
@@ -31,6 +32,8 @@ private:
     void handleButton(const SDL_MouseButtonEvent& event);
     void handleKeyDown(const SDL_KeyboardEvent& event);
     void handleKeyUp(const SDL_KeyboardEvent& event);
+    bool isHeld(std::uint8_t code) const;
+    void setCode(SDL_Scancode key, std::uint8_t code);
     void handleText(std::string_view text);
     void sendWaitingKey(char character);
     void moveTo(ScreenFit::Point place);
@@ -39,7 +42,8 @@ private:
     ScreenFit fit;
     ScreenFit::Point last = {-1, -1}; // what the queue knows last
     std::bitset<3> heldButtons;
-    std::bitset<256> heldKeys;
+    // Virtual key codes of the keys that are down, by scancode; 0 for one that is not.
+    std::array<std::uint8_t, SDL_NUM_SCANCODES> codes{};
     // A key event waits for the text event right behind it, so that one transition has code and character.
     std::uint8_t waitingKey = 0;
     bool waitingIsRepeat = false;

@@ -1,63 +1,233 @@
 #!/usr/bin/env bash
-# window_test.sh DEMO: inside a virtual display, runs the demo in a real window as a person would: it comes up, takes a
-# click and keys, and ends with status 0 by the last entry of its menu.
+# window_test.sh DEMO: inside a virtual display of 1280x1024, runs the demo in a real window as a person would, with
+# nothing but its picture, the pointer, its settings and its exit status to tell by. Twice: full screen, ended by its own
+# menu; in a window, resized, ended by closing it.
 set -euo pipefail
 
 demo=$1
+here=$(dirname "${BASH_SOURCE[0]}")
 log=$(mktemp)
 home=$(mktemp -d)
+settings=$home/.config/TGX/Harbour/settings.txt
 pid=
 cleanup() {
     if [[ -n $pid ]] && kill -0 "$pid" 2>/dev/null; then
         kill -9 "$pid"
+        wait "$pid" 2>/dev/null || true
     fi
     rm -rf "$log" "$home"
 }
 trap cleanup EXIT
 fail() {
     echo "FAILED: $*" >&2
+    echo "    pointer: $(xdotool getmouselocation 2>&1); the demo wrote:" >&2
     sed 's/^/    /' "$log" >&2
     exit 1
 }
 
-# Settings of whoever runs the test are neither read nor written.
-HOME=$home XDG_CONFIG_HOME=$home/.config SDL_VIDEODRIVER=x11 SDL_AUDIODRIVER=dummy "$demo" >"$log" 2>&1 &
-pid=$!
+# soon COMMAND...: whether it comes true; so long that a busy machine has time for it.
+soon() {
+    local end=$((SECONDS + 20))
+    until "$@"; do
+        [[ -z $pid ]] || kill -0 "$pid" 2>/dev/null || fail "the demo ended by itself, before: $*"
+        ((SECONDS < end)) || return 1
+        sleep 0.1
+    done
+}
+
+# The running demo
 
 # The window as it is now: SDL may replace its first one while it chooses how to draw.
 find_window() { xdotool search --onlyvisible --pid "$pid" 2>/dev/null | head -1 || true; }
-
-window=
-for _ in $(seq 100); do
-    kill -0 "$pid" 2>/dev/null || fail "the demo ended before it showed a window"
-    before=$window
+window_stays() {
     window=$(find_window)
-    # There, and still the same a moment later.
-    [[ -z $window || $window != "$before" ]] || break
     sleep 0.3
-done
-[[ -n $window ]] || fail "no window came up"
+    [[ -n $window && $window == "$(find_window)" ]]
+}
+size_is() { [[ $(xdotool getwindowgeometry --shell "$window") == *"WIDTH=$1"$'\n'"HEIGHT=$2"* ]]; }
+
+# start: runs the demo until its window is up. Settings of whoever runs the test are neither read nor written.
+start() {
+    HOME=$home XDG_CONFIG_HOME=$home/.config SDL_VIDEODRIVER=x11 SDL_AUDIODRIVER=dummy TGX_NO_MESSAGE_BOX=1 \
+        "$demo" >"$log" 2>&1 &
+    pid=$!
+    window=
+    soon window_stays || fail "no window came up"
+}
+has_ended() { ! kill -0 "$pid" 2>/dev/null; }
+# ended HOW: the demo ends now, with status 0 and nothing to report.
+ended() {
+    local ending=$pid status=0 end=$((SECONDS + 20))
+    until has_ended; do
+        ((SECONDS < end)) || fail "it still runs, asked to end by $1"
+        sleep 0.1
+    done
+    pid=
+    wait "$ending" || status=$?
+    ((status == 0)) || fail "status $status on the way out by $1"
+    ! grep -qiE 'sanitizer|runtime error|^message:' "$log" || fail "the demo had something to report"
+}
+settings_are() {
+    [[ $(tr '\n' ' ' <"$settings") == "$1 " ]] || fail "settings are to be $1, and are $(tr '\n' ' ' <"$settings")"
+}
+
+# Places are those of the demo's screen of 1024x768. It is shown as large as the window lets it, in the middle.
+
+# shown_in WIDTH HEIGHT [X Y]: the window has this size, and lies there on the display.
+shown_in() {
+    if (($1 * 768 <= $2 * 1024)); then
+        shown_width=$1
+    else
+        shown_width=$(($2 * 1024 / 768))
+    fi
+    left=$((${3:-0} + ($1 - shown_width) / 2))
+    top=$((${4:-0} + ($2 - shown_width * 768 / 1024) / 2))
+}
+# The pixel of the display under a place, rounded.
+across() { echo $((left + ($1 * shown_width + 512) / 1024)); }
+down() { echo $((top + ($1 * shown_width + 512) / 1024)); }
+
+# on_display COMMAND X Y WIDTH HEIGHT: picture or still, of a part of the demo's screen.
+on_display() {
+    local x y
+    x=$(across "$2")
+    y=$(down "$3")
+    "$here/x11.py" "$1" "$x" "$y" $(($(across $(($2 + $4))) - x)) $(($(down $(($3 + $5))) - y))
+}
+picture() { on_display picture "$@"; }
+still() { on_display still "$@"; }
+title=(36 20 600 64) # of every screen: it stands still and tells which screen this is
+shows() { [[ $(picture "${title[@]}") == "$1" ]]; }
+shows_no_more() { ! shows "$1"; }
+
+click_at() { xdotool mousemove "$(across "$1")" "$(down "$2")" click 1; }
+# pointer_on X Y WIDTH HEIGHT: the pointer lies on this box.
+pointer_on() {
+    local X Y
+    eval "$(xdotool getmouselocation --shell | grep -E '^[XY]=')"
+    ((X >= $(across "$1") && X < $(across $(($1 + $3))) && Y >= $(down "$2") && Y < $(down $(($2 + $4)))))
+}
+
+# Each screen brings the pointer to a button when it opens, so that where the pointer lies tells that it has opened.
+to_company=(736 250 240 44)
+to_chart=(736 300 240 44)
+to_newgame=(736 350 240 44)
+to_options=(736 400 240 44)
+quit=(736 450 240 44)
+menu=(720 184 272 328)
+back=(752 36 240 44)
+name_field=(60 208 504 36)
+ship_field=(60 284 504 36)
+
+# only_inside BUTTON...: clicks close around a button do nothing; one close to its corner does what it is for.
+only_inside() {
+    local x=$1 y=$2 right=$(($1 + $3)) bottom=$(($2 + $4)) before
+    before=$(picture "${title[@]}")
+    click_at $((x - 4)) $((y + 20))
+    click_at $((right + 4)) $((y + 20))
+    click_at $((x + 99)) $((bottom + 3))
+    click_at $((x + 99)) $((y - 4))
+    sleep 1
+    if shows_no_more "$before" || ! pointer_on $((x + 95)) $((y - 8)) 8 8; then
+        fail "a click beside a button was taken for one on it"
+    fi
+    click_at $((x + 6)) $((y + 6))
+    soon shows_no_more "$before" || fail "a click into a button's corner missed it"
+}
+
+# Full screen, and out by the menu
+
+start
+shown_in 1280 1024
+soon size_is 1280 1024 || fail "it does not fill the display"
+soon pointer_on "${to_company[@]}" || fail "the first screen did not open"
 echo "ok: the window is up"
 
 # A click on the background brings the pointer into the window and changes nothing.
-xdotool mousemove --window "$(find_window)" 10 10 click 1 || fail "the window is gone"
-sleep 3 # the title's windows slide in
-kill -0 "$pid" 2>/dev/null || fail "the demo did not outlive a click"
+still "${menu[@]}" >/dev/null || fail "the title's windows do not come to rest"
+before=$(picture "${title[@]}")
+click_at 10 140
+sleep 1
+shows "$before" || fail "a click on the background changed the screen"
 echo "ok: it takes a click"
 
 # By keyboard alone: the fifth tab stop of the title screen ends the demo.
-for key in Tab Tab Tab Tab Tab Return; do
-    xdotool key --window "$(find_window)" "$key" || fail "the window is gone"
-    sleep 0.4
+for stop in to_company to_chart to_newgame to_options quit; do
+    xdotool key Tab
+    declare -n box=$stop
+    soon pointer_on "${box[@]}" || fail "Tab did not bring the pointer to $stop"
 done
-for _ in $(seq 100); do
-    kill -0 "$pid" 2>/dev/null || break
-    sleep 0.1
+echo "ok: Tab moves the pointer"
+[[ ! -e $settings ]] || fail "settings are there before the first end: what stands in them proves nothing"
+xdotool key Return
+ended "its menu"
+settings_are "BitDepth=32 FullScreen=1 TopMost=1"
+echo "ok: it ends by its own menu, and keeps its settings"
+
+# In a window
+
+echo "FullScreen=0" >"$settings"
+start
+soon size_is 1024 768 || fail "it does not heed its settings: no window of the screen's size"
+shown_in 1024 768 128 128 # in the middle of the display
+soon pointer_on "${to_company[@]}" || fail "the first screen did not open"
+xdotool windowmove "$window" 0 0
+shown_in 1024 768
+still "${menu[@]}" >/dev/null || fail "the title's windows do not come to rest"
+front=$(still "${title[@]}") || fail "the title does not show"
+click_at 856 372
+soon pointer_on "${name_field[@]}" || fail "a click on a button did not open its screen"
+soon shows_no_more "$front" || fail "another screen shows the same picture"
+echo "ok: a click changes the screen"
+
+# What the field above shows is typed into an empty one: at the end both show the same, pixel for pixel.
+inside() { picture $(($1 + 4)) $(($2 + 4)) $(($3 - 8)) $(($4 - 8)); }
+fields_are_alike() { [[ $(inside "${name_field[@]}") == "$(inside "${ship_field[@]}")" ]]; }
+field_shows() { [[ $(inside "${ship_field[@]}") == "$1" ]]; }
+still "${ship_field[@]}" >/dev/null || fail "the form does not come to rest"
+empty=$(inside "${ship_field[@]}")
+! fields_are_alike || fail "the field to type into is not empty"
+click_at 300 302
+xdotool type --delay 150 "Marram & Daughters"
+xdotool key --delay 150 Return # the caret goes
+soon fields_are_alike || fail "the field does not show what was typed"
+click_at 300 302
+xdotool key --delay 150 End
+for _ in {1..18}; do
+    xdotool key --delay 150 BackSpace
 done
-kill -0 "$pid" 2>/dev/null && fail "the keys did not reach the demo: it still runs"
-status=0
-wait "$pid" || status=$?
-pid=
-((status == 0)) || fail "status $status on the way out"
-! grep -qiE 'sanitizer|runtime error|^message:' "$log" || fail "the demo had something to report"
-echo "ok: it ends by its own menu"
+xdotool key --delay 150 Return
+soon field_shows "$empty" || fail "the field does not show that all was erased"
+echo "ok: typed text arrives in an edit box"
+
+click_at 872 58
+soon shows "$front" || fail "the way back does not lead to the first screen"
+soon pointer_on "${to_newgame[@]}" || fail "the pointer did not return to the button it had left"
+still "${menu[@]}" >/dev/null || fail "the title's windows do not come back to rest"
+xdotool key Tab
+soon pointer_on "${to_options[@]}" || fail "Tab did not move the pointer on"
+xdotool key shift+Tab
+soon pointer_on "${to_newgame[@]}" || fail "Shift+Tab did not move the pointer back"
+echo "ok: Tab moves the pointer, and back"
+
+# resize WIDTH HEIGHT, and the first bar beside the picture. It is black, and the picture begins right behind it.
+bar_is_black() { [[ $("$here/x11.py" picture 0 0 "$1" "$2") == black ]]; }
+resize() {
+    xdotool windowsize "$window" "$1" "$2"
+    shown_in "$1" "$2"
+    soon bar_is_black "$3" "$4" || fail "resized to $1x$2: no black bar of $3x$4 at the start"
+    [[ $(picture 0 0 20 20) != black ]] ||
+        fail "resized to $1x$2: the picture does not begin behind the bar"
+}
+resize 1200 600 200 600
+only_inside "${to_chart[@]}"
+soon pointer_on "${back[@]}" || fail "in the wide window another screen opened than the one clicked at"
+resize 600 900 600 225
+only_inside "${back[@]}"
+soon pointer_on "${to_chart[@]}" || fail "in the tall window the click did not lead back"
+echo "ok: in a resized window a click lands where it was aimed"
+
+"$here/x11.py" close "$window"
+ended "its window's closing"
+settings_are "BitDepth=32 FullScreen=0 TopMost=1"
+echo "ok: closing the window ends it, and its settings are kept"

@@ -3,6 +3,7 @@
 #include "tgx/base/fixed.h"
 #include "tgx/base/swapped.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -132,14 +133,16 @@ int AButton::handleLostFocus()
     return 1;
 }
 
-// A check box, tick by tick:   MA_MOVE  MA_LBUTTONDOWN  MA_LBUTTONUP  MA_MOVE
-//   state                      BS_HOT   BS_PRESSED      BS_PRESSED    BS_PRESSED     selected shows as
-//   pressed selected                   0        0               1             1
+// A check box, tick by tick; selected shows as pressed:
+//              MA_MOVE  MA_LBUTTONDOWN  MA_LBUTTONUP  MA_MOVE
+//   state      BS_HOT   BS_PRESSED      BS_PRESSED    BS_PRESSED
+//   selected   0        0               1             1
 int AButton::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
+    const ActionRefs handling(this, wnd);
     AWnd::handleMouseAction(about, wnd, x, y, action);
 
-    if (!isVisible(1) || isMeantForAnother(wnd))
+    if (!handling.mayGoOn() || !isVisible(1) || isMeantForAnother(wnd))
         return 0;
     if (buttonState == BS_DISABLED)
         return 1;
@@ -175,15 +178,20 @@ void AButton::draw(int frameStep)
         return;
     if (buttonState == BS_STARTUP && openingRunIsOver())
         setButtonState(BS_NORMAL);
+    std::optional<Swapped<short>> still;
     if (buttonState == BS_NORMAL && stateFrames[BS_NORMAL] == 0) {
-        // No frame for rest: it shows only when hot or pressed.
+        // No frame for rest: it shows only when hot or pressed. The run that it comes from must not go on.
         currentFrame = -1;
         firstFrame = -1;
+        still.emplace(frameCount, std::min<short>(frameCount, 1));
     }
+    const bool isOpening = buttonState == BS_STARTUP;
     std::optional<Swapped<CString>> noText;
-    if (buttonState == BS_STARTUP)
+    if (isOpening)
         noText.emplace(windowText, CString());
     const Swapped<short> offsetX(textOffsetX, to16(textOffsetX + textShifted));
     const Swapped<short> offsetY(textOffsetY, to16(textOffsetY + textShifted));
     AWnd::draw(frameStep);
+    if (AButton* stateWnd = isOpening ? getStateWnd() : nullptr)
+        stateWnd->setEnabled(0); // the end of its own opening run has enabled it
 }

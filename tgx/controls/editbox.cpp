@@ -1,7 +1,6 @@
 #include "tgx/controls/editbox.h"
 
 #include "tgx/base/fixed.h"
-#include "tgx/base/swapped.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/textline.h"
 #include "tgx/wnd/wrap.h"
@@ -9,6 +8,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -26,10 +26,27 @@ bool isAccepted(unsigned char character)
     return (character >= 0x20 && character <= 0x7E) || character == 0xBE;
 }
 
-/// Boxes whose leave and enter windows lead to each other would end each other's typing without end.
-bool endOfTypingRuns = false;
-
 } // namespace
+
+/// Puts as many stars in the place of the text as it has characters, for as long as this lives. The two are
+/// exchanged, so a frame takes no memory.
+class AEditBox::Stars {
+public:
+    explicit Stars(AEditBox& password) : box(password)
+    {
+        const auto count = box.windowText.view().size();
+        while (box.stars.view().size() < count)
+            box.stars += '*';
+        box.stars.assign(box.stars.view().substr(0, count));
+        std::swap(box.windowText, box.stars);
+    }
+    ~Stars() { std::swap(box.windowText, box.stars); }
+    Stars(const Stars&) = delete;
+    Stars& operator=(const Stars&) = delete;
+
+private:
+    AEditBox& box;
+};
 
 AEditBox::AEditBox(const CString& name, int x, int y, int width, int height)
     : AWnd(WND_EDITBOX, name, x, y, width, height), isPassword(isPasswordId(name))
@@ -58,7 +75,10 @@ int AEditBox::handleLostFocus()
 
 int AEditBox::handleKeyInput(char key)
 {
+    const WndRef self = this; // what the children do may delete the box
     AWnd::handleKeyInput(key);
+    if (!self)
+        return 1;
 
     const int length = windowText.GetLength();
     cursorPos = to16(std::clamp<int>(cursorPos, 0, std::min(length, INT16_MAX)));
@@ -119,8 +139,9 @@ void AEditBox::typeCharacter()
 
 int AEditBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
+    const ActionRefs handling(this, wnd);
     AWnd::handleMouseAction(about, wnd, x, y, action);
-    if (action != MA_LBUTTONUP)
+    if (!handling.mayGoOn() || action != MA_LBUTTONUP)
         return 0;
     if (!isTypedIn()) {
         if (pointInside(x, y)) {
@@ -138,11 +159,21 @@ void AEditBox::endTyping()
     AMainWin* main = getMainWin();
     cursorPos = to16(windowText.GetLength());
     main->setMouseCaptureWnd(nullptr);
-    if (endOfTypingRuns)
+    // Boxes whose leave and enter windows lead to each other come to rest.
+    if (atEndOfTyping)
         return;
-    const Swapped<bool> running(endOfTypingRuns, true);
-
+    atEndOfTyping = 1;
     // What is pressed may delete this box, or any other window.
+    const WndRef self = this;
+    goOn();
+    if (self)
+        atEndOfTyping = 0;
+}
+
+/// Reaches and presses the leave window, then the one to enter.
+void AEditBox::goOn()
+{
+    AMainWin* main = getMainWin();
     const WndRef self = this;
     const auto press = [main](AWnd* wnd) {
         AScreen* screen = main->getActiveScreen();
@@ -172,9 +203,9 @@ void AEditBox::endTyping()
 void AEditBox::draw(int frameStep)
 {
     // Text and caret are worked out on the stars; the real text is there again whatever happens.
-    std::optional<Swapped<CString>> stars;
+    std::optional<Stars> hidden;
     if (isPassword)
-        stars.emplace(windowText, CString(std::string(windowText.view().size(), '*')));
+        hidden.emplace(*this);
     AWnd::draw(frameStep);
     if (!isVisible(1))
         return;
@@ -211,11 +242,11 @@ void AEditBox::drawCaret()
 
 void AEditBox::caretInLine(int x, int y, int lineWidth, int& caretX, int& caretY) const
 {
-    AMainWin* main = getMainWin();
     int shown = 0;
     cutToWidth(font, windowText.view(), lineWidth, shown);
-    caretX =
-        leftEdge(textJustify, x, lineWidth, shown) + main->getStringLength(windowText.Left(cursorPos), font);
+    const int count = std::clamp<int>(cursorPos, 0, windowText.GetLength());
+    const std::string_view inFront = windowText.view().substr(0, static_cast<std::size_t>(count));
+    caretX = leftEdge(textJustify, x, lineWidth, shown) + (font ? font->stringLength(inFront) : 0);
     caretY = textCentreV ? y + (height() - (font ? font->charHeight : 0)) / 2 : y;
 }
 

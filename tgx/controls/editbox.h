@@ -58,10 +58,15 @@ protected:
     WndRef fullWnd;
 
 private:
+    class Stars;
     bool isTypedIn() const;
     void typeCharacter();
     void endTyping();
+    void goOn();
     void drawCaret();
     void caretInLine(int x, int y, int lineWidth, int& caretX, int& caretY) const;
     void caretInLines(int x, int y, int lineWidth, int& caretX, int& caretY) const;
+
+    unsigned atEndOfTyping : 1 = 0; // its leave and enter windows are being reached
+    CString stars;                  // stands in for the text of a password while it is drawn
 };

@@ -17,7 +17,14 @@ void ARadioButton::startup()
 
 int ARadioButton::addLinkedButton(AButton* button)
 {
-    return linkedButtons.Add(button);
+    return button ? linkedButtons.Add(button) : -1;
+}
+
+void ARadioButton::linkNewMember(ARadioButton& member)
+{
+    linkedButtons.addNew(&member);
+    if (&member != this)
+        member.linkedButtons.addNew(this);
 }
 
 AButton* ARadioButton::getLinkedButton(int index) const
@@ -100,22 +107,21 @@ int ARadioButton::handleKeyInput(char key)
 
 int ARadioButton::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
+    const ActionRefs handling(this, wnd);
     AButton::handleMouseAction(about, wnd, x, y, action);
-    if (isMeantForAnother(wnd))
+    if (!handling.mayGoOn() || isMeantForAnother(wnd))
         return 0;
 
-    AMainWin* main = getMainWin();
     if (action == MA_KEY) {
-        const int key = main->keyCode;
+        const int key = getMainWin()->keyCode;
         const bool back = key == VK_HOME || key == VK_INSERT;
         if (back || key == VK_END || key == VK_DELETE) {
             selectNextButton(back);
-            tellOfChoice();
+            tellOfChoice(); // which may delete this button
         }
-    }
-    if (!isVisible(1))
         return 0;
-    if (action == MA_LBUTTONUP && buttonState != BS_DISABLED) {
+    }
+    if (action == MA_LBUTTONUP && isVisible(1) && buttonState != BS_DISABLED) {
         setSelected(1);
         for (int i = 0; i < linkedButtons.GetSize(); ++i)
             if (linkedButtons[i] != this)

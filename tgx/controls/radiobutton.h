@@ -18,8 +18,11 @@ public:
     int handleMouseAction(const CString& id, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
     int handleKeyInput(char key) override;
 
-    /// Not owned; drops out when it is deleted. The new entry's index.
+    /// Not owned; drops out when it is deleted. The new entry's index, or -1 for null, which adds nothing.
     int addLinkedButton(AButton* button);
+    /// addLinkedButton both ways, for two buttons that are not linked yet: saves the search for that. With
+    /// this button itself once.
+    void linkNewMember(ARadioButton& member);
     /// An index outside the list raises the invalid-argument exception.
     AButton* getLinkedButton(int index) const;
     int getLinkedButtonsCount(int visibleOnly) const;

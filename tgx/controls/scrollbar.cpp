@@ -1,6 +1,7 @@
 #include "tgx/controls/scrollbar.h"
 
 #include "platform/display/surface.h"
+#include "tgx/controls/listbox/listbox.h"
 #include "tgx/frame/mainwin.h"
 
 #include <algorithm>
@@ -34,6 +35,19 @@ void AScrollBar::setPercentage(ZnFixed value)
     percentage = std::clamp(value, ZnFixed(), full);
 }
 
+ZnFixed AScrollBar::getPercentageAfter(int steps) const
+{
+    const long long moved = percentage.raw + static_cast<long long>(steps) * step.raw;
+    return ZnFixed::fromRaw(static_cast<int>(std::clamp<long long>(moved, 0, full.raw)));
+}
+
+/// The list box that holds this bar, or null.
+AListBox* AScrollBar::getList() const
+{
+    AWnd* holder = getParent();
+    return holder && holder->getWindowType() == WND_LISTBOX ? static_cast<AListBox*>(holder) : nullptr;
+}
+
 /// Centre of the lever: one and a half frames from the start, and the fraction of the travel.
 int AScrollBar::getLeverWndPos() const
 {
@@ -53,8 +67,10 @@ int AScrollBar::getPercentageFromWndPos(int pos) const
 
 int AScrollBar::handleMouseAction(const CString&, AWnd*, int x, int y, E_MOUSEACTION action)
 {
-    if (!isVisible(1))
+    if (!isVisible(1)) {
+        release(); // one that is hidden while it is held would keep all input
         return 0;
+    }
     // An end button shows pressed only behind an action that has pressed it.
     prevPressed = 0;
     nextPressed = 0;
@@ -62,11 +78,11 @@ int AScrollBar::handleMouseAction(const CString&, AWnd*, int x, int y, E_MOUSEAC
     case MA_LBUTTONDOWN: // on every tick of the hold: dragging and repeating rest on that
         getMainWin()->setMouseCaptureWnd(this);
         press(getMouseWndPos(x, y));
-        hold();
+        settle();
         break;
     case MA_LBUTTONUP:
         release();
-        hold();
+        settle();
         break;
     case MA_MOVE:
         release();
@@ -95,23 +111,25 @@ void AScrollBar::press(int pos)
         percentage = ZnFixed::fromInt(std::clamp(getPercentageFromWndPos(pos), 0, 100));
         return;
     }
-    // Beside the lever a press pages, but only in a list. No list box holds a bar yet, so here it does
-    // nothing.
     if (!getMainWin()->isMouseDownInterval(-1))
         return;
     if (pos < getFrameSize()) {
         prevPressed = 1;
-        move(-1);
+        percentage = getPercentageAfter(-1);
     } else if (pos > getScrollLength() - getFrameSize()) {
         nextPressed = 1;
-        move(1);
+        percentage = getPercentageAfter(1);
+    } else if (const AListBox* list = getList()) {
+        const int page = list->getItemsPerPage(); // beside the lever a press pages
+        percentage = getPercentageAfter(pos > lever + half ? page : -page);
     }
 }
 
-void AScrollBar::move(int direction)
+void AScrollBar::settle()
 {
-    const long long moved = percentage.raw + static_cast<long long>(direction) * step.raw;
-    percentage = ZnFixed::fromRaw(static_cast<int>(std::clamp<long long>(moved, 0, full.raw)));
+    setPercentage(percentage);
+    if (AListBox* list = getList())
+        list->scrollTo(percentage);
 }
 
 /// Blits a frame at its own width across the axis.

@@ -24,6 +24,8 @@ public:
     /// Percentage points that a click on an end button moves; no bounds.
     void setStep(ZnFixed value) { step = value; }
     ZnFixed getStep() const { return step; }
+    /// The percentage that so many steps on, or back, lead to, held as above.
+    ZnFixed getPercentageAfter(int steps) const;
     int getLeverHeld() const { return leverHeld; }
     int getHorizontal() const { return horizontal; }
     /// Lowest bit.
@@ -48,8 +50,8 @@ private:
     int getMouseWndPos(int x, int y) const { return horizontal ? getWndX(x) : getWndY(y); }
     void press(int pos);
     void release();
-    void move(int direction);
-    void hold() { setPercentage(percentage); }
+    AListBox* getList() const;
+    void settle();
     void put(int frame, int along, int length);
     void outlineLever(int lever);
 };

@@ -76,8 +76,9 @@ void ATabControl::setActiveWnd(AButton* tab, int interactive)
 
 int ATabControl::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
+    const ActionRefs handling(this, wnd);
     AWnd::handleMouseAction(about, wnd, x, y, action);
-    if (!isVisible(1) || action != MA_LBUTTONUP)
+    if (!handling.mayGoOn() || !isVisible(1) || action != MA_LBUTTONUP)
         return 0;
     AWnd* hit = getWndAtPos(x, y, 0);
     if (isTab(hit) && static_cast<AButton*>(hit)->getButtonState() != AButton::BS_DISABLED)

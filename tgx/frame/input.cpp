@@ -1,5 +1,6 @@
 #include "tgx/base/fixed.h"
 #include "tgx/controls/button.h"
+#include "tgx/controls/listbox/listbox.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/tabstops.h"
 
@@ -277,6 +278,14 @@ int AMainWin::setMousePosOnWnd(AWnd* wnd, int jump)
 {
     if (!wnd)
         return 1;
+    if (isOfType(wnd, AWnd::WND_LISTBOX)) {
+        int x = 0;
+        int y = 0;
+        if (!static_cast<AListBox*>(wnd)->getMousePosOfFirstSelectableItem(x, y))
+            return 0;
+        setMousePos(x, y, jump);
+        return 1;
+    }
     // Where it will come to rest, at the size that it has now.
     setMousePos(wnd->posX(1) + wnd->width() / 2, wnd->posY(1) + wnd->height() / 2, jump);
     if (isOfType(wnd, AWnd::WND_EDITBOX))
@@ -288,21 +297,27 @@ int AMainWin::setMousePosOnWnd(AWnd* wnd, int jump)
     return 1;
 }
 
-int AMainWin::setMousePosOnNextTabStop(AWnd* below, AWnd* from, int backwards, int jump)
+int AMainWin::setMousePosOnNextTabStop(AWnd* below, AWnd* start, int backwards, int jump)
 {
+    // Arriving at an edit box clicks it, which may delete any of these.
     const WndRef root = below;
+    WndRef from = start;
     if (isOfType(from, AWnd::WND_BUTTON))
-        static_cast<AButton*>(from)->setButtonState(AButton::BS_NORMAL);
+        static_cast<AButton*>(start)->setButtonState(AButton::BS_NORMAL);
     const auto stopCount = [&root] {
         const ATabStopInfo* stops = root ? root->getTabStopInfo(0) : nullptr;
         return stops ? stops->tabOrderWnds.GetSize() : 0;
     };
     for (int pass = 0; pass < stopCount(); ++pass) {
-        AWnd* next = root->getNextTabStop(from, backwards, nullptr);
+        const WndRef next = root->getNextTabStop(from, backwards, nullptr);
         if (!next) {
             setMousePosOnWnd(root, jump);
             continue;
         }
+        // A table of cells that is the only stop keeps the pointer, and the key goes on to it.
+        if (next == from && isOfType(next, AWnd::WND_LISTBOX) &&
+            static_cast<AListBox*>(next.get())->getCellHighlight())
+            return 0;
         if (isOfType(from, AWnd::WND_EDITBOX) && from == getMouseCaptureWnd(0))
             setMouseCaptureWnd(nullptr); // leaving an edit box ends the typing
         if (setMousePosOnWnd(next, jump))

@@ -1,5 +1,6 @@
 // Statements that set something on any window. Flags count by their lowest bit, which the setters see to.
 
+#include "tgx/controls/listbox/listbox.h"
 #include "tgx/script/run.h"
 #include "tgx/script/statements.h"
 #include "tgx/wnd/tabstops.h"
@@ -20,6 +21,23 @@ bool appendWnds(AWnd& target, const ScriptLine& line, WndList ATabStopInfo::*lis
 }
 
 } // namespace
+
+bool justificationOf(const TOKEN_INFO& token, AWnd::E_TEXTJUSTIFY& justify)
+{
+    switch (token.id) {
+    case keyword::left:
+        justify = AWnd::TJ_LEFT;
+        return true;
+    case keyword::centre:
+        justify = AWnd::TJ_CENTRE;
+        return true;
+    case keyword::right:
+        justify = AWnd::TJ_RIGHT;
+        return true;
+    default:
+        return false;
+    }
+}
 
 void bmpFile(AWnd& target, const ScriptLine& line)
 {
@@ -65,6 +83,8 @@ void bmpBlitMode(AWnd& target, const ScriptLine& line)
 void border(AWnd& target, const ScriptLine& line)
 {
     target.setBorder(line.text(1), line.number(2), line.number(3));
+    if (line.count == 5 && target.getWindowType() == AWnd::WND_LISTBOX)
+        static_cast<AListBox&>(target).setHotBorder(line.text(4), line.number(2), line.number(3));
 }
 
 void easyClose(AWnd& target, const ScriptLine& line)
@@ -89,19 +109,9 @@ bool font(AWnd& target, const ScriptLine& line)
 // A word, read by its id; anything else there changes nothing and is no error.
 void justify(AWnd& target, const ScriptLine& line)
 {
-    switch (line.tokens[1].id) {
-    case keyword::left:
-        target.setTextJustify(AWnd::TJ_LEFT);
-        break;
-    case keyword::centre:
-        target.setTextJustify(AWnd::TJ_CENTRE);
-        break;
-    case keyword::right:
-        target.setTextJustify(AWnd::TJ_RIGHT);
-        break;
-    default:
-        break;
-    }
+    AWnd::E_TEXTJUSTIFY chosen;
+    if (justificationOf(line.tokens[1], chosen))
+        target.setTextJustify(chosen);
 }
 
 bool tabList1(AWnd& target, const ScriptLine& line)

@@ -1,10 +1,12 @@
-// Statements that make buttons, tab controls, edit boxes and scroll bars, and those that set a button's
-// attributes. The forms that several share stand first.
+// Statements that make buttons, combo boxes, tab controls, edit boxes and scroll bars, and those that set
+// attributes of buttons and combo boxes. The forms that several share stand first.
 
+#include "tgx/controls/combobox.h"
 #include "tgx/controls/editbox.h"
 #include "tgx/controls/radiobutton.h"
 #include "tgx/controls/scrollbar.h"
 #include "tgx/controls/tabcontrol.h"
+#include "tgx/script/run.h"
 #include "tgx/script/statements.h"
 
 namespace {
@@ -109,17 +111,22 @@ AWnd* radioState(AWnd& target, const ScriptLine& line)
 AWnd* radioButton(AWnd& target, const ScriptLine& line)
 {
     const int others = lastRadioButtons(target, ARadioButton::maxScriptMembers);
+    line.run.countLinked(others);
     if (others >= ARadioButton::maxScriptMembers)
         return nullptr;
     const int place = target.getWindowCount();
     auto* made = makeControl<ARadioButton>(line);
     target.addChildWindow(made);
     applyButtonForm(*made, line);
-    made->addLinkedButton(made);
+    made->linkNewMember(*made);
     for (int i = place - 1; i >= place - others; --i) {
         auto* member = static_cast<ARadioButton*>(target.getWndFromIndex(i, ""));
-        made->addLinkedButton(member);
-        member->addLinkedButton(made);
+        if (member->getPointerCount() == 0) {
+            made->linkNewMember(*member);
+        } else { // it may stand here a second time
+            made->addLinkedButton(member);
+            member->addLinkedButton(made);
+        }
     }
     return made;
 }
@@ -171,4 +178,47 @@ void buttonTextShift(AButton& target, const ScriptLine& line)
 void buttonCheck(AButton& target, const ScriptLine& line)
 {
     target.setCheckBox(line.number(1));
+}
+
+AWnd* comboBox(AWnd& target, const ScriptLine& line)
+{
+    auto* made = makeControl<AComboBox>(line);
+    target.addChildWindow(made);
+    applyButtonForm(*made, line);
+    return made;
+}
+
+AWnd* comboMenu(AWnd& target, const ScriptLine& line)
+{
+    auto* menu =
+        new AFloatingMenu("ComboMenu", line.number(1), line.number(2), line.number(3), line.number(4));
+    target.addChildWindow(menu);
+    menu->setBmpFilename(line.text(5), -1, -1);
+    menu->setVisible(0);
+    return menu;
+}
+
+AWnd* comboNext(AWnd& target, const ScriptLine& line)
+{
+    return stateButton("ComboNext", target, line);
+}
+
+AWnd* comboPrev(AWnd& target, const ScriptLine& line)
+{
+    return stateButton("ComboPrev", target, line);
+}
+
+void comboBelow(AComboBox& target, const ScriptLine& line)
+{
+    target.setMenuBelow(line.number(1));
+}
+
+void comboDrops(AComboBox& target, const ScriptLine& line)
+{
+    target.setMenuAllowed(line.number(1));
+}
+
+void comboWrap(AComboBox& target, const ScriptLine& line)
+{
+    target.setWrapItems(line.number(1));
 }

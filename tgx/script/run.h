@@ -80,6 +80,8 @@ public:
     bool isOver() const { return reported; }
     /// Bytes of a line that was read.
     void countBytes(unsigned bytes) { workLeft -= bytes; }
+    /// Radio buttons that a new one comes to know, and they it.
+    void countLinked(int members) { workLeft -= members * linkedMember; }
 
     bool canReadDeeper() const { return readsRunning <= limits::readDepth; } // the outermost one is in none
     bool canCallDeeper() const { return static_cast<int>(running.size()) < limits::subroutineDepth; }
@@ -117,6 +119,7 @@ private:
     static constexpr long long openedName = 20'000; // finding a file on the disk, or that there is none
     static constexpr long long openedByte = 8;      // the bytes stay in memory until the run ends
     static constexpr long long indexedWindow = 32;
+    static constexpr long long linkedMember = 32 * openedByte; // four pointers, which stay
 
     struct Places {
         long times = 1;  // how often the window is shown

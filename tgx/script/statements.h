@@ -1,6 +1,7 @@
 #pragma once
 
-#include "tgx/controls/button.h"
+#include "tgx/controls/combobox.h"
+#include "tgx/controls/graph.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/script/vocabulary.h"
 
@@ -95,8 +96,10 @@ void wndPos(AWnd& target, const ScriptLine& line);
 // Forms that statements of several families share: what stands behind id and box.
 void applyTextForm(AWnd& wnd, const ScriptLine& line);
 void applyBarForm(AWnd& bar, const ScriptLine& line);
+/// Whether token is one of the words for it.
+bool justificationOf(const TOKEN_INFO& token, AWnd::E_TEXTJUSTIFY& justify);
 
-// Buttons, tabs, edit boxes and scroll bars (buttons.cpp).
+// Buttons, combo boxes, tabs, edit boxes and scroll bars (buttons.cpp).
 AWnd* button(AWnd& target, const ScriptLine& line);
 AWnd* checkBox(AWnd& target, const ScriptLine& line);
 AWnd* checkBoxState(AWnd& target, const ScriptLine& line);
@@ -106,8 +109,40 @@ AWnd* radioButton(AWnd& target, const ScriptLine& line);
 AWnd* radioState(AWnd& target, const ScriptLine& line);
 AWnd* tabControl(AWnd& target, const ScriptLine& line);
 AWnd* vScrollBar(AWnd& target, const ScriptLine& line);
+AWnd* comboBox(AWnd& target, const ScriptLine& line);
+AWnd* comboMenu(AWnd& target, const ScriptLine& line);
+AWnd* comboNext(AWnd& target, const ScriptLine& line);
+AWnd* comboPrev(AWnd& target, const ScriptLine& line);
+void comboBelow(AComboBox& target, const ScriptLine& line);
+void comboDrops(AComboBox& target, const ScriptLine& line);
+void comboWrap(AComboBox& target, const ScriptLine& line);
 void buttonCheck(AButton& target, const ScriptLine& line);
 void buttonFps(AButton& target, const ScriptLine& line);
 void buttonFrames(AButton& target, const ScriptLine& line);
 void buttonLoop(AButton& target, const ScriptLine& line);
 void buttonTextShift(AButton& target, const ScriptLine& line);
+
+// Progress bars, vidiprinters and graphs (displays.cpp).
+AWnd* barGraph(AWnd& target, const ScriptLine& line);
+AWnd* graphWnd(AWnd& target, const ScriptLine& line);
+AWnd* lineGraph(AWnd& target, const ScriptLine& line);
+AWnd* progressBar(AWnd& target, const ScriptLine& line);
+AWnd* vidiPrinter(AWnd& target, const ScriptLine& line);
+AWnd* vProgressBar(AWnd& target, const ScriptLine& line);
+void graphInfo(AGraph& target, const ScriptLine& line);
+
+// List boxes, keyboards, and the items of combo boxes (lists.cpp).
+AWnd* keyboard(AWnd& target, const ScriptLine& line);
+AWnd* listBox(AWnd& target, const ScriptLine& line);
+bool item(AWnd& target, const ScriptLine& line);
+void columns(AListBox& list, const ScriptLine& line);
+void listFixedColumns(AListBox& list, const ScriptLine& line);
+void listFixedRows(AListBox& list, const ScriptLine& line);
+void listFonts(AListBox& list, const ScriptLine& line);
+void listHighlight(AListBox& list, const ScriptLine& line);
+void listIcons(AListBox& list, const ScriptLine& line);
+void listLook(AListBox& list, const ScriptLine& line);
+void listOptions(AListBox& list, const ScriptLine& line);
+void scrollBarInfo(AListBox& list, const ScriptLine& line);
+void titleBmp(AListBox& list, const ScriptLine& line);
+void titles(AListBox& list, const ScriptLine& line);

@@ -52,13 +52,18 @@ void ABorder::draw(int x, int y, int width, int height)
     put(BottomRight, skipX, skipY, x + width - w, y + height - h, w, h);
 }
 
-ABorder* AWnd::setBorder(const CString& name, int borderWidth, int pieceSize)
+std::unique_ptr<ABorder> ABorder::load(const CString& file, int borderWidth, int pieceSize)
 {
     surface* strip = nullptr;
     if (AMainWin* main = getMainWin())
-        strip = main->createsprite(name, -1, -1, -1);
+        strip = main->createsprite(file, -1, -1, -1);
     if (!strip)
-        MsgBox("cannot load %s", static_cast<const char*>(name));
-    border = std::make_unique<ABorder>(strip, borderWidth, pieceSize);
+        MsgBox("cannot load %s", static_cast<const char*>(file));
+    return std::make_unique<ABorder>(strip, borderWidth, pieceSize);
+}
+
+ABorder* AWnd::setBorder(const CString& name, int borderWidth, int pieceSize)
+{
+    border = ABorder::load(name, borderWidth, pieceSize);
     return border.get();
 }

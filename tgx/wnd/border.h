@@ -1,8 +1,10 @@
 #pragma once
 
+#include "platform/display/surface_ref.h"
+#include "platform/framework/cstring.h"
 #include "tgx/export.h"
 
-class surface;
+#include <memory>
 
 /// A frame along a window's edge, drawn from a strip of eight square pieces with a gap of 1 pixel: clockwise
 /// from the top left corner. Not owned: the strip stays with the display library.
@@ -14,6 +16,10 @@ public:
     ABorder& operator=(const ABorder&) = default;
     virtual ~ABorder() = default;
 
+    /// One with the strip of that file; a strip that cannot be loaded is reported with "cannot load %s", and
+    /// the border then draws nothing.
+    static std::unique_ptr<ABorder> load(const CString& file, int borderWidth, int pieceSize);
+
     int getBorderWidth() const { return borderWidth; }
     int getPieceSize() const { return pieceSize; }
     surface* getBorderBmp() const { return borderBmp; }
@@ -22,6 +28,6 @@ public:
 
 protected:
     short borderWidth;
-    surface* borderBmp;
+    SurfaceRef borderBmp;
     short pieceSize;
 };

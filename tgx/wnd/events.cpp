@@ -88,6 +88,7 @@ int AWnd::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOU
     if (!isVisible(1))
         return 0;
 
+    const ActionRefs handling(this, wnd);
     int result = 0;
     const AMainWin* main = getMainWin();
     const bool esc = main && main->keyCode == VK_ESCAPE;
@@ -96,16 +97,16 @@ int AWnd::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOU
             if (AWnd* hit = getWndAtPos(x, y, 0))
                 result = hit->handleMouseAction(about, wnd, x, y, action);
     } else {
-        for (int i = 0; i < children.GetSize(); ++i)
+        for (int i = 0; handling.mayGoOn() && i < children.GetSize(); ++i)
             if (AWnd* next = child(i))
                 next->handleMouseAction(about, wnd, x, y, action);
         // Asked again: a handler may have taken the key, or changed it.
-        if (main && main->keyCode == VK_ESCAPE)
+        if (handling.isHandlerAlive() && main && main->keyCode == VK_ESCAPE)
             putPointerOnCancel();
     }
 
-    // The handling may have hidden or disabled what it went through.
-    return isEnabled() ? result : 0;
+    // The handling may have hidden, disabled or deleted what it went through.
+    return handling.isHandlerAlive() && isEnabled() ? result : 0;
 }
 
 void AWnd::putPointerOnCancel()
@@ -126,17 +127,19 @@ void AWnd::putPointerOnCancel()
 
 int AWnd::handleKeyInput(char key)
 {
-    for (int i = 0; i < children.GetSize(); ++i)
+    const WndRef self = this; // what the key does may delete the window
+    for (int i = 0; self && i < children.GetSize(); ++i)
         if (AWnd* next = child(i))
             next->handleKeyInput(key);
-    return handleMouseAction(id, this, -1, -1, MA_KEY);
+    return self ? handleMouseAction(id, this, -1, -1, MA_KEY) : 0;
 }
 
 int AWnd::handlePopupAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
+    const WndRef self = this; // what the report does may delete the window
     if (AWnd* holder = getParent())
         holder->handlePopupAction(about, wnd, x, y, action);
-    if (action == MA_LBUTTONUP && closesPopup(about.view()) && getPopupWnd())
+    if (self && action == MA_LBUTTONUP && closesPopup(about.view()) && getPopupWnd())
         getMainWin()->deletePopupWnd();
     return 0;
 }

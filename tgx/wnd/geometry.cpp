@@ -3,6 +3,7 @@
 #include "tgx/wnd/wnd.h"
 
 std::uint64_t LayoutVersion::value = 1;
+std::uint64_t TreeVersion::value = 1;
 
 const Layout& AWnd::refreshedLayout() const
 {
@@ -93,12 +94,19 @@ AWnd* AWnd::getWndAtPos(int x, int y, int recursive)
 {
     for (int i = children.GetSize() - 1; i >= 0; --i) {
         AWnd* candidate = child(i);
-        if (!candidate || !candidate->layout().visible || !candidate->pointInside(x, y))
+        if (!candidate)
+            continue;
+        const Layout& at = candidate->layout();
+        if (x < at.left || y < at.top || !at.visible)
+            continue;
+        const bool scaled = candidate->anim != nullptr;
+        if (x > at.left + (scaled ? candidate->width() : candidate->wndWidth) ||
+            y > at.top + (scaled ? candidate->height() : candidate->wndHeight))
             continue;
         if (recursive && candidate->children.GetSize() > 0)
             if (AWnd* deeper = candidate->getWndAtPos(x, y, recursive))
                 return deeper;
-        if (candidate->layout().enabled)
+        if (at.enabled)
             return candidate;
     }
     return nullptr;
@@ -111,7 +119,10 @@ int AWnd::isVisible(int withParents) const
 
 void AWnd::setVisible(int show)
 {
-    visible = show > 0;
+    const bool wanted = show > 0;
+    if (visible == wanted)
+        return; // what is kept of all windows stays good
+    visible = wanted;
     LayoutVersion::bump();
 }
 
@@ -122,6 +133,9 @@ int AWnd::isEnabled() const
 
 void AWnd::setEnabled(int set)
 {
-    enabled = set & 1;
+    const bool wanted = (set & 1) != 0;
+    if (enabled == wanted)
+        return;
+    enabled = wanted;
     LayoutVersion::bump();
 }

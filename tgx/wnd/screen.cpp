@@ -1,5 +1,6 @@
 #include "tgx/wnd/screen.h"
 
+#include "tgx/controls/listbox/listbox.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/reserved.h"
 
@@ -57,14 +58,20 @@ void AScreen::exitScreen()
 
 int AScreen::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
+    const ActionRefs handling(this, wnd);
     AWnd::handleMouseAction(about, wnd, x, y, action);
 
-    const AWnd* closeButton = getWnd("TGX_CLOSE", 1);
+    if (!handling.isHandlerAlive())
+        return 0;
+    if (closeSearchedIn != TreeVersion::get()) {
+        closeButton = getWnd("TGX_CLOSE", 1);
+        closeSearchedIn = TreeVersion::get();
+    }
     if (closeButton && !closeButton->isEnabled())
         canExit = 0;
     if (action != MA_LBUTTONUP && action != MA_RBUTTONUP)
         return 0;
-    if (!wnd)
+    if (!wnd || !handling.isSubjectAlive())
         return 0;
     if (wnd->getID() == id)
         deselectOwnListBoxes();
@@ -74,6 +81,10 @@ int AScreen::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_
     return 1;
 }
 
-/// A click on the screen's own background clears the list boxes that lie directly on it, not those deeper
-/// down. There are none yet.
-void AScreen::deselectOwnListBoxes() {}
+/// Those that lie directly on the screen, not those deeper down.
+void AScreen::deselectOwnListBoxes()
+{
+    for (AWnd* child : children)
+        if (child)
+            AListBox::deselect(*child);
+}

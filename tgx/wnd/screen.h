@@ -41,4 +41,7 @@ protected:
 
 private:
     void deselectOwnListBoxes();
+
+    WndRef closeButton; // the first window "TGX_CLOSE" below, as of that version of the tree
+    std::uint64_t closeSearchedIn = 0;
 };

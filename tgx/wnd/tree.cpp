@@ -1,6 +1,7 @@
 #include "platform/display/ddwin.h"
 #include "tgx/base/fixed.h"
 #include "tgx/controls/button.h"
+#include "tgx/controls/listbox/listbox.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/border.h"
 #include "tgx/wnd/links.h"
@@ -61,6 +62,7 @@ AWnd::~AWnd()
     while (refs)
         refs->detach();
     LayoutVersion::bump();
+    TreeVersion::bump();
 }
 
 AWnd::Links& AWnd::getLinks()
@@ -77,9 +79,17 @@ bool AWnd::lists(const AWnd* wnd) const
 
 void AWnd::unlist(AWnd* listed)
 {
+    TreeVersion::bump();
     for (int i = children.GetSize() - 1; i >= 0; --i)
         if (child(i) == listed)
             children.RemoveAt(i);
+    // Below the root they keep their numbers: it remembers the active screen's.
+    const AMainWin* main = getMainWin();
+    if (main && main->getScreenList() == this)
+        return;
+    for (int i = 0; i < children.GetSize(); ++i)
+        if (child(i) && child(i)->parent == this)
+            child(i)->windowIndex = to16(i);
 }
 
 void AWnd::inheritFont()
@@ -103,6 +113,7 @@ AWnd* AWnd::addChildWindow(AWnd* added)
         added->owner = this;
     }
     LayoutVersion::bump();
+    TreeVersion::bump();
     return added;
 }
 
@@ -135,6 +146,7 @@ void AWnd::setOwner(AWnd* newOwner)
 void AWnd::setID(const CString& newId)
 {
     id = newId;
+    TreeVersion::bump();
 }
 
 int AWnd::isPointer() const
@@ -170,7 +182,7 @@ AButton* AWnd::getButton(const CString& name, int recursive)
 
 AListBox* AWnd::getListBox(const CString& name, int recursive)
 {
-    return reinterpret_cast<AListBox*>(getWnd(name, recursive));
+    return static_cast<AListBox*>(getWnd(name, recursive));
 }
 
 AWnd* AWnd::getWndFromIndex(int index, const CString& parentId)
@@ -221,12 +233,15 @@ void AWnd::showAllControls(int show)
             control->setVisible(show);
 }
 
-// No window is a list box yet: the walk finds none.
 void AWnd::deselectAllListBoxes(AWnd* except)
 {
-    for (AWnd* wnd : children)
-        if (wnd)
-            wnd->deselectAllListBoxes(except);
+    for (AWnd* wnd : children) {
+        if (!wnd)
+            continue;
+        if (wnd != except)
+            AListBox::deselect(*wnd);
+        wnd->deselectAllListBoxes(except);
+    }
 }
 
 void AWnd::setSavedMousePos(int x, int y)

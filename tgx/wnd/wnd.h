@@ -399,3 +399,25 @@ private:
     WndRef* refs = nullptr; // first of the refs that point here
     std::unique_ptr<Links> links;
 };
+
+inline void WndRef::attach(AWnd* target)
+{
+    wnd = target;
+    if (!target)
+        return;
+    next = target->refs;
+    if (next)
+        next->link = &next;
+    link = &target->refs;
+    target->refs = this;
+}
+
+inline void WndRef::detach()
+{
+    if (!wnd)
+        return;
+    *link = next;
+    if (next)
+        next->link = link;
+    wnd = nullptr;
+}

@@ -5,37 +5,21 @@
 #include "tgx/wnd/wnd.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
-void forget(std::vector<WndList*>& lists, WndList* list)
+/// Takes the last place of value out of values. Who comes last often goes first, so the search begins at the
+/// back.
+template<class T>
+void eraseLast(std::vector<T*>& values, const T* value)
 {
-    lists.erase(std::remove(lists.begin(), lists.end(), list), lists.end());
+    const auto found = std::find(values.rbegin(), values.rend(), value);
+    if (found != values.rend())
+        values.erase(std::next(found).base());
 }
 
 } // namespace
-
-void WndRef::attach(AWnd* target)
-{
-    wnd = target;
-    if (!target)
-        return;
-    next = target->refs;
-    if (next)
-        next->link = &next;
-    link = &target->refs;
-    target->refs = this;
-}
-
-void WndRef::detach()
-{
-    if (!wnd)
-        return;
-    *link = next;
-    if (next)
-        next->link = link;
-    wnd = nullptr;
-}
 
 AWnd* WndList::GetAt(int index) const
 {
@@ -48,29 +32,45 @@ void WndList::InsertAt(int index, AWnd* wnd)
 {
     if (!wnd || index < 0 || index > GetSize())
         AfxThrowInvalidArgException();
-    if (!contains(wnd))
-        wnd->getLinks().lists.push_back(this);
+    auto& lists = wnd->getLinks().lists;
+    const bool isDouble = lists.size() < entries.size()
+                              ? std::find(lists.begin(), lists.end(), this) != lists.end()
+                              : contains(wnd);
+    if (!isDouble)
+        lists.push_back(this);
+    hasDoubles = hasDoubles || isDouble;
     entries.insert(entries.begin() + index, wnd);
+}
+
+int WndList::addNew(AWnd* wnd)
+{
+    wnd->getLinks().lists.push_back(this);
+    entries.push_back(wnd);
+    return GetSize() - 1;
 }
 
 void WndList::RemoveAt(int index)
 {
     AWnd* wnd = GetAt(index);
     entries.erase(entries.begin() + index);
-    if (!contains(wnd))
-        forget(wnd->getLinks().lists, this);
+    if (!hasDoubles || !contains(wnd))
+        eraseLast<WndList>(wnd->getLinks().lists, this);
 }
 
 void WndList::RemoveAll()
 {
     for (AWnd* wnd : entries)
-        forget(wnd->getLinks().lists, this);
+        eraseLast<WndList>(wnd->getLinks().lists, this);
     entries.clear();
+    hasDoubles = false;
 }
 
 void WndList::drop(const AWnd* wnd)
 {
-    entries.erase(std::remove(entries.begin(), entries.end(), wnd), entries.end());
+    if (hasDoubles)
+        entries.erase(std::remove(entries.begin(), entries.end(), wnd), entries.end());
+    else
+        eraseLast<AWnd>(entries, wnd);
 }
 
 bool WndList::contains(const AWnd* wnd) const

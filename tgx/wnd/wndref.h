@@ -8,7 +8,7 @@ class AWnd;
 
 /// A pointer to a window that owns nothing and empties itself when the window is deleted. Three words and no
 /// allocation: the refs to one window are linked through themselves.
-class TGX_API WndRef {
+class WndRef {
 public:
     WndRef() = default;
     WndRef(AWnd* target) { attach(target); }
@@ -30,12 +30,35 @@ public:
 
 private:
     friend class AWnd;
-    void attach(AWnd* target);
-    void detach();
+    inline void attach(AWnd* target);
+    inline void detach();
 
     AWnd* wnd = nullptr;
     WndRef* next = nullptr;
     WndRef** link = nullptr; // what points at this ref
+};
+
+/// The window that handles an action and the one that the action is about, across calls that may delete
+/// either:
+///
+///     const ActionRefs handling(this, wnd);
+///     AWnd::handleMouseAction(about, wnd, x, y, action);
+///     if (!handling.mayGoOn())
+///         return 0;
+class ActionRefs {
+public:
+    /// A null subject is none: the action is for all.
+    ActionRefs(AWnd* handlingWnd, AWnd* aboutWnd)
+        : handler(handlingWnd), subject(aboutWnd), isForAll(aboutWnd == nullptr)
+    {}
+    bool isHandlerAlive() const { return handler.get() != nullptr; }
+    bool isSubjectAlive() const { return isForAll || subject.get() != nullptr; }
+    bool mayGoOn() const { return isHandlerAlive() && isSubjectAlive(); }
+
+private:
+    const WndRef handler;
+    const WndRef subject;
+    const bool isForAll;
 };
 
 /// A list of windows that owns none of them. A window that is deleted drops out of it wherever it stands.
@@ -56,6 +79,8 @@ public:
         InsertAt(GetSize(), wnd);
         return GetSize() - 1;
     }
+    /// Add for a window that the list does not hold: saves the search for it.
+    int addNew(AWnd* wnd);
     void InsertAt(int index, AWnd* wnd);
     void RemoveAt(int index);
     void RemoveAll();
@@ -68,4 +93,5 @@ private:
     void drop(const AWnd* wnd); // a window that is deleted, from all its places
 
     std::vector<AWnd*> entries;
+    bool hasDoubles = false; // a window may stand in several places
 };

@@ -1,40 +1,144 @@
 #include "tools/tgx/commands.h"
+#include "tools/tgx/emit.h"
 #include "tools/tgx/files.h"
-#include "tools/tgx/script_text.h"
+#include "tools/tgx/print.h"
+#include "tools/tgx/terminal.h"
+#include "tools/tgx/watch.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <ctime>
 #include <filesystem>
 #include <memory>
+#include <thread>
 
 namespace {
+
+constexpr int wrongCall = 2;
+constexpr int wrongInput = 1;
+constexpr std::chrono::milliseconds watchInterval(200);
 
 struct BuildOptions {
     std::string input;
     std::string output;
+    std::string map;
+    std::string depfile;
+    bool isWatching = false;
 };
 
-/// Exit status.
-int build(const BuildOptions& options)
+int refuse(const std::string& why)
 {
-    std::string output = options.output;
-    if (output.empty())
-        output = options.input == "-"
-                     ? "-"
-                     : std::filesystem::path(options.input).replace_extension(".tgx").string();
-    if (output != "-" && output == options.input) {
-        std::cerr << "tgx build: " << output
-                  << " would be overwritten by its own output; name another with -o\n";
-        return 2;
-    }
+    std::cerr << "tgx build: " << why << '\n';
+    return wrongCall;
+}
+
+/// Also for files that are not there yet.
+bool isSameFile(const std::string& a, const std::string& b)
+{
+    std::error_code none;
+    return !a.empty() &&
+           (a == b || std::filesystem::equivalent(a, b, none) ||
+            std::filesystem::weakly_canonical(a, none) == std::filesystem::weakly_canonical(b, none));
+}
+
+/// What one build came to, for the line that tells of it.
+struct Outcome {
+    int status = 0;
+    std::string summary;
+};
+
+std::string counted(std::ptrdiff_t count, const char* what)
+{
+    return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
+}
+
+Outcome buildOnce(const BuildOptions& options, script_text::WatchedFiles& watched)
+{
     const std::optional<std::string> text = readInput(options.input);
     if (!text)
-        return 1;
-    const script_text::Assembled assembled = script_text::assemble(*text);
-    const std::string name = options.input == "-" ? "stdin" : options.input;
-    for (const script_text::Diagnostic& each : assembled.diagnostics)
-        std::cerr << script_text::describe(name, each) << '\n';
-    return !assembled.hasErrors() && writeOutput(output, assembled.bytes) ? 0 : 1;
+        return {wrongInput, "cannot be read"};
+    const auto read = [&](const std::string& path, std::string& reason) {
+        watched.add(path); // before it is read: a change on the way is not missed
+        return readIncluded(path, reason);
+    };
+    const script_text::ParsedScript script =
+        script_text::parse(options.input == "-" ? "stdin" : options.input, *text, read);
+    for (const script_text::Diagnostic& each : script.diagnostics)
+        std::cerr << script_text::describe(each, colourFor(stderr));
+    for (const std::string& source : script.included)
+        for (const std::string* target : {&options.output, &options.map, &options.depfile})
+            if (isSameFile(source, *target))
+                return {refuse(*target + " is included and would be overwritten"), "not built"};
+    if (script.hasErrors()) {
+        const auto errors = std::count_if(script.diagnostics.begin(), script.diagnostics.end(),
+                                          [](const script_text::Diagnostic& each) {
+                                              return each.severity == script_text::Diagnostic::Error;
+                                          });
+        return {wrongInput, counted(errors, "error") + ", " + options.output + " is left as it was"};
+    }
+    const script_text::Emitted emitted = script_text::emit(script);
+    const bool isWritten =
+        writeOutput(options.output, emitted.bytes) &&
+        (options.map.empty() || writeOutput(options.map, script_text::sideMap(script, emitted))) &&
+        (options.depfile.empty() ||
+         writeOutput(options.depfile, script_text::dependencies(options.output, options.input, script)));
+    if (!isWritten)
+        return {wrongInput, "not written"};
+    return {0, counted(static_cast<std::ptrdiff_t>(emitted.bytes.size()), "byte") + " in " + options.output};
+}
+
+volatile std::sig_atomic_t isInterrupted = 0;
+
+/// Until Ctrl-C.
+int watch(const BuildOptions& options)
+{
+    for (int each : {SIGINT, SIGTERM})
+        std::signal(each, [](int) { isInterrupted = 1; });
+    while (!isInterrupted) {
+        script_text::WatchedFiles watched({options.input});
+        const Outcome outcome = buildOnce(options, watched);
+        if (outcome.status == wrongCall)
+            return wrongCall;
+        const std::time_t now = std::time(nullptr);
+        char clock[16];
+        std::strftime(clock, sizeof clock, "%H:%M:%S", std::localtime(&now));
+        std::cerr << clock << ' ' << options.input << ": " << outcome.summary << '\n';
+        while (!isInterrupted && !watched.haveChanged())
+            std::this_thread::sleep_for(watchInterval);
+    }
+    return 0;
+}
+
+/// Exit status.
+int build(BuildOptions options)
+{
+    if (options.output.empty())
+        options.output = options.input == "-"
+                             ? "-"
+                             : std::filesystem::path(options.input).replace_extension(".tgx").string();
+    std::vector<std::string> files{options.input};
+    for (const std::string& target : {options.output, options.map, options.depfile}) {
+        if (target.empty() || (target == "-" && files.size() == 1)) // stdin is no target
+            continue;
+        for (const std::string& other : files)
+            if (isSameFile(target, other))
+                return refuse(other == options.input
+                                  ? target + " would be overwritten by its own output; name another with -o"
+                                  : "two outputs go to " + target);
+        files.push_back(target);
+    }
+    if (!options.depfile.empty() && options.output == "-")
+        return refuse("--depfile names the output; give it a name with -o");
+    if (!options.isWatching) {
+        script_text::WatchedFiles none({});
+        return buildOnce(options, none).status;
+    }
+    if (options.input == "-" || options.output == "-" || options.map == "-" || options.depfile == "-")
+        return refuse("--watch takes files only, not stdin or stdout");
+    return watch(options);
 }
 
 } // namespace
@@ -50,12 +154,19 @@ void addBuild(CLI::App& app)
         ->add_option("-o,--output", options->output,
                      "Compiled script; - for stdout. IN with the ending .tgx if not given")
         ->type_name("OUT.tgx");
-    command->footer(
-        std::string(
-            "Example: tgx build menu.tgs -o game/UIG/menu.tgx\n\n"
-            "All errors are reported, and nothing is written when there is one. A warning tells of a line\n"
-            "that can be built and that the toolkit will refuse or read otherwise.\n\n") +
-        script_text::notation);
+    command
+        ->add_option("--map", options->map,
+                     "Write where each line of the compiled script comes from: OFFSET LINE FILE, a line each")
+        ->type_name("FILE");
+    command
+        ->add_option("--depfile", options->depfile,
+                     "Write what the output depends on, as a rule that make and ninja read")
+        ->type_name("FILE");
+    command->add_flag("--watch", options->isWatching,
+                      "Build again whenever the script or what it includes changes, until Ctrl-C");
+    command->footer(std::string("Example: tgx build menu.tgs -o game/UIG/menu.tgx\n\n"
+                                "All errors are reported, and nothing is written when there is one.\n\n") +
+                    script_text::notation);
     command->callback([options] {
         if (const int status = build(*options))
             throw CLI::RuntimeError(status);

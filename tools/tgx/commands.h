@@ -9,3 +9,5 @@ class App;
 void addBuild(CLI::App& app);
 void addDump(CLI::App& app);
 void addPlay(CLI::App& app);
+void addTest(CLI::App& app);
+void addReference(CLI::App& app); // hidden: the build of this repository asks for it

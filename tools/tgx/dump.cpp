@@ -1,6 +1,6 @@
 #include "tools/tgx/commands.h"
 #include "tools/tgx/files.h"
-#include "tools/tgx/script_text.h"
+#include "tools/tgx/print.h"
 
 #include <CLI/CLI.hpp>
 

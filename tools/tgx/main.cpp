@@ -15,6 +15,8 @@ int main(int argc, char** argv)
     addBuild(app);
     addDump(app);
     addPlay(app);
+    addTest(app);
+    addReference(app);
 
     try {
         app.parse(argc, argv);

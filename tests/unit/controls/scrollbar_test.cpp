@@ -14,6 +14,7 @@ protected:
               "  VSCROLLBAR \"V\" 100 100 20 200 \"bar.bmp\" 20 20\n"
               "  HSCROLLBAR \"H\" 200 100 210 20 \"bar.bmp\" 20 20\n"
               "  HSCROLLBAR \"BARE\" 200 200 210 16 \"\" 0 0\n"
+              "  VSCROLLBAR \"BAREV\" 500 100 16 200 \"\" 20 24\n"
               "  HSCROLLBAR \"SHORT\" 200 300 60 20 \"bar.bmp\" 20 20\n"
               "END\n");
         play("frame 6");
@@ -78,6 +79,18 @@ TEST_F(ScrollBarTest, BesideTheLeverNothingHappensOutsideAList)
     EXPECT_EQ(bar("V")->getLeverHeld(), 1) << "the lever begins where the first button ends, and comes first";
 }
 
+TEST_F(ScrollBarTest, ABarThatIsHiddenWhileItIsHeldLetsGo)
+{
+    play("move 110 130", "press left", "tick");
+    EXPECT_EQ(win().getMouseCaptureWnd(0), wnd("V"));
+    wnd("V")->setVisible(0);
+    play("tick");
+    EXPECT_EQ(win().getMouseCaptureWndCount(), 0);
+    EXPECT_EQ(bar("V")->getLeverHeld(), 0);
+    play("release left", "tick", "move 398 110", "press left", "tick");
+    EXPECT_EQ(percent("H"), 4096) << "the input goes where it belongs";
+}
+
 TEST_F(ScrollBarTest, TheValueIsHeld)
 {
     bar("V")->setPercentage(ZnFixed::fromInt(500));
@@ -105,6 +118,19 @@ TEST_F(ScrollBarTest, WithoutABitmapTheLeverIsOutlined)
     // No frame size: the lever is as long as the bar is thick, and its centre runs over the whole bar.
     bar("BARE")->setPercentage(ZnFixed::fromInt(50));
     EXPECT_EQ(drawn("BARE"), (Trace{outline(297, 200, 313, 216, "#ffffff")}));
+    bar("BAREV")->setPercentage(ZnFixed::fromInt(50));
+    EXPECT_EQ(drawn("BAREV"), (Trace{outline(500, 188, 516, 212, "#ffffff")})) << "as long as its frames";
+}
+
+TEST_F(ScrollBarTest, FramesWithoutASizeGiveNoTrough)
+{
+    bar("V")->setBmpInfo(0, 0, 1, 1);
+    play("draw"); // comes to an end
+    const auto drawnNow = drawn("V").operations("blit");
+    EXPECT_EQ(drawnNow, (Trace{blit("bar.bmp").from(0, 0, 0, 0).to(100, 100, 20, 200),
+                               blit("bar.bmp").from(0, 0).to(100, 100, 0, 0).mode(-1),
+                               blit("bar.bmp").from(2, 0).to(100, 300, 0, 0).mode(-1),
+                               blit("bar.bmp").from(5, 0).to(100, 100, 0, 0).mode(-1)}));
 }
 
 } // namespace

@@ -189,6 +189,26 @@ TEST_F(Input, whatGrowsStaleIsDroppedAndTheRestKeepsItsPlace)
         << "the double click of the right button has no word of its own";
 }
 
+TEST_F(Input, thePointerStaysWhereItWasPut)
+{
+    const auto queueUp = [this] {
+        queue().move(1, 1);
+        queue().holdInTurn(VK_SHIFT, true);
+        queue().move(2, 2);
+        queue().key('A', 'a');
+        queue().move(3, 3);
+        queue().press(MouseButton::Left);
+    };
+    queueUp();
+    queue().dropMovesAtHead();
+    EXPECT_EQ(run(2), (Seen{"shift key A=a", "at 3,3 down1 shift"}))
+        << "what a later press was aimed at stays";
+    queue().dropMovesAtHead();
+    queue().move(5, 5);
+    queue().dropMovesAtHead();
+    EXPECT_EQ(run(1), (Seen{"down2 shift"}));
+}
+
 TEST_F(Input, positionsPastTheFieldsAreHeld)
 {
     queue().move(100000, -100000);

@@ -47,12 +47,14 @@ TEST_F(EventsTest, ALineThatIsWrongSaysWhy)
         {"moved 1 2", "no event \"moved\"; did you mean move?"},
         {"jump",
          "no event \"jump\"; events are frame, tick, draw, move, press, release, doubleclick, wheel, key, "
-         "type, hold, lift, change, exit, call, shot, tree, trace and fonts"},
+         "type, hold, lift, change, exit, click, hover, row, wait, expect, include, test, call, shot, tree, "
+         "trace and fonts"},
         {"frame 1 2", "expected frame [N], found 2 words behind frame"},
         {"frame \"3\"", "expected a number from 0 to 2147483647, found \"3\""},
         {"frame -1", "expected a number from 0 to 2147483647, found \"-1\""},
         {"frame --1", "expected a number from 0 to 2147483647, found \"--1\""},
-        {"move 5", "expected move X Y, found 1 word behind move"},
+        {"move 5", "expected move X Y or move to ID [X Y], found 1 word behind move"},
+        {"move 5 6 7", "expected move X Y or move to ID [X Y]"},
         {"move 5 32768", "expected a number from -32768 to 32767, found \"32768\""},
         {"press both", "no button \"both\"; buttons are left, right and middle"},
         {"wheel left", "the wheel goes up or down, found \"left\""},

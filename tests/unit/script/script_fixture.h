@@ -78,6 +78,7 @@ protected:
                 onCreate();
             return className == "GAME" ? new AWnd(AWnd::WND_PLAIN, id + "!", x, y, w, h) : nullptr;
         }
+        using AMainWin::scriptWork;
         std::vector<std::string> classNames;
         std::function<void()> onCreate;
     };

@@ -1,0 +1,90 @@
+// S5, a long list: adding rows, and a frame of a list that moves by a row each frame.
+
+#include "bench/measure.h"
+#include "bench/stage.h"
+
+#include "tgx/controls/listbox/listbox.h"
+
+#include <cstdio>
+
+namespace {
+
+constexpr int w = 1024;
+constexpr int h = 768;
+constexpr int columns = 5;
+constexpr int addedRows = 100000;
+
+AListBox* addList(AScreen& screen)
+{
+    auto* list = new AListBox("LIST", 0, 0, w, h);
+    screen.addChildWindow(list);
+    for (int column = 0; column < columns; ++column)
+        list->addColumn(w / columns - 12, AWnd::TJ_LEFT);
+    return list;
+}
+
+void fill(AListBox& list, int rows)
+{
+    for (int row = 0; row < rows; ++row) {
+        list.addItem();
+        for (int column = 0; column < columns; ++column) {
+            char text[24];
+            std::snprintf(text, sizeof text, "row %06d c%d", row, column);
+            list.setItemData(row, column, CString(text));
+        }
+    }
+}
+
+AScreen* addScreen(Stage& stage)
+{
+    stage.files.font();
+    stage.files.picture("UIG/scroll1.bmp", 6 * 17, 26,
+                        [](int x, int) { return 0x404040u + x / 17 * 0x101010; });
+    const int font = stage.window().addNewFont("DejaVuSans.ttf", "", 12, 0);
+    AScreen* screen = stage.addScreen("");
+    screen->setFont(stage.window().getFont(font));
+    return screen;
+}
+
+void add(benchmark::State& state)
+{
+    Stage stage(w, h);
+    AScreen* screen = addScreen(stage);
+    stage.show();
+    std::size_t bytes = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        AListBox* list = addList(*screen);
+        const std::size_t before = heapBytes();
+        state.ResumeTiming();
+        fill(*list, addedRows);
+        state.PauseTiming();
+        bytes = heapBytes() - before;
+        delete list;
+        state.ResumeTiming();
+    }
+    state.counters["bytes_a_cell"] = static_cast<double>(bytes) / (addedRows * columns);
+}
+
+/// Scrolled to the middle and moved by a row each frame, to and fro.
+void frame(benchmark::State& state, int rows)
+{
+    Stage stage(w, h);
+    AListBox* list = addList(*addScreen(stage));
+    fill(*list, rows);
+    stage.show();
+    stage.frame();
+    const int middle = rows / 2 - list->getItemsPerPage() / 2;
+    int moved = 0;
+    timeInCopies(state, [&] {
+        moved = (moved + 1) % 16;
+        list->setFirstVisibleItem(middle + (moved < 8 ? moved : 16 - moved));
+        stage.frame();
+    });
+}
+
+BENCHMARK(add)->Name("S5/add")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(frame, short, 100)->Name("S5/frame/100")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(frame, long, 30000)->Name("S5/frame/30000")->Unit(benchmark::kMicrosecond);
+
+} // namespace

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/export.h"
+#include "platform/online/record.h"
+
+struct LogFileFields {
+    char Buffer[255] = {};
+    NetFlag Logging = 0;
+    NetFlag Date = 0;
+    NetFlag Time = 0;
+};
+
+/// What a connection notes of itself: whether it does at all, and whether with date and time. The stand-in
+/// writes no file. Copies with its buffer.
+class TGX_PLATFORM_API CLogFile : public OnlineRecord<LogFileFields> {
+public:
+    CLogFile() = default;
+    CLogFile(const CLogFile&) = default;
+    CLogFile& operator=(const CLogFile&) = default;
+    virtual ~CLogFile();
+
+    void TurnOnLogging();
+    void TurnOffLogging();
+    void TurnOnDate();
+    void TurnOffDate();
+    void TurnOnTime();
+    void TurnOffTime();
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Whether name leads to a file below the folder that it is used in.
+bool staysBelow(const std::string& name);
+/// Nothing for what cannot be read or is no regular file.
+std::optional<std::string> readWhole(const std::string& path);
+/// Writes beside the file, then renames: whole or not at all. False when it cannot be written.
+bool writeWhole(const std::string& path, std::string_view contents);
+/// Makes the folders above a file. One that cannot be made shows when the file is opened.
+void makeFoldersOf(const std::string& path);

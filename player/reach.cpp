@@ -1,0 +1,252 @@
+#include "player/reach.h"
+
+#include "player/calls.h"
+#include "player/words.h"
+#include "tgx/frame/mainwin.h"
+
+namespace {
+
+bool lists(AWnd& holder, const AWnd& wnd)
+{
+    for (int i = 0; i < holder.getWindowCount(); ++i)
+        if (holder.getWndFromIndex(i, "") == &wnd)
+            return true;
+    return false;
+}
+
+bool isOpenPopup(AMainWin& win, const AWnd& wnd)
+{
+    for (int i = 0; i < win.getPopupWndCount(); ++i)
+        if (win.getPopupWnd(i) == &wnd)
+            return true;
+    return false;
+}
+
+/// The screen, popup or other top-level window that wnd lies in, or wnd itself. An open popup counts as one
+/// wherever it hangs; a window's parent need not list it.
+AWnd& topOf(AMainWin& win, AWnd& wnd)
+{
+    AWnd* top = &wnd;
+    while (!isOpenPopup(win, *top)) {
+        AWnd* parent = top->getParent();
+        if (!parent || parent == win.getScreenList() || !lists(*parent, *top))
+            break;
+        top = parent;
+    }
+    return *top;
+}
+
+bool isInside(const AWnd* wnd, const AWnd& above)
+{
+    for (; wnd; wnd = wnd->getParent())
+        if (wnd == &above)
+            return true;
+    return false;
+}
+
+/// "is hidden", or with whom, for the window that has the flag off.
+std::string causedBy(const char* state, const AWnd& wnd, const AWnd& cause)
+{
+    std::string text = std::string("is ") + state;
+    return &wnd == &cause ? text : text + " with " + nameOf(cause) + ", which it lies in";
+}
+
+AWnd* inputTarget(AMainWin& win, int x, int y, PointerAct act)
+{
+    const AScreenList* root = win.getScreenList();
+    if (!root)
+        return nullptr;
+    const auto isAlive = [&](AWnd* wnd) { return wnd && !root->isWndToBeDeleted(wnd); };
+    int captured = 0;
+    if (win.getMouseCaptureWndCount() > 0) {
+        AWnd* top = win.getMouseCaptureWnd(0);
+        // A release outside of an edit box ends the typing.
+        const bool isRelease = act == PointerAct::Release || act == PointerAct::Click;
+        const bool endsTyping =
+            isRelease && isAlive(top) && top->getWindowType() == AWnd::WND_EDITBOX && !top->pointInside(x, y);
+        captured = endsTyping ? 1 : 0;
+    }
+    if (captured < win.getMouseCaptureWndCount() && isAlive(win.getMouseCaptureWnd(captured)))
+        return win.getMouseCaptureWnd(captured);
+    if (win.getPopupWndCount() > 0 && isAlive(win.getPopupWnd(0)))
+        return win.getPopupWnd(0);
+    return win.getActiveScreen();
+}
+
+/// Why a window outside the target gets no input.
+std::string whyBehind(AMainWin& win, const AWnd& target)
+{
+    if (isOpenPopup(win, target))
+        return "is behind the popup " + nameOf(target);
+    if (&target == win.getActiveScreen())
+        return "is not in front";
+    return "gets no input: " + nameOf(target) + " has captured the pointer";
+}
+
+/// Why wnd, which lies under the point, does not get the input; "" for one that does, or passes it on.
+std::string whyOther(AMainWin& win, const AWnd& wnd, const Reach& reach)
+{
+    if (!wnd.isVisible(0))
+        return "is hidden";
+    if (!wnd.getEnabled())
+        return "is disabled";
+    if (isInside(reach.wnd, wnd))
+        return "";
+    return isInside(&wnd, *reach.target) ? "is covered by " + nameOf(*reach.wnd)
+                                         : whyBehind(win, *reach.target);
+}
+
+/// Adds "; NAME REASON" for each window under the point that does not get the input. A hidden or disabled one
+/// speaks for those inside it.
+void addOthers(AMainWin& win, AWnd& wnd, const Reach& reach, int x, int y, std::string& text)
+{
+    if (!wnd.pointInside(x, y) && !isInside(reach.target, wnd))
+        return;
+    const std::string reason = whyOther(win, wnd, reach);
+    if (!reason.empty())
+        text += "; " + nameOf(wnd) + ' ' + reason;
+    if (!wnd.isVisible(0) || !wnd.getEnabled())
+        return;
+    for (int i = 0; i < wnd.getWindowCount(); ++i) {
+        AWnd* child = wnd.getWndFromIndex(i, "");
+        if (child && !isOpenPopup(win, *child))
+            addOthers(win, *child, reach, x, y, text);
+    }
+}
+
+std::string others(AMainWin& win, const Reach& reach, int x, int y)
+{
+    std::string text;
+    for (int i = 0; i < win.getPopupWndCount(); ++i)
+        addOthers(win, *win.getPopupWnd(i), reach, x, y, text);
+    if (AScreen* screen = win.getActiveScreen())
+        addOthers(win, *screen, reach, x, y, text);
+    return text;
+}
+
+std::string at(int x, int y)
+{
+    return " at " + std::to_string(x) + ", " + std::to_string(y);
+}
+
+/// "; "PANEL" is still moving": what a person would wait for.
+std::string movementOf(const AWnd& wnd)
+{
+    for (const AWnd* moving = &wnd; moving; moving = moving->getParent())
+        if (!moving->isWndAnimFinished())
+            return "; " + nameOf(*moving) + " is still moving";
+    return "";
+}
+
+} // namespace
+
+std::string nameOf(const AWnd& wnd)
+{
+    return wnd.getID().IsEmpty() ? "a window without an id" : quote(wnd.getID().view());
+}
+
+AWnd* findMeantWindow(AMainWin& win, const std::string& id)
+{
+    const auto findIn = [&](AWnd* top) -> AWnd* {
+        if (top && CString::equalNoCase(top->getID().view(), id))
+            return top;
+        return top ? top->getWnd(CString(id), 1) : nullptr;
+    };
+    for (int i = 0; i < win.getPopupWndCount(); ++i)
+        if (AWnd* wnd = findIn(win.getPopupWnd(i)))
+            return wnd;
+    if (AWnd* wnd = findIn(win.getActiveScreen()))
+        return wnd;
+    return findWindow(win, id);
+}
+
+Reach reachAt(AMainWin& win, int x, int y, PointerAct act)
+{
+    Reach reach;
+    reach.target = inputTarget(win, x, y, act);
+    if (!reach.target) {
+        reach.hindrance = "no screen is active";
+        return reach;
+    }
+    reach.wnd = reach.target->getWndAtPos(x, y, 1);
+    if (!reach.wnd)
+        reach.wnd = reach.target;
+
+    AScreen* screen = win.getActiveScreen();
+    const AWnd* pressed = win.getMouseDownWnd();
+    const bool isPress = act == PointerAct::Press || act == PointerAct::Click;
+    const bool typingEnds = win.getMouseCaptureWndCount() > 0 && win.getMouseCaptureWnd(0) != reach.target;
+    if (!win.getPendingScreen().IsEmpty())
+        reach.hindrance =
+            "the change to the screen " + quote(win.getPendingScreen().view()) + " is under way";
+    else if (!screen || !screen->isVisible(1) || !screen->isOpen())
+        reach.hindrance = "the active screen is not open";
+    else if (!isPress && pressed && pressed != reach.wnd && !typingEnds)
+        reach.hindrance = "the press began on " + nameOf(*pressed);
+    return reach;
+}
+
+std::string whyNotShown(AMainWin& win, AWnd& wnd)
+{
+    AWnd& top = topOf(win, wnd);
+    const AScreen* active = win.getActiveScreen();
+    if (&top != active && !isOpenPopup(win, top)) {
+        const bool isScreen = top.getWindowType() == AWnd::WND_SCREEN;
+        const std::string there =
+            &top == &wnd
+                ? "is"
+                : std::string("lies ") + (isScreen ? "on the screen " : "in ") + nameOf(top) + ", which is";
+        return there + (isScreen ? " not active" : " not open");
+    }
+    for (const AWnd* cause = &wnd; cause; cause = cause->getParent())
+        if (!cause->isVisible(0))
+            return causedBy("hidden", wnd, *cause);
+    return "";
+}
+
+std::string whyDisabled(AWnd& wnd)
+{
+    for (const AWnd* cause = &wnd; cause; cause = cause->getParent())
+        if (!cause->getEnabled())
+            return causedBy("disabled", wnd, *cause);
+    return "";
+}
+
+std::string whyNotReached(AMainWin& win, AWnd& wnd, int x, int y, PointerAct act)
+{
+    if (std::string reason = whyNotShown(win, wnd); !reason.empty())
+        return reason;
+    if (std::string reason = whyDisabled(wnd); !reason.empty())
+        return reason;
+    if (x < 0 || y < 0 || x >= win.screenWidth || y >= win.screenHeight)
+        return "is off the screen" + at(x, y) + movementOf(wnd);
+    const Reach reach = reachAt(win, x, y, act);
+    if (!reach.hindrance.empty())
+        return "gets no input: " + reach.hindrance;
+    if (reach.wnd == &wnd)
+        return "";
+    if (!isInside(&wnd, *reach.target))
+        return whyBehind(win, *reach.target);
+    for (const AWnd* holder = wnd.getParent(); holder; holder = holder->getParent())
+        if (isInside(holder, *reach.target) && holder != reach.target && !holder->pointInside(x, y))
+            return "lies outside of " + nameOf(*holder) + at(x, y) + movementOf(wnd);
+    return "is covered by " + nameOf(*reach.wnd) + at(x, y) + movementOf(wnd);
+}
+
+std::string describeReach(AMainWin& win, const std::string& name, int x, int y, PointerAct act)
+{
+    const Reach reach = reachAt(win, x, y, act);
+    std::string text = name + at(x, y) + " reached ";
+    if (!reach.hindrance.empty())
+        return text + "nothing: " + reach.hindrance;
+    return text + nameOf(*reach.wnd) + others(win, reach, x, y);
+}
+
+std::string describeKeyReach(AMainWin& win, const std::string& name, int x, int y)
+{
+    const Reach reach = reachAt(win, x, y, PointerAct::Point);
+    if (!reach.target || !win.getPendingScreen().IsEmpty())
+        return name + " reached nothing: " + reach.hindrance;
+    return name + " went to " + nameOf(*reach.target) + ", the pointer" + at(x, y) + " on " +
+           nameOf(*reach.wnd);
+}

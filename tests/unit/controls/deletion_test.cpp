@@ -1,0 +1,172 @@
+// Windows that handlers of the game delete while an action is on its way through them. What could go wrong is
+// found by the address sanitizer; the tests say which windows are left.
+
+#include "tests/unit/support/tgx_test.h"
+#include "tgx/controls/editbox.h"
+#include "tgx/controls/radiobutton.h"
+
+namespace {
+
+/// Deletes the window of that id, once.
+void strike(CString& victim)
+{
+    delete getMainWin()->getWnd(victim, 1);
+    victim = "no window";
+}
+
+CString struckByUpdate, struckByReport, struckByKiller;
+
+class Fatal : public AScreen {
+public:
+    using AScreen::AScreen;
+    void update() override { strike(struckByUpdate); }
+    int handlePopupAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action) override
+    {
+        if (action == MA_LBUTTONUP)
+            strike(struckByReport);
+        return AScreen::handlePopupAction(about, wnd, x, y, action);
+    }
+};
+
+/// Strikes on any key, and when it is clicked.
+class Killer : public AButton {
+public:
+    using AButton::AButton;
+    int handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action) override
+    {
+        AButton::handleMouseAction(about, wnd, x, y, action);
+        if (action == MA_KEY || (action == MA_LBUTTONUP && wnd == this))
+            strike(struckByKiller);
+        return 0;
+    }
+};
+
+class DeletionTest : public TgxTest {
+protected:
+    void open()
+    {
+        start("SCREEN \"S\" 0 0 640 480 \"\"\n");
+        win().classes["FATAL"] = [](const CString& id, int x, int y, int w, int h) {
+            return new Fatal(id, x, y, w, h);
+        };
+        win().classes["KILLER"] = [](const CString& id, int x, int y, int w, int h) {
+            return new Killer(id, x, y, w, h);
+        };
+        script(R"(
+SCREEN "FATAL" 0 0 640 480 ""
+BEGIN
+  WINDOW "BOX" 400 0 200 200
+  BEGIN
+    USERDEF "KILLER" 10 10 50 50
+    RADIOBUTTON "R1" 0 100 50 20 "one"
+    RADIOBUTTON "R2" 60 100 50 20 "two"
+    RADIOBUTTON "R3" 120 100 50 20 "three"
+  END
+  TABCONTROL "TABS" 0 200 600 180
+  BEGIN
+    RADIOBUTTON "TAB1" 0 0 100 20 "A"
+    RADIOBUTTON "TAB2" 100 0 100 20 "B"
+    WINDOW "PAGE1" 0 20 600 160
+    WINDOW "PAGE2" 0 20 600 160
+  END
+  EDITBOX "EDIT" 0 0 100 20 ""
+  BUTTON "TGX_OK" 0 50 100 20 ""
+  TABLIST1 "TAB1"
+  TABLIST2 "R1"
+END
+WINDOW "POPUP" 0 0 100 100
+BEGIN
+  BUTTON "TGX_YES" 0 0 100 100 ""
+END
+)");
+        play("change FATAL close", "frame 8");
+    }
+    bool isThere(const char* id) { return win().getWnd(id, 1) != nullptr; }
+};
+
+TEST_F(DeletionTest, WhatTheActionIsAboutMayDie)
+{
+    const struct {
+        const char* name;
+        CString& by;
+        const char* victim;
+        std::vector<const char*> events;
+        std::vector<const char*> left, gone;
+    } rows[] = {
+        {"a clicked tab",
+         struckByUpdate,
+         "TAB2",
+         {"move 150 210", "press left", "tick", "release left"},
+         {"TAB1", "PAGE2"},
+         {"TAB2"}},
+        {"its tab control",
+         struckByUpdate,
+         "TABS",
+         {"move 150 210", "press left", "tick", "release left"},
+         {"FATAL"},
+         {"TABS", "TAB2"}},
+        {"a radio button that a key has come to", struckByUpdate, "R1", {"key end"}, {"R2", "R3"}, {"R1"}},
+        {"the one that the key selects", struckByUpdate, "R2", {"key end"}, {"R1", "R3"}, {"R2"}},
+        {"all of the group", struckByUpdate, "BOX", {"release right"}, {"FATAL"}, {"BOX", "R1"}},
+        {"a tab that a key has come to", struckByUpdate, "TAB1", {"key delete"}, {"TAB2"}, {"TAB1"}},
+        {"its tab control, by a key", struckByUpdate, "TABS", {"key insert"}, {"FATAL"}, {"TABS"}},
+        {"a neighbour earlier in the walk", struckByKiller, "R1", {"key end"}, {"R2", "R3"}, {"R1"}},
+        {"that neighbour itself and its holder", struckByKiller, "BOX", {"key end"}, {"TABS"}, {"BOX"}},
+        {"the focus window, in the search for the button that Esc goes to",
+         struckByKiller,
+         "EDIT",
+         {"move 10 10", "tick", "key esc"},
+         {"TGX_OK"},
+         {"EDIT"}},
+        {"an edit box, by the button that its end presses",
+         struckByKiller,
+         "EDIT",
+         {"move 10 10", "press left", "tick", "release left", "tick", "key return"},
+         {"KILLER"},
+         {"EDIT"}},
+        {"the window that has opened the popup, by the report of a click in it",
+         struckByReport,
+         "R3",
+         {"call main setPopupWnd \"POPUP\" R3 141 \"script.tgx\"", "move 320 240", "press left", "tick",
+          "release left"},
+         {"R1"},
+         {"R3"}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        struckByUpdate = struckByReport = struckByKiller = "no window";
+        open();
+        static_cast<AEditBox*>(wnd("EDIT"))->setOnEnterWnd(wnd("KILLER"));
+        row.by = row.victim;
+        for (const char* event : row.events)
+            play(event);
+        play("tick", "frame 2");
+        for (const char* id : row.left)
+            EXPECT_TRUE(isThere(id)) << id;
+        for (const char* id : row.gone)
+            EXPECT_FALSE(isThere(id)) << id;
+        if (std::string(row.events.back()) == "key esc") {
+            EXPECT_EQ(win().mouseY, wnd("TGX_OK")->centreY()) << "the search goes on";
+        }
+    }
+}
+
+TEST_F(DeletionTest, WhatAnEditBoxLeadsToMayDie)
+{
+    open();
+    auto* box = static_cast<AEditBox*>(wnd("EDIT"));
+    box->setOnEnterWnd(wnd("R1"));
+    box->setFullWnd(wnd("R2"));
+    box->setMaxLength(1);
+    delete wnd("R1");
+    delete wnd("R2");
+    EXPECT_EQ(box->getOnEnterWnd(), nullptr);
+    EXPECT_EQ(box->getFullWnd(), nullptr);
+    play("move 10 10", "press left", "tick", "release left", "tick", "type \"ab\"", "tick 2", "key return",
+         "tick");
+    EXPECT_STREQ(box->getWindowText(), "a");
+    EXPECT_EQ(win().getMouseCaptureWndCount(), 0);
+    EXPECT_EQ(win().mouseX, 10) << "nowhere to go";
+}
+
+} // namespace

@@ -1,0 +1,128 @@
+#include "tests/unit/support/tgx_test.h"
+
+namespace {
+
+class Listener : public AWnd {
+public:
+    using AWnd::AWnd;
+    int handleMouseAction(const CString&, AWnd*, int, int, E_MOUSEACTION action) override
+    {
+        heard.push_back(action);
+        return 0;
+    }
+    std::vector<int> heard;
+};
+
+class InputTest : public TgxTest {
+protected:
+    void SetUp() override
+    {
+        start("SCREEN \"S\" 0 0 640 480 \"\"\n"
+              "BEGIN\n"
+              "  BUTTON \"A\" 0 0 100 40 \"\"\n"
+              "  BUTTON \"B\" 100 0 100 40 \"\"\n"
+              "  BUTTON \"C\" 200 0 100 40 \"\"\n"
+              "  BUTTON \"D\" 300 0 100 40 \"\"\n"
+              "  WINDOW \"WMatchScreen\" 0 0 1 1\n"
+              "  TABORDER \"A\" \"B\" \"C\" \"D\"\n"
+              "END\n");
+        play("frame 6", "move 50 20", "tick");
+    }
+};
+
+TEST_F(InputTest, OneActionGoesOutATick)
+{
+    const struct {
+        const char* name;
+        void (*set)(ddwin& window);
+        int action;
+    } rows[] = {
+        {"nothing", [](ddwin&) {}, AWnd::MA_MOVE},
+        {"a held button beats a key", [](ddwin& w) { w.lButtonDown = w.keyCode = VK_TAB; },
+         AWnd::MA_LBUTTONDOWN},
+        {"right before middle", [](ddwin& w) { w.rButtonDown = w.mButtonDown = 1; }, AWnd::MA_RBUTTONDOWN},
+        {"a held middle one", [](ddwin& w) { w.mButtonDown = w.lButtonUp = 1; }, AWnd::MA_MBUTTONDOWN},
+        {"a click", [](ddwin& w) { w.lButtonUp = w.rButtonUp = 1; }, AWnd::MA_LBUTTONUP},
+        {"Return", [](ddwin& w) { w.keyCode = VK_RETURN; }, AWnd::MA_LBUTTONUP},
+        {"a right release is a key", [](ddwin& w) { w.rButtonUp = w.mButtonUp = 1; }, AWnd::MA_KEY},
+        {"a middle release", [](ddwin& w) { w.mButtonUp = w.lButtonDblClk = 1; }, AWnd::MA_MBUTTONUP},
+        {"a left double click", [](ddwin& w) { w.lButtonDblClk = w.rButtonDblClk = 1; },
+         AWnd::MA_LBUTTONDBLCLK},
+        {"a right one", [](ddwin& w) { w.rButtonDblClk = w.mButtonDblClk = 1; }, AWnd::MA_RBUTTONDBLCLK},
+        {"a middle one", [](ddwin& w) { w.mButtonDblClk = w.wheelDown = 1; }, AWnd::MA_MBUTTONDBLCLK},
+        {"the wheel both ways", [](ddwin& w) { w.wheelDown = w.wheelUp = 1; }, AWnd::MA_WHEELDOWN},
+        {"the wheel beats a key", [](ddwin& w) { w.wheelUp = w.keyCode = VK_TAB; }, AWnd::MA_WHEELUP},
+        {"a second code alone is a key", [](ddwin& w) { w.keyCode2 = VK_END; }, AWnd::MA_KEY},
+        {"a key that is no navigation", [](ddwin& w) { w.keyCode = VK_UP; }, AWnd::MA_KEY},
+        {"a key that has moved the pointer", [](ddwin& w) { w.keyCode = VK_TAB; }, AWnd::MA_MOVE},
+    };
+    auto* ear = new Listener(AWnd::WND_PLAIN, "EAR", 0, 0, 640, 480);
+    screen("S")->addChildWindow(ear);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        win().lButtonDown = win().rButtonDown = win().mButtonDown = 0;
+        win().runTick();
+        win().setMousePos(600, 400, 0);
+        ear->heard.clear();
+        row.set(win());
+        win().OnMouseAction();
+        EXPECT_EQ(ear->heard, std::vector<int>{row.action});
+        EXPECT_EQ(win().mouseX, row.action == AWnd::MA_MOVE && win().keyCode == VK_TAB ? 50 : 600);
+        EXPECT_TRUE(!win().rButtonUp || !win().keyCode) << "the key that was made up is taken back";
+    }
+
+    // The window that a match is shown in keeps the release of the right button from becoming a key.
+    wnd("WMatchScreen")->setEnabled(0);
+    ear->heard.clear();
+    play("press right", "tick", "release right", "tick");
+    EXPECT_EQ(ear->heard, (std::vector<int>{AWnd::MA_RBUTTONDOWN, AWnd::MA_MBUTTONDOWN}));
+}
+
+TEST_F(InputTest, AHeldButtonRepeatsBehindADelay)
+{
+    const struct {
+        int interval;
+        std::vector<int> ticks;
+    } rows[] = {
+        {-1, {1, 30, 40, 50, 60}},
+        {7, {1, 21, 28, 35, 42, 49, 56}},
+        {20, {1, 60}},
+        {100, {1}},
+    };
+    std::map<int, std::vector<int>> due;
+    play("press left");
+    for (int tick = 1; tick <= 60; ++tick) {
+        play("tick");
+        for (const auto& row : rows)
+            if (win().isMouseDownInterval(row.interval))
+                due[row.interval].push_back(tick);
+    }
+    for (const auto& row : rows)
+        EXPECT_EQ(due[row.interval], row.ticks) << row.interval;
+}
+
+TEST_F(InputTest, TabPassesOverStopsThatCannotBeUsed)
+{
+    wnd("B")->setEnabled(0);
+    wnd("C")->setVisible(0);
+    const struct {
+        const char* event;
+        const char* focus;
+    } rows[] = {
+        {"key tab", "D"},   {"key tab", "A"}, {"key left", "D"}, {"key right", "A"},
+        {"hold shift", ""}, {"key tab", "D"}, {"key tab", "A"},  {"lift shift", ""},
+    };
+    for (const auto& row : rows) {
+        play(row.event);
+        if (!*row.focus)
+            continue;
+        play("tick", "tick");
+        EXPECT_EQ(win().getCurFocusWnd()->getID(), row.focus) << row.event;
+    }
+    wnd("D")->setEnabled(0);
+    play("move 90 30", "key tab", "tick");
+    EXPECT_EQ(win().getCurFocusWnd(), wnd("A")) << "the only usable stop follows itself";
+    EXPECT_EQ(win().mouseX, 50);
+}
+
+} // namespace

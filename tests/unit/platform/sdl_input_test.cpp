@@ -1,0 +1,162 @@
+// What the window's events make of the keys and buttons that are held. No window is needed: events are plain
+// values.
+
+#include "platform/display/ddwin.h"
+#include "platform/host/headless_host.h"
+#include "platform/host/sdl_controller.h"
+#include "platform/host/sdl_input.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class SdlInputTest : public testing::Test {
+protected:
+    SdlInputTest()
+    {
+        before = displayhost::use(std::make_unique<HeadlessHost>());
+        wnd = std::make_unique<ddwin>();
+        keys = std::make_unique<SdlInput>(queue());
+        keys->setFit(ScreenFit::of(640, 480, 640, 480));
+    }
+    ~SdlInputTest() override
+    {
+        wnd.reset();
+        displayhost::use(std::move(before));
+    }
+    InputQueue& queue() { return displayhost::current().input(); }
+    void key(bool down, SDL_Scancode place, SDL_Keycode meaning, int modifiers = 0)
+    {
+        SDL_Event event{};
+        event.type = down ? SDL_KEYDOWN : SDL_KEYUP;
+        event.key.keysym.scancode = place;
+        event.key.keysym.sym = meaning;
+        event.key.keysym.mod = static_cast<Uint16>(modifiers);
+        keys->handle(event);
+    }
+    void mouse(bool down, int button, int x, int y)
+    {
+        SDL_Event event{};
+        event.type = down ? SDL_MOUSEBUTTONDOWN : SDL_MOUSEBUTTONUP;
+        event.button.button = static_cast<Uint8>(button);
+        event.button.state = down ? SDL_PRESSED : SDL_RELEASED;
+        event.button.clicks = 1;
+        event.button.x = x;
+        event.button.y = y;
+        keys->handle(event);
+    }
+    void pad(SDL_JoystickID id, bool down, int button)
+    {
+        SDL_Event event{};
+        event.type = down ? SDL_CONTROLLERBUTTONDOWN : SDL_CONTROLLERBUTTONUP;
+        event.cbutton.which = id;
+        event.cbutton.button = static_cast<Uint8>(button);
+        EXPECT_TRUE(pads.handle(event, queue()));
+    }
+    void stick(SDL_JoystickID id, int axis, int value)
+    {
+        SDL_Event event{};
+        event.type = SDL_CONTROLLERAXISMOTION;
+        event.caxis.which = id;
+        event.caxis.axis = static_cast<Uint8>(axis);
+        event.caxis.value = static_cast<Sint16>(value);
+        pads.handle(event, queue());
+    }
+    void unplug(SDL_JoystickID id)
+    {
+        SDL_Event event{};
+        event.type = SDL_CONTROLLERDEVICEREMOVED;
+        event.cdevice.which = id;
+        pads.handle(event, queue());
+    }
+    /// Codes of the keys that are held when all input has been taken, ascending.
+    std::vector<int> held()
+    {
+        keys->flush();
+        do {
+            wnd->runTick();
+        } while (!queue().empty());
+        wnd->runTick();
+        std::vector<int> codes;
+        for (int code = 0; code < 256; ++code)
+            if (wnd->keyDown[code])
+                codes.push_back(code);
+        return codes;
+    }
+    using Codes = std::vector<int>;
+
+    std::unique_ptr<displayhost> before;
+    std::unique_ptr<ddwin> wnd;
+    std::unique_ptr<SdlInput> keys;
+    SdlController pads;
+};
+
+TEST_F(SdlInputTest, AKeyLetsGoOfTheCodeThatItWentDownWith)
+{
+    key(true, SDL_SCANCODE_KP_4, SDLK_KP_4);
+    EXPECT_EQ(held(), Codes{VK_LEFT});
+    key(false, SDL_SCANCODE_KP_4, SDLK_KP_4, KMOD_NUM);
+    EXPECT_EQ(held(), Codes{}) << "Num Lock was switched meanwhile";
+
+    key(true, SDL_SCANCODE_Y, SDLK_y);
+    key(false, SDL_SCANCODE_Y, SDLK_z);
+    EXPECT_EQ(held(), Codes{}) << "and here the layout";
+
+    key(true, SDL_SCANCODE_Y, SDLK_y);
+    key(true, SDL_SCANCODE_Y, SDLK_z);
+    EXPECT_EQ(held(), Codes{'Z'}) << "a repeat behind the switch";
+    key(false, SDL_SCANCODE_Y, SDLK_z);
+    EXPECT_EQ(held(), Codes{});
+}
+
+TEST_F(SdlInputTest, KeysOfOneCodeHoldItTogether)
+{
+    key(true, SDL_SCANCODE_LSHIFT, SDLK_LSHIFT);
+    key(true, SDL_SCANCODE_RSHIFT, SDLK_RSHIFT);
+    key(false, SDL_SCANCODE_LSHIFT, SDLK_LSHIFT);
+    EXPECT_EQ(held(), Codes{VK_SHIFT});
+    key(false, SDL_SCANCODE_RSHIFT, SDLK_RSHIFT, KMOD_SHIFT);
+    EXPECT_EQ(held(), Codes{});
+    key(false, SDL_SCANCODE_A, SDLK_a);
+    EXPECT_EQ(held(), Codes{}) << "it went down before the window was there";
+}
+
+TEST_F(SdlInputTest, ALostFocusLetsGoOfAll)
+{
+    key(true, SDL_SCANCODE_A, SDLK_a);
+    mouse(true, SDL_BUTTON_LEFT, 30, 40);
+    mouse(true, SDL_BUTTON_RIGHT, 30, 40);
+    pad(1, true, SDL_CONTROLLER_BUTTON_DPAD_LEFT);
+    pad(2, true, SDL_CONTROLLER_BUTTON_A);
+    EXPECT_EQ(held(), (Codes{VK_RETURN, VK_LEFT, 'A'}));
+    EXPECT_EQ(wnd->lButtonDown + wnd->rButtonDown, 2);
+    keys->letGo();
+    pads.letGo(queue());
+    EXPECT_EQ(held(), Codes{});
+    EXPECT_EQ(wnd->lButtonDown + wnd->rButtonDown, 0);
+    mouse(false, SDL_BUTTON_LEFT, 30, 40);
+    pad(2, false, SDL_CONTROLLER_BUTTON_A);
+    EXPECT_TRUE(queue().empty()) << "what comes up later has been let go already";
+}
+
+TEST_F(SdlInputTest, AControllerLetsGoOfWhatItHolds)
+{
+    key(true, SDL_SCANCODE_RETURN, SDLK_RETURN);
+    key(true, SDL_SCANCODE_HOME, SDLK_HOME);
+    pad(1, true, SDL_CONTROLLER_BUTTON_DPAD_UP);
+    pad(2, true, SDL_CONTROLLER_BUTTON_DPAD_UP);
+    pad(2, true, SDL_CONTROLLER_BUTTON_RIGHTSHOULDER);
+    unplug(1);
+    EXPECT_EQ(held(), (Codes{VK_RETURN, VK_END, VK_HOME, VK_UP})) << "the keyboard and the other one hold on";
+    unplug(2);
+    EXPECT_EQ(held(), (Codes{VK_RETURN, VK_HOME}));
+
+    stick(3, SDL_CONTROLLER_AXIS_LEFTX, 20000);
+    pad(3, true, SDL_CONTROLLER_BUTTON_DPAD_RIGHT);
+    stick(3, SDL_CONTROLLER_AXIS_LEFTX, 0);
+    EXPECT_EQ(held(), (Codes{VK_RETURN, VK_HOME, VK_RIGHT})) << "by the pad still";
+    pad(3, false, SDL_CONTROLLER_BUTTON_DPAD_RIGHT);
+    EXPECT_EQ(held(), (Codes{VK_RETURN, VK_HOME}));
+}
+
+} // namespace

@@ -1,0 +1,216 @@
+#include "tgx/controls/combobox.h"
+
+#include "tgx/base/fixed.h"
+#include "tgx/frame/mainwin.h"
+
+#include <algorithm>
+#include <climits>
+#include <cstdlib>
+
+AComboBox::AComboBox(const CString& name, int x, int y, int width, int height)
+    : AButton(name, x, y, width, height, WND_COMBOBOX)
+{}
+
+void AComboBox::Buttons::setState(E_BUTTON_STATE state)
+{
+    for (AButton* button : {prev, next})
+        if (button)
+            button->setButtonState(state);
+}
+
+/// A script may give these ids to windows of any kind.
+AComboBox::Buttons AComboBox::getButtons()
+{
+    const auto find = [this](const char* name) {
+        AWnd* wnd = getWnd(name, 1);
+        return isButton(wnd) ? static_cast<AButton*>(wnd) : nullptr;
+    };
+    return {find("ComboPrev"), find("ComboNext")};
+}
+
+int AComboBox::addItem(const CString& text)
+{
+    items.Add(text);
+    const int count = items.GetSize();
+    Buttons buttons = getButtons();
+    if (count == 1) {
+        windowText = text;
+        buttons.setState(BS_DISABLED); // nothing to step to
+    } else {
+        setButtonState(BS_NORMAL);
+        setEnabled(1);
+        for (AButton* button : {buttons.next, buttons.prev})
+            if (button) {
+                button->setButtonState(BS_NORMAL);
+                button->setEnabled(1);
+            }
+    }
+    return count - 1;
+}
+
+void AComboBox::reset()
+{
+    items.RemoveAll();
+    selectedItem = 0;
+}
+
+CString AComboBox::getSelectedItemText() const
+{
+    return selectedItem < 0 ? CString() : items[selectedItem];
+}
+
+void AComboBox::setSelectedItem(int item)
+{
+    selectedItem = to16(item);
+    windowText = getSelectedItemText();
+}
+
+int AComboBox::handleKeyInput(char key)
+{
+    return AWnd::handleKeyInput(key);
+}
+
+int AComboBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
+{
+    const ActionRefs handling(this, wnd);
+    AButton::handleMouseAction(about, wnd, x, y, action);
+    if (!handling.mayGoOn() || !isVisible(1))
+        return 0;
+    // What is done to the two buttons counts as done to the box.
+    if (about != "ComboPrev" && about != "ComboNext" && isMeantForAnother(wnd))
+        return 0;
+
+    Buttons buttons = getButtons();
+    const AWnd* hit = getWndAtPos(x, y, 0);
+    const bool onPrev = hit && hit == buttons.prev;
+    const bool onNext = hit && hit == buttons.next;
+    if (onPrev || onNext)
+        setButtonState(BS_NORMAL);
+    if (action != MA_LBUTTONUP && action != MA_KEY) {
+        for (AButton* button : {buttons.prev, buttons.next})
+            if (button && button != hit && button->getButtonState() != BS_DISABLED)
+                button->setButtonState(BS_NORMAL);
+        return 0;
+    }
+    if (items.GetSize() < 2)
+        return 0;
+
+    const AMainWin* main = getMainWin();
+    if (onPrev || main->keyCode == VK_UP || main->keyDown[VK_HOME] || main->keyDown[VK_INSERT]) {
+        step(-1, buttons.prev);
+    } else if (onNext || main->keyCode == VK_DOWN || main->keyDown[VK_END] || main->keyDown[VK_DELETE]) {
+        step(1, buttons.next);
+    } else {
+        buttons.setState(BS_NORMAL);
+        if (menuAllowed && action == MA_LBUTTONUP)
+            openMenu();
+    }
+    return 0;
+}
+
+void AComboBox::step(int direction, AButton* pressed)
+{
+    const int last = items.GetSize() - 1;
+    if (direction < 0 ? selectedItem > 0 : selectedItem < last)
+        selectedItem = to16(selectedItem + direction);
+    else if (wrapItems)
+        selectedItem = to16(direction < 0 ? last : 0);
+    windowText = items[selectedItem];
+    if (pressed)
+        pressed->setButtonState(BS_PRESSED);
+    tellOfChoice();
+}
+
+void AComboBox::tellOfChoice()
+{
+    if (AWnd* active = getMainWin()->getMouseCaptureWnd(0))
+        active->update();
+}
+
+/// Null when a window of that id is no list.
+AListBox* AComboBox::getOrMakeMenu()
+{
+    if (AWnd* menu = getWnd("ComboMenu", 1))
+        return menu->getWindowType() == WND_LISTBOX ? static_cast<AListBox*>(menu) : nullptr;
+    auto* made = new AFloatingMenu("ComboMenu", 0, 0, width(), getMainWin()->screenHeight);
+    addChildWindow(made);
+    return made;
+}
+
+/// The menu stays a child of the box: closing it only hides it, and it serves the next time too.
+void AComboBox::openMenu()
+{
+    AMainWin* main = getMainWin();
+    AListBox* menu = getOrMakeMenu();
+    if (!menu)
+        return;
+    menu->reset(1, 1);
+    menu->addColumn(menu->width(), textJustify);
+    for (const CString& item : items)
+        menu->setItemData(menu->addItem(), 0, item);
+    placeMenu(*menu);
+    menu->setVisible(1);
+    menu->setEasyClose(1);
+    main->setPopupWnd(menu, this, 0);
+    // No move is to be seen at once.
+    main->prevMouseX = main->mouseX;
+    main->prevMouseY = main->mouseY;
+    menu->setSelectedItem(selectedItem);
+    menu->setHotItem(selectedItem);
+}
+
+/// As high as its rows; on the screen's edges it stays inside, or a little beyond the lower one.
+void AComboBox::placeMenu(AListBox& menu)
+{
+    constexpr int edge = 10; // pixels
+    const int screenHeight = getMainWin()->screenHeight;
+    const long long rows = static_cast<long long>(menu.getRowHeight()) * items.GetSize() + 1;
+    int h = static_cast<int>(std::min<long long>(rows, INT_MAX / 2)); // cut to 16 bits where it is stored
+    if (menuBelow && menu.posY(0) + h > screenHeight)
+        h = screenHeight - menu.posY(0) + edge;
+    if (const ABorder* frame = menu.getBorder())
+        h += 2 * frame->getBorderWidth();
+    menu.setWndPos(menu.wndX(), menuBelow ? height() : -h, menu.width(), h);
+    if (menu.posY(0) < 0)
+        menu.setWndPos(menu.wndX(), std::abs(menu.posY(0)) + menu.wndY() + edge, menu.width(), h);
+}
+
+int AComboBox::handlePopupAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
+{
+    const WndRef self = this; // what the report does may delete the box
+    AWnd::handlePopupAction(about, wnd, x, y, action);
+    if (!self || action != MA_LBUTTONUP)
+        return 0;
+    AMainWin* main = getMainWin();
+    AWnd* popup = getPopupWnd();
+    if (!popup || popup->getWindowType() != WND_LISTBOX)
+        return 0;
+
+    auto* menu = static_cast<AListBox*>(popup);
+    const int chosen = menu->getSelectedItem();
+    const bool isChoice = chosen >= 0 && chosen < items.GetSize();
+    if (isChoice) {
+        selectedItem = to16(chosen);
+        windowText = menu->getItemText(chosen, 0);
+    }
+    menu->setVisible(0);
+    main->deletePopupWnd();
+    setButtonState(BS_NORMAL);
+    if (isChoice)
+        tellOfChoice();
+    return 0;
+}
+
+void AComboBox::draw(int frameStep)
+{
+    AButton::draw(frameStep);
+    if (!isVisible(1))
+        return;
+    // A menu that is no longer in front does not stay on the screen.
+    AWnd* menu = getWnd("ComboMenu", 1);
+    if (menu && menu->isVisible(1) && menu != getMainWin()->getMouseCaptureWnd(0))
+        menu->setVisible(0);
+    // Once more: during the opening run the button hides its text.
+    textOut(left() + textOffsetX, top() + textOffsetY, width() - textOffsetX, height() - textOffsetY,
+            windowText, textJustify, textWrap, ZnFixed::fromInt(1), 0, nullptr);
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "tgx/controls/button.h"
+#include "tgx/controls/listbox/floatingmenu.h"
+
+/// Shows one of several texts on a button. Child buttons called "ComboPrev" and "ComboNext", if there are
+/// any, step through them, as do the arrows up and down; a click on the box itself drops a menu of them all.
+///
+/// After each choice the box calls update() of the window that has the input, usually its screen, which then
+/// asks for getSelectedItem().
+class TGX_API AComboBox : public AButton {
+public:
+    AComboBox(const CString& id, int x, int y, int width, int height);
+
+    void draw(int frameStep) override;
+    /// 0.
+    int handleMouseAction(const CString& id, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
+    int handleKeyInput(char key) override;
+    /// Takes over what was chosen in the menu and closes it. 0.
+    int handlePopupAction(const CString& id, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
+
+    /// An item behind the others; the first becomes the text shown. Its index.
+    int addItem(const CString& text);
+    /// Drops all items; the text shown stays.
+    void reset();
+    int getItemCount() const { return items.GetSize(); }
+    int getSelectedItem() const { return selectedItem; }
+    /// "" for a negative selection; one behind the last item raises the invalid-argument exception, here and
+    /// in the next two.
+    CString getSelectedItemText() const;
+    void setSelectedItem(int item);
+    const CString& getItemText(int item) const { return items[item]; }
+
+    // Flags count by their lowest bit.
+
+    int getMenuBelow() const { return menuBelow; }
+    /// Whether the menu opens below the box; otherwise above.
+    void setMenuBelow(int set) { menuBelow = set & 1; }
+    int getMenuAllowed() const { return menuAllowed; }
+    /// Whether a click opens the menu.
+    void setMenuAllowed(int set) { menuAllowed = set & 1; }
+    int getWrapItems() const { return wrapItems; }
+    /// Whether stepping goes round at the ends.
+    void setWrapItems(int set) { wrapItems = set & 1; }
+
+protected:
+    short selectedItem = 0; // its text is the window's
+    CArray<CString> items;
+    unsigned menuBelow : 1 = 0;
+    unsigned menuAllowed : 1 = 1;
+    unsigned wrapItems : 1 = 1;
+
+private:
+    struct Buttons { // null when there is none
+        AButton* prev;
+        AButton* next;
+
+        void setState(E_BUTTON_STATE state);
+    };
+    Buttons getButtons();
+    void step(int direction, AButton* pressed);
+    AListBox* getOrMakeMenu();
+    void openMenu();
+    void placeMenu(AListBox& menu);
+    void tellOfChoice();
+};

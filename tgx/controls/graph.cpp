@@ -1,0 +1,285 @@
+#include "tgx/controls/graph.h"
+
+#include "tgx/base/fixed.h"
+#include "tgx/base/numtext.h"
+#include "tgx/frame/mainwin.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace {
+
+enum Style { Bars = 0, Lines = 1 };
+
+constexpr short leastRange = 10;
+constexpr ZnFixed grown = ZnFixed::fromInt(1);
+constexpr int growthATick = 204; // raw, just under a twentieth
+
+constexpr unsigned lineColourUnset = 0xFFFF;
+constexpr int lineWidth = 2;
+constexpr unsigned long barMarkColour = 0x80FF;
+constexpr unsigned long arrowMarkColour = 0xA200;
+
+// Pixels.
+constexpr int labelGap = 5; // from an axis to its numbers
+constexpr int leastLabelWidth = 20;
+constexpr int markWidth = 4;
+
+/// A raw value to pixels, truncated towards zero. What lies far off any screen is held where sums with it
+/// stay inside an int.
+int whole(std::int64_t raw)
+{
+    constexpr std::int64_t farOff = 1 << 30;
+    return static_cast<int>(std::clamp<std::int64_t>(raw / ZnFixed::one, -farOff, farOff));
+}
+
+std::int64_t shifted(int pixels)
+{
+    return std::int64_t{pixels} * ZnFixed::one;
+}
+
+/// The range that also holds value: it never falls, and ends where its 16 bits do.
+short raised(short range, int value)
+{
+    return static_cast<short>(std::clamp<int>(value, range, INT16_MAX));
+}
+
+bool isMultiple(int value, int every)
+{
+    return every > 0 && value % every == 0;
+}
+
+bool isSeries(int series)
+{
+    return series >= 0 && series < AGraph::seriesCount;
+}
+
+} // namespace
+
+/// Where values and positions lie in one frame, in screen pixels.
+struct AGraph::Plot {
+    int left, top, right, bottom;
+    ZnFixed xStep; // pixels a position
+    ZnFixed yStep; // pixels a value
+    int charHeight, lineHeight;
+
+    int x(int position) const { return whole(shifted(left) + std::int64_t{position} * xStep.raw); }
+    int y(int value) const { return whole(shifted(bottom) - std::int64_t{value} * yStep.raw); }
+    /// Right end of the position that begins at from.
+    int nextX(int from) const { return whole(shifted(from) + xStep.raw); }
+    int labelWidth() const { return std::max(xStep.toInt(), leastLabelWidth); }
+};
+
+AGraph::AGraph(const CString& name, int x, int y, int width, int height)
+    : AWnd(WND_GRAPH, name, x, y, width, height)
+{
+    removeAll(1);
+}
+
+void AGraph::addData(int value, const CString& label, unsigned long colour, int series)
+{
+    if (!isSeries(series))
+        return;
+    seriesValues[series].Add(value);
+    seriesLabels[series].Add(label);
+    itemColours.Add(static_cast<unsigned>(colour));
+    xRange = raised(xRange, seriesValues[series].GetSize());
+    yRange = raised(yRange, value);
+}
+
+void AGraph::removeAll(int restartGrowth)
+{
+    for (auto& values : seriesValues)
+        values.RemoveAll();
+    for (auto& labels : seriesLabels)
+        labels.RemoveAll();
+    itemColours.RemoveAll();
+    if (restartGrowth)
+        growth = ZnFixed();
+    xRange = leastRange;
+    yRange = leastRange;
+}
+
+int AGraph::getItemCount(int series) const
+{
+    return isSeries(series) ? seriesValues[series].GetSize() : 0;
+}
+
+unsigned AGraph::getLineColour(int series) const
+{
+    return series >= 0 && series < lineColours.GetSize() ? lineColours[series] : lineColourUnset;
+}
+
+void AGraph::setLineColour(int series, unsigned colour)
+{
+    if (!isSeries(series))
+        return;
+    while (lineColours.GetSize() <= series)
+        lineColours.Add(lineColourUnset);
+    lineColours.SetAt(series, colour);
+}
+
+AGraph::Plot AGraph::getPlot() const
+{
+    const int positions = std::max<int>(xRange, seriesValues[0].GetSize());
+    return {left(),
+            top(),
+            right(),
+            bottom(),
+            ZnFixed::fromInt(right() - left()) / ZnFixed::fromInt(positions),
+            ZnFixed::fromInt(bottom() - top()) / ZnFixed::fromInt(yRange),
+            font ? font->charHeight : 0,
+            font ? font->lineHeight : 0};
+}
+
+void AGraph::draw(int frameStep)
+{
+    AWnd::draw(frameStep);
+    AMainWin* main = getMainWin();
+    RECT box{left(), top(), right(), bottom()};
+    main->adddirtyrect(box);
+    if (!isVisible(1))
+        return;
+
+    const Plot plot = getPlot();
+    drawValueAxis(plot);
+    drawPositionAxis(plot);
+    for (int series = 0; series < seriesCount; ++series) {
+        for (int index = 0; index < seriesValues[series].GetSize(); ++index) {
+            if (style == Bars)
+                drawBar(plot, series, index);
+            else if (style == Lines)
+                drawLine(plot, series, index);
+        }
+    }
+    grow(frameStep);
+
+    const unsigned long axes = main->getcol(axisColour);
+    main->rectangle(plot.left - 1, plot.top, plot.left, plot.bottom, axes);
+    main->rectangle(plot.left - 1, plot.bottom, plot.right, plot.bottom + 1, axes);
+}
+
+void AGraph::grow(int frameStep)
+{
+    if (frameStep != 0 && growth < grown) {
+        const std::int64_t next = growth.raw + std::int64_t{frameStep} * growthATick;
+        growth = ZnFixed::fromRaw(static_cast<std::int32_t>(std::clamp<std::int64_t>(next, 0, grown.raw)));
+    }
+}
+
+/// Grid lines and numbers of the values. 0 has a number, and the axis for its line.
+void AGraph::drawValueAxis(const Plot& plot)
+{
+    AMainWin* main = getMainWin();
+    const unsigned long grid = main->getcol(gridColour);
+    for (int value = 0; value <= yRange; ++value) {
+        const int y = plot.y(value);
+        if (value > 0 && isMultiple(value, yGridEvery))
+            main->rectangle(plot.left, y, plot.right, y + 1, grid);
+        if (isMultiple(value, yLabelEvery)) {
+            const CString number = intToString(value, 0, 0);
+            const int length = main->getStringLength(number, font);
+            main->textout(plot.left - length - labelGap, y - plot.charHeight / 2, number, font, nullptr, 0,
+                          ZnFixed::fromInt(1), 1);
+        }
+    }
+}
+
+void AGraph::drawPositionAxis(const Plot& plot)
+{
+    AMainWin* main = getMainWin();
+    const unsigned long grid = main->getcol(gridColour);
+    for (int position = 0; position <= xRange; ++position) {
+        const int x = plot.x(position);
+        if (position > 0 && isMultiple(position, xGridEvery))
+            main->rectangle(x, plot.top, x + 1, plot.bottom, grid);
+        if (isMultiple(position, xLabelEvery))
+            drawPositionNumber(plot, position);
+    }
+}
+
+/// Under a bar's right edge, so that the first position has none; or under the point of a line.
+void AGraph::drawPositionNumber(const Plot& plot, int position)
+{
+    AMainWin* main = getMainWin();
+    const CString number = intToString(firstXLabel + position, 0, 0);
+    const int length = main->getStringLength(number, font);
+    const int x = plot.x(position);
+    const int y = plot.bottom + labelGap;
+    if (style == Bars && position > 0)
+        textOut(x - length, y, length, plot.lineHeight, number, TJ_CENTRE, 0, ZnFixed::fromInt(1), 0,
+                nullptr);
+    else if (style == Lines)
+        main->textout(x - length / 2, y, number, font, nullptr, 0, ZnFixed::fromInt(1), 1);
+}
+
+void AGraph::drawBar(const Plot& plot, int series, int index)
+{
+    const int value = seriesValues[series][index];
+    const unsigned colour = itemColours[index]; // of the first calls, whatever the series
+    const int x = plot.x(index);
+    const int x2 = plot.nextX(x);
+    const std::int64_t grownValue =
+        std::clamp<std::int64_t>(std::int64_t{growth.raw} * value, INT32_MIN, INT32_MAX);
+    const ZnFixed height = ZnFixed::fromRaw(static_cast<std::int32_t>(grownValue)) * plot.yStep;
+    const int barTop = whole(shifted(plot.bottom) - height.raw);
+
+    // A negative value has no bar.
+    if (value >= 0 && barTop != plot.bottom)
+        getMainWin()->fillrect(x + 1, barTop, x2, plot.bottom, colour); // a gap of one pixel at the left
+    else if (value >= 0 && showEmptyBars)
+        getMainWin()->fillrect(x, plot.bottom - 1, x2, plot.bottom, colour);
+    if (index < seriesLabels[series].GetSize())
+        drawLabel(plot, seriesLabels[series][index], x, barTop);
+}
+
+/// Value n ends at the position behind its own: the line begins where the axes meet.
+void AGraph::drawLine(const Plot& plot, int series, int index)
+{
+    const CArray<int, int>& values = seriesValues[series];
+    if (shifted(index) >= std::int64_t{growth.raw} * values.GetSize())
+        return;
+    const int x = plot.x(index);
+    const int x2 = plot.nextX(x);
+    const int y = plot.y(values[index]);
+    if (index == 0)
+        drawSegment(plot.left, plot.bottom, x2, y, getLineColour(series));
+    else
+        drawSegment(x, plot.y(values[index - 1]), x2, y, getLineColour(series));
+
+    if (index >= seriesLabels[series].GetSize())
+        return;
+    AMainWin* main = getMainWin();
+    const CString& label = seriesLabels[series][index];
+    const int half = plot.charHeight / 2;
+    if (label == "|")
+        main->fillrect(x2, y - half, x2 + markWidth, y + half, main->getcol(barMarkColour));
+    else if (label == "^")
+        main->fillrect(x2, y - half, x2 + markWidth, y + half, main->getcol(arrowMarkColour));
+    else
+        drawLabel(plot, label, x, y);
+}
+
+/// While the back buffer gives no device context, the segment is left out.
+void AGraph::drawSegment(int fromX, int fromY, int toX, int toY, unsigned colour)
+{
+    IDirectDrawSurface* buffer = getMainWin()->getBackBuffer();
+    HDC context = nullptr;
+    if (buffer->GetDC(&context) != 0)
+        return;
+    HPEN pen = CreatePen(PS_SOLID, lineWidth, colour);
+    HGDIOBJ before = SelectObject(context, pen);
+    SetBkMode(context, TRANSPARENT);
+    MoveToEx(context, fromX, fromY, nullptr);
+    LineTo(context, toX, toY);
+    SelectObject(context, before);
+    DeleteObject(pen);
+    buffer->ReleaseDC(context);
+}
+
+/// Above foot, in the middle of the position that begins at x.
+void AGraph::drawLabel(const Plot& plot, const CString& label, int x, int foot)
+{
+    textOut(x, foot - plot.charHeight, plot.labelWidth(), plot.charHeight, label, TJ_CENTRE, 0,
+            ZnFixed::fromInt(1), 0, nullptr);
+}

@@ -1,0 +1,79 @@
+// Statements that make progress bars, vidiprinters and graphs, and the one that sets a graph's attributes.
+
+#include "tgx/controls/graph.h"
+#include "tgx/controls/progressbar.h"
+#include "tgx/controls/vidiprinter.h"
+#include "tgx/script/statements.h"
+
+namespace {
+
+/// The control with the line's id and box, as target's child.
+template<class Control>
+Control* addControl(AWnd& target, const ScriptLine& line)
+{
+    auto* made = new Control(line.text(1), line.number(2), line.number(3), line.number(4), line.number(5));
+    target.addChildWindow(made);
+    return made;
+}
+
+} // namespace
+
+AWnd* barGraph(AWnd& target, const ScriptLine& line)
+{
+    auto* made = addControl<AGraph>(target, line);
+    made->setStyle(0);
+    return made;
+}
+
+AWnd* graphWnd(AWnd& target, const ScriptLine& line)
+{
+    return addControl<AGraph>(target, line);
+}
+
+AWnd* lineGraph(AWnd& target, const ScriptLine& line)
+{
+    auto* made = addControl<AGraph>(target, line);
+    made->setStyle(1);
+    return made;
+}
+
+// What stands behind the line's end stays as it was.
+void graphInfo(AGraph& target, const ScriptLine& line)
+{
+    if (line.count > 1)
+        target.setGraphText1(line.text(1));
+    if (line.count > 2)
+        target.setGraphText2(line.text(2));
+    if (line.count > 3)
+        target.setXLabelEvery(line.number(3));
+    if (line.count > 4)
+        target.setYLabelEvery(line.number(4));
+    if (line.count > 5)
+        target.setYGridEvery(line.number(5));
+    if (line.count > 6)
+        target.setXGridEvery(line.number(6));
+    if (line.count > 7)
+        target.setShowEmptyBars(line.number(7));
+}
+
+AWnd* progressBar(AWnd& target, const ScriptLine& line)
+{
+    auto* made = addControl<AProgressBar>(target, line);
+    applyBarForm(*made, line);
+    return made;
+}
+
+AWnd* vProgressBar(AWnd& target, const ScriptLine& line)
+{
+    auto* made = addControl<AProgressBar>(target, line);
+    made->setHorizontal(0);
+    applyBarForm(*made, line);
+    return made;
+}
+
+AWnd* vidiPrinter(AWnd& target, const ScriptLine& line)
+{
+    auto* made = addControl<AVidiPrinter>(target, line);
+    applyTextForm(*made, line);
+    return made;
+}

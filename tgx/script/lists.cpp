@@ -1,0 +1,140 @@
+// Statements that make list boxes and set their attributes, and the one that fills list and combo boxes.
+
+#include "tgx/controls/combobox.h"
+#include "tgx/controls/keyboard.h"
+#include "tgx/script/statements.h"
+
+#include <cstdlib>
+
+namespace {
+
+/// A cell of an ITEM line: "ICON", a number, and perhaps "F" and the number of a frame.
+void setIconCell(AListBox& list, int row, int column, const CString& text)
+{
+    constexpr int wordLength = 4;
+    const int mark = text.Find('F');
+    const int frame = mark < 0 ? 0 : std::atoi(text.Mid(mark + 1));
+    const CString icon = mark < 0 ? text : text.Left(mark);
+    list.setItemDataWithIconIndex(row, column, std::atoi(icon.Mid(wordLength)), frame);
+}
+
+// One line is one row. A list without columns gets one of its own width. A cell that has no place fails the
+// line, and what stands in front of it stays: there are fewer columns, or this one came behind a row.
+bool addRow(AListBox& list, const ScriptLine& line)
+try {
+    if (list.getColumnCount() == 0)
+        list.addColumn(list.width(), AWnd::TJ_LEFT);
+    const int row = list.addItem();
+    for (int column = 0; column < line.count - 1; ++column) {
+        const CString& text = line.text(column + 1);
+        if (text.view().starts_with("ICON"))
+            setIconCell(list, row, column, text);
+        else
+            list.setItemData(row, column, text);
+    }
+    return true;
+} catch (const CInvalidArgException&) {
+    return false;
+}
+
+} // namespace
+
+AWnd* listBox(AWnd& target, const ScriptLine& line)
+{
+    return target.addChildWindow(
+        new AListBox(line.text(1), line.number(2), line.number(3), line.number(4), line.number(5)));
+}
+
+AWnd* keyboard(AWnd& target, const ScriptLine& line)
+{
+    return target.addChildWindow(
+        new AKeyboard(line.text(1), line.number(2), line.number(3), line.number(4), line.number(5)));
+}
+
+// An item of a combo box, or a row of a list box.
+bool item(AWnd& target, const ScriptLine& line)
+{
+    if (target.getWindowType() == AWnd::WND_LISTBOX)
+        return addRow(static_cast<AListBox&>(target), line);
+    static_cast<AComboBox&>(target).addItem(line.text(1));
+    return true;
+}
+
+// A width each, with or without a word for the justification behind it.
+void columns(AListBox& list, const ScriptLine& line)
+{
+    for (int i = 1; i < line.count; ++i) {
+        const int width = line.number(i);
+        AWnd::E_TEXTJUSTIFY justify = AWnd::TJ_LEFT;
+        if (i + 1 < line.count && justificationOf(line.tokens[i + 1], justify))
+            ++i;
+        list.addColumn(width, justify);
+    }
+}
+
+void titles(AListBox& list, const ScriptLine& line)
+{
+    for (int i = 1; i < line.count; ++i)
+        list.setTitle(i - 1, line.text(i));
+}
+
+void titleBmp(AListBox& list, const ScriptLine& line)
+{
+    list.setTitleBmpFile(line.text(1));
+}
+
+void listOptions(AListBox& list, const ScriptLine& line)
+{
+    if (line.count >= 2)
+        list.setZeroAsDash(line.number(1));
+    if (line.count >= 3)
+        list.setGradualReveal(line.number(2));
+}
+
+void listHighlight(AListBox& list, const ScriptLine& line)
+{
+    list.setSelectedRowBmpFile(line.text(1));
+    list.setHotRowBmpFile(line.text(2));
+}
+
+void listFonts(AListBox& list, const ScriptLine& line)
+{
+    constexpr int rowFonts = 3;
+    for (int i = 1; i <= rowFonts && i < line.count; ++i)
+        list.setRowFont(i, line.window.getFont(line.number(i)));
+    if (line.count >= 5)
+        list.setTitleFont(line.window.getFont(line.number(4)));
+}
+
+void listIcons(AListBox& list, const ScriptLine& line)
+{
+    for (int i = 1; i < line.count; ++i)
+        list.addIconFile(line.text(i));
+}
+
+void listLook(AListBox& list, const ScriptLine& line)
+{
+    if (line.number(1) >= 0)
+        list.setRowHeight(line.number(1));
+    if (line.count >= 3)
+        list.setTitleShaded(line.number(2));
+    if (line.count >= 4)
+        list.setCellHighlight(line.number(3));
+}
+
+void listFixedColumns(AListBox& list, const ScriptLine& line)
+{
+    for (int i = 1; i < line.count; ++i)
+        list.addNonSelectableColumn(line.number(i));
+}
+
+void listFixedRows(AListBox& list, const ScriptLine& line)
+{
+    for (int i = 1; i < line.count; ++i)
+        list.addNonSelectableRow(line.number(i));
+}
+
+void scrollBarInfo(AListBox& list, const ScriptLine& line)
+{
+    list.setScrollBarInfo(line.text(1), line.number(2));
+}

@@ -1,0 +1,29 @@
+#include "tools/tgx/commands.h"
+#include "tools/tgx/files.h"
+#include "tools/tgx/reference.h"
+
+#include <CLI/CLI.hpp>
+
+#include <memory>
+
+void addReference(CLI::App& app)
+{
+    struct ReferenceOptions {
+        std::string form;
+        std::string output = "-";
+    };
+    CLI::App* command =
+        app.add_subcommand("reference", "Print what is made of the vocabulary of scripts")->group("");
+    auto options = std::make_shared<ReferenceOptions>();
+    command->add_option("form", options->form, "The document, or the syntax file of an editor")
+        ->required()
+        ->check(CLI::IsMember({"markdown", "vim", "textmate"}));
+    command->add_option("-o,--output", options->output, "stdout if not given")->type_name("FILE");
+    command->callback([options] {
+        const std::string text = options->form == "markdown" ? script_text::referenceDocument()
+                                 : options->form == "vim"    ? script_text::vimSyntax()
+                                                             : script_text::textMateGrammar();
+        if (!writeOutput(options->output, text))
+            throw CLI::RuntimeError(1);
+    });
+}

@@ -1,0 +1,18 @@
+#include "player/suite.h"
+#include "tools/tgx/commands.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+#include <memory>
+
+void addTest(CLI::App& app)
+{
+    CLI::App* command = app.add_subcommand("test", "Play every events file below a folder, side by side");
+    auto options = std::make_shared<TestOptions>();
+    addTestArguments(*command, *options);
+    command->callback([options] {
+        if (int status = runTests(*options, nullptr, std::cout, std::cerr))
+            throw CLI::RuntimeError(status);
+    });
+}
