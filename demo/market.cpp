@@ -345,7 +345,7 @@ void MarketScreen::endNaming()
 
 int MarketScreen::handlePopupAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
-    if (subject == "TGX_CANCEL" && action == MA_LBUTTONUP)
+    if (subject == "TGX_CLOSE" && action == MA_LBUTTONUP)
         nameKept = false;
     return HarbourScreen::handlePopupAction(subject, wnd, x, y, action);
 }
