@@ -409,7 +409,15 @@ inline void WndRef::attach(AWnd* target)
     if (next)
         next->link = &next;
     link = &target->refs;
+// A ref on the stack takes itself out again before it goes: GCC cannot see that it does.
+#if defined(__GNUC__) && !defined(__clang__) && __GNUC__ >= 12
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdangling-pointer"
+#endif
     target->refs = this;
+#if defined(__GNUC__) && !defined(__clang__) && __GNUC__ >= 12
+#pragma GCC diagnostic pop
+#endif
 }
 
 inline void WndRef::detach()

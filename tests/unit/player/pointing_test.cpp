@@ -214,17 +214,17 @@ TEST_F(PointingTest, InputWaitsForATickThatTakesItButNotForEver)
         slow = made.get();
         return made;
     };
-    Player player(options, makeWindow, out, err);
-    player.start();
+    Player own(options, makeWindow, out, err);
+    own.start();
     for (const char* line : {"move 60 140", "tick", "press right", "wheel up", "tick 3"})
-        ASSERT_EQ(player.runLine(line), std::nullopt) << line;
+        ASSERT_EQ(own.runLine(line), std::nullopt) << line;
     EXPECT_EQ(err.str(), "");
     slow->ends = true;
-    ASSERT_EQ(player.runLine("tick 3"), std::nullopt); // the first ends the one before
+    ASSERT_EQ(own.runLine("tick 3"), std::nullopt); // the first ends the one before
     EXPECT_EQ(err.str(), "press right at 60, 140 reached \"OVER\"\nwheel up at 60, 140 reached \"OVER\"\n");
     slow->ends = false;
-    EXPECT_EQ(player.runLine("tick"), std::nullopt);
-    EXPECT_EQ(player.runLine("click OK"), "the input was not taken within 240 frames");
+    EXPECT_EQ(own.runLine("tick"), std::nullopt);
+    EXPECT_EQ(own.runLine("click OK"), "the input was not taken within 240 frames");
 }
 
 TEST_F(PointingTest, TheInputLogTellsWhatEachTransitionReached)
