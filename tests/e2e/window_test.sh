@@ -110,11 +110,14 @@ pointer_on() {
 
 # Each screen brings the pointer to a button when it opens, so that where the pointer lies tells that it has opened.
 to_company=(736 250 240 44)
-to_chart=(736 300 240 44)
-to_newgame=(736 350 240 44)
-to_options=(736 400 240 44)
-quit=(736 450 240 44)
-menu=(720 184 272 328)
+to_chart=(736 304 240 44)
+to_fleet=(736 358 240 44)
+to_cargo=(736 412 240 44)
+to_market=(736 466 240 44)
+to_newgame=(736 520 240 44)
+to_options=(736 574 240 44)
+quit=(736 628 240 44)
+menu=(720 184 272 508)
 back=(752 36 240 44)
 name_field=(60 208 504 36)
 ship_field=(60 284 504 36)
@@ -151,8 +154,8 @@ sleep 1
 shows "$before" || fail "a click on the background changed the screen"
 echo "ok: it takes a click"
 
-# By keyboard alone: the fifth tab stop of the title screen ends the demo.
-for stop in to_company to_chart to_newgame to_options quit; do
+# By keyboard alone: the last tab stop of the title screen ends the demo.
+for stop in to_company to_chart to_fleet to_cargo to_market to_newgame to_options quit; do
     xdotool key Tab
     declare -n box=$stop
     soon pointer_on "${box[@]}" || fail "Tab did not bring the pointer to $stop"
@@ -175,7 +178,7 @@ xdotool windowmove "$window" 0 0
 shown_in 1024 768
 still "${menu[@]}" >/dev/null || fail "the title's windows do not come to rest"
 front=$(still "${title[@]}") || fail "the title does not show"
-click_at 856 372
+click_at 856 542
 soon pointer_on "${name_field[@]}" || fail "a click on a button did not open its screen"
 soon shows_no_more "$front" || fail "another screen shows the same picture"
 echo "ok: a click changes the screen"
