@@ -60,7 +60,7 @@ struct TargetRule {
     std::uint32_t types = ~0u; // bit n: the window type n fits
     Otherwise otherwise = Fails;
 
-    constexpr bool fits(AWnd::E_WNDTYPE type) const { return (types >> type & 1) != 0; }
+    constexpr bool fits(int type) const { return (types >> type & 1) != 0; }
 };
 
 /// Carries a line out on its target. made receives the window that it made, if it made one. False: the line

@@ -43,7 +43,7 @@ std::string link(const char* heading, const std::string& shown)
     return '[' + shown + "](#" + anchor(heading) + ')';
 }
 
-const char* nameOf(AWnd::E_WNDTYPE type)
+const char* nameOf(int type)
 {
     switch (type) {
     case AWnd::WND_BUTTON:
@@ -66,8 +66,8 @@ std::string targetSentence(const TargetRule& rule)
 {
     std::vector<std::string> types;
     for (int type = 0; type < 32; ++type)
-        if (rule.fits(static_cast<AWnd::E_WNDTYPE>(type)))
-            types.emplace_back(nameOf(static_cast<AWnd::E_WNDTYPE>(type)));
+        if (rule.fits(type))
+            types.emplace_back(nameOf(type));
     if (types.size() == 32)
         return "";
     std::string out = " Only on a ";
