@@ -11,12 +11,6 @@
 
 namespace {
 
-template<class Control>
-Control* makeControl(const ScriptLine& line)
-{
-    return new Control(line.text(1), line.number(2), line.number(3), line.number(4), line.number(5));
-}
-
 /// Text, its offset, bitmap, frame size and delay, frames of the states; each group may be left out from the
 /// end.
 void applyButtonForm(AButton& button, const ScriptLine& line)
@@ -67,8 +61,7 @@ int lastRadioButtons(AWnd& target, int limit)
 
 AWnd* scrollBar(bool horizontal, AWnd& target, const ScriptLine& line)
 {
-    auto* bar = makeControl<AScrollBar>(line);
-    target.addChildWindow(bar);
+    auto* bar = addControl<AScrollBar>(target, line);
     bar->setHorizontal(horizontal);
     applyBarForm(*bar, line);
     return bar;
@@ -84,8 +77,7 @@ void applyBarForm(AWnd& bar, const ScriptLine& line)
 
 AWnd* button(AWnd& target, const ScriptLine& line)
 {
-    auto* made = makeControl<AButton>(line);
-    target.addChildWindow(made);
+    auto* made = addControl<AButton>(target, line);
     applyButtonForm(*made, line);
     return made;
 }
@@ -115,8 +107,7 @@ AWnd* radioButton(AWnd& target, const ScriptLine& line)
     if (others >= ARadioButton::maxScriptMembers)
         return nullptr;
     const int place = target.getWindowCount();
-    auto* made = makeControl<ARadioButton>(line);
-    target.addChildWindow(made);
+    auto* made = addControl<ARadioButton>(target, line);
     applyButtonForm(*made, line);
     made->linkNewMember(*made);
     for (int i = place - 1; i >= place - others; --i) {
@@ -133,12 +124,12 @@ AWnd* radioButton(AWnd& target, const ScriptLine& line)
 
 AWnd* tabControl(AWnd& target, const ScriptLine& line)
 {
-    return target.addChildWindow(makeControl<ATabControl>(line));
+    return addControl<ATabControl>(target, line);
 }
 
 AWnd* editBox(AWnd& target, const ScriptLine& line)
 {
-    AWnd* made = target.addChildWindow(makeControl<AEditBox>(line));
+    AWnd* made = addControl<AEditBox>(target, line);
     applyTextForm(*made, line);
     return made;
 }
@@ -182,8 +173,7 @@ void buttonCheck(AButton& target, const ScriptLine& line)
 
 AWnd* comboBox(AWnd& target, const ScriptLine& line)
 {
-    auto* made = makeControl<AComboBox>(line);
-    target.addChildWindow(made);
+    auto* made = addControl<AComboBox>(target, line);
     applyButtonForm(*made, line);
     return made;
 }

@@ -5,19 +5,6 @@
 #include "tgx/controls/vidiprinter.h"
 #include "tgx/script/statements.h"
 
-namespace {
-
-/// The control with the line's id and box, as target's child.
-template<class Control>
-Control* addControl(AWnd& target, const ScriptLine& line)
-{
-    auto* made = new Control(line.text(1), line.number(2), line.number(3), line.number(4), line.number(5));
-    target.addChildWindow(made);
-    return made;
-}
-
-} // namespace
-
 AWnd* barGraph(AWnd& target, const ScriptLine& line)
 {
     auto* made = addControl<AGraph>(target, line);

@@ -41,14 +41,12 @@ try {
 
 AWnd* listBox(AWnd& target, const ScriptLine& line)
 {
-    return target.addChildWindow(
-        new AListBox(line.text(1), line.number(2), line.number(3), line.number(4), line.number(5)));
+    return addControl<AListBox>(target, line);
 }
 
 AWnd* keyboard(AWnd& target, const ScriptLine& line)
 {
-    return target.addChildWindow(
-        new AKeyboard(line.text(1), line.number(2), line.number(3), line.number(4), line.number(5)));
+    return addControl<AKeyboard>(target, line);
 }
 
 // An item of a combo box, or a row of a list box.

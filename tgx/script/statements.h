@@ -94,6 +94,14 @@ void visible(AWnd& target, const ScriptLine& line);
 void wndPos(AWnd& target, const ScriptLine& line);
 
 // Forms that statements of several families share: what stands behind id and box.
+/// A control with the line's id and box, added to target.
+template<class Control>
+Control* addControl(AWnd& target, const ScriptLine& line)
+{
+    auto* made = new Control(line.text(1), line.number(2), line.number(3), line.number(4), line.number(5));
+    target.addChildWindow(made);
+    return made;
+}
 void applyTextForm(AWnd& wnd, const ScriptLine& line);
 void applyBarForm(AWnd& bar, const ScriptLine& line);
 /// Whether token is one of the words for it.

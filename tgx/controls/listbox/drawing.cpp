@@ -30,11 +30,6 @@ constexpr int wholeIconHeight = 3276; // raw fixed point, 0.8 of the row
 
 int revealTick = 0; // frames since rows last came, of all lists together
 
-bool contains(const CArray<short>& numbers, int wanted)
-{
-    return std::find(numbers.begin(), numbers.end(), wanted) != numbers.end();
-}
-
 void fill(int x1, int y1, int x2, int y2, unsigned long colour)
 {
     AMainWin* main = getMainWin();

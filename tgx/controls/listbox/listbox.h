@@ -247,6 +247,7 @@ private:
     int borderInset() const { return border ? border->getBorderWidth() : 0; }
     int titleHeight() const { return hasTitleRow() ? rowStep() : 0; }
     bool isOnPage(int item) const;
+    static bool contains(const CArray<short>& numbers, int wanted);
     CString& cellAt(int item, int column);
 
     void reveal(int frameStep);

@@ -11,11 +11,6 @@
 
 namespace {
 
-bool contains(const CArray<short>& numbers, int wanted)
-{
-    return std::find(numbers.begin(), numbers.end(), wanted) != numbers.end();
-}
-
 /// Cuts a text at blanks into pieces no wider than width. The character at a break is in no piece, be it a
 /// blank or, in a word that is too long, one of its letters.
 class Pieces {
@@ -72,6 +67,11 @@ AListBox::AListBox(const CString& name, int x, int y, int width, int height)
 {}
 
 AListBox::~AListBox() = default;
+
+bool AListBox::contains(const CArray<short>& numbers, int wanted)
+{
+    return std::find(numbers.begin(), numbers.end(), wanted) != numbers.end();
+}
 
 void AListBox::startup()
 {
