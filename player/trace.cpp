@@ -17,6 +17,7 @@ const char* operationName(DrawOp op)
 {
     switch (op) {
     case DrawOp::Blit:
+    case DrawOp::BlitRow: // its pieces
         return "blit";
     case DrawOp::FillRect:
         return "fillrect";
@@ -45,6 +46,7 @@ void writeArguments(JsonWriter& json, const DisplayList& list, const DrawCommand
 {
     switch (command.op) {
     case DrawOp::Blit:
+    case DrawOp::BlitRow:
         json.field("image", std::string_view(command.image ? command.image->name : ""))
             .field("x", command.x)
             .field("y", command.y)
@@ -95,17 +97,39 @@ void writeArguments(JsonWriter& json, const DisplayList& list, const DrawCommand
     }
 }
 
+void writeCommand(std::string& lines, const DisplayList& list, const DrawCommand& command)
+{
+    JsonWriter json;
+    json.open('{').field("op", std::string_view(operationName(command.op)));
+    writeArguments(json, list, command);
+    lines += json.close('}').text() + '\n';
+}
+
+/// Each piece of a row as the blit that it stands for; other is the row whose pieces were drawn in turn with
+/// these, or null.
+void writePieces(std::string& lines, const DisplayList& list, const DrawCommand& row,
+                 const DrawCommand* other)
+{
+    for (int i = 0; i < pieceCount(row); ++i) {
+        writeCommand(lines, list, pieceOf(row, i));
+        if (other)
+            writeCommand(lines, list, pieceOf(*other, i));
+    }
+}
+
 } // namespace
 
 std::string traceReport(const AMainWin& win)
 {
     std::string lines;
     const DisplayList& list = win.getLastFrame();
-    for (const DrawCommand& command : list.commands()) {
-        JsonWriter json;
-        json.open('{').field("op", std::string_view(operationName(command.op)));
-        writeArguments(json, list, command);
-        lines += json.close('}').text() + '\n';
+    const auto commands = list.commands();
+    for (std::size_t i = 0; i < commands.size(); ++i) {
+        const DrawCommand& command = commands[i];
+        if (command.op == DrawOp::BlitRow)
+            writePieces(lines, list, command, command.flags & pieceAlternates ? &commands[++i] : nullptr);
+        else
+            writeCommand(lines, list, command);
     }
     return lines;
 }

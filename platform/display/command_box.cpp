@@ -39,6 +39,10 @@ Box paintedBox(const DrawCommand& command, const Box& clip)
     switch (command.op) {
     case DrawOp::Blit:
         return blitBox(command, clip);
+    case DrawOp::BlitRow:
+        return command.image ? clipped(command.x, command.y, static_cast<std::int64_t>(command.x) + command.w,
+                                       static_cast<std::int64_t>(command.y) + command.h, clip)
+                             : Box();
     case DrawOp::FillRect:
     case DrawOp::Rectangle:
         return intersection({command.x, command.y, command.w, command.h}, clip);

@@ -19,8 +19,8 @@ inline BlitSource sourceOf(const DrawCommand& blit)
     return {blit.sw, blit.sh, blit.sw != blit.w || blit.sh != blit.h};
 }
 
-/// Screen pixels that a Blit, FillRect, Rectangle or Line may paint, inside clip; empty for all others. For a
-/// text, layoutText knows.
+/// Screen pixels that a Blit, BlitRow, FillRect, Rectangle or Line may paint, inside clip; empty for all
+/// others. For a text, layoutText knows.
 Box paintedBox(const DrawCommand& command, const Box& clip);
 
 /// Whether the command hides all that lies under its paintedBox.

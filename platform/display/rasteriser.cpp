@@ -10,6 +10,20 @@ constexpr int tileSize = Damage::tileSize;
 // Tiles of a run at most: its pixels stay in the second cache while its commands go over them.
 constexpr int tilesPerRun = 16;
 
+/// Those pieces of a row that lie in clip.
+void paintRow(Image& screen, const DrawCommand& row, const Box& clip, StretchBuffers& buffers)
+{
+    const bool isDown = (row.flags & pieceDown) != 0;
+    const int first = (isDown ? clip.y0 - row.y : clip.x0 - row.x) / row.sw;
+    const int last = ((isDown ? clip.y1 - row.y : clip.x1 - row.x) - 1) / row.sw;
+    for (int i = first; i <= last; ++i) {
+        const DrawCommand piece = pieceOf(row, i);
+        const Box box = paintedBox(piece, clip);
+        if (!box.isEmpty())
+            paintBlit(screen, piece, box, buffers);
+    }
+}
+
 } // namespace
 
 void Rasteriser::paint(const DisplayList& list, PaintedRange range, const BackdropPixels& backdrop,
@@ -142,6 +156,9 @@ void Rasteriser::paintRun(const Run& run, const BackdropPixels& backdrop, Image&
         switch (command.op) {
         case DrawOp::Blit:
             paintBlit(screen, command, clip, buffers);
+            break;
+        case DrawOp::BlitRow:
+            paintRow(screen, command, clip, buffers);
             break;
         case DrawOp::FillRect:
             paintFill(screen, command, clip);

@@ -68,8 +68,7 @@ void surface::blit(int x, int y, int srcX, int srcY, int w, int h, int srcW, int
 {
     if (!owner)
         return;
-    Canvas& canvas = *owner->canvas;
-    DrawCommand& command = canvas.record(DrawOp::Blit);
+    DrawCommand& command = record(DrawOp::Blit);
     command.mode = heldMode(mode);
     command.x = x;
     command.y = y;
@@ -79,12 +78,40 @@ void surface::blit(int x, int y, int srcX, int srcY, int w, int h, int srcW, int
     command.sy = srcY;
     command.sw = srcW;
     command.sh = srcH;
+}
+
+void surface::blitRows(const PieceRow& first, const PieceRow& second, int side, int length, bool down)
+{
+    if (!owner || length <= 0 || side <= 0)
+        return;
+    for (const PieceRow* row : {&first, &second}) {
+        DrawCommand& command = record(DrawOp::BlitRow);
+        command.flags =
+            static_cast<std::uint8_t>((down ? pieceDown : 0) | (row == &first ? pieceAlternates : 0));
+        command.mode = -1;
+        command.x = row->x;
+        command.y = row->y;
+        command.w = down ? side : length;
+        command.h = down ? length : side;
+        command.sx = row->srcX;
+        command.sy = 0;
+        command.sw = side;
+        command.sh = 0;
+    }
+}
+
+/// A command of this bitmap's pixels, as they are now. Only with an owner.
+DrawCommand& surface::record(DrawOp op)
+{
+    Canvas& canvas = *owner->canvas;
+    DrawCommand& command = canvas.record(op);
     if (image) {
         command.subject = image->id;
         command.colour = image->version;
         command.image = image.get();
         canvas.hold(image);
     }
+    return command;
 }
 
 void surface::blit(int x, int y, int w, int h, IDirectDrawSurface* dest, int mode)

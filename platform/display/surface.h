@@ -5,7 +5,11 @@
 #include "platform/export.h"
 #include "platform/framework/cstring.h"
 
+#include <cstdint>
+
 class ddwin;
+struct DrawCommand;
+enum class DrawOp : std::uint8_t;
 struct IDirectDrawSurface;
 
 /// A bitmap that the display library has loaded or built. Made by ddwin::createsprite and createBkgndSection,
@@ -30,6 +34,15 @@ public:
               int mode);
     /// The whole bitmap to that rectangle.
     void blit(int x, int y, int w, int h, IDirectDrawSurface* dest, int mode);
+    /// A row of equal pieces of a strip.
+    struct PieceRow {
+        int x, y; // of the first piece
+        int srcX; // the pieces' place in the strip; srcY is 0
+    };
+    /// Two rows of square pieces, side pixels large, each row length pixels long, the last pieces cut to it:
+    /// beside each other, or with down below. As if piece after piece of the two had been drawn in turn by
+    /// blit, srcW, srcH and mode -1, but recorded as one command for each row.
+    void blitRows(const PieceRow& first, const PieceRow& second, int side, int length, bool down);
     /// Sets a pixel of the bitmap itself; outside it nothing happens. colour is from ddwin::getcol. The key
     /// colour makes the pixel transparent where the bitmap has no alpha channel.
     void setPixel(int x, int y, unsigned long colour);
@@ -51,5 +64,7 @@ protected:
 
 private:
     friend class SurfaceRef;
+    DrawCommand& record(DrawOp op);
+
     SurfaceRef* refs = nullptr; // first of those that point here
 };

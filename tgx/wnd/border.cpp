@@ -24,24 +24,17 @@ void ABorder::draw(int x, int y, int width, int height)
     if (!borderBmp || size <= 0)
         return;
 
-    // skipX, skipY: pixels of the piece that stay away on its left and top.
-    const auto put = [&](Piece piece, int skipX, int skipY, int toX, int toY, int w, int h) {
-        borderBmp->blit(toX, toY, piece * (size + 1) + skipX, skipY, w, h, -1, -1, nullptr, -1);
-    };
-
-    for (int px = x + size; px < x + width - size; px += size) {
-        const int w = std::min(size, x + width - size - px);
-        put(TopEdge, 0, 0, px, y, w, size);
-        put(BottomEdge, 0, 0, px, y + height - size, w, size);
-    }
-    for (int py = y + size; py < y + height - size; py += size) {
-        const int h = std::min(size, y + height - size - py);
-        put(LeftEdge, 0, 0, x, py, size, h);
-        put(RightEdge, 0, 0, x + width - size, py, size, h);
-    }
+    const auto sourceOf = [size](Piece piece) { return piece * (size + 1); };
+    borderBmp->blitRows({x + size, y, sourceOf(TopEdge)}, {x + size, y + height - size, sourceOf(BottomEdge)},
+                        size, width - 2 * size, false);
+    borderBmp->blitRows({x, y + size, sourceOf(LeftEdge)}, {x + width - size, y + size, sourceOf(RightEdge)},
+                        size, height - 2 * size, true);
 
     // On a window smaller than two pieces each corner shows the part that lies towards the window's own
-    // corner.
+    // corner. skipX, skipY: pixels of the piece that stay away on its left and top.
+    const auto put = [&](Piece piece, int skipX, int skipY, int toX, int toY, int w, int h) {
+        borderBmp->blit(toX, toY, sourceOf(piece) + skipX, skipY, w, h, -1, -1, nullptr, -1);
+    };
     const int w = std::min(size, width / 2);
     const int h = std::min(size, height / 2);
     const int skipX = size - w;
