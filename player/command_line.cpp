@@ -7,34 +7,43 @@
 
 namespace {
 
-/// "640x480" into options; the reason why not, or "".
-std::string readSize(const std::string& size, PlayOptions& options)
+/// "640x480" into the two; the reason why not, or "".
+std::string readSize(const std::string& size, int& width, int& height)
 {
     std::size_t divider = size.find('x');
-    int width = 0, height = 0;
+    int w = 0, h = 0;
     constexpr int largest = 32767; // a screen's sides have 16 bits
-    if (divider == std::string::npos || !CLI::detail::lexical_cast(size.substr(0, divider), width) ||
-        !CLI::detail::lexical_cast(size.substr(divider + 1), height) || width < 1 || height < 1 ||
-        width > largest || height > largest)
+    if (divider == std::string::npos || !CLI::detail::lexical_cast(size.substr(0, divider), w) ||
+        !CLI::detail::lexical_cast(size.substr(divider + 1), h) || w < 1 || h < 1 || w > largest ||
+        h > largest)
         return "expected WIDTHxHEIGHT with sides from 1 to 32767, found " + size;
-    options.width = width;
-    options.height = height;
+    width = w;
+    height = h;
     return "";
 }
 
-/// What is played and how large.
-void addSceneArguments(CLI::App& app, PlayOptions& options)
+} // namespace
+
+void addSizeOption(CLI::App& app, int& width, int& height)
 {
-    app.add_option("--script", options.script, "Compiled script, by its name below UIG/")->type_name("NAME");
     app.add_option_function<std::string>(
            "--size",
-           [&options](const std::string& size) {
-               std::string reason = readSize(size, options);
+           [&width, &height](const std::string& size) {
+               std::string reason = readSize(size, width, height);
                if (!reason.empty())
                    throw CLI::ValidationError("--size", reason);
            },
            "Size of the screen in pixels [640x480]")
         ->type_name("WxH");
+}
+
+namespace {
+
+/// What is played and how large.
+void addSceneArguments(CLI::App& app, PlayOptions& options)
+{
+    app.add_option("--script", options.script, "Compiled script, by its name below UIG/")->type_name("NAME");
+    addSizeOption(app, options.width, options.height);
     app.add_option("--frame-ms", options.frameMs, "Milliseconds from one frame to the next [41]")
         ->check(CLI::NonNegativeNumber)
         ->type_name("N");

@@ -148,6 +148,9 @@ private:
 /// Enters the arguments of `tgx play` into app. options must outlive the parse.
 TGX_PLAYER_API void addPlayArguments(CLI::App& app, PlayOptions& options);
 
+/// Enters --size WxH, which sets the two. They must outlive the parse.
+TGX_PLAYER_API void addSizeOption(CLI::App& app, int& width, int& height);
+
 /// A run on stdout and stderr. Exit status for main.
 TGX_PLAYER_API int play(const PlayOptions& options, const MainWinFactory& factory);
 

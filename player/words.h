@@ -31,7 +31,9 @@ TGX_PLAYER_API std::optional<std::int64_t> parseNumber(const Word& word);
 TGX_PLAYER_API std::optional<std::int64_t> parseFixed(const Word& word);
 
 /// text in double quotes, for messages: bytes outside 0x20 to 0x7E as \xNN.
-std::string quote(std::string_view text);
+TGX_PLAYER_INTERNAL std::string quote(std::string_view text);
+/// text as one word of an events line, in quotes: splitWords gives the same bytes.
+TGX_PLAYER_INTERNAL std::string quoteWord(std::string_view text);
 /// "a, b and c". At most limit of the names; the others are counted.
 std::string listNames(const std::vector<std::string>& names, std::size_t limit = 8);
 /// "; did you mean NAME?" for the name that is at most two slips away from what was written, else "".

@@ -6,8 +6,8 @@
 Canvas::Canvas(ddwin& owner)
     : backBuffer(&owner), window(owner), screen(makeImage(0, 0)), backdropSurface(&owner)
 {
-    fonts.push_back(makeBuiltInFont());
-    fonts.back()->index = 0;
+    fonts.push_back({makeBuiltInFont(), {}});
+    fonts.back().font->index = 0;
     layer.resize(0, 0);
     beginList();
 }

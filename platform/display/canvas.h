@@ -9,6 +9,8 @@
 #include "platform/display/rasteriser.h"
 #include "platform/display/surface_store.h"
 
+#include <string>
+
 struct tagRECT;
 
 /// What a window draws with: the lists of the running and the last frame, the backdrop, the screen's pixels,
@@ -49,7 +51,12 @@ public:
     void settleSize();
 
     SurfaceStore surfaces;
-    std::vector<std::unique_ptr<bmpfont>> fonts;
+    struct FontEntry {
+        std::unique_ptr<bmpfont> font;
+        std::string request; // what addNewFont was given; empty for one that could not be loaded
+    };
+    std::vector<FontEntry> fonts;
+    std::vector<FontEntry> formerFonts; // taken out of the table; something may still point to them
     IDirectDraw directDraw;
     IDirectDraw2 directDraw2;
     IDirectDrawClipper clipper;

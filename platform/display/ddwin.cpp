@@ -88,6 +88,7 @@ void ddwin::runTick()
 {
     InputQueue& input = displayhost::current().input();
     followPointer(); // written between the ticks
+    displayhost::current().tickBegins(*this, tickEnded);
     if (tickEnded) {
         input.beginTick(*this);
         canvas->knownMouseX = mouseX;
@@ -114,6 +115,7 @@ void ddwin::runTick()
 
 void ddwin::runFrame()
 {
+    displayhost::current().frameBegins(*this);
     try {
         drawscreen();
     } catch (...) {

@@ -97,6 +97,9 @@ public:
     /// limits::fontPixels; spacing: extra pixels between characters. One that cannot be loaded is reported,
     /// and a copy of the default font takes its place. Its index, or -1 when the table is full.
     int addNewFont(CString file, CString style, int size, int spacing);
+    /// Empties the table but for entry 0, for an interface that is read anew. Windows that have one of those
+    /// fonts keep it: it lives on, and comes back into the table when the same one is asked for.
+    void beginFontsAnew();
     /// Null for an index outside the table.
     bmpfont* getFont(int index);
     int getFontCount() const;

@@ -4,7 +4,9 @@
 #include "platform/host/font_file.h"
 #include "platform/limits.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 
 namespace {
 
@@ -24,6 +26,18 @@ void place(DrawCommand& command, int x, int y, int w, int h)
     command.y = y;
     command.w = w;
     command.h = h;
+}
+
+/// The font that was loaded on the same request and is in the table no longer, or null.
+std::unique_ptr<bmpfont> takeFormer(std::vector<Canvas::FontEntry>& former, const std::string& request)
+{
+    const auto found = std::find_if(former.begin(), former.end(),
+                                    [&](const Canvas::FontEntry& entry) { return entry.request == request; });
+    if (found == former.end())
+        return nullptr;
+    std::unique_ptr<bmpfont> font = std::move(found->font);
+    former.erase(found);
+    return font;
 }
 
 } // namespace
@@ -170,23 +184,35 @@ int ddwin::addNewFont(CString file, CString style, int size, int spacing)
         MsgBox("cannot load %s", static_cast<const char*>(file));
         return -1;
     }
-    std::unique_ptr<bmpfont> font = loadFontFile(file.view(), parseFontStyle(style.view()), size, spacing);
+    std::string request =
+        file.str() + '\n' + style.str() + '\n' + std::to_string(size) + '\n' + std::to_string(spacing);
+    std::unique_ptr<bmpfont> font = takeFormer(canvas->formerFonts, request);
+    if (!font)
+        font = loadFontFile(file.view(), parseFontStyle(style.view()), size, spacing);
     long long glyphPixels = font ? font->pixelCount() : 0;
     for (const auto& entry : fonts)
-        glyphPixels += entry->pixelCount();
+        glyphPixels += entry.font->pixelCount();
     if (!font || glyphPixels > limits::glyphPixels) {
         MsgBox("cannot load %s", static_cast<const char*>(file));
-        font = std::make_unique<bmpfont>(*fonts.front());
+        font = std::make_unique<bmpfont>(*fonts.front().font);
+        request.clear();
     }
     font->index = static_cast<int>(fonts.size());
-    fonts.push_back(std::move(font));
-    return fonts.back()->index;
+    fonts.push_back({std::move(font), std::move(request)});
+    return fonts.back().font->index;
+}
+
+void ddwin::beginFontsAnew()
+{
+    auto& fonts = canvas->fonts;
+    std::move(fonts.begin() + 1, fonts.end(), std::back_inserter(canvas->formerFonts));
+    fonts.resize(1);
 }
 
 bmpfont* ddwin::getFont(int index)
 {
     const auto& fonts = canvas->fonts;
-    return static_cast<std::size_t>(index) < fonts.size() ? fonts[static_cast<std::size_t>(index)].get()
+    return static_cast<std::size_t>(index) < fonts.size() ? fonts[static_cast<std::size_t>(index)].font.get()
                                                           : nullptr;
 }
 
@@ -198,7 +224,7 @@ int ddwin::getFontCount() const
 int ddwin::getFontIndex(const bmpfont* font) const
 {
     for (const auto& entry : canvas->fonts)
-        if (entry.get() == font)
-            return entry->index;
+        if (entry.font.get() == font)
+            return font->index;
     return -1;
 }

@@ -18,6 +18,9 @@ enum VirtualKey : unsigned char {
     VK_DELETE = 0x2E,
     VK_F1 = 0x70,
     VK_F7 = 0x76,
+    VK_F9 = 0x78,
+    VK_F10 = 0x79,
+    VK_F11 = 0x7A,
     VK_F12 = 0x7B,
     VK_PACKET = 0xE7, // a character that no key of its own stands for
 };

@@ -71,6 +71,10 @@ int CFile::Open(const char* name, unsigned, void*)
     tooLarge = false;
     if (!name)
         return 0;
+    if (std::shared_ptr<const std::string> bytes = findMemoryFile(name)) {
+        share(name, std::move(bytes));
+        return 1;
+    }
     const std::optional<std::string> path = findDataFile(name);
     if (!path)
         return 0;

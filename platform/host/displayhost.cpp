@@ -19,6 +19,10 @@ std::unique_ptr<displayhost>& hostInUse()
 displayhost::displayhost() = default;
 displayhost::~displayhost() = default;
 
+void displayhost::followFullScreen(ddwin&) {}
+void displayhost::tickBegins(ddwin&, bool) {}
+void displayhost::frameBegins(ddwin&) {}
+
 displayhost& displayhost::current()
 {
     if (!hostInUse())

@@ -4,6 +4,7 @@
 #include "platform/framework/cstring.h"
 #include "platform/host/input_queue.h"
 
+#include <cstdint>
 #include <memory>
 #include <span>
 
@@ -12,6 +13,9 @@ struct Image;
 struct tagRECT;
 
 enum class CursorShape { Normal, Wait };
+
+/// Wheel notches, repeats and moves that wait for longer are of no use to anybody.
+constexpr std::uint32_t staleInputMillis = 250;
 
 /// The one seam to the outside: shows frames, brings input, sets the cursor, shows messages, waits. There is
 /// one host at a time. A program that chooses none gets the SDL window with its first ddwin.
@@ -44,6 +48,12 @@ public:
     /// Returns when the next tick or frame is due; the two counts say how many ticks to run before how many
     /// frames (0 or 1).
     virtual void waitForWork(int& ticks, int& frames) = 0;
+    /// Takes over the fullScreen and topMost of a window that is open. The base has no screen to fill.
+    virtual void followFullScreen(ddwin& window);
+    /// A tick or a frame of window is about to run; takesInput: the tick before has ended, so this one takes
+    /// what stands at the head of input(). For hosts that watch; the base does nothing.
+    virtual void tickBegins(ddwin& window, bool takesInput);
+    virtual void frameBegins(ddwin& window);
 
     InputQueue& input() { return queue; }
     /// Set by WM_CLOSE; the main loop ends then.

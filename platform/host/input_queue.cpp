@@ -50,7 +50,7 @@ void clearFieldsOfOneTick(ddwin& window)
 
 } // namespace
 
-void InputQueue::add(Event event)
+void InputQueue::addNow(Event event)
 {
     event.time = timeGetTime();
     events.push_back(event);
@@ -58,41 +58,41 @@ void InputQueue::add(Event event)
 
 void InputQueue::move(int x, int y)
 {
-    add({.kind = Kind::Move, .x = coordinate(x), .y = coordinate(y)});
+    addNow({.kind = Kind::Move, .x = coordinate(x), .y = coordinate(y)});
 }
 
 void InputQueue::press(MouseButton button)
 {
-    add({.kind = Kind::Press, .button = button});
+    addNow({.kind = Kind::Press, .button = button});
 }
 
 void InputQueue::release(MouseButton button)
 {
-    add({.kind = Kind::Release, .button = button});
+    addNow({.kind = Kind::Release, .button = button});
 }
 
 void InputQueue::doubleClick(MouseButton button)
 {
-    add({.kind = Kind::DoubleClick, .button = button});
+    addNow({.kind = Kind::DoubleClick, .button = button});
 }
 
 void InputQueue::wheel(bool up)
 {
-    add({.kind = up ? Kind::WheelUp : Kind::WheelDown});
+    addNow({.kind = up ? Kind::WheelUp : Kind::WheelDown});
 }
 
 void InputQueue::key(std::uint8_t code, char character, std::uint8_t secondCode, bool repeat)
 {
-    add({.kind = Kind::Key,
-         .code = code,
-         .secondCode = secondCode,
-         .character = character,
-         .repeat = repeat});
+    addNow({.kind = Kind::Key,
+            .code = code,
+            .secondCode = secondCode,
+            .character = character,
+            .repeat = repeat});
 }
 
 void InputQueue::holdInTurn(std::uint8_t code, bool held)
 {
-    add({.kind = Kind::Hold, .code = code, .held = held});
+    addNow({.kind = Kind::Hold, .code = code, .held = held});
 }
 
 void InputQueue::beginTick(ddwin& window)

@@ -13,6 +13,21 @@ enum class MouseButton : std::uint8_t { Left, Right, Middle };
 /// front of it, so that a press and its release between two ticks are two ticks and nothing is lost.
 class TGX_PLATFORM_API InputQueue {
 public:
+    enum class Kind : std::uint8_t { Move, Press, Release, DoubleClick, WheelUp, WheelDown, Key, Hold };
+    struct Event {
+        Kind kind;
+        MouseButton button = MouseButton::Left;
+        std::uint8_t code = 0;
+        std::uint8_t secondCode = 0;
+        char character = 0;
+        bool repeat = false;
+        bool held = false; // of Hold
+        std::int16_t x = 0;
+        std::int16_t y = 0;
+        std::uint32_t time = 0;
+    };
+    static bool isTransition(const Event& event) { return !isMove(event) && event.kind != Kind::Hold; }
+
     /// Time is that of timeGetTime when the event came in, for what may grow stale.
     void move(int x, int y);
     void press(MouseButton button);
@@ -21,6 +36,10 @@ public:
     void wheel(bool up);
     /// code 0 is no key. secondCode goes to keyCode2. repeat: the platform's repeat of a held key.
     void key(std::uint8_t code, char character, std::uint8_t secondCode = 0, bool repeat = false);
+    /// An event of another queue, behind those that wait here.
+    void add(const Event& event) { events.push_back(event); }
+    /// Those that wait, the oldest first.
+    const std::deque<Event>& getEvents() const { return events; }
     bool empty() const { return events.empty(); }
     void clear() { events.clear(); }
 
@@ -42,22 +61,8 @@ public:
     void dropStale(std::uint32_t now, std::uint32_t oldest);
 
 private:
-    enum class Kind : std::uint8_t { Move, Press, Release, DoubleClick, WheelUp, WheelDown, Key, Hold };
-    struct Event {
-        Kind kind;
-        MouseButton button = MouseButton::Left;
-        std::uint8_t code = 0;
-        std::uint8_t secondCode = 0;
-        char character = 0;
-        bool repeat = false;
-        bool held = false; // of Hold
-        std::int16_t x = 0;
-        std::int16_t y = 0;
-        std::uint32_t time = 0;
-    };
     static bool isMove(const Event& event) { return event.kind == Kind::Move; }
-    static bool isTransition(const Event& event) { return !isMove(event) && event.kind != Kind::Hold; }
-    void add(Event event);
+    void addNow(Event event);
     void apply(ddwin& window, const Event& event);
     std::deque<Event> events;
     std::uint8_t tickKey = 0; // counts as held until the tick has ended, 0 for none

@@ -22,9 +22,6 @@
 
 namespace {
 
-/// Wheel notches, repeats and moves that wait for longer are of no use to anybody.
-constexpr std::uint32_t staleMillis = 250;
-
 std::int64_t nowMicros()
 {
     return std::chrono::duration_cast<std::chrono::microseconds>(
@@ -55,6 +52,7 @@ public:
     void movePointer(int x, int y) override;
     void showMessage(const CString& text) override;
     void waitForWork(int& ticks, int& frames) override;
+    void followFullScreen(ddwin& window) override;
 
 private:
     bool startVideo();
@@ -273,6 +271,15 @@ void SdlHost::updateFit()
     windowIsStale = true;
 }
 
+void SdlHost::followFullScreen(ddwin& changed)
+{
+    if (!window || game != &changed)
+        return;
+    SDL_SetWindowAlwaysOnTop(window, changed.fullScreen && changed.topMost ? SDL_TRUE : SDL_FALSE);
+    SDL_SetWindowFullscreen(window, changed.fullScreen ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0);
+    updateFit();
+}
+
 void SdlHost::setCursor(CursorShape shape)
 {
     cursor = shape;
@@ -312,7 +319,7 @@ void SdlHost::pump(ddwin& polled)
     }
     mouseAndKeys.flush();
     controllers.repeat(SDL_GetTicks(), input());
-    input().dropStale(timeGetTime(), staleMillis);
+    input().dropStale(timeGetTime(), staleInputMillis);
 }
 
 void SdlHost::handleWindowEvent(const SDL_WindowEvent& event)

@@ -124,6 +124,22 @@ bool isBelow(const std::string& path, const std::string& folder)
                              path[folder.size()] == '/');
 }
 
+std::map<std::string, std::shared_ptr<const std::string>>& memoryFiles()
+{
+    static auto& files = *new std::map<std::string, std::shared_ptr<const std::string>>;
+    return files;
+}
+
+/// The one form of all names that mean the same file in memory; "" for a refused one.
+std::string memoryKey(std::string_view name)
+{
+    std::string key;
+    if (const std::optional<std::vector<std::string>> components = splitSafely(name))
+        for (const std::string& component : *components)
+            key += '/' + lowered(component);
+    return key;
+}
+
 } // namespace
 
 void setDataDirectory(const std::string& path)
@@ -170,4 +186,24 @@ std::optional<std::string> findDataFile(std::string_view name)
     if (!S_ISREG(status.st_mode))
         return std::nullopt;
     return hasLink ? canonical(path) : path;
+}
+
+bool setMemoryFile(std::string_view name, std::shared_ptr<const std::string> bytes)
+{
+    std::string key = memoryKey(name);
+    if (key.empty())
+        return false;
+    if (bytes)
+        memoryFiles()[std::move(key)] = std::move(bytes);
+    else
+        memoryFiles().erase(key);
+    return true;
+}
+
+std::shared_ptr<const std::string> findMemoryFile(std::string_view name)
+{
+    if (memoryFiles().empty())
+        return nullptr;
+    const auto found = memoryFiles().find(memoryKey(name));
+    return found == memoryFiles().end() ? nullptr : found->second;
 }

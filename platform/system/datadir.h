@@ -2,6 +2,7 @@
 
 #include "platform/export.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,3 +15,10 @@ TGX_PLATFORM_API const std::string& dataDirectory();
 /// looked for exactly first, then ignoring case. Nothing for a name that finds no regular file, is absolute,
 /// or leads out of the data directory, be it by "..", a drive letter or a link.
 TGX_PLATFORM_API std::optional<std::string> findDataFile(std::string_view name);
+
+/// Puts a file into the data directory that is in memory alone: CFile finds it before those on disk. It
+/// stays, also when another folder becomes the data directory, until bytes is null for its name. False for a
+/// name that findDataFile would refuse.
+TGX_PLATFORM_API bool setMemoryFile(std::string_view name, std::shared_ptr<const std::string> bytes);
+/// Its bytes, or null. The name is compared ignoring case.
+TGX_PLATFORM_API std::shared_ptr<const std::string> findMemoryFile(std::string_view name);

@@ -11,6 +11,7 @@
 
 #include <memory>
 
+class ScriptObserver;
 class ScriptRun;
 
 /// The game's main window: root of the window tree, frame loop, screens and popups, input, and the interface
@@ -137,6 +138,10 @@ public:
     /// Closes and deletes the streams and empties the array. A stream that a subroutine runs from lives until
     /// that has ended.
     void deleteAllGotoFiles(CArray<CFile*, CFile*>& gotoFiles);
+    /// Shown each line that a read carries out, from now on; null: none. Not owned: take it away before it is
+    /// deleted.
+    void setScriptObserver(ScriptObserver* observer) { scriptObserver = observer; }
+    ScriptObserver* getScriptObserver() const { return scriptObserver; }
 
 protected:
     /// One frame of the wipe.
@@ -189,8 +194,9 @@ private:
 
     int frameStep = 0; // of the running or last frame
     bool exitRequested = false;
-    bool wipeSwapsBackdrop = false;       // the running wipe has yet to bring the new backdrop
-    bool wipeReturns = false;             // its screen was suspended: returned falls to the last frame
+    bool wipeSwapsBackdrop = false; // the running wipe has yet to bring the new backdrop
+    bool wipeReturns = false;       // its screen was suspended: returned falls to the last frame
+    ScriptObserver* scriptObserver = nullptr;
     std::unique_ptr<ScriptRun> scriptRun; // of the outermost read that runs; null between reads
     friend class ScriptRun;
 };

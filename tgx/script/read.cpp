@@ -2,6 +2,7 @@
 
 #include "platform/display/msgbox.h"
 #include "tgx/script/interpreter.h"
+#include "tgx/script/observer.h"
 #include "tgx/script/reader.h"
 #include "tgx/script/run.h"
 
@@ -24,13 +25,14 @@ struct LineLoop {
     AWnd* outside; // the window of depth 0; null in a read
     int depth = 0;
     int count = 0;
+    unsigned start = 0; // of the line in the stream
     TOKEN_INFO tokens[maxLineTokens] = {};
     WndRef open[wndStackSize] = {}; // empty out when the game's code deletes a window during the read
 
     /// False at the end of the stream.
     bool next()
     {
-        const unsigned start = stream->GetPosition();
+        start = stream->GetPosition();
         if (!readScriptLine(stream, tokens, maxLineTokens, &count))
             return false;
         run.countBytes(stream->GetPosition() - start);
@@ -47,6 +49,9 @@ struct LineLoop {
             executeLine({window, run, stream, tokens, count, current, depth, gotoFiles});
         if (result.stores)
             open[depth] = result.made;
+        if (ScriptObserver* observer = window.getScriptObserver(); observer && !run.isOver())
+            observer->lineExecuted({stream->GetFileName(), start, tokens, count, depth, current,
+                                    result.depthChange, result.made});
         return result.depthChange;
     }
 };
@@ -68,6 +73,8 @@ struct KeptPosition {
 };
 
 } // namespace
+
+ScriptObserver::~ScriptObserver() = default;
 
 int AMainWin::convertResourceToFile(HINSTANCE instance, unsigned resource, CMemFile* file,
                                     const CString& type)

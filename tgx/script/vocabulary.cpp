@@ -157,7 +157,7 @@ const Statement* statementByKeyword(std::string_view keyword)
     return nullptr;
 }
 
-ArgumentKind argumentKind(const Statement& statement, int token)
+std::string_view argumentName(const Statement& statement, int token)
 {
     std::string_view form = statement.form;
     std::string_view argument;
@@ -167,6 +167,12 @@ ArgumentKind argumentKind(const Statement& statement, int token)
         if (word != "...")
             argument = word;
     }
+    return argument;
+}
+
+ArgumentKind argumentKind(const Statement& statement, int token)
+{
+    const std::string_view argument = argumentName(statement, token);
     if (argument.empty())
         return ArgumentKind::Number;
     if (argument[0] == '"')

@@ -86,6 +86,9 @@ TGX_API std::span<const Statement> vocabulary();
 TGX_API const Statement* statementById(int id);
 /// Exact. Null when there is none.
 TGX_API const Statement* statementByKeyword(std::string_view keyword);
+/// The argument's name in the form, with quotes around that of a string: token 1 is the first; what stands
+/// behind the last of the form counts as that one. Empty when there is none.
+TGX_API std::string_view argumentName(const Statement& statement, int token);
 /// Kind of the argument at that token, 1 for the first; what stands behind the last of the form counts as
 /// that one. The interpreter never asks: a string where a number is expected reads as 0.
 TGX_API ArgumentKind argumentKind(const Statement& statement, int token);

@@ -22,6 +22,12 @@ bool escSearchRuns = false;
 
 } // namespace
 
+bool escPointsAt(std::string_view id)
+{
+    return std::any_of(std::begin(escTargets), std::end(escTargets),
+                       [id](const char* name) { return CString::equalNoCase(name, id); });
+}
+
 bool leavesScreen(std::string_view id)
 {
     static constexpr std::string_view ids[] = {"TGX_EXIT", "TGX_CANCEL", "TGX_BACK", "TGX_CLOSE"};

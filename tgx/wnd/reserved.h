@@ -4,9 +4,13 @@
 
 #include <string_view>
 
-// Ids with a meaning of their own; a script gives them to its buttons. All are compared exactly here.
+// Ids with a meaning of their own; a script gives them to its buttons. Compared exactly where nothing else is
+// said.
 
 /// "TGX_EXIT", "TGX_CANCEL", "TGX_BACK", "TGX_CLOSE": a click leaves the screen.
 TGX_API bool leavesScreen(std::string_view id);
 /// "TGX_CLOSE", "TGX_YES", "TGX_NO", "TGX_OK", "TGX_CANCEL": a click closes the popup.
 TGX_API bool closesPopup(std::string_view id);
+/// "TGX_BACK", "TGX_OK", "TGX_YES", "TGX_CLOSE", "continue", ignoring case: Esc puts the pointer on the first
+/// that is there and enabled.
+TGX_API bool escPointsAt(std::string_view id);

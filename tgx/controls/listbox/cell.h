@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tgx/export.h"
+
 #include <string>
 #include <string_view>
 
@@ -17,7 +19,7 @@ struct ListCell {
     int number = 0;
 
     /// stored ends in a 0, as that of a CString does. The parts point into it.
-    static ListCell decode(std::string_view stored);
+    static TGX_API ListCell decode(std::string_view stored);
 
     static std::string withFrame(int icon, int frame);
     static std::string withProgress(int icon, int percentage);
