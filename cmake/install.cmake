@@ -2,7 +2,7 @@
 #
 #   bin/tgx                      the tool
 #   include/tgx-1/               public headers, with the folders of this repository
-#   lib/                         libtgx, libtgxplatform, libtgxplayer
+#   lib/                         libtgx, libtgxplatform, libtgxplayer, libtgxdevtools
 #   lib/cmake/tgx/               find_package(tgx): targets, tgx_embed_scripts
 #   lib/pkgconfig/tgx.pc
 
@@ -14,9 +14,10 @@ set(tgx_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tgx)
 # The name behind tgx:: in the package is the same as in this build.
 set_target_properties(tgxplatform PROPERTIES EXPORT_NAME platform)
 set_target_properties(tgxplayer PROPERTIES EXPORT_NAME player)
+set_target_properties(tgxdevtools PROPERTIES EXPORT_NAME devtools)
 set_target_properties(tgx_tool PROPERTIES EXPORT_NAME tool)
 
-install(TARGETS tgx tgxplatform tgxplayer tgx_tool EXPORT tgxTargets
+install(TARGETS tgx tgxplatform tgxplayer tgxdevtools tgx_tool EXPORT tgxTargets
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
@@ -25,10 +26,10 @@ install(EXPORT tgxTargets NAMESPACE tgx:: DESTINATION ${tgx_cmake_dir})
 
 # A header is public when it exports something, or when a public one includes it. What is left over is private to its
 # library and not installed.
-file(GLOB_RECURSE headers RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS platform/*.h tgx/*.h player/*.h)
+file(GLOB_RECURSE headers RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS platform/*.h tgx/*.h player/*.h devtools/*.h)
 set(open_headers platform/limits.h tgx/tgx.h)
 foreach(header IN LISTS headers)
-  file(STRINGS ${header} exports REGEX "(TGX_API|TGX_PLATFORM_API|TGX_PLAYER_API) " LIMIT_COUNT 1)
+  file(STRINGS ${header} exports REGEX "(TGX_API|TGX_PLATFORM_API|TGX_PLAYER_API|TGX_DEVTOOLS_API) " LIMIT_COUNT 1)
   if(exports)
     list(APPEND open_headers ${header})
   endif()
@@ -40,7 +41,7 @@ while(open_headers)
     continue()
   endif()
   list(APPEND public_headers ${header})
-  file(STRINGS ${header} includes REGEX "^#include \"(platform|tgx|player)/")
+  file(STRINGS ${header} includes REGEX "^#include \"(platform|tgx|player|devtools)/")
   list(TRANSFORM includes REPLACE "^#include \"([^\"]+)\".*" "\\1")
   list(APPEND open_headers ${includes})
 endwhile()

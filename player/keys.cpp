@@ -2,8 +2,6 @@
 
 #include "platform/display/keys.h"
 
-#include <string>
-
 namespace {
 
 const struct {
@@ -58,6 +56,17 @@ std::uint8_t parseKey(const Word& word)
                     listNames(names, names.size()));
 }
 
+std::string keyName(std::uint8_t code)
+{
+    if (isDigit(code) || isCapital(code))
+        return {static_cast<char>(isDigit(code) ? code : code - 'A' + 'a')};
+    for (const auto& key : namedKeys) {
+        if (key.code == code)
+            return std::string(key.name);
+    }
+    return (code < 10 ? "0" : "") + std::to_string(code);
+}
+
 char characterOf(std::uint8_t code, bool shift)
 {
     if (isCapital(code))
@@ -72,4 +81,17 @@ std::uint8_t keyThatTypes(char character)
     auto code = static_cast<std::uint8_t>(capital(character));
     bool hasKey = isCapital(code) || characterOf(code, false) != '\0';
     return hasKey ? code : std::uint8_t(VK_PACKET);
+}
+
+const char* buttonName(MouseButton button)
+{
+    switch (button) {
+    case MouseButton::Left:
+        return "left";
+    case MouseButton::Right:
+        return "right";
+    case MouseButton::Middle:
+        break;
+    }
+    return "middle";
 }

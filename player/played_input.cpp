@@ -1,21 +1,10 @@
 #include "player/played_input.h"
 
+#include "player/keys.h"
+
 #include <cstdio>
 
 namespace {
-
-const char* nameOf(MouseButton button)
-{
-    switch (button) {
-    case MouseButton::Left:
-        return "left";
-    case MouseButton::Right:
-        return "right";
-    case MouseButton::Middle:
-        break;
-    }
-    return "middle";
-}
 
 /// Two digits at least, as an events line has it.
 std::string codeText(std::uint8_t code)
@@ -41,19 +30,19 @@ void PlayedInput::move(int x, int y)
 
 void PlayedInput::press(MouseButton button)
 {
-    add(button == MouseButton::Left ? Kind::Press : Kind::Other, std::string("press ") + nameOf(button),
+    add(button == MouseButton::Left ? Kind::Press : Kind::Other, std::string("press ") + buttonName(button),
         [button](InputQueue& queue) { queue.press(button); });
 }
 
 void PlayedInput::release(MouseButton button)
 {
-    add(button == MouseButton::Left ? Kind::Release : Kind::Other, std::string("release ") + nameOf(button),
-        [button](InputQueue& queue) { queue.release(button); });
+    add(button == MouseButton::Left ? Kind::Release : Kind::Other,
+        std::string("release ") + buttonName(button), [button](InputQueue& queue) { queue.release(button); });
 }
 
 void PlayedInput::doubleClick(MouseButton button)
 {
-    add(Kind::Other, std::string("doubleclick ") + nameOf(button),
+    add(Kind::Other, std::string("doubleclick ") + buttonName(button),
         [button](InputQueue& queue) { queue.doubleClick(button); });
 }
 

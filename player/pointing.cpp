@@ -2,22 +2,22 @@
 
 #include "player/calls.h"
 #include "player/events.h"
+#include "player/places.h"
 #include "player/played_input.h"
 #include "player/player.h"
 #include "player/reach.h"
 #include "tgx/controls/listbox/listbox.h"
 
-#include <algorithm>
 #include <limits>
 
 namespace {
 
 constexpr int frameLimit = 240; // for one transition: a tick that its handler never ends takes no input
 
-/// A point on a window, screen pixels.
+/// A point on a window.
 struct Aim {
     WndRef wnd;
-    int x, y;
+    ScreenPoint point;
 };
 
 /// Runs frames until all that waits has been taken: one for a transition, as a rule.
@@ -41,7 +41,7 @@ AWnd& windowCalled(AMainWin& win, const std::string& id)
 Aim aimAtMiddle(const Event& event)
 {
     AWnd& wnd = windowCalled(event.win, event.text(1));
-    return {&wnd, wnd.left() + wnd.width() / 2, wnd.top() + wnd.height() / 2};
+    return {&wnd, middleOf(wnd)};
 }
 
 /// Raises WrongLine unless it is a number from 0 to count - 1.
@@ -69,19 +69,12 @@ Aim aimAtCell(const Event& event)
         throw WrongLine("row " + std::to_string(item) + " of " + nameOf(wnd) +
                         " is not on its page, which begins with " + std::to_string(first) + " and has " +
                         std::to_string(page));
-
-    const int step = std::max(list->getRowHeight(), 1);
-    const int titleRows = (list->getItemsEndPosY() - list->getItemsStartPosY(0)) / step - page;
-    const int y = list->getItemsStartPosY(1) + (titleRows + item - first) * step + step / 2;
-    int x = list->getItemsStartPosX(1) + list->getColumnGap();
-    for (int i = 0; i < column; ++i)
-        x += list->getColumnWidth(i) + list->getColumnGap();
-    return {&wnd, x + list->getColumnWidth(column) / 2, y};
+    return {&wnd, middleOfCell(*list, {item, column})};
 }
 
 void requireReach(const Event& event, const Aim& aim, PointerAct act)
 {
-    const std::string reason = whyNotReached(event.win, *aim.wnd, aim.x, aim.y, act);
+    const std::string reason = whyNotReached(event.win, *aim.wnd, aim.point.x, aim.point.y, act);
     if (!reason.empty())
         throw WrongLine(nameOf(*aim.wnd) + ' ' + reason);
 }
@@ -96,7 +89,7 @@ bool pointAt(const Event& event, Aim (*findAim)(const Event& event), PointerAct 
         throw WrongLine("the left button is already held down");
     const Aim aim = findAim(event);
     requireReach(event, aim, act);
-    event.input.move(aim.x, aim.y);
+    event.input.move(aim.point.x, aim.point.y);
     takeInput(event.player);
     if (event.player.hasEnded())
         return false;
@@ -125,7 +118,7 @@ void moveTo(const Event& event)
         event.input.move(wnd.left() + event.coordinate(3), wnd.top() + event.coordinate(4));
     } else {
         const Aim aim = aimAtMiddle(event.behind(1));
-        event.input.move(aim.x, aim.y);
+        event.input.move(aim.point.x, aim.point.y);
     }
 }
 

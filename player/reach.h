@@ -1,5 +1,6 @@
 #pragma once
 
+#include "player/export.h"
 #include "tgx/wnd/wndref.h"
 
 #include <string>
@@ -18,20 +19,20 @@ struct Reach {
     AWnd* wnd = nullptr;    // the deepest usable window under the point inside the target, or the target
     std::string hindrance;  // why even that one gets nothing; "" when it does
 };
-Reach reachAt(AMainWin& win, int x, int y, PointerAct act);
+TGX_PLAYER_INTERNAL Reach reachAt(AMainWin& win, int x, int y, PointerAct act);
 
 /// What a person means by that id: looked for in the popups, front first, then on the active screen, then in
 /// the whole tree. Null if there is none.
-AWnd* findMeantWindow(AMainWin& win, const std::string& id);
+TGX_PLAYER_INTERNAL AWnd* findMeantWindow(AMainWin& win, const std::string& id);
 
 /// Its id in quotes, for messages.
-std::string nameOf(const AWnd& wnd);
+TGX_PLAYER_INTERNAL std::string nameOf(const AWnd& wnd);
 /// "is hidden", ...: why wnd is not to be seen; "" when it is, if nothing lies over it.
 std::string whyNotShown(AMainWin& win, AWnd& wnd);
 /// "is disabled", ...; "" when it is not.
-std::string whyDisabled(AWnd& wnd);
+TGX_PLAYER_INTERNAL std::string whyDisabled(AWnd& wnd);
 /// "is covered by "BOX" at 10, 20", ...: why wnd is not what input at this point reaches; "" when it is.
-std::string whyNotReached(AMainWin& win, AWnd& wnd, int x, int y, PointerAct act);
+TGX_PLAYER_INTERNAL std::string whyNotReached(AMainWin& win, AWnd& wnd, int x, int y, PointerAct act);
 
 /// One line for --log-input: what the transition called name reaches at that point, and why the other windows
 /// that lie there do not get it.

@@ -18,22 +18,6 @@
 
 namespace {
 
-/// The class's own name: what stands behind the last :: outside template arguments and parameter lists.
-std::string classNameOf(const AWnd& wnd)
-{
-    int status = 0;
-    std::unique_ptr<char, decltype(&std::free)> demangled(
-        abi::__cxa_demangle(typeid(wnd).name(), nullptr, nullptr, &status), &std::free);
-    std::string name = demangled ? demangled.get() : typeid(wnd).name();
-    int depth = 0;
-    for (std::size_t i = name.size(); i-- > 1;) {
-        depth += (name[i] == '>' || name[i] == ')') - (name[i] == '<' || name[i] == '(');
-        if (depth == 0 && name[i] == ':' && name[i - 1] == ':')
-            return name.substr(i + 1);
-    }
-    return name;
-}
-
 /// Fields that a class adds to each window's own. Every row that a window is an instance of counts, in this
 /// order: a row for a base class stands before those of the classes that derive from it.
 struct ClassFields {
@@ -187,6 +171,22 @@ void writeId(JsonWriter& json, const AWnd* wnd)
 }
 
 } // namespace
+
+// What stands behind the last :: outside template arguments and parameter lists.
+std::string classNameOf(const AWnd& wnd)
+{
+    int status = 0;
+    std::unique_ptr<char, decltype(&std::free)> demangled(
+        abi::__cxa_demangle(typeid(wnd).name(), nullptr, nullptr, &status), &std::free);
+    std::string name = demangled ? demangled.get() : typeid(wnd).name();
+    int depth = 0;
+    for (std::size_t i = name.size(); i-- > 1;) {
+        depth += (name[i] == '>' || name[i] == ')') - (name[i] == '<' || name[i] == '(');
+        if (depth == 0 && name[i] == ':' && name[i - 1] == ':')
+            return name.substr(i + 1);
+    }
+    return name;
+}
 
 std::string treeReport(AMainWin& win)
 {

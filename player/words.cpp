@@ -166,6 +166,17 @@ std::string quote(std::string_view text)
     return quoted + '"';
 }
 
+std::string quoteWord(std::string_view text)
+{
+    std::string escaped;
+    for (char c : text) {
+        if (c == '"' || c == '\\')
+            escaped += '\\';
+        escaped += c;
+    }
+    return quote(escaped);
+}
+
 std::string listNames(const std::vector<std::string>& names, std::size_t limit)
 {
     std::string list;

@@ -79,8 +79,10 @@ struct Place {
     std::vector<Point> operator()(std::vector<Point> points) const;
 };
 
-/// Writes whole or not at all; false when the file cannot be written. Gradients are dithered by a fixed
-/// pattern.
-bool writePng(const Canvas& canvas, const std::string& path, bool withAlpha);
+enum class Grain { Dithered, None };
+
+/// Writes whole or not at all; false when the file cannot be written. Dithered: the steps of gradients are
+/// hidden by a fixed pattern, which lies over plain areas too.
+bool writePng(const Canvas& canvas, const std::string& path, bool withAlpha, Grain grain = Grain::Dithered);
 /// 24 bits; pixels that are covered less than half take the key colour 255, 0, 255.
 bool writeKeyedBmp(const Canvas& canvas, const std::string& path);

@@ -19,11 +19,6 @@ Canvas well(Look look, const Shape& rim, const Shape& hole)
 
 } // namespace
 
-Canvas stripOf(int count, int width, int height)
-{
-    return Canvas(count * (width + 1), height);
-}
-
 Colour edge(Look look)
 {
     return rgb(palette::brass, look == Hot ? 1.0f : look == Disabled ? 0.35f : 0.75f);

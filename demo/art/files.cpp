@@ -85,18 +85,19 @@ bool writeFile(const Bytes& bytes, const std::string& path)
 
 } // namespace
 
-bool writePng(const Canvas& canvas, const std::string& path, bool withAlpha)
+bool writePng(const Canvas& canvas, const std::string& path, bool withAlpha, Grain grain)
 {
+    const bool dithered = grain == Grain::Dithered;
     Bytes rows;
     for (int y = 0; y < canvas.height; ++y) {
         rows.push_back(0); // no filter
         for (int x = 0; x < canvas.width; ++x) {
             Colour colour = canvas.at(x, y);
-            rows.push_back(quantised(colour.r, x, y, 0, true));
-            rows.push_back(quantised(colour.g, x, y, 1, true));
-            rows.push_back(quantised(colour.b, x, y, 2, true));
+            rows.push_back(quantised(colour.r, x, y, 0, dithered));
+            rows.push_back(quantised(colour.g, x, y, 1, dithered));
+            rows.push_back(quantised(colour.b, x, y, 2, dithered));
             if (withAlpha)
-                rows.push_back(quantised(colour.a, x, y, 3, colour.a > 0 && colour.a < 1));
+                rows.push_back(quantised(colour.a, x, y, 3, dithered && colour.a > 0 && colour.a < 1));
         }
     }
     Bytes file = {0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A}, header;

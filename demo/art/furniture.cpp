@@ -3,21 +3,6 @@
 
 #include <cmath>
 
-Canvas cutBorder(const Canvas& frame)
-{
-    int side = frame.width / 3;
-    const struct {
-        int column, row;
-    } pieces[] = {{0, 0}, {1, 0}, {2, 0}, {2, 1}, {2, 2}, {1, 2}, {0, 2}, {0, 1}};
-    Canvas strip(8 * (side + 1), side);
-    for (int piece = 0; piece < 8; ++piece)
-        for (int y = 0; y < side; ++y)
-            for (int x = 0; x < side; ++x)
-                strip.at(piece * (side + 1) + x, y) =
-                    frame.at(pieces[piece].column * side + x, pieces[piece].row * side + y);
-    return strip;
-}
-
 Paint metal(Colour base, const Shape& shape)
 {
     return [base, shape](float x, float y) {

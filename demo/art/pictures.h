@@ -1,6 +1,6 @@
 #pragma once
 
-#include "demo/art/canvas.h"
+#include "demo/art/frames.h"
 
 #include <string>
 
@@ -43,17 +43,11 @@ Canvas compassRose();
 Canvas shipPicture(int ship);
 Canvas emblem();
 
-// Strips: frames side by side with a pixel between, and one behind the last, so that a whole row holds whole
-// frames.
+// Strips.
 Canvas beamStrip();
 Canvas flagStrip();
 Canvas steamerStrip();
 Canvas portStrip();
-/// Copies frame number n into a strip.
-void putFrame(Canvas& strip, const Canvas& frame, int n);
-
-/// Frames as a list box cuts them out of an icon: a grid of so many columns, a pixel behind each frame.
-Canvas frameGrid(const std::vector<Canvas>& frames, int columns);
 
 // The strips of controls, each with the frames that its control looks for.
 /// 44 high: an opening run, then at rest, pointed at, pressed, disabled.
@@ -129,9 +123,6 @@ Canvas keyFrame(bool pressed);
 // Window furniture.
 /// Metal that is bright on the upper left side of shape.
 Paint metal(Colour base, const Shape& shape);
-/// A border strip: eight square pieces clockwise from the top left corner, a pixel between neighbours, cut
-/// out of a frame three pieces wide and high.
-Canvas cutBorder(const Canvas& frame);
 Canvas brassBorder();
 Canvas cordBorder();
 Canvas paperBorder();

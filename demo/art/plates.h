@@ -6,8 +6,6 @@
 enum Look { Rest, Hot, Pressed, Disabled };
 constexpr int looks = 4;
 
-/// A strip for count frames of one size.
-Canvas stripOf(int count, int width, int height);
 /// The edge of what can be clicked.
 Colour edge(Look look);
 /// A plate with round corners, lit from above unless it is pressed.

@@ -26,23 +26,6 @@ Paint sampled(Paint paint)
 
 } // namespace
 
-void putFrame(Canvas& strip, const Canvas& frame, int n)
-{
-    for (int y = 0; y < frame.height; ++y)
-        for (int x = 0; x < frame.width; ++x)
-            strip.at(n * (frame.width + 1) + x, y) = frame.at(x, y);
-}
-
-Canvas frameGrid(const std::vector<Canvas>& frames, int columns)
-{
-    int rows = (static_cast<int>(frames.size()) + columns - 1) / columns;
-    int stepX = frames[0].width + 1, stepY = frames[0].height + 1;
-    Canvas whole(columns * stepX, rows * stepY);
-    for (int n = 0; n < static_cast<int>(frames.size()); ++n)
-        whole.draw(frames[static_cast<std::size_t>(n)], n % columns * stepX, n / columns * stepY);
-    return whole;
-}
-
 Canvas portStrip()
 {
     // Three frames, 28 x 28, hard edges: this one is written with the key colour.

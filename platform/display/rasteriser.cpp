@@ -14,8 +14,9 @@ constexpr int tilesPerRun = 16;
 void paintRow(Image& screen, const DrawCommand& row, const Box& clip, StretchBuffers& buffers)
 {
     const bool isDown = (row.flags & pieceDown) != 0;
-    const int first = (isDown ? clip.y0 - row.y : clip.x0 - row.x) / row.sw;
-    const int last = ((isDown ? clip.y1 - row.y : clip.x1 - row.x) - 1) / row.sw;
+    const std::int64_t start = isDown ? row.y : row.x;
+    const auto first = static_cast<int>(((isDown ? clip.y0 : clip.x0) - start) / row.sw);
+    const auto last = static_cast<int>(((isDown ? clip.y1 : clip.x1) - 1 - start) / row.sw);
     for (int i = first; i <= last; ++i) {
         const DrawCommand piece = pieceOf(row, i);
         const Box box = paintedBox(piece, clip);

@@ -63,6 +63,20 @@ void surface::setImage(ImageRef newImage, const CString& newName)
         image->name = name.str();
 }
 
+/// A command of this bitmap's pixels, as they are now. Only with an owner.
+inline DrawCommand& surface::record(DrawOp op)
+{
+    Canvas& canvas = *owner->canvas;
+    DrawCommand& command = canvas.record(op);
+    if (image) {
+        command.subject = image->id;
+        command.colour = image->version;
+        command.image = image.get();
+        canvas.hold(image);
+    }
+    return command;
+}
+
 void surface::blit(int x, int y, int srcX, int srcY, int w, int h, int srcW, int srcH, IDirectDrawSurface*,
                    int mode)
 {
@@ -98,20 +112,6 @@ void surface::blitRows(const PieceRow& first, const PieceRow& second, int side, 
         command.sw = side;
         command.sh = 0;
     }
-}
-
-/// A command of this bitmap's pixels, as they are now. Only with an owner.
-DrawCommand& surface::record(DrawOp op)
-{
-    Canvas& canvas = *owner->canvas;
-    DrawCommand& command = canvas.record(op);
-    if (image) {
-        command.subject = image->id;
-        command.colour = image->version;
-        command.image = image.get();
-        canvas.hold(image);
-    }
-    return command;
 }
 
 void surface::blit(int x, int y, int w, int h, IDirectDrawSurface* dest, int mode)

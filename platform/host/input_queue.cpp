@@ -100,12 +100,18 @@ void InputQueue::beginTick(ddwin& window)
     endTick(window); // of a tick that nobody ended
     clearFieldsOfOneTick(window);
     while (!events.empty()) {
-        const Event event = events.front();
-        events.pop_front();
+        const Event event = take();
         apply(window, event);
         if (isTransition(event))
             break;
     }
+}
+
+InputQueue::Event InputQueue::take()
+{
+    const Event event = events.front();
+    events.pop_front();
+    return event;
 }
 
 void InputQueue::apply(ddwin& window, const Event& event)

@@ -38,6 +38,8 @@ public:
     void key(std::uint8_t code, char character, std::uint8_t secondCode = 0, bool repeat = false);
     /// An event of another queue, behind those that wait here.
     void add(const Event& event) { events.push_back(event); }
+    /// The oldest one, out of the queue. There has to be one.
+    Event take();
     /// Those that wait, the oldest first.
     const std::deque<Event>& getEvents() const { return events; }
     bool empty() const { return events.empty(); }

@@ -61,6 +61,7 @@ private:
     bool prepareTexture(const Image& screen);
     void upload(const Image& screen, const tagRECT& area);
     void present();
+    void destroyWindow();
     void closeWindow();
     void updateFit();
     void handleWindowEvent(const SDL_WindowEvent& event);
@@ -174,13 +175,27 @@ void SdlHost::close(ddwin& closed)
         closeWindow();
 }
 
-void SdlHost::closeWindow()
+/// A window of the other kind in place of the one that is there. Without a window manager nobody makes a
+/// window fill the screen that did not do so from the start.
+void SdlHost::followFullScreen(ddwin& changed)
 {
-    controllers.closeAll();
-    for (SDL_Cursor*& shape : cursors) {
-        SDL_FreeCursor(shape);
-        shape = nullptr;
+    if (!window || game != &changed)
+        return;
+    letGo(); // what is let go meanwhile goes to neither window
+    destroyWindow();
+    if (!createWindow() || !createRenderer()) {
+        std::fprintf(stderr, "cannot open the window again: %s\n", SDL_GetError());
+        destroyWindow();
+        closeRequested = true;
+        return;
     }
+    setCursor(cursor);
+    SDL_StartTextInput();
+    updateFit();
+}
+
+void SdlHost::destroyWindow()
+{
     if (texture)
         SDL_DestroyTexture(texture);
     if (renderer)
@@ -190,8 +205,18 @@ void SdlHost::closeWindow()
     texture = nullptr;
     renderer = nullptr;
     window = nullptr;
-    game = nullptr;
     pixelsAreLost = true;
+}
+
+void SdlHost::closeWindow()
+{
+    controllers.closeAll();
+    for (SDL_Cursor*& shape : cursors) {
+        SDL_FreeCursor(shape);
+        shape = nullptr;
+    }
+    destroyWindow();
+    game = nullptr;
     // Only what open() has started: a game may use SDL for its sound.
     if (hasController)
         SDL_QuitSubSystem(SDL_INIT_GAMECONTROLLER);
@@ -269,15 +294,6 @@ void SdlHost::updateFit()
     SDL_GetWindowSize(window, &width, &height);
     mouseAndKeys.setFit(ScreenFit::of(game->screenWidth, game->screenHeight, width, height));
     windowIsStale = true;
-}
-
-void SdlHost::followFullScreen(ddwin& changed)
-{
-    if (!window || game != &changed)
-        return;
-    SDL_SetWindowAlwaysOnTop(window, changed.fullScreen && changed.topMost ? SDL_TRUE : SDL_FALSE);
-    SDL_SetWindowFullscreen(window, changed.fullScreen ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0);
-    updateFit();
 }
 
 void SdlHost::setCursor(CursorShape shape)

@@ -57,6 +57,14 @@ find_package)
     expect "the moved library is the one in use" linked_into "$prefix" "$work/build/first_screen"
     run "play" "$work/build/first_screen_player" "$work/data" --script script.tgx --out "$work"
     expect "the screen is drawn" is_drawn "$work/screen.png"
+    # The guide's project, with pictures of the examples as there.
+    cp -r "$source/examples/first_button" "$work/first_button"
+    cp -r "$build"/examples/controls/data/{art,fonts} "$work/first_button"
+    run "configure the guide's project" cmake -S "$work/first_button" -B "$work/first_button/build" \
+        -D CMAKE_PREFIX_PATH="$prefix" -D CMAKE_BUILD_TYPE=Release
+    run "build the guide's project" cmake --build "$work/first_button/build" -j 2
+    run "test the guide's project" "$work/first_button/build/first_button_player" test "$work/first_button/tests" \
+        --data "$work/first_button" --out "$work"
     ;;
 pkg_config)
     install_here

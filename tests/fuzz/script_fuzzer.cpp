@@ -7,19 +7,16 @@
 
 #include "platform/host/headless_host.h"
 #include "platform/system/clock.h"
-#include "platform/system/datadir.h"
+#include "tests/fuzz/data_directory.h"
 #include "tests/unit/support/invariants.h"
 #include "tgx/frame/mainwin.h"
 
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <memory>
 #include <span>
 #include <string>
-#include <vector>
 
 namespace {
 
@@ -27,46 +24,6 @@ constexpr int screenWidth = 160; // pixels: small, so that a run is about the wi
 constexpr int screenHeight = 120;
 constexpr std::size_t handBytes = 24;
 constexpr unsigned mainScript = 141;
-
-/// The pictures that the dictionary names. A strip serves as bitmap and as border.
-void writeBmp(const std::filesystem::path& file, int width, int height)
-{
-    const int rowBytes = (width * 3 + 3) / 4 * 4;
-    const unsigned size = 54 + static_cast<unsigned>(rowBytes * height);
-    std::vector<unsigned char> bytes(size);
-    const auto put = [&](std::size_t at, unsigned value) {
-        for (std::size_t i = 0; i < 4; ++i)
-            bytes[at + i] = static_cast<unsigned char>(value >> (8 * i));
-    };
-    bytes[0] = 'B';
-    bytes[1] = 'M';
-    put(2, size);
-    put(10, 54);
-    put(14, 40);
-    put(18, static_cast<unsigned>(width));
-    put(22, static_cast<unsigned>(height));
-    put(26, 1 | 24u << 16);
-    for (std::size_t i = 54; i < size; ++i)
-        bytes[i] =
-            static_cast<unsigned char>(i % 3 == 1 && i % 5 == 0 ? 0 : 255); // some of it is the key colour
-    std::ofstream(file, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-}
-
-struct DataDirectory {
-    std::filesystem::path path;
-
-    DataDirectory()
-    {
-        std::string pattern = (std::filesystem::temp_directory_path() / "tgx-fuzz-XXXXXX").string();
-        path = mkdtemp(pattern.data());
-        std::filesystem::create_directory(path / "uig");
-        writeBmp(path / "a.bmp", 16, 16);
-        writeBmp(path / "s.bmp", 71, 8);
-        setDataDirectory(path.string());
-    }
-    ~DataDirectory() { std::filesystem::remove_all(path); }
-};
 
 /// Allows a script a small part of what a game allows: this build is slow, and one input must not take a
 /// minute.
@@ -156,7 +113,7 @@ int countWindows(AWnd* wnd, int most)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static const DataDirectory directory;
+    static const FuzzDataDirectory directory;
     auto host = std::make_unique<HeadlessHost>();
     host->onMessage = [](const CString&) {}; // a bad script has much to report
     displayhost::use(std::move(host));

@@ -1,9 +1,9 @@
+#include "devtools/script_text/emit.h"
+#include "devtools/script_text/print.h"
+#include "devtools/script_text/watch.h"
 #include "tools/tgx/commands.h"
-#include "tools/tgx/emit.h"
 #include "tools/tgx/files.h"
-#include "tools/tgx/print.h"
 #include "tools/tgx/terminal.h"
-#include "tools/tgx/watch.h"
 
 #include <CLI/CLI.hpp>
 
@@ -49,11 +49,6 @@ struct Outcome {
     int status = 0;
     std::string summary;
 };
-
-std::string counted(std::ptrdiff_t count, const char* what)
-{
-    return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
-}
 
 Outcome buildOnce(const BuildOptions& options, script_text::WatchedFiles& watched)
 {

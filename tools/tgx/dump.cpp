@@ -1,6 +1,6 @@
+#include "devtools/script_text/print.h"
 #include "tools/tgx/commands.h"
 #include "tools/tgx/files.h"
-#include "tools/tgx/print.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "devtools/script_text/read_file.h"
+
 #include <optional>
 #include <string>
 
@@ -9,8 +11,3 @@
 std::optional<std::string> readInput(const std::string& name);
 /// Writes the file whole or not at all: beside it, then renamed. False when it cannot be written.
 bool writeOutput(const std::string& name, const std::string& bytes);
-
-/// Nothing, and why, when it cannot be read.
-std::optional<std::string> readFile(const std::string& name, std::string& reason);
-/// The same for a file that a script names: devices and pipes are refused, they may have no end.
-std::optional<std::string> readIncluded(const std::string& name, std::string& reason);

@@ -4,9 +4,9 @@
 
 int main(int argc, char** argv)
 {
-    CLI::App app(
-        "The bench of whoever writes an interface: compiles its scripts, shows what is in them, plays them.",
-        "tgx");
+    CLI::App app("The bench of whoever writes an interface: compiles its scripts, shows what is in them, "
+                 "checks and plays them.",
+                 "tgx");
     app.set_version_flag("--version", "tgx " TGX_VERSION);
     app.require_subcommand(0,
                            1); // that there is one is asked below: an unknown one gets the better message so
@@ -14,8 +14,10 @@ int main(int argc, char** argv)
                "Exit status: 0 done, 1 the input is at fault, 2 the call is.");
     addBuild(app);
     addDump(app);
+    addCheck(app);
     addPlay(app);
     addTest(app);
+    addView(app);
     addReference(app);
 
     try {

@@ -12,6 +12,9 @@ struct Meaning {
     int id; // of the statement
     Family family;
     const char* text;
+    /// A script of examples/controls/ that shows it, without ending; its picture has the same name. Null for
+    /// none.
+    const char* example = nullptr;
 };
 
 /// Family by family, in the order in which a reader meets them best.

@@ -2,8 +2,8 @@
 
 #include "tools/tgx/reference.h"
 
+#include "devtools/script_text/statement_form.h"
 #include "tools/tgx/meanings.h"
-#include "tools/tgx/statement_form.h"
 
 #include <algorithm>
 #include <cctype>
@@ -23,6 +23,8 @@ Every statement of interface scripts. How a script is written, and what windows 
 How to read the forms: `"in quotes"` is a string, `lower` a number, `UPPER` a word, `a|B` a number or that word; `[ ]` may be left out, and `...` stands
 for more of the same. A `flag` is the lowest bit of its number. `x y width height` are pixels, from the corner of the window around. Window names are compared
 without regard to case where they are looked for. **Arguments** tells how many a line may have, **byte** the statement's value in the compiled script.
+
+The pictures are those of short scripts to begin with, [examples/controls](../examples/controls/README.md).
 )";
 
 /// What GitHub makes of a heading.
@@ -77,6 +79,19 @@ std::string targetSentence(const TargetRule& rule)
                                                       : "; elsewhere the line does nothing.");
 }
 
+/// Link to the script that shows the statement, with its picture where the statement makes one.
+std::string exampleOf(const Statement& statement, const Meaning& meaning)
+{
+    if (!meaning.example)
+        return "";
+    const std::string name = meaning.example, path = "../examples/controls/" + name;
+    const std::string source = "[" + name + ".tgs](" + path + ".tgs)";
+    if (makesWindow(statement))
+        return "\n![" + std::string(statement.keyword) + ", as in " + name + ".tgs](" + path +
+               ".png)\n\nThe script: " + source + ".\n";
+    return "\nExample: " + source + ".\n";
+}
+
 std::string entry(const Statement& statement, const Meaning& meaning)
 {
     std::string out = std::string("\n### ") + statement.keyword + "\n\n    " + expectedForm(statement) +
@@ -88,7 +103,7 @@ std::string entry(const Statement& statement, const Meaning& meaning)
         out += "Arguments: " + (allowed == "no" ? "none" : allowed) + ". Byte";
     char hex[8];
     std::snprintf(hex, sizeof hex, "0x%02X", static_cast<unsigned>(statement.id));
-    return out + ": " + std::to_string(statement.id) + ", " + hex + ".\n";
+    return out + ": " + std::to_string(statement.id) + ", " + hex + ".\n" + exampleOf(statement, meaning);
 }
 
 /// Every keyword by the alphabet, as links.
@@ -109,6 +124,12 @@ std::string index()
 }
 
 } // namespace
+
+bool makesWindow(const Statement& statement)
+{
+    return statement.kind == StatementKind::Window || statement.kind == StatementKind::Screen ||
+           statement.kind == StatementKind::Reference;
+}
 
 std::string referenceDocument()
 {

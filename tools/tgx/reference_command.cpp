@@ -1,3 +1,4 @@
+#include "tools/tgx/check/codes.h"
 #include "tools/tgx/commands.h"
 #include "tools/tgx/files.h"
 #include "tools/tgx/reference.h"
@@ -13,14 +14,16 @@ void addReference(CLI::App& app)
         std::string output = "-";
     };
     CLI::App* command =
-        app.add_subcommand("reference", "Print what is made of the vocabulary of scripts")->group("");
+        app.add_subcommand("reference", "Print what is made of the tables of statements and findings")
+            ->group("");
     auto options = std::make_shared<ReferenceOptions>();
     command->add_option("form", options->form, "The document, or the syntax file of an editor")
         ->required()
-        ->check(CLI::IsMember({"markdown", "vim", "textmate"}));
+        ->check(CLI::IsMember({"markdown", "check", "vim", "textmate"}));
     command->add_option("-o,--output", options->output, "stdout if not given")->type_name("FILE");
     command->callback([options] {
         const std::string text = options->form == "markdown" ? script_text::referenceDocument()
+                                 : options->form == "check"  ? script_check::referenceDocument()
                                  : options->form == "vim"    ? script_text::vimSyntax()
                                                              : script_text::textMateGrammar();
         if (!writeOutput(options->output, text))

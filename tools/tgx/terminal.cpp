@@ -12,3 +12,8 @@ script_text::Colour colourFor(std::FILE* stream)
     const bool isAble = isatty(fileno(stream)) && terminal && std::string_view(terminal) != "dumb";
     return isWanted && isAble ? script_text::Colour::Yes : script_text::Colour::No;
 }
+
+std::string counted(std::ptrdiff_t count, const char* what)
+{
+    return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
+}

@@ -291,6 +291,55 @@ TEST_F(DrawingTest, APenDrawsThroughADeviceContextWithRedInTheLowByte)
     EXPECT_EQ(window.at(6, 6), 0xFF0000u);
 }
 
+TEST_F(DrawingTest, ARowOfPiecesIsWhatItsPiecesAre)
+{
+    // Two pieces of 4 x 4 with a column between them; each pixel is another one, some are transparent.
+    surface strip(&window);
+    strip.setImage(imageOf(9, 4,
+                           [](int x, int y) {
+                               return (x + y) % 5 == 0
+                                          ? 0x00FF00FFu
+                                          : 0xFF000000u | static_cast<unsigned>(x << 20 | y << 12);
+                           }),
+                   "");
+    const struct {
+        const char* name;
+        int x, y, length;
+        bool down;
+    } rows[] = {
+        {"beside each other, the last one cut", 10, 10, 30, false},
+        {"below each other", 10, 10, 32, true},
+        {"one piece, cut", 10, 10, 3, false},
+        {"over the left edge of the screen", -7, 10, 50, false},
+        {"over the lower edge", 10, 60, 50, true},
+        {"wider than the screen", -2000, 10, 30000, false},
+        {"off the screen", 10, -40, 20, true},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const int otherX = row.down ? row.x + 40 : row.x;
+        const int otherY = row.down ? row.y : row.y + 40;
+        window.frame([&] {
+            for (int done = 0; done < row.length; done += 4) {
+                const int cut = std::min(4, row.length - done);
+                const int w = row.down ? 4 : cut, h = row.down ? cut : 4;
+                const int dx = row.down ? 0 : done, dy = row.down ? done : 0;
+                strip.blit(row.x + dx, row.y + dy, 0, 0, w, h, -1, -1, nullptr, -1);
+                strip.blit(otherX + dx, otherY + dy, 5, 0, w, h, -1, -1, nullptr, -1);
+            }
+        });
+        const ImageRef expected = copyImage(window.getScreenImage());
+        window.frame(); // nothing of it is left
+        window.frame([&] {
+            strip.blitRows({row.x, row.y, 0}, {otherX, otherY, 5}, 4, row.length, row.down);
+        });
+        EXPECT_EQ(window.getLastFrame().commands().size(), 4u) << "backdrop, the two rows, the end";
+        for (int y = 0; y < window.screenHeight; y++)
+            for (int x = 0; x < window.screenWidth; x++)
+                ASSERT_EQ(window.at(x, y), expected->row(y)[x] & 0xFFFFFF) << x << ", " << y;
+    }
+}
+
 class TextTest : public DrawingTest {
 protected:
     // Columns that the text paints: the first, and the one behind the last.

@@ -1,5 +1,5 @@
+#include "devtools/script_text/print.h"
 #include "tests/unit/tool/sources.h"
-#include "tools/tgx/print.h"
 
 #include <gtest/gtest.h>
 

@@ -11,11 +11,11 @@
 //
 // Look at the pictures before they are committed.
 
+#include "devtools/script_text/print.h"
 #include "platform/host/image_file.h"
 #include "tests/unit/support/tgx_test.h"
 #include "tests/unit/tool/sources.h"
 #include "tgx/script/vocabulary.h"
-#include "tools/tgx/print.h"
 
 #include <cstdlib>
 #include <fstream>

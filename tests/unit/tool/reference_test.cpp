@@ -1,13 +1,17 @@
 #include "tools/tgx/reference.h"
 
 #include "tgx/script/vocabulary.h"
+#include "tools/tgx/check/codes.h"
 #include "tools/tgx/meanings.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <set>
+#include <sstream>
+#include <string>
 
 namespace {
 
@@ -24,6 +28,38 @@ TEST(Reference, TellsOfEveryStatementOnce)
     }
 }
 
+std::string readFile(const std::string& name)
+{
+    std::ifstream file(std::string(TGX_SOURCE_DIR "/") + name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+bool hasWord(const std::string& text, const std::string& word)
+{
+    std::istringstream words(text);
+    return std::find(std::istream_iterator<std::string>(words), {}, word) !=
+           std::istream_iterator<std::string>();
+}
+
+TEST(Reference, ExamplesShowTheirStatement)
+{
+    for (const Statement& row : vocabulary()) {
+        const script_text::Meaning* meaning = script_text::meaningOf(row.id);
+        if (!meaning || !meaning->example) {
+            EXPECT_FALSE(script_text::makesWindow(row))
+                << row.keyword << " makes a window and has no example";
+            continue;
+        }
+        const std::string name = meaning->example, folder = "examples/controls/";
+        EXPECT_TRUE(readFile(folder + name + ".png").starts_with("\x89PNG"))
+            << row.keyword << ": no picture " << folder << name << ".png";
+        // What an example calls by GOTO stands in the script of the shared parts.
+        const bool isCalled = row.kind == StatementKind::Definition;
+        const std::string script = folder + (isCalled ? "parts" : name) + ".tgs";
+        EXPECT_TRUE(hasWord(readFile(script), row.keyword)) << script << " does not use " << row.keyword;
+    }
+}
+
 TEST(Reference, DocumentsAreUpToDate)
 {
     const struct {
@@ -31,12 +67,12 @@ TEST(Reference, DocumentsAreUpToDate)
         std::string text;
     } rows[] = {
         {"docs/script-reference.md", script_text::referenceDocument()},
+        {"docs/check-reference.md", script_check::referenceDocument()},
         {"editors/vim/syntax/tgs.vim", script_text::vimSyntax()},
         {"editors/textmate/tgs.tmLanguage.json", script_text::textMateGrammar()},
     };
     for (const auto& row : rows) {
-        std::ifstream file(std::string(TGX_SOURCE_DIR "/") + row.file, std::ios::binary);
-        const std::string kept{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+        const std::string kept = readFile(row.file);
         // Not EXPECT_EQ: the whole documents would be printed.
         EXPECT_TRUE(kept == row.text) << row.file << " is out of date; write it anew with\n"
                                       << "    cmake --build build/release --target script_reference";

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tools/tgx/emit.h"
-#include "tools/tgx/parsed_script.h"
+#include "devtools/script_text/emit.h"
+#include "devtools/script_text/parsed_script.h"
 
 #include <map>
 #include <string>

@@ -1,4 +1,4 @@
-#include "tools/tgx/watch.h"
+#include "devtools/script_text/watch.h"
 
 #include <gtest/gtest.h>
 

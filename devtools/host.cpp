@@ -1,0 +1,82 @@
+#include "devtools/host.h"
+
+#include "platform/display/ddwin.h"
+#include "platform/system/clock.h"
+
+#include <utility>
+
+WatchingHost::WatchingHost(std::unique_ptr<displayhost> watched, HostWatcher& watchedBy)
+    : inner(std::move(watched)), watcher(watchedBy)
+{}
+
+bool WatchingHost::open(ddwin& window)
+{
+    inner->closeRequested = false;
+    return inner->open(window);
+}
+
+void WatchingHost::close(ddwin& window)
+{
+    inner->close(window);
+}
+
+void WatchingHost::show(const Image& screen, std::span<const tagRECT> changed)
+{
+    const Image& picture = watcher.pictureOf(screen, changed);
+    const tagRECT whole{0, 0, picture.width, picture.height};
+    // A picture with something painted over it is made anew each time.
+    if (&picture != &screen || &picture != shown)
+        inner->show(picture, {&whole, 1});
+    else
+        inner->show(picture, changed);
+    shown = &picture;
+}
+
+void WatchingHost::pump(ddwin& window)
+{
+    inner->pump(window);
+    closeRequested = closeRequested || inner->closeRequested;
+    // What the watcher does may bring more: a window that changes lets go of what is held.
+    while (!inner->input().empty())
+        if (const InputQueue::Event event = inner->input().take(); !watcher.takesInput(event))
+            input().add(event);
+    input().dropStale(timeGetTime(), staleInputMillis);
+}
+
+void WatchingHost::setCursor(CursorShape shape)
+{
+    inner->setCursor(shape);
+}
+
+void WatchingHost::movePointer(int x, int y)
+{
+    input().dropMovesAtHead();
+    inner->movePointer(x, y);
+}
+
+void WatchingHost::showMessage(const CString& text)
+{
+    watcher.showMessage(text);
+}
+
+void WatchingHost::waitForWork(int& ticks, int& frames)
+{
+    inner->waitForWork(ticks, frames);
+}
+
+void WatchingHost::followFullScreen(ddwin& window)
+{
+    inner->followFullScreen(window);
+}
+
+void WatchingHost::tickBegins(ddwin& window, bool takesInput)
+{
+    watcher.tickBegins(input(), takesInput);
+    inner->tickBegins(window, takesInput);
+}
+
+void WatchingHost::frameBegins(ddwin& window)
+{
+    watcher.frameBegins();
+    inner->frameBegins(window);
+}

@@ -1,0 +1,45 @@
+#include "devtools/notices.h"
+
+#include "platform/system/clock.h"
+
+namespace {
+
+constexpr std::uint32_t noticeMillis = 6000;
+constexpr std::size_t mostNotices = 5;
+constexpr std::size_t mostFaults = 12; // shown; all of them stand on the terminal
+
+constexpr std::uint32_t headingColour = 0xFFB080;
+constexpr std::uint32_t faultColour = 0xFFE0D0;
+constexpr std::uint32_t noticeColour = 0xD0F0D0;
+constexpr std::uint32_t statusColour = 0xFF7060;
+
+} // namespace
+
+void Notices::tell(std::string text)
+{
+    notices.push_back({std::move(text), timeGetTime()});
+    if (notices.size() > mostNotices)
+        notices.pop_front();
+}
+
+bool Notices::isShowing()
+{
+    std::erase_if(notices, [&](const Notice& each) { return timeGetTime() - each.since > noticeMillis; });
+    return !faults.empty() || !notices.empty() || !status.empty();
+}
+
+void Notices::paint(Overlay& overlay) const
+{
+    std::vector<PanelLine> lines;
+    if (!status.empty())
+        lines.push_back({status, statusColour});
+    if (!faults.empty())
+        lines.push_back({"The scripts are at fault:", headingColour});
+    for (std::size_t i = 0; i < faults.size() && i < mostFaults; ++i)
+        lines.push_back({faults[i], faultColour});
+    if (faults.size() > mostFaults)
+        lines.push_back({"... and " + std::to_string(faults.size() - mostFaults) + " more", headingColour});
+    for (const Notice& each : notices)
+        lines.push_back({each.text, noticeColour});
+    paintPanel(overlay, lines, Corner::TopLeft);
+}

@@ -1,0 +1,53 @@
+#include "devtools/origins.h"
+
+#include "devtools/sources.h"
+#include "platform/framework/cstring.h"
+#include "tgx/script/vocabulary.h"
+#include "tgx/wnd/wnd.h"
+
+namespace {
+
+constexpr std::size_t mostFailures = 50; // shown; one that fails often fails for one reason
+
+} // namespace
+
+void Origins::lineExecuted(const ExecutedLine& line)
+{
+    const Statement* statement = line.count > 0 ? statementById(line.tokens[0].id) : nullptr;
+    const std::string script = line.script.str();
+    if (line.depthChange == lineFailed && failures.size() < mostFailures)
+        failures.push_back(placeIn(script, line.offset) + ": the line failed" +
+                           (statement ? std::string(": ") + statement->keyword : ""));
+    // What a reference shows once more has an origin of its own.
+    if (line.made && statement && statement->kind != StatementKind::Reference)
+        made.insert_or_assign(line.made, Made{line.made, script, line.offset, line.made->getID().str()});
+}
+
+std::string Origins::placeIn(const std::string& script, unsigned offset) const
+{
+    return sources.placeOf(script.empty() ? "(embedded script)" : script, offset);
+}
+
+const Origins::Made* Origins::find(const AWnd& wnd) const
+{
+    const auto found = made.find(&wnd);
+    return found == made.end() || found->second.wnd.get() != &wnd ? nullptr : &found->second;
+}
+
+std::string Origins::placeOf(const AWnd& wnd) const
+{
+    const Made* origin = find(wnd);
+    return origin ? placeIn(origin->script, origin->offset) : "";
+}
+
+std::string Origins::scriptOf(const AWnd& wnd) const
+{
+    const Made* origin = find(wnd);
+    return origin && origin->id == wnd.getID().view() ? origin->script : "";
+}
+
+void Origins::clear()
+{
+    made.clear();
+    failures.clear();
+}

@@ -1,0 +1,399 @@
+#include "devtools/recorder.h"
+
+#include "platform/display/keys.h"
+#include "player/keys.h"
+#include "tgx/controls/listbox/listbox.h"
+#include "tgx/controls/scrollbar.h"
+#include "tgx/frame/mainwin.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+using Kind = RecordedStep::Kind;
+
+constexpr long longestClick = 20; // ticks; what repeats while a button is held has not begun yet
+constexpr int openingFrames = 60; // until what slides in has come to rest
+
+constexpr int settledMoves = 2; // of the pointer on a list, until it has forgotten where it was before
+
+std::string idOrNone(const AWnd* wnd)
+{
+    return wnd ? wordFor(wnd->getID().view()) : "none";
+}
+
+/// How the playing comes to what is there now.
+std::string openingOf(const AMainWin& game)
+{
+    std::string lines;
+    const AScreen* active = game.getActiveScreen();
+    if (active && active != game.getScreenList()->getWndOfType(AWnd::WND_SCREEN, 0, 0)) {
+        const std::string name = idOrNone(active);
+        lines += "change " + name + "\nwait until active " + name + '\n';
+    }
+    lines += "frame " + std::to_string(openingFrames) + '\n';
+    if (game.getPopupWndCount() > 0)
+        lines += "# The popup " + idOrNone(game.getPopupWnd(0)) +
+                 " was open when the recording began: open it here.\n";
+    return lines;
+}
+
+} // namespace
+
+Recorder::Recorder(AMainWin& mainWin, std::string heading)
+    : game(mainWin), opening(std::move(heading)), pointer{mainWin.mouseX, mainWin.mouseY}
+{
+    if (!opening.empty() && !opening.ends_with('\n'))
+        opening += '\n';
+    opening += openingOf(game);
+    heldButtons[0] = game.lButtonDown != 0;
+    heldButtons[1] = game.rButtonDown != 0;
+    heldButtons[2] = game.mButtonDown != 0;
+    shownScreen = idOrNone(game.getActiveScreen());
+    shownPopup = idOrNone(game.getPopupWnd(0));
+}
+
+std::string Recorder::events() const
+{
+    std::vector<Step> all = steps;
+    if (pressed)
+        all.insert(all.end(), pressed->raw.begin(), pressed->raw.end());
+    else if (rest)
+        all.push_back(rest->step);
+    std::string text = opening;
+    for (const std::string& line : writeEvents(all, tick + 1))
+        text += line + '\n';
+    return text;
+}
+
+int Recorder::getEventCount() const
+{
+    const auto isEvent = [](const Step& step) {
+        return step.kind == Kind::Transition || step.kind == Kind::Click || step.kind == Kind::Key;
+    };
+    return static_cast<int>(std::count_if(steps.begin(), steps.end(), isEvent)) + (pressed ? 1 : 0);
+}
+
+void Recorder::tickBegins(const InputQueue& next, bool takesInput)
+{
+    ++tick;
+    followScreens();
+    followPointer();
+    if (takesInput)
+        take(next);
+    noteRest();
+}
+
+void Recorder::readAnew()
+{
+    giveUpClick();
+    steps.push_back({.kind = Kind::Note, .tick = tick, .line = "the interface was read anew here"});
+    rest.reset();
+    comesBack = true;
+}
+
+void Recorder::followScreens()
+{
+    const std::string screen = idOrNone(game.getActiveScreen());
+    const std::string popup = idOrNone(game.getPopupWnd(0));
+    if (screen == shownScreen && popup == shownPopup)
+        return;
+    giveUpClick();
+    if (comesBack) {
+        shownScreen = screen;
+        shownPopup = popup;
+        return;
+    }
+    if (rest) { // what the pointer rested on may have brought the change about
+        steps.push_back(rest->step);
+        played = rest->played;
+    }
+    if (screen != std::exchange(shownScreen, screen))
+        steps.push_back({.kind = Kind::Shown, .tick = tick, .line = "active " + screen});
+    if (popup != std::exchange(shownPopup, popup))
+        steps.push_back({.kind = Kind::Shown, .tick = tick, .line = "popup " + popup});
+}
+
+/// The game has moved the pointer, and will do so in the playing.
+void Recorder::followPointer()
+{
+    const ScreenPoint place{game.mouseX, game.mouseY};
+    if (place == pointer)
+        return;
+    giveUpClick();
+    pointer = place;
+    played = {.point = place, .stoodFor = place};
+    arrival = tick - 1;
+}
+
+void Recorder::take(const InputQueue& next)
+{
+    const ScreenPoint before = pointer;
+    const auto endMoves = [&] {
+        if (pointer != before)
+            pointerMoved();
+    };
+    for (const InputQueue::Event& event : next.getEvents()) {
+        if (InputQueue::isTransition(event)) {
+            comesBack = false;
+            endMoves();
+        }
+        switch (event.kind) {
+        case InputQueue::Kind::Move:
+            pointer = {event.x, event.y};
+            break;
+        case InputQueue::Kind::Hold:
+            hold(event);
+            break;
+        case InputQueue::Kind::Press:
+            return press(event.button);
+        case InputQueue::Kind::Release:
+            return release(event.button);
+        case InputQueue::Kind::DoubleClick:
+            return doubleClick(event.button);
+        case InputQueue::Kind::WheelUp:
+            return wheel(true);
+        case InputQueue::Kind::WheelDown:
+            return wheel(false);
+        case InputQueue::Kind::Key:
+            return key(event);
+        }
+    }
+    endMoves();
+}
+
+void Recorder::pointerMoved()
+{
+    arrival = tick;
+    if (pressed) {
+        if (doSame(pressed->spot, spotAt(game, pointer, PointerAct::Click)))
+            return;
+        giveUpClick();
+    }
+    const bool isLost = lostPresses[0] || lostPresses[1] || lostPresses[2];
+    if (heldButtons.none() || isLost)
+        return;
+    const std::size_t before = steps.size();
+    point(PointerAct::Point);
+    const auto* bar = dynamic_cast<const AScrollBar*>(game.getMouseCaptureWnd(0));
+    if (steps.size() > before)
+        steps.back().isPassedThrough = bar && bar->getLeverHeld();
+}
+
+void Recorder::press(MouseButton button)
+{
+    giveUpClick();
+    const auto index = static_cast<std::size_t>(button);
+    const bool isOnly = heldButtons.none();
+    const std::string line = std::string("press ") + buttonName(button);
+    const Spot spot =
+        spotAt(game, pointer, button == MouseButton::Left ? PointerAct::Click : PointerAct::Press);
+    if (!spot.hindrance.empty()) {
+        // It counts when the release comes behind the screen change.
+        lostPresses[index] = steps.size();
+        addTransition(line);
+        heldButtons.set(index);
+        return;
+    }
+    const std::size_t before = steps.size();
+    const std::optional<Played> playedBefore = played;
+    point(button == MouseButton::Left ? PointerAct::Click : PointerAct::Press);
+    addTransition(line);
+    // The hot row is where a list is pressed, unless the press goes to an edit box and ends the typing.
+    const bool endsTyping = spotAt(game, pointer, PointerAct::Point).isTypedInto;
+    played = {.point = played->point, .stoodFor = pointer, .movesOnList = endsTyping ? 1 : settledMoves};
+    heldButtons.set(index);
+    if (button != MouseButton::Left || !isOnly)
+        return;
+    if (std::optional<PointingLine> click = clickLineFor(game, spot)) {
+        pressed = {
+            tick, spot, std::move(*click), {steps.begin() + static_cast<long>(before), steps.end()}, played};
+        steps.erase(steps.begin() + static_cast<long>(before), steps.end());
+        played = playedBefore;
+    }
+}
+
+void Recorder::release(MouseButton button)
+{
+    const auto index = static_cast<std::size_t>(button);
+    if (button == MouseButton::Left && pressed) {
+        const Spot spot = spotAt(game, pointer, PointerAct::Click);
+        if (spot.hindrance.empty() && doSame(pressed->spot, spot) && tick - pressed->tick < longestClick) {
+            steps.push_back({.kind = Kind::Click,
+                             .tick = pressed->tick,
+                             .line = pressed->click.text,
+                             .releaseTick = tick});
+            played = pressed->rawPlayed;
+            played->point = pressed->click.point;
+            played->stoodFor = pointer;
+            pressed.reset();
+            heldButtons.reset(index);
+            return;
+        }
+    }
+    giveUpClick();
+    const std::string line = std::string("release ") + buttonName(button);
+    const std::optional<std::size_t> lostPress = std::exchange(lostPresses[index], std::nullopt);
+    const bool isOfDoubleClick = !heldButtons[index]; // which is a flag alone
+    if (lostPress && isLost(steps[*lostPress].line + ", " + line)) {
+        steps[*lostPress] = std::move(steps.back()); // the note stands for both
+        steps.pop_back();
+    } else if (!isOfDoubleClick || !isLost(line)) {
+        point(button == MouseButton::Left ? PointerAct::Release : PointerAct::Point);
+        addTransition(line);
+    }
+    heldButtons.reset(index);
+}
+
+void Recorder::doubleClick(MouseButton button)
+{
+    giveUpClick();
+    const std::string line = std::string("doubleclick ") + buttonName(button);
+    if (isLost(line))
+        return;
+    const Spot spot = spotAt(game, pointer, PointerAct::Click);
+    const std::optional<PointingLine> click = clickLineFor(game, spot);
+    if (spot.cell.item >= 0)
+        pointAtHotCell(spot);
+    else
+        point(PointerAct::Click);
+    addTransition(line);
+    if (click)
+        steps.back().clickLine = click->text;
+}
+
+void Recorder::wheel(bool up)
+{
+    giveUpClick();
+    const std::string line = up ? "wheel up" : "wheel down";
+    if (isLost(line))
+        return;
+    point(PointerAct::Point);
+    addTransition(line);
+}
+
+void Recorder::key(const InputQueue::Event& event)
+{
+    giveUpClick();
+    if (isLost("key " + keyName(event.code)))
+        return;
+    if (!isModifier(event.code))
+        pointForKeys();
+    const bool leaves = event.code == VK_TAB;
+    steps.push_back({.kind = Kind::Key,
+                     .tick = tick,
+                     .code = event.code,
+                     .secondCode = event.secondCode,
+                     .character = event.character,
+                     .isTyped = !leaves && spotAt(game, pointer, PointerAct::Point).isTypedInto});
+}
+
+void Recorder::hold(const InputQueue::Event& event)
+{
+    giveUpClick();
+    if (event.held && !isModifier(event.code))
+        pointForKeys(); // its key comes next
+    steps.push_back({.kind = Kind::Hold, .tick = tick, .code = event.code, .held = event.held});
+}
+
+/// Input that the main window drops is not written: the playing may be quicker with the change of screens,
+/// and the input would meet the new one.
+bool Recorder::isLost(const std::string& what)
+{
+    const Spot spot = spotAt(game, pointer, PointerAct::Press);
+    if (spot.hindrance.empty())
+        return false;
+    steps.push_back({.kind = Kind::Note,
+                     .tick = tick,
+                     .line = "lost at " + std::to_string(pointer.x) + ", " + std::to_string(pointer.y) +
+                             ": " + what + "; " + spot.hindrance});
+    return true;
+}
+
+RecordedStep Recorder::pointingStep(const PointingLine& line) const
+{
+    return {.kind = line.runsFrames ? Kind::Hover : Kind::Move, .tick = arrival, .line = line.text};
+}
+
+/// Brings the pointer to where it does the same in the playing.
+void Recorder::point(PointerAct act)
+{
+    const Spot spot = spotAt(game, pointer, act);
+    if (!played || !doSame(spotAt(game, played->point, act), spot))
+        addPointing(spot);
+}
+
+void Recorder::addPointing(const Spot& spot)
+{
+    const int moves = spot.cell.item >= 0 && isPlayedOn(spot) ? played->movesOnList + 1 : 1;
+    const PointingLine line = pointLineFor(game, spot, heldButtons.none());
+    steps.push_back(pointingStep(line));
+    played = {.point = line.point, .stoodFor = pointer, .movesOnList = moves};
+}
+
+bool Recorder::isPlayedOn(const Spot& spot) const
+{
+    return played && spotAt(game, played->point, PointerAct::Point).wnd.get() == spot.wnd.get();
+}
+
+void Recorder::pointForKeys()
+{
+    const Spot spot = spotAt(game, pointer, PointerAct::Point);
+    if (spot.cell.item >= 0)
+        pointAtHotCell(spot);
+    else if (!played || !doSameForKeys(spotAt(game, played->point, PointerAct::Point), spot))
+        addPointing(spot);
+    if (played)
+        played->hasKeys = true;
+}
+
+/// The keys of a list go on from its hot row, and a double click selects it. That row follows a pointer that
+/// moves on the list, from the second move on: with the first the list comes back to where it was when the
+/// pointer left it.
+void Recorder::pointAtHotCell(const Spot& spot)
+{
+    const std::optional<CellPlace> hot = hotCellOf(spot.wnd);
+    if (isPlayedOn(spot)) {
+        const bool wentAlong = played->stoodFor == pointer;
+        const bool byGame = wentAlong && played->movesOnList == 0; // it remembers here and in the playing
+        const bool isKnown = byGame || played->movesOnList >= settledMoves;
+        const bool isOnCell = doSame(spotAt(game, played->point, PointerAct::Point), spot);
+        const bool isPointers = isOnCell && (!hot || *hot == spot.cell);
+        if (isKnown && (played->hasKeys ? wentAlong : isPointers))
+            return;
+    }
+    const auto& list = static_cast<const AListBox&>(*spot.wnd);
+    const bool isOnPage = hot && cellAt(list, middleOfCell(list, *hot)) == *hot;
+    const ScreenPoint end = isOnPage && *hot != spot.cell ? middleOfCell(list, *hot) : pointer;
+    const ScreenPoint beside{end.x + 1, end.y};
+    const PointingLine line = pointLineFor(game, spotAt(game, beside, PointerAct::Point), false);
+    steps.push_back({.kind = Kind::Approach, .tick = arrival - 1, .line = line.text});
+    addPointing(spotAt(game, end, PointerAct::Point));
+    steps.back().kind = Kind::Approach; // no input may come in the tick of either move
+    played->movesOnList = settledMoves;
+    if (arrival == tick)
+        played->stoodFor.reset(); // the row under the pointer becomes hot behind this input
+}
+
+void Recorder::noteRest()
+{
+    rest.reset();
+    if (pressed || heldButtons.any() || (played && played->point == pointer))
+        return;
+    const Spot spot = spotAt(game, pointer, PointerAct::Point);
+    if (!spot.hindrance.empty() ||
+        (played && doSameForKeys(spotAt(game, played->point, PointerAct::Point), spot)))
+        return;
+    const PointingLine line = pointLineFor(game, spot, true);
+    rest = {pointingStep(line), {.point = line.point, .stoodFor = pointer, .movesOnList = 1}};
+}
+
+void Recorder::giveUpClick()
+{
+    if (!pressed)
+        return;
+    steps.insert(steps.end(), pressed->raw.begin(), pressed->raw.end());
+    played = pressed->rawPlayed;
+    pressed.reset();
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "devtools/script_text/watch.h"
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The text form of the scripts in the data directory and the other folders of sources: compiled in memory,
+/// where it stands in for the compiled file; and the side maps of those that have no text.
+class Sources {
+public:
+    /// Folders besides UIG of the data directory. Builds nothing yet. Raises std::runtime_error for one that
+    /// is not there.
+    explicit Sources(std::vector<std::string> folders);
+    ~Sources(); // takes the compiled scripts out of the data directory
+    Sources(const Sources&) = delete;
+    Sources& operator=(const Sources&) = delete;
+
+    /// Compiles all text. When one is at fault nothing is replaced, and getFaults tells why.
+    bool build();
+    /// "menu.tgs:31:5: error: ...", of the last build.
+    const std::vector<std::string>& getFaults() const { return faults; }
+    /// The same with the lines and marks under the places, for a terminal.
+    const std::vector<std::string>& getReports() const { return reports; }
+    /// Whether a file of theirs has been written, has come or gone since the last build. Also compiled files
+    /// that are used as they are, and their maps.
+    bool haveChanged() const;
+
+    /// "menu.tgs:31" for a byte of the compiled script of that name; without text or map "menu.tgx, byte
+    /// 123".
+    std::string placeOf(const std::string& script, unsigned offset) const;
+    /// The same for a line of the compiled script, 1 for the first; empty when it is not known.
+    std::string placeOfLine(const std::string& script, int line) const;
+
+private:
+    struct Mapped {
+        unsigned offset;
+        std::string place; // FILE:LINE
+    };
+    using Map = std::vector<Mapped>; // in the order of offsets
+    struct Built {
+        std::string name; // below UIG
+        std::shared_ptr<const std::string> bytes;
+        Map map;
+    };
+    std::vector<std::string> textFiles() const;
+    void replace(std::vector<Built> built);
+    void readSideMap(const std::string& compiled);
+    const Map* mapOf(const std::string& script) const;
+
+    std::vector<std::string> folders;
+    std::map<std::string, Map> maps; // by script name in lower case
+    std::vector<std::string> inMemory;
+    std::vector<std::string> faults;
+    std::vector<std::string> reports;
+    std::vector<std::string> knownFiles;    // text, of the last build
+    std::vector<std::string> compiledFiles; // in UIG, then
+    std::optional<script_text::WatchedFiles> watched;
+};

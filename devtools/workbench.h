@@ -1,0 +1,63 @@
+#pragma once
+
+#include "devtools/devtools.h"
+#include "devtools/host.h"
+#include "devtools/inspector.h"
+#include "devtools/kept_state.h"
+#include "devtools/notices.h"
+#include "devtools/origins.h"
+#include "devtools/overlay.h"
+#include "devtools/pictures.h"
+#include "devtools/recorder.h"
+#include "devtools/sources.h"
+
+#include <chrono>
+#include <optional>
+
+/// What DevTools is behind its face: stands between game and host, and does what the keys ask for.
+class Workbench : public HostWatcher {
+public:
+    Workbench(AMainWin& game, DevToolsOptions options);
+    ~Workbench() override;
+
+    bool takesInput(const InputQueue::Event& event) override;
+    void tickBegins(const InputQueue& next, bool takesInput) override;
+    void frameBegins() override;
+    const Image& pictureOf(const Image& screen, std::span<const tagRECT> changed) override;
+    void showMessage(const CString& text) override;
+
+    const Notices& getNotices() const { return notices; }
+    const Origins& getOrigins() const { return origins; }
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    void keyPressed(int code);
+    void switchFullScreen();
+    void savePicture();
+    void switchRecorder();
+    void saveRecording();
+    void lookForChanges();
+    void readAnew();
+    bool buildSources();
+    void showFaults();
+    std::string outPath(const char* stem, const char* ending) const;
+    void measure(const Image& screen, std::span<const tagRECT> changed);
+
+    AMainWin& game;
+    const DevToolsOptions options;
+    Sources sources;
+    Origins origins;
+    Inspector inspector;
+    Notices notices;
+    std::optional<Recorder> recorder;
+    InterfaceState state;
+    Overlay overlay;
+
+    FrameCost cost;
+    Clock::time_point frameStart;
+    std::uint32_t lastLook = 0; // milliseconds of timeGetTime
+    std::uint32_t lastPictureLook = 0;
+    WatchedPictures pictures;
+    ImageRef heldPicture; // shown while screens open again, so that none of them flashes by
+};

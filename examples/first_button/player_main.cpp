@@ -1,0 +1,11 @@
+#include "quay.h"
+
+#include "player/player.h"
+
+// The player reads the script by itself, so it takes the window without the game's startup.
+int main(int argc, char** argv)
+{
+    return playMain(argc, argv, [](int width, int height, int depth) {
+        return std::make_unique<QuayWindow>(width, height, depth);
+    });
+}

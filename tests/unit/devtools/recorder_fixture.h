@@ -1,0 +1,242 @@
+#pragma once
+
+#include "devtools/recorder.h"
+#include "platform/host/headless_host.h"
+#include "platform/system/clock.h"
+#include "player/reports.h"
+#include "tests/unit/support/tgx_test.h"
+#include "tgx/controls/combobox.h"
+#include "tgx/controls/listbox/listbox.h"
+#include "tgx/controls/scrollbar.h"
+
+/// Shows the recorder each tick.
+class ListeningHost : public HeadlessHost {
+public:
+    void tickBegins(ddwin&, bool takesInput) override
+    {
+        if (recorder)
+            recorder->tickBegins(input(), takesInput);
+    }
+    std::optional<Recorder> recorder;
+};
+
+/// What a run has led to: clicks in order, and all that the tree holds but the pointer's pixel.
+struct Outcome {
+    std::vector<std::string> clicks;
+    std::vector<std::string> popupClicks;
+    std::string tree;
+    bool operator==(const Outcome&) const = default;
+};
+inline std::ostream& operator<<(std::ostream& out, const Outcome& outcome)
+{
+    for (const std::string& id : outcome.clicks)
+        out << id << ' ';
+    out << '|';
+    for (const std::string& id : outcome.popupClicks)
+        out << ' ' << id;
+    return out << '\n' << outcome.tree;
+}
+
+/// A person uses an interface with a recorder beside it; the recording is then played on a fresh one.
+class RecorderTest : public TgxTest {
+protected:
+    RecorderTest()
+    {
+        options.frameMs = 17;
+        strip("UIG/scroll1.bmp", 16, 16, 6);
+        script(R"(
+SCREEN "MENU" 0 0 640 480 ""
+BEGIN
+  WINDOW "PANEL" 10 10 200 200
+  BEGIN
+    BUTTON "OK" 10 10 101 50 ""
+    BUTTON "OPEN" 10 70 100 50 ""
+    BUTTON "TWO WORDS" 10 130 100 50 ""
+  END
+  BUTTON "GO" 220 10 60 30 ""
+  BUTTON "" 220 50 60 30 ""
+  BUTTON "TWIN" 220 90 60 30 ""
+  BUTTON "TWIN" 220 130 60 30 ""
+  EDITBOX "NAME" 300 100 200 20 "" 0 0
+  LISTBOX "LIST" 300 200 200 120
+  BEGIN
+    COLUMNS 50 LEFT 80 LEFT
+    TITLES "a" "b"
+  END
+  COMBOBOX "PORT" 300 20 120 24 ""
+  BUTTON "COVERED" 580 20 60 30 ""
+  BUTTON "HALF" 300 440 100 30 ""
+  WINDOW "LID" 340 430 20 40
+  BUTTON "SHADE" 590 0 40 100 ""
+END
+SCREEN "CHART" 0 0 640 480 ""
+BEGIN
+  BUTTON "OK" 400 400 100 50 ""
+  EDITBOX "NAME" 10 300 200 20 "" 0 0
+END
+WINDOW "QUERY" 100 300 200 100
+BEGIN
+  BUTTON "TGX_YES" 10 10 100 50 ""
+END
+)");
+        begin();
+    }
+    ~RecorderTest() override { stopListening(); }
+
+    void begin()
+    {
+        start();
+        auto* list = static_cast<AListBox*>(wnd("LIST"));
+        for (int i = 0; i < 9; ++i)
+            list->setItemData(list->addItem(), 0, i);
+        list->setRowHeight(20);
+        list->createScrollBar();
+        wnd("MENU")->addChildWindow(new AScrollBar("BAR", 520, 200, 16, 200));
+        for (const char* port : {"Elbow", "Farsund", "Gjoa"})
+            static_cast<AComboBox*>(wnd("PORT"))->addItem(port);
+        for (int i = 0; i < win().getFontCount(); ++i)
+            measureFont(i);
+        wnd("SHADE")->setVisible(0);
+        answered = 0;
+        win().duringFrame = [this] { answerClicks(); };
+    }
+    /// The game.
+    void answerClicks()
+    {
+        for (; answered < win().clicks.size(); ++answered) {
+            if (win().clicks[answered] == "OPEN")
+                win().setPopupWnd(CString("QUERY"), win().getActiveScreen(), mainScriptResource,
+                                  "script.tgx");
+            if (win().clicks[answered] == "COVERED")
+                wnd("SHADE")->setVisible(1);
+            if (win().clicks[answered] == "GO")
+                win().changeScreen("CHART", 0, 0, "");
+        }
+    }
+
+    /// Begins to record, a second behind the start or where the test has come to since.
+    void record()
+    {
+        auto made = std::make_unique<ListeningHost>();
+        listening = made.get();
+        host = displayhost::use(std::move(made));
+        listening->recorder.emplace(win(), "# recorded");
+        win().clicks.clear();
+        answered = 0;
+    }
+    void stopListening()
+    {
+        if (listening)
+            displayhost::use(std::move(host));
+        listening = nullptr;
+    }
+
+    /// What the person does, divided by ";": input as events have it, and a number of ticks that pass.
+    void person(const std::string& doings)
+    {
+        std::istringstream all(doings);
+        for (std::string doing; std::getline(all, doing, ';');)
+            if (!doing.empty())
+                act(doing);
+    }
+    void act(const std::string& doing)
+    {
+        InputQueue& input = listening->input();
+        std::istringstream words(doing);
+        std::string what;
+        std::string which;
+        int x = 0;
+        int y = 0;
+        words >> what;
+        if (what == "move" && words >> x >> y)
+            input.move(x, y);
+        else if (what == "press")
+            input.press(button(words));
+        else if (what == "release")
+            input.release(button(words));
+        else if (what == "doubleclick")
+            input.doubleClick(button(words));
+        else if (what == "wheel" && words >> which)
+            input.wheel(which == "up");
+        else if (what == "down" && words >> x) // a key with its hold, as the window has it
+            input.holdInTurn(static_cast<std::uint8_t>(x), true), type(input, x, words);
+        else if (what == "key" && words >> x)
+            type(input, x, words);
+        else if (what == "up" && words >> x)
+            input.holdInTurn(static_cast<std::uint8_t>(x), false);
+        else if (what == "pad" && words >> x)
+            input.key(static_cast<std::uint8_t>(x), 0, static_cast<std::uint8_t>(x));
+        else
+            pass(std::stoi(what));
+    }
+    static MouseButton button(std::istringstream& words)
+    {
+        std::string name;
+        words >> name;
+        return name == "right"    ? MouseButton::Right
+               : name == "middle" ? MouseButton::Middle
+                                  : MouseButton::Left;
+    }
+    /// The code's character follows, as a number.
+    static void type(InputQueue& input, int code, std::istringstream& words)
+    {
+        int character = 0;
+        words >> character;
+        input.key(static_cast<std::uint8_t>(code), static_cast<char>(character));
+    }
+    void pass(int ticks)
+    {
+        for (; ticks > 0; --ticks) {
+            win().runTick();
+            advanceVirtualTime(17);
+            if (ticks % ticksAFrame == 0)
+                win().runFrame();
+        }
+    }
+
+    std::string events() { return listening->recorder->events(); }
+    /// The lines behind the heading and the opening.
+    std::string lines()
+    {
+        const std::string text = events();
+        const std::string_view opening = "frame 60\n";
+        return text.substr(text.find(opening) + opening.size());
+    }
+    Outcome outcome()
+    {
+        std::string tree = treeReport(win());
+        const std::size_t from = tree.find("\"pointer\"");
+        return {win().clicks, win().popupClicks, tree.erase(from, tree.find("\"root\"") - from)};
+    }
+    /// What a person sees of it.
+    std::string values()
+    {
+        std::string all;
+        for (const std::string& id : win().clicks)
+            all += id + ' ';
+        const auto* list = static_cast<AListBox*>(wnd("LIST"));
+        all += "| list " + std::to_string(list->getSelectedItem()) + ' ' +
+               std::to_string(list->getSelectedColumn()) + " from " +
+               std::to_string(list->getFirstVisibleItem());
+        all += " bar " + std::to_string(static_cast<AScrollBar*>(wnd("BAR"))->getPercentage().raw);
+        all += " port " + wnd("PORT")->getText().str() + " name " + wnd("NAME")->getText().str();
+        all += " on " + win().getActiveScreen()->getID().str();
+        return all + (win().getPopupWnd(0) ? " in " + win().getPopupWnd(0)->getID().str() : "");
+    }
+    /// Plays the recording on a fresh interface.
+    Outcome played()
+    {
+        const std::string text = events();
+        stopListening();
+        begin();
+        std::istringstream all(text);
+        for (std::string line; std::getline(all, line);)
+            play(line);
+        return outcome();
+    }
+
+    std::unique_ptr<displayhost> host; // the player's
+    ListeningHost* listening = nullptr;
+    std::size_t answered = 0;
+    int ticksAFrame = 1;
+};

@@ -1,0 +1,230 @@
+// Scripts and pictures that change while a game runs.
+
+#include "devtools/workbench.h"
+#include "platform/display/ddwin.h"
+#include "tests/unit/support/tgx_test.h"
+#include "tgx/controls/button.h"
+#include "tgx/controls/combobox.h"
+#include "tgx/controls/editbox.h"
+#include "tgx/controls/listbox/listbox.h"
+#include "tgx/controls/radiobutton.h"
+#include "tgx/controls/scrollbar.h"
+#include "tgx/controls/tabcontrol.h"
+
+namespace {
+
+/// Enough for a look at the files, and for screens to open one behind the other.
+constexpr const char* aWhile = "frame 40";
+
+class ReloadTest : public TgxTest {
+protected:
+    ~ReloadTest() override { tools.reset(); }
+
+    /// UIG/name in text form, as an author saves it.
+    void save(const std::string& text, const std::string& name = "script.tgs") { write("UIG/" + name, text); }
+
+    /// Starts on compiled scripts and lets the devtools find the text.
+    void startWithTools(const std::string& text)
+    {
+        start("SCREEN \"MENU\" 0 0 640 480 \"\"");
+        save(text);
+        tools.emplace(win(), DevToolsOptions{.readsScript = true, .outDirectory = data.string()});
+        saveAndWait(text);
+    }
+    void saveAndWait(const std::string& text)
+    {
+        save(text + "# saved " + std::to_string(++saves) + '\n');
+        play(aWhile);
+    }
+    std::string faults() const
+    {
+        std::string all;
+        for (const std::string& each : tools->getNotices().getFaults())
+            all += each + '\n';
+        return all;
+    }
+    std::string textOf(const std::string& id) { return wnd(id)->getWindowText(); }
+    std::string inUig(const std::string& text) const { return (data / "UIG" / text).string(); }
+    template<class Control>
+    Control& control(const std::string& id)
+    {
+        return *static_cast<Control*>(wnd(id));
+    }
+
+    std::optional<Workbench> tools;
+
+private:
+    int saves = 0;
+};
+
+constexpr const char* note = R"(SCREEN "MENU" 0 0 640 480 ""
+BEGIN
+    TEXTWND "NOTE" 10 10 200 20 "before"
+END
+)";
+
+TEST_F(ReloadTest, ATextStandsInForTheCompiledScript)
+{
+    startWithTools(note);
+    EXPECT_EQ(textOf("NOTE"), "before");
+    EXPECT_EQ(tools->getOrigins().placeOf(*wnd("NOTE")), inUig("script.tgs:3"));
+
+    saveAndWait("# a line more\nSCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    TEXTWND \"NOTE\" 10 10 90 20 "
+                "\"after\"\nEND\n");
+    EXPECT_EQ(textOf("NOTE"), "after");
+    EXPECT_EQ(wnd("NOTE")->width(), 90);
+    EXPECT_EQ(tools->getOrigins().placeOf(*wnd("NOTE")), inUig("script.tgs:4"));
+}
+
+TEST_F(ReloadTest, AFaultyTextLeavesTheInterfaceAsItIs)
+{
+    startWithTools(note);
+    saveAndWait(
+        "SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    TEXTWMD \"NOTE\" 10 10 200 20 \"after\"\nEND\n");
+    EXPECT_EQ(faults(), inUig("script.tgs:3:5: error: unknown keyword TEXTWMD; did you mean TEXTWND?\n"));
+    EXPECT_EQ(textOf("NOTE"), "before");
+
+    saveAndWait(note);
+    EXPECT_EQ(faults(), "");
+}
+
+TEST_F(ReloadTest, ALineThatFailsIsNamed)
+{
+    startWithTools("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    BUTTONLOOP 1 1 1 1\nEND\n");
+    EXPECT_EQ(faults(), inUig("script.tgs:3: the line failed: BUTTONLOOP\n"));
+}
+
+TEST_F(ReloadTest, ASideMapTellsTheLinesOfACompiledScript)
+{
+    start("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\nTEXTWND \"NOTE\" 10 10 200 20 \"x\"\nEND");
+    write("UIG/script.tgx.map", "0 7 menu.tgs\n22 8 menu.tgs\n24 12 parts/notes.tgs\n47 9 menu.tgs\n");
+    tools.emplace(win(), DevToolsOptions{.readsScript = true});
+    script("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\nTEXTWND \"NOTE\" 10 10 200 20 \"again\"\nEND");
+    play(aWhile);
+    EXPECT_EQ(textOf("NOTE"), "again");
+    EXPECT_EQ(tools->getOrigins().placeOf(*wnd("MENU")), "menu.tgs:7");
+    EXPECT_EQ(tools->getOrigins().placeOf(*wnd("NOTE")), "parts/notes.tgs:12");
+}
+
+TEST_F(ReloadTest, APictureThatChangesIsReadAgain)
+{
+    bitmap("plate.bmp", 20, 20, 0xFF0000);
+    startWithTools(
+        "SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    BITMAP \"PLATE\" 0 0 20 20 \"plate.bmp\"\nEND\n");
+    EXPECT_EQ(win().getScreenImage().row(5)[5] & 0xFFFFFF, 0xFF0000u);
+    bitmap("plate.bmp", 20, 20, 0x00FF00);
+    play(aWhile);
+    EXPECT_EQ(win().getScreenImage().row(5)[5] & 0xFFFFFF, 0x00FF00u);
+}
+
+constexpr const char* everything = R"(SCREEN "MENU" 0 0 640 480 ""
+BEGIN
+    TEXTWND "TITLE" 0 0 100 20 "Menu"
+END
+SCREEN "FORM" 0 0 640 480 ""
+BEGIN
+    CHECKBOX "TICK" 0 0 50 20 "Tick"
+    CHECKBOX "UNTOUCHED" 0 20 50 20 "Tock"
+    RADIOBUTTON "ONE" 60 0 50 20 "One"
+    RADIOBUTTON "TWO" 60 20 50 20 "Two"
+    TEXTWND "BREAK" 0 0 1 1 ""
+    EDITBOX "NAME" 0 50 100 20 "nobody"
+    EDITBOX "HOME" 0 70 100 20 "nowhere"
+    VSCROLLBAR "BAR" 120 0 10 100 "" 10 10
+    COMBOBOX "GOODS" 0 100 100 20 ""
+    BEGIN
+        ITEM "tea"
+        ITEM "salt"
+        ITEM "rum"
+    END
+    LISTBOX "LOG" 200 0 100 60
+    BEGIN
+        COLUMNS 80
+        LISTLOOK 20
+        ITEM "a"
+        ITEM "b"
+        ITEM "c"
+        ITEM "d"
+        ITEM "e"
+        ITEM "f"
+        ITEM "g"
+    END
+    TABCONTROL "PAGES" 320 0 200 200
+    BEGIN
+        RADIOBUTTON "TAB1" 0 0 50 20 "1"
+        RADIOBUTTON "TAB2" 50 0 50 20 "2"
+        WINDOW "PAGE1" 0 20 200 180
+        WINDOW "PAGE2" 0 20 200 180
+    END
+END
+WINDOW "ASK" 0 0 100 100
+BEGIN
+    VISIBLE 0
+    EDITBOX "ANSWER" 0 0 80 20 ""
+END
+)";
+
+TEST_F(ReloadTest, WhatWasChosenAndTypedComesBack)
+{
+    startWithTools(everything);
+    play("change FORM", "frame 10");
+    ASSERT_STREQ(win().getActiveScreen()->getID(), "FORM");
+    control<AButton>("TICK").setSelected(1);
+    control<ARadioButton>("TWO").setSelectedButton(&control<ARadioButton>("TWO"));
+    control<AEditBox>("NAME").setWindowText("Ann");
+    control<AScrollBar>("BAR").setPercentage(ZnFixed::fromInt(40));
+    control<AComboBox>("GOODS").setSelectedItem(2);
+    control<AListBox>("LOG").setSelectedItem(5);
+    control<AListBox>("LOG").scrollTo(ZnFixed::fromInt(100));
+    const int firstRow = control<AListBox>("LOG").getFirstVisibleItem();
+    ASSERT_GT(firstRow, 0);
+    control<ATabControl>("PAGES").setActiveWnd(&control<AButton>("TAB2"), 0);
+    win().setMousePos(77, 88, 1);
+    win().setPopupWnd("ASK", win().getActiveScreen(), 0, "script.tgx");
+    play("frame");
+    control<AEditBox>("ANSWER").setWindowText("yes");
+    win().setMousePos(77, 88, 1);
+
+    std::string changed = everything;
+    changed.replace(changed.find("nowhere"), 7, "harbour");
+    changed.replace(changed.find("nobody"), 6, "anyone");
+    saveAndWait(changed);
+
+    EXPECT_STREQ(win().getActiveScreen()->getID(), "FORM");
+    EXPECT_STREQ(win().getActiveScreen()->getCaller(), "MENU") << "there is a way back";
+    EXPECT_EQ(control<AButton>("TICK").getSelected(), 1);
+    EXPECT_EQ(control<AButton>("UNTOUCHED").getSelected(), 0);
+    EXPECT_EQ(control<ARadioButton>("TWO").getSelected(), 1);
+    EXPECT_EQ(control<ARadioButton>("ONE").getSelected(), 0);
+    EXPECT_EQ(textOf("NAME"), "Ann") << "what was typed counts for more than the new script";
+    EXPECT_EQ(textOf("HOME"), "harbour") << "nobody has typed here";
+    EXPECT_EQ(control<AScrollBar>("BAR").getPercentage(), ZnFixed::fromInt(40));
+    EXPECT_EQ(control<AComboBox>("GOODS").getSelectedItem(), 2);
+    EXPECT_EQ(textOf("GOODS"), "rum");
+    EXPECT_EQ(control<AListBox>("LOG").getSelectedItem(), 5);
+    EXPECT_EQ(control<AListBox>("LOG").getFirstVisibleItem(), firstRow);
+    EXPECT_EQ(control<ATabControl>("PAGES").getActiveWnd(), wnd("PAGE2"));
+    EXPECT_TRUE(win().isInPopupList("ASK"));
+    EXPECT_EQ(textOf("ANSWER"), "yes");
+    EXPECT_EQ(win().mouseX, 77);
+    EXPECT_EQ(win().mouseY, 88);
+}
+
+TEST_F(ReloadTest, AScreenThatIsGoneIsSaidSo)
+{
+    startWithTools(everything);
+    play("change FORM", "frame 10");
+    saveAndWait(note);
+    EXPECT_STREQ(win().getActiveScreen()->getID(), "MENU");
+    EXPECT_EQ(textOf("NOTE"), "before");
+}
+
+TEST_F(ReloadTest, FontsBeginAnew)
+{
+    startWithTools("ADDFONT \"none.ttf\" \"\" 20\n" + std::string(note));
+    EXPECT_EQ(win().getFontCount(), 2);
+    saveAndWait("ADDFONT \"none.ttf\" \"\" 20\n" + std::string(note));
+    EXPECT_EQ(win().getFontCount(), 2);
+}
+
+} // namespace

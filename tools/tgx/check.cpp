@@ -1,0 +1,159 @@
+#include "devtools/script_text/statement_form.h"
+#include "player/player.h"
+#include "tools/tgx/check/codes.h"
+#include "tools/tgx/check/collect.h"
+#include "tools/tgx/check/output.h"
+#include "tools/tgx/commands.h"
+#include "tools/tgx/files.h"
+#include "tools/tgx/terminal.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <deque>
+#include <iostream>
+#include <memory>
+
+namespace {
+
+using script_text::Diagnostic;
+
+constexpr int wrongCall = 2;
+constexpr int wrongInput = 1;
+
+struct CheckArguments {
+    std::vector<std::string> inputs;
+    script_check::CheckOptions options;
+    bool isJson = false;
+    bool warningsAreErrors = false;
+};
+
+int refuse(const std::string& why)
+{
+    std::cerr << "tgx check: " << why << '\n';
+    return wrongCall;
+}
+
+int explain(const std::string& name)
+{
+    if (name.empty() || name == "all") {
+        std::cout << script_check::explainAll();
+        return 0;
+    }
+    if (const script_check::Code* code = script_check::codeCalled(name)) {
+        std::cout << script_check::explain(*code);
+        return 0;
+    }
+    std::vector<std::string_view> names;
+    for (const script_check::Code& code : script_check::codes())
+        names.emplace_back(code.name);
+    const std::string_view near = script_text::nearest(name, names);
+    return refuse(
+        "there is no code " + script_text::shown(name) +
+        (near.empty() ? "; --explain lists them all" : "; did you mean " + std::string(near) + "?"));
+}
+
+int check(const CheckArguments& arguments)
+{
+    if (arguments.inputs.empty())
+        return refuse("expected a script or a folder of scripts; --help tells more");
+    std::string reason;
+    const auto folders =
+        script_check::collect(arguments.inputs, arguments.options.dataDirectory, readIncluded, reason);
+    if (!reason.empty()) {
+        std::cerr << reason << '\n';
+        return wrongInput;
+    }
+    std::deque<script_check::CheckReport> reports;
+    std::ptrdiff_t scripts = 0;
+    int broken = 0;
+    bool lacksData = false;
+    for (const script_check::ScriptFolder& folder : folders) {
+        script_check::CheckOptions options = arguments.options;
+        options.dataDirectory = folder.dataDirectory;
+        const auto reported =
+            std::count_if(folder.files.begin(), folder.files.end(),
+                          [](const script_check::ScriptFile& each) { return each.isReported; });
+        if (reported == 0)
+            continue;
+        scripts += reported;
+        lacksData = lacksData || folder.dataDirectory.empty();
+        reports.push_back(script_check::check(folder.files, readIncluded, options));
+        broken += reports.back().broken;
+    }
+    if (scripts == 0)
+        return refuse("no script (*.tgs, *.tgx) found");
+
+    std::vector<const Diagnostic*> findings;
+    for (const script_check::CheckReport& report : reports)
+        for (const Diagnostic& each : report.findings)
+            findings.push_back(&each);
+    if (arguments.isJson)
+        std::cout << script_check::asJson(findings);
+    else
+        for (const Diagnostic* each : findings)
+            std::cout << script_check::asText(*each, colourFor(stdout));
+    std::cout << std::flush;
+
+    const auto errors = std::count_if(findings.begin(), findings.end(), [](const Diagnostic* each) {
+        return each->severity == Diagnostic::Error;
+    });
+    const auto warnings = static_cast<std::ptrdiff_t>(findings.size()) - errors;
+    if (lacksData)
+        std::cerr << "note: pictures and fonts are not looked at; name the data directory with --data\n";
+    if (broken > 0)
+        std::cerr << "note: " << counted(broken, "script") << (broken == 1 ? " has" : " have")
+                  << " lines that cannot be built; how its lines work together has not been looked at\n";
+    std::cerr << counted(errors, "error") << ", " << counted(warnings, "warning") << " in "
+              << counted(scripts, "script") << '\n';
+    return errors > 0 || (arguments.warningsAreErrors && warnings > 0) ? wrongInput : 0;
+}
+
+} // namespace
+
+void addCheck(CLI::App& app)
+{
+    CLI::App* command = app.add_subcommand("check", "Find what is wrong with scripts, without playing them");
+    auto arguments = std::make_shared<CheckArguments>();
+    auto explained = std::make_shared<std::string>();
+    command
+        ->add_option("input", arguments->inputs,
+                     "Scripts, source or compiled, and folders: all scripts below are checked")
+        ->type_name("FILE-OR-DIR");
+    command
+        ->add_option(
+            "--data", arguments->options.dataDirectory,
+            "Data directory, where pictures and fonts lie. The folder above UIG for scripts that lie in "
+            "a folder of that name")
+        ->check(CLI::ExistingDirectory)
+        ->type_name("DIR");
+    addSizeOption(*command, arguments->options.screenWidth, arguments->options.screenHeight);
+    command->get_option("--size")->description(
+        "Size of the screen in pixels; that of the first SCREEN if not given");
+    command
+        ->add_option("--fonts", arguments->options.fonts,
+                     "Fonts that the game adds in code, in front of the scripts'")
+        ->check(CLI::Range(0, 255))
+        ->type_name("N");
+    command->add_flag("--unused-files", arguments->options.unusedFiles,
+                      "Also find pictures and fonts that no script names");
+    command->add_flag("--json", arguments->isJson, "Print the findings as one JSON array, for editors");
+    command->add_flag("-W,--warnings-as-errors", arguments->warningsAreErrors,
+                      "Warnings make the exit status 1 too");
+    CLI::Option* explain_option =
+        command
+            ->add_option("--explain", *explained,
+                         "Tell more about a code of a finding; all of them without CODE")
+            ->expected(0, 1)
+            ->type_name("[CODE]");
+    command->footer("Example: tgx check game/UIG\n"
+                    "         tgx check --explain text-clipped\n\n"
+                    "Findings go to stdout, each with its place and a code. A comment in the line before\n"
+                    "silences one: # tgx: allow CODE\n"
+                    "Exit status: 0 no error found, 1 an error (with -W also a warning), 2 a wrong call.");
+    command->callback([arguments, explained, explain_option] {
+        const int status = explain_option->count() > 0 ? explain(*explained) : check(*arguments);
+        if (status != 0)
+            throw CLI::RuntimeError(status);
+    });
+}

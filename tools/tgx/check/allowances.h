@@ -1,0 +1,13 @@
+#pragma once
+
+#include "tools/tgx/check/findings.h"
+
+#include <deque>
+
+namespace script_check {
+
+/// Takes findings away that a comment in the line before allows, "# tgx: allow CODE ...", and finds
+/// allowances that silence nothing or name no code.
+void applyAllowances(const std::deque<Script>& scripts, Findings& findings);
+
+} // namespace script_check

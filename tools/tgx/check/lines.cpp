@@ -1,0 +1,117 @@
+// Rules for lines by themselves.
+
+#include "devtools/script_text/statement_form.h"
+#include "tgx/script/reader.h"
+#include "tgx/wnd/reserved.h"
+#include "tools/tgx/check/rules.h"
+
+#include <algorithm>
+
+namespace script_check {
+
+namespace {
+
+constexpr std::string_view controls[] = {"BUTTON",  "CHECKBOX", "RADIOBUTTON", "COMBOBOX",   "EDITBOX",
+                                         "LISTBOX", "KEYBOARD", "TABCONTROL",  "HSCROLLBAR", "VSCROLLBAR"};
+constexpr std::string_view clickable[] = {"BUTTON", "CHECKBOX", "RADIOBUTTON", "USERDEF"};
+// By these the toolkit looks for parts of a control, ignoring case.
+constexpr std::string_view parts[] = {"checkboxstate", "radiostate", "combomenu", "combonext", "comboprev"};
+
+template<std::size_t N>
+bool isOneOf(const std::string_view (&words)[N], std::string_view word)
+{
+    return std::find(std::begin(words), std::end(words), word) != std::end(words);
+}
+
+/// COLUMNS reads a word that has no width in front of it as the width 0.
+void checkWidths(const Script& script, int line, Findings& findings)
+{
+    const std::vector<script_text::Token>& tokens = script.line(line).tokens;
+    for (std::size_t i = 1; i < tokens.size(); ++i)
+        if (tokens[i].id != numberToken && (i == 1 || tokens[i - 1].id != numberToken))
+            findings.add("argument-kind", script, line, static_cast<int>(i),
+                         "this word has no width in front of it, and counts as a column of width 0");
+}
+
+void checkSizes(const Script& script, int line, std::string_view keyword, Findings& findings)
+{
+    const auto number = [&](int token) { return script.number(line, token); };
+    const auto add = [&](int token, const char* text) {
+        findings.add("zero-size", script, line, token, text);
+    };
+    const bool isBitmapStrip = keyword == "BITMAP" && script.tokenCount(line) > 10;
+    if (isOneOf(controls, keyword) && (number(4) <= 0 || number(5) <= 0)) {
+        add(number(4) <= 0 ? 4 : 5, "a control of this size cannot be hit");
+    } else if (keyword == "BORDER") {
+        if (number(3) <= 0)
+            add(3, "a border with pieces of this size is not drawn");
+        else if (number(2) <= 0)
+            add(2, "with this width the picture lies under the border's pieces");
+    } else if (isBitmapStrip || keyword == "BMPINFO") {
+        const int first = isBitmapStrip ? 7 : 1;
+        if (number(first + 3) <= 0)
+            add(first + 3, "a picture of so many frames is not shown; a still one has 1");
+        else if (number(first + 3) > 1 && (number(first) <= 0 || number(first + 1) <= 0))
+            add(number(first) <= 0 ? first : first + 1, "a strip of several frames needs the size of one");
+    } else if (keyword == "LISTLOOK" && number(1) == 0) {
+        add(1, "rows of height 0 count as 1; a negative height keeps the one that there is");
+    }
+    if (keyword.ends_with("SCROLLBAR") && !script.string(line, 6).empty() &&
+        (number(7) <= 0 || number(8) <= 0))
+        add(number(7) <= 0 ? 7 : 8, "a scroll bar's six frames need a size");
+}
+
+void checkReserved(const Script& script, int line, const Statement& statement, Findings& findings)
+{
+    if (!namesItsWindow(statement))
+        return;
+    const std::string& id = script.string(line, 1);
+    const bool leaves = leavesScreen(id);
+    if ((leaves || closesPopup(id)) && !isOneOf(clickable, statement.keyword))
+        findings.add("reserved-id", script, line, 1,
+                     "a click on " + inQuotes(id) + (leaves ? " leaves the screen" : " closes the box") +
+                         ", and this is no button; for decoration write \"static\"");
+    else if (isOneOf(parts, folded(id)))
+        findings.add("reserved-id", script, line, 1,
+                     "controls look for their parts by " + inQuotes(id) + "; give this window another id");
+}
+
+} // namespace
+
+void checkLines(const Script& script, Findings& findings)
+{
+    for (int line = 0; line < script.lineCount(); ++line) {
+        const auto& tokens = script.line(line).tokens;
+        if (script.isCompiled)
+            for (script_text::LineFault& each : script_text::lineFaults(tokens))
+                findings.add(each.code, script, line, static_cast<int>(each.token), std::move(each.text));
+        if (script.isKeyword(line, "COLUMNS") && !script.line(line).isAsItStands)
+            checkWidths(script, line, findings);
+    }
+    if (script.isCompiled && !script.text.unfinished.empty()) {
+        const script_text::Inclusion& in = script.text.inclusions.front();
+        if (script.isReported)
+            findings.add({script_text::Diagnostic::Error,
+                          {&in, in.file->lineCount(), {}},
+                          "the script ends inside a line, which the toolkit drops",
+                          "unfinished"});
+    }
+}
+
+void checkArguments(const Script& script, Findings& findings)
+{
+    for (int line = 0; line < script.lineCount(); ++line) {
+        const Statement* statement = script.statement(line);
+        if (!statement)
+            continue;
+        checkSizes(script, line, statement->keyword, findings);
+        checkReserved(script, line, *statement, findings);
+        // ITEM alone is an empty row.
+        if (statement->kind == StatementKind::Attribute && script.tokenCount(line) == 1 &&
+            statement->counts.allow(1) && !script.isKeyword(line, "ITEM"))
+            findings.add("no-effect", script, line,
+                         std::string(statement->keyword) + " without arguments does nothing");
+    }
+}
+
+} // namespace script_check

@@ -1,0 +1,180 @@
+// Strips against the pictures that they are cut from.
+
+#include "tgx/controls/button.h"
+#include "tgx/controls/listbox/cell.h"
+#include "tgx/controls/listbox/listbox.h"
+#include "tgx/wnd/border.h"
+#include "tools/tgx/check/tree.h"
+#include "tools/tgx/check/words.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace script_check {
+
+namespace {
+
+/// Looks into buttons and lists, which keep to themselves what their script has set.
+struct ButtonAccess : AButton {
+    static int framesOf(const AButton& button)
+    {
+        const auto& frames = button.*(&ButtonAccess::stateFrames);
+        return std::accumulate(std::begin(frames), std::end(frames), 0,
+                               [](int sum, int each) { return sum + std::max(each, 0); });
+    }
+};
+struct ListAccess : AListBox {
+    static const CArray<CString>& iconsOf(const AListBox& list) { return list.*(&ListAccess::iconFiles); }
+};
+
+struct Frames {
+    int width, height;
+    int count; // that are shown, from the first on
+};
+
+/// The frame that lies last as it would lie in a picture large enough.
+struct Reach {
+    int right, bottom;
+};
+
+/// A strip of more than two frames goes on in rows; a shorter one is a row alone.
+Reach reachOf(const Frames& frames, const Picture& picture)
+{
+    const int step = frames.width + 1;
+    const int perRow = picture.width > 2 * frames.width ? picture.width / step : 0;
+    if (perRow == 0)
+        return {step * (frames.count - 1) + frames.width, frames.height};
+    const int rows = (frames.count - 1) / perRow;
+    return {0, rows * (frames.height + 1) + frames.height};
+}
+
+class StripRules {
+public:
+    explicit StripRules(TreeCheck& treeCheck) : check(treeCheck) {}
+
+    void look(AWnd& wnd)
+    {
+        const WndLines* lines = check.reading.linesOf(&wnd);
+        if (!lines || check.reading.isOfGame(&wnd))
+            return;
+        if (!wnd.getBmpFilename().IsEmpty() && lines->bitmap)
+            checkBitmap(wnd, lines->bitmap);
+        if (wnd.getBorder() && lines->border)
+            checkBorder(wnd, lines->border);
+        if (wnd.getWindowType() == AWnd::WND_LISTBOX)
+            checkIcons(static_cast<AListBox&>(wnd));
+    }
+
+private:
+    void checkBitmap(AWnd& wnd, LineRef at)
+    {
+        const Picture* picture = check.pictures.find(wnd.getBmpFilename().str());
+        if (!picture)
+            return;
+        // As the toolkit works them out when it loads the picture.
+        Frames frames{wnd.getFrameWidth(), wnd.getFrameHeight(), wnd.getFirstFrame() + wnd.getFrameCount()};
+        if (frames.width <= 0)
+            frames.width = std::min(wnd.getWndWidth(), picture->width);
+        if (frames.height <= 0)
+            frames.height = std::min(wnd.getWndHeight(), picture->height);
+
+        if (wnd.getWindowType() == AWnd::WND_SCROLLBAR) {
+            constexpr int scrollBarFrames = 6;
+            if (wnd.getFrameWidth() > 0 && wnd.getFrameHeight() > 0) // else that is told
+                compare(wnd, at, *picture, {frames.width, frames.height, scrollBarFrames}, OneRow);
+        } else if (wnd.getWindowType() == AWnd::WND_PROGRESSBAR) {
+            // The second frame, the empty bar, may be left out.
+            compare(wnd, at, *picture, {frames.width, frames.height, 1}, OneRow);
+        } else {
+            if (AButton::isButton(&wnd))
+                frames.count = ButtonAccess::framesOf(static_cast<AButton&>(wnd));
+            if (frames.count > 1) // a still picture is shown as far as it goes
+                compare(wnd, at, *picture, frames, Rows);
+        }
+    }
+
+    enum Arrangement { OneRow, Rows };
+    void compare(AWnd& wnd, LineRef at, const Picture& picture, const Frames& frames, Arrangement arrangement)
+    {
+        const int step = frames.width + 1;
+        const Reach reach = arrangement == Rows
+                                ? reachOf(frames, picture)
+                                : Reach{step * (frames.count - 1) + frames.width, frames.height};
+        if (frames.width <= 0 || frames.height <= 0 ||
+            (reach.right <= picture.width && reach.bottom <= picture.height))
+            return;
+        const std::string count = frames.count == 1 ? "the frame" : std::to_string(frames.count) + " frames";
+        check.findings.add(
+            "strip-too-small", *at.script, at.line, bitmapToken(at),
+            inQuotes(nameIn(at)) + " is " + size(picture.width, picture.height) + " pixels, too small for " +
+                count + " of " + size(frames.width, frames.height) + " that " + describe(wnd) +
+                " takes from it; a row of them is " + size(step * frames.count, frames.height));
+    }
+
+    void checkBorder(AWnd& wnd, LineRef at)
+    {
+        constexpr int pieces = 8;
+        const int piece = wnd.getBorder()->getPieceSize();
+        if (const Picture* picture = check.pictures.find(nameIn(at)))
+            compare(wnd, at, *picture, {piece, piece, pieces}, OneRow);
+    }
+
+    void checkIcons(AListBox& list)
+    {
+        const CArray<CString>& files = ListAccess::iconsOf(list);
+        if (files.IsEmpty())
+            return; // the game may add them
+        for (int row = 0; row < list.getItemCount(); ++row)
+            for (int column = 0; column < list.getColumnCount(); ++column) {
+                const CString text = list.getItemText(row, column);
+                const ListCell cell = ListCell::decode(text.view());
+                if (cell.picture == ListCell::None)
+                    continue;
+                if (cell.icon < 0 || cell.icon >= files.GetSize()) {
+                    check.add("missing-icon", list,
+                              "row " + std::to_string(row) + " of " + describe(list) + " shows icon " +
+                                  std::to_string(cell.icon) + ", and LISTICONS names " +
+                                  std::to_string(files.GetSize()));
+                    return;
+                }
+                const std::string& file = files.GetAt(cell.icon).str();
+                const Picture* picture = check.pictures.find(file);
+                if (!picture || cell.number <= 0)
+                    continue;
+                const int step = list.getColumnWidth(column) + 1;
+                const int rowStep = std::max(list.getRowHeight(), 1) + 1;
+                const int perRow = step > 0 ? picture->width / step : 0;
+                if (perRow == 0 || cell.number / perRow * rowStep >= picture->height) {
+                    check.add("strip-too-small", list,
+                              inQuotes(file) + " is " + size(picture->width, picture->height) +
+                                  " pixels and has no frame " + std::to_string(cell.number) + " of " +
+                                  size(step - 1, rowStep - 1) + " for row " + std::to_string(row) + " of " +
+                                  describe(list));
+                    return;
+                }
+            }
+    }
+
+    /// The bitmap that the line names, and its token.
+    static int bitmapToken(LineRef at)
+    {
+        int token = 1;
+        while (token < at.script->tokenCount(at.line) &&
+               argumentName(*at.script->statement(at.line), token) != "\"bitmap\"")
+            ++token;
+        return token;
+    }
+    static const std::string& nameIn(LineRef at) { return at.script->string(at.line, bitmapToken(at)); }
+
+    TreeCheck& check;
+};
+
+} // namespace
+
+void checkStrips(TreeCheck& check, AWnd& root)
+{
+    StripRules rules(check);
+    forEachBelow(root, [&](AWnd& wnd) { rules.look(wnd); });
+}
+
+} // namespace script_check

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "tools/tgx/check/pictures.h"
+#include "tools/tgx/check/run.h"
+
+#include <string>
+#include <vector>
+
+namespace script_check {
+
+struct Box {
+    int x = 0, y = 0, w = 0, h = 0; // pixels
+
+    int right() const { return x + w; }
+    int bottom() const { return y + h; }
+    bool holds(const Box& other) const
+    {
+        return other.x >= x && other.y >= y && other.right() <= right() && other.bottom() <= bottom();
+    }
+    bool touches(const Box& other) const
+    {
+        return other.x < right() && other.y < bottom() && other.right() > x && other.bottom() > y;
+    }
+};
+
+/// What the rules for windows work with.
+struct TreeCheck {
+    Reading& reading;
+    Pictures& pictures;
+    Findings& findings;
+    int screenWidth = 0; // pixels; 0: not known
+    int screenHeight = 0;
+
+    /// About the window, at the line that made it. Nothing for a window without one.
+    void add(const char* code, const AWnd& wnd, std::string text)
+    {
+        if (const WndLines* lines = reading.linesOf(&wnd); lines && lines->made)
+            findings.add(code, *lines->made.script, lines->made.line, 0, std::move(text));
+    }
+};
+
+/// Whether a person clicks on it, types into it or chooses in it.
+bool isControl(const AWnd& wnd);
+/// Whether its line makes a part that a control finds by a fixed name.
+bool isPart(const TreeCheck& check, const AWnd& wnd);
+Box boxOf(const AWnd& wnd);
+
+// Rules for all windows that a script has made. Each window is looked at once.
+
+/// Windows outside of others, and behind others.
+void checkLayout(TreeCheck& check, AWnd& root);
+/// Texts that their boxes cut.
+void checkTexts(TreeCheck& check, AWnd& root);
+/// Strips against the pictures that they are cut from, icons of lists.
+void checkStrips(TreeCheck& check, AWnd& root);
+/// Ids of a screen, radio groups, tabs and pages, what the keyboard reaches.
+void checkControls(TreeCheck& check, AWnd& root);
+
+/// visit(wnd) for each window below, once, in the order of their lines.
+template<class Visit>
+void forEachBelow(AWnd& root, Visit visit)
+{
+    std::unordered_set<const AWnd*> seen{&root};
+    std::vector<AWnd*> waiting;
+    const auto putChildren = [&waiting](AWnd& wnd) {
+        for (int i = wnd.getWindowCount() - 1; i >= 0; --i)
+            if (AWnd* child = wnd.getWndFromIndex(i, ""))
+                waiting.push_back(child);
+    };
+    for (putChildren(root); !waiting.empty();) {
+        AWnd* wnd = waiting.back();
+        waiting.pop_back();
+        if (!seen.insert(wnd).second)
+            continue;
+        visit(*wnd);
+        putChildren(*wnd);
+    }
+}
+
+} // namespace script_check
