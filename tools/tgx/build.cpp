@@ -35,15 +35,6 @@ int refuse(const std::string& why)
     return wrongCall;
 }
 
-/// Also for files that are not there yet.
-bool isSameFile(const std::string& a, const std::string& b)
-{
-    std::error_code none;
-    return !a.empty() &&
-           (a == b || std::filesystem::equivalent(a, b, none) ||
-            std::filesystem::weakly_canonical(a, none) == std::filesystem::weakly_canonical(b, none));
-}
-
 /// What one build came to, for the line that tells of it.
 struct Outcome {
     int status = 0;
@@ -75,12 +66,13 @@ Outcome buildOnce(const BuildOptions& options, script_text::WatchedFiles& watche
         return {wrongInput, counted(errors, "error") + ", " + options.output + " is left as it was"};
     }
     const script_text::Emitted emitted = script_text::emit(script);
-    const bool isWritten =
-        writeOutput(options.output, emitted.bytes) &&
-        (options.map.empty() || writeOutput(options.map, script_text::sideMap(script, emitted))) &&
-        (options.depfile.empty() ||
-         writeOutput(options.depfile, script_text::dependencies(options.output, options.input, script)));
-    if (!isWritten)
+    std::vector<Output> outputs{{options.output, emitted.bytes}};
+    if (!options.map.empty())
+        outputs.push_back({options.map, script_text::sideMap(script, emitted)});
+    if (!options.depfile.empty())
+        outputs.push_back(
+            {options.depfile, script_text::dependencies(options.output, options.input, script)});
+    if (!writeOutputs(outputs))
         return {wrongInput, "not written"};
     return {0, counted(static_cast<std::ptrdiff_t>(emitted.bytes.size()), "byte") + " in " + options.output};
 }

@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <iostream>
 #include <memory>
 
 void addDump(CLI::App& app)
@@ -23,8 +24,13 @@ void addDump(CLI::App& app)
                     "Every file has a text form, and tgx build makes the same bytes of it again.\n\n") +
         script_text::notation);
     command->callback([options] {
+        if (options->input != "-" && isSameFile(options->input, options->output)) {
+            std::cerr << "tgx dump: " << options->input
+                      << " would be overwritten by its own text; name another with -o\n";
+            throw CLI::RuntimeError(2);
+        }
         const std::optional<std::string> bytes = readInput(options->input);
-        if (!bytes || !writeOutput(options->output, script_text::print(*bytes)))
+        if (!bytes || !writeOutputs({{options->output, script_text::print(*bytes)}}))
             throw CLI::RuntimeError(1);
     });
 }

@@ -1,7 +1,9 @@
 #include "tools/tgx/files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <deque>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -31,6 +33,63 @@ bool failed(const std::string& name, const std::string& reason)
     return false;
 }
 
+/// False for stdout, devices and pipes, which are written as they are.
+bool isReplaced(const std::string& name)
+{
+    std::error_code none;
+    const fs::file_status status = fs::status(name, none);
+    return name != "-" && (!fs::exists(status) || fs::is_regular_file(status) || fs::is_directory(status));
+}
+
+bool writeThrough(const Output& output)
+{
+    if (output.name != "-")
+        return writeAll(output.name, output.bytes) || failed(output.name, std::strerror(errno));
+    std::cout.write(output.bytes.data(), static_cast<std::streamsize>(output.bytes.size())).flush();
+    return std::cout.good() || failed("stdout", std::strerror(errno));
+}
+
+/// A file that is written beside the one that it is to replace; unless it gets there, it goes away.
+class NewFile {
+public:
+    NewFile() = default;
+    NewFile(const NewFile&) = delete;
+    NewFile& operator=(const NewFile&) = delete;
+    ~NewFile()
+    {
+        std::error_code none;
+        if (!beside.empty())
+            fs::remove(beside, none);
+    }
+
+    bool prepare(const Output& output)
+    {
+        name = output.name;
+        std::error_code none;
+        if (fs::is_directory(name, none))
+            return failed(name, "this is a folder, a file was expected");
+        // Through a link to the file itself, so that the link stays.
+        target = fs::exists(name, none) ? fs::canonical(name, none) : fs::path(name);
+        beside = target;
+        beside += ".new-" + std::to_string(getpid());
+        return writeAll(beside, output.bytes) || failed(name, std::strerror(errno));
+    }
+    bool putInPlace()
+    {
+        std::error_code error;
+        fs::rename(beside, target, error);
+        if (error)
+            return failed(name, error.message());
+        beside.clear();
+        return true;
+    }
+
+private:
+    std::string name; // as messages give it
+    fs::path target;
+    fs::path beside; // empty when there is none
+};
+
 } // namespace
 
 std::optional<std::string> readInput(const std::string& name)
@@ -44,33 +103,22 @@ std::optional<std::string> readInput(const std::string& name)
     return text;
 }
 
-bool writeOutput(const std::string& name, const std::string& bytes)
+bool writeOutputs(const std::vector<Output>& outputs)
 {
-    if (name == "-") {
-        std::cout.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush();
-        return std::cout.good() || failed("stdout", std::strerror(errno));
-    }
-    std::error_code error;
-    const fs::file_status status = fs::status(name, error);
-    if (fs::is_directory(status))
-        return failed(name, "this is a folder, a file was expected");
-    if (fs::exists(status) && !fs::is_regular_file(status)) // a device or pipe: it must not be replaced
-        return writeAll(name, bytes) || failed(name, std::strerror(errno));
+    std::deque<NewFile> files;
+    for (const Output& each : outputs)
+        if (isReplaced(each.name) && !files.emplace_back().prepare(each))
+            return false;
+    for (const Output& each : outputs)
+        if (!isReplaced(each.name) && !writeThrough(each))
+            return false;
+    return std::all_of(files.begin(), files.end(), [](NewFile& each) { return each.putInPlace(); });
+}
 
-    // Through a link to the file itself, so that the link stays.
-    const fs::path target = fs::exists(status) ? fs::canonical(name, error) : fs::path(name);
-    fs::path beside = target;
-    beside += ".new-" + std::to_string(getpid());
-    if (!writeAll(beside, bytes)) {
-        const std::string reason = std::strerror(errno);
-        fs::remove(beside, error);
-        return failed(name, reason);
-    }
-    fs::rename(beside, target, error);
-    if (error) {
-        const std::string reason = error.message();
-        fs::remove(beside, error);
-        return failed(name, reason);
-    }
-    return true;
+bool isSameFile(const std::string& a, const std::string& b)
+{
+    std::error_code none;
+    return !a.empty() && !b.empty() &&
+           (a == b || fs::equivalent(a, b, none) ||
+            fs::weakly_canonical(a, none) == fs::weakly_canonical(b, none));
 }

@@ -4,10 +4,17 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 // Files of the command line; "-" is stdin or stdout. What goes wrong is told on stderr.
 
 /// Nothing when it cannot be read.
 std::optional<std::string> readInput(const std::string& name);
-/// Writes the file whole or not at all: beside it, then renamed. False when it cannot be written.
-bool writeOutput(const std::string& name, const std::string& bytes);
+struct Output {
+    std::string name;
+    std::string bytes;
+};
+/// Writes all of them or, where one cannot be written, none: beside each file, then renamed. False then.
+bool writeOutputs(const std::vector<Output>& outputs);
+/// Whether two names mean one file, also one that is not there yet. Empty names mean none.
+bool isSameFile(const std::string& a, const std::string& b);

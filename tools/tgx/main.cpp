@@ -1,17 +1,53 @@
+#include "devtools/script_text/diagnostics.h"
 #include "tools/tgx/commands.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+
+namespace {
+
+constexpr int wrongCall = 2;
+
+/// One line; the command that it is about in front.
+std::string wrongCallText(const CLI::App* app, const CLI::Error& error)
+{
+    const std::vector<const CLI::App*> commands = app->get_subcommands({});
+    const auto chosen =
+        std::find_if(commands.begin(), commands.end(), [](const CLI::App* each) { return each->parsed(); });
+    const std::string name = chosen == commands.end() ? "tgx" : "tgx " + (*chosen)->get_name();
+    return name + ": " + error.what() + "; " + name + " --help tells more\n";
+}
+
+/// Why there is no command of that name; "" when there is one.
+std::string whyNoCommand(const CLI::App& app, const std::string& name)
+{
+    std::vector<std::string> names;
+    for (const CLI::App* each : app.get_subcommands({})) {
+        if (each->get_name() == name)
+            return "";
+        if (!each->get_group().empty()) // hidden
+            names.push_back(each->get_name());
+    }
+    std::string text = "no command " + script_text::shown(name) + "; there are";
+    for (std::size_t i = 0; i < names.size(); ++i)
+        text += (i == 0 ? " " : i + 1 == names.size() ? " and " : ", ") + names[i];
+    return text;
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
-    CLI::App app("The bench of whoever writes an interface: compiles its scripts, shows what is in them, "
-                 "checks and plays them.",
-                 "tgx");
+    CLI::App app(
+        "The bench of whoever writes an interface: compiles its scripts, shows what is in them, checks and "
+        "plays them.",
+        "tgx");
     app.set_version_flag("--version", "tgx " TGX_VERSION);
-    app.require_subcommand(0,
-                           1); // that there is one is asked below: an unknown one gets the better message so
+    app.require_subcommand(0, 1); // that there is one is asked below: none at all gets the help
     app.footer("tgx COMMAND --help tells more about each.\n"
                "Exit status: 0 done, 1 the input is at fault, 2 the call is.");
+    app.failure_message(wrongCallText);
     addBuild(app);
     addDump(app);
     addCheck(app);
@@ -20,15 +56,21 @@ int main(int argc, char** argv)
     addView(app);
     addReference(app);
 
+    if (argc > 1 && argv[1][0] != '-') {
+        if (const std::string why = whyNoCommand(app, argv[1]); !why.empty()) {
+            std::cerr << "tgx: " << why << '\n';
+            return wrongCall;
+        }
+    }
     try {
         app.parse(argc, argv);
         if (!app.get_subcommands().empty())
             return 0;
         std::cerr << app.help();
-        return 2;
+        return wrongCall;
     } catch (const CLI::RuntimeError& ended) {
         return ended.get_exit_code();
     } catch (const CLI::ParseError& ended) {
-        return app.exit(ended) == 0 ? 0 : 2; // help and version end here too
+        return app.exit(ended) == 0 ? 0 : wrongCall; // help and version end here too
     }
 }

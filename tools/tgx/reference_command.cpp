@@ -26,7 +26,7 @@ void addReference(CLI::App& app)
                                  : options->form == "check"  ? script_check::referenceDocument()
                                  : options->form == "vim"    ? script_text::vimSyntax()
                                                              : script_text::textMateGrammar();
-        if (!writeOutput(options->output, text))
+        if (!writeOutputs({{options->output, text}}))
             throw CLI::RuntimeError(1);
     });
 }
