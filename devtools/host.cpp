@@ -9,6 +9,14 @@ WatchingHost::WatchingHost(std::unique_ptr<displayhost> watched, HostWatcher& wa
     : inner(std::move(watched)), watcher(watchedBy)
 {}
 
+std::unique_ptr<displayhost> WatchingHost::release()
+{
+    inner->closeRequested = inner->closeRequested || closeRequested;
+    for (const InputQueue::Event& event : input().getEvents())
+        inner->input().add(event);
+    return std::move(inner);
+}
+
 bool WatchingHost::open(ddwin& window)
 {
     inner->closeRequested = false;

@@ -8,8 +8,8 @@ public:
     virtual ~HostWatcher() = default;
     /// Input that has arrived. True: it does not go on to the game.
     virtual bool takesInput(const InputQueue::Event& event) = 0;
-    /// What stands at the head of next is what the tick takes, if it takes any.
-    virtual void tickBegins(const InputQueue& next, bool takesInput) = 0;
+    /// What stands at the head of next is what the tick takes, if it takes new input.
+    virtual void tickBegins(const InputQueue& next, bool takesNew) = 0;
     /// Outside of any handler: here the interface may be taken down.
     virtual void frameBegins() = 0;
     /// The picture that is shown instead of screen, or screen itself; all of it is shown when it is another
@@ -23,8 +23,8 @@ class WatchingHost : public displayhost {
 public:
     /// watcher is not owned and has to live longer.
     WatchingHost(std::unique_ptr<displayhost> watched, HostWatcher& watcher);
-    /// The host behind, for use without this one.
-    std::unique_ptr<displayhost> release() { return std::move(inner); }
+    /// The host behind, for use without this one; what waits goes over to it.
+    std::unique_ptr<displayhost> release();
 
     bool open(ddwin& window) override;
     void close(ddwin& window) override;

@@ -103,7 +103,7 @@ std::string describeKeys(const DevToolsOptions& keys)
         int code;
         const char* meaning;
     } rows[] = {
-        {keys.inspectorKey, "next"},
+        {keys.inspectorKey, "inspector"},
         {keys.fullScreenKey, "whole screen"},
         {keys.pictureKey, "picture"},
         {keys.recorderKey, "record"},

@@ -12,7 +12,7 @@ class Origins;
 
 /// What the last frame cost.
 struct FrameCost {
-    long micros = 0;        // the frame without waiting, as the processor's clock saw it
+    long micros = 0;        // the frame without waiting
     long averageMicros = 0; // over about a second
     int commands = 0;       // of the display list
     long changedPixels = 0; // that went to the window

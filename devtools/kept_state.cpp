@@ -18,83 +18,57 @@ namespace {
 /// A change of screens takes a few frames; a game may take longer over it, but not for ever.
 constexpr int framesToWait = 120;
 
-AListBox* asList(AWnd* wnd)
-{
-    const AWnd::E_WNDTYPE type = wnd ? wnd->getWindowType() : AWnd::WND_PLAIN;
-    return type == AWnd::WND_LISTBOX ? static_cast<AListBox*>(wnd) : nullptr;
-}
-
 KeptValues valuesOf(AWnd& wnd)
 {
     KeptValues values;
-    switch (wnd.getWindowType()) {
-    case AWnd::WND_COMBOBOX:
-        values.item = static_cast<AComboBox&>(wnd).getSelectedItem();
-        break;
-    case AWnd::WND_BUTTON:
-    case AWnd::WND_RADIOBUTTON:
-        values.selected = static_cast<AButton&>(wnd).getSelected();
-        break;
-    case AWnd::WND_EDITBOX:
+    if (auto* combo = dynamic_cast<AComboBox*>(&wnd)) {
+        values.item = combo->getSelectedItem();
+    } else if (auto* button = dynamic_cast<AButton*>(&wnd)) {
+        values.selected = button->getSelected();
+    } else if (dynamic_cast<AEditBox*>(&wnd)) {
         values.text = wnd.getWindowText();
-        break;
-    case AWnd::WND_LISTBOX:
-        values.item = static_cast<AListBox&>(wnd).getSelectedItem();
-        values.column = static_cast<AListBox&>(wnd).getSelectedColumn();
-        break;
-    case AWnd::WND_SCROLLBAR:
-        values.percentage = static_cast<AScrollBar&>(wnd).getPercentage();
-        break;
-    default:
-        break;
+    } else if (auto* list = dynamic_cast<AListBox*>(&wnd)) {
+        values.item = list->getSelectedItem();
+        values.column = list->getSelectedColumn();
+    } else if (auto* bar = dynamic_cast<AScrollBar*>(&wnd)) {
+        values.percentage = bar->getPercentage();
     }
     return values;
 }
 
+void setSelected(AButton& button, int select)
+{
+    auto* radio = dynamic_cast<ARadioButton*>(&button);
+    auto* tabs = dynamic_cast<ATabControl*>(button.getParent());
+    if (!radio)
+        button.setSelected(select);
+    else if (select && tabs)
+        tabs->setActiveWnd(radio, 0);
+    else if (select)
+        radio->setSelectedButton(radio);
+}
+
 void setValues(AWnd& wnd, const KeptValues& values)
 {
-    switch (wnd.getWindowType()) {
-    case AWnd::WND_COMBOBOX: {
-        auto& box = static_cast<AComboBox&>(wnd);
-        if (values.item && *values.item < box.getItemCount())
-            box.setSelectedItem(*values.item);
-        break;
-    }
-    case AWnd::WND_RADIOBUTTON: {
-        auto& button = static_cast<ARadioButton&>(wnd);
-        AWnd* const around = wnd.getParent();
-        if (around && around->getWindowType() == AWnd::WND_TABCONTROL && values.selected == 1)
-            static_cast<ATabControl*>(around)->setActiveWnd(&button, 0);
-        else if (values.selected == 1)
-            button.setSelectedButton(&button);
-        break;
-    }
-    case AWnd::WND_BUTTON:
-        if (values.selected)
-            static_cast<AButton&>(wnd).setSelected(*values.selected);
-        break;
-    case AWnd::WND_EDITBOX:
-        if (values.text)
-            wnd.setWindowText(CString(*values.text));
-        break;
-    case AWnd::WND_LISTBOX: {
-        auto& list = static_cast<AListBox&>(wnd);
-        if (values.item && *values.item < list.getItemCount())
-            list.setSelectedItem(*values.item);
-        if (values.column && *values.column < list.getColumnCount())
-            list.setSelectedColumn(*values.column);
-        break;
-    }
-    case AWnd::WND_SCROLLBAR:
-        if (!values.percentage)
-            break;
-        if (AListBox* list = asList(wnd.getParent()))
-            list->scrollTo(*values.percentage);
+    auto* combo = dynamic_cast<AComboBox*>(&wnd);
+    auto* button = dynamic_cast<AButton*>(&wnd);
+    auto* list = dynamic_cast<AListBox*>(&wnd);
+    auto* bar = dynamic_cast<AScrollBar*>(&wnd);
+    if (combo && values.item && *values.item < combo->getItemCount())
+        combo->setSelectedItem(*values.item);
+    if (button && values.selected)
+        setSelected(*button, *values.selected);
+    if (dynamic_cast<AEditBox*>(&wnd) && values.text)
+        wnd.setWindowText(CString(*values.text));
+    if (list && values.item && *values.item < list->getItemCount())
+        list->setSelectedItem(*values.item);
+    if (list && values.column && *values.column < list->getColumnCount())
+        list->setSelectedColumn(*values.column);
+    if (bar && values.percentage) {
+        if (auto* scrolled = dynamic_cast<AListBox*>(bar->getParent()))
+            scrolled->scrollTo(*values.percentage);
         else
-            static_cast<AScrollBar&>(wnd).setPercentage(*values.percentage);
-        break;
-    default:
-        break;
+            bar->setPercentage(*values.percentage);
     }
 }
 
@@ -169,11 +143,12 @@ void InterfaceState::follow()
 
 void InterfaceState::keep()
 {
-    if (isRestoring())
-        return; // what was kept has not come back yet, and still counts
+    // What has not come back yet still counts, and so does what stood on the screens that there were last.
+    if (isComingBack || !game.getActiveScreen())
+        return;
     kept.clear();
-    screensToOpen.clear();
-    popupsToOpen.clear();
+    screens.clear();
+    popups.clear();
     pointerX = game.mouseX;
     pointerY = game.mouseY;
     for (const First& first : atFirst) {
@@ -187,70 +162,96 @@ void InterfaceState::keep()
         }
     }
     // From the active screen back to the one without a caller; a ring ends where it closes.
-    for (AWnd* wnd = game.getActiveScreen(); wnd;) {
+    for (AWnd* wnd = game.getActiveScreen(); wnd && wnd->getWindowType() == AWnd::WND_SCREEN;) {
         const std::string id = wnd->getID().str();
-        if (std::any_of(screensToOpen.begin(), screensToOpen.end(),
-                        [&](const Opened& each) { return each.id == id; }))
+        if (std::any_of(screens.begin(), screens.end(), [&](const Opened& each) { return each.id == id; }))
             break;
-        screensToOpen.push_back({id, origins.scriptOf(*wnd), ""});
+        screens.insert(screens.begin(), {id, origins.scriptOf(*wnd), ""});
         const CString& caller = static_cast<AScreen*>(wnd)->getCaller();
         wnd = caller.IsEmpty() ? nullptr : game.getWnd(caller, 0);
-        if (wnd && wnd->getWindowType() != AWnd::WND_SCREEN)
-            break;
     }
-    for (int i = 0; i < game.getPopupWndCount(); ++i) {
+    // Those behind open first; of one parent's the one in front, and the others queue up behind it.
+    std::string lastParent;
+    std::size_t firstOfParent = 0;
+    for (int i = game.getPopupWndCount() - 1; i >= 0; --i) {
         AWnd* popup = game.getPopupWnd(i);
         // Boxes that the game renamed, and menus, belong to what was going on when they opened.
         const std::string script = origins.scriptOf(*popup);
-        if (!script.empty() && !popup->isEasyClose())
-            popupsToOpen.push_back(
-                {popup->getID().str(), script, popup->getParent() ? popup->getParent()->getID().str() : ""});
+        if (script.empty() || popup->isEasyClose())
+            continue;
+        const std::string parent = popup->getParent() ? popup->getParent()->getID().str() : "";
+        if (popups.empty() || parent != lastParent)
+            firstOfParent = popups.size();
+        lastParent = parent;
+        popups.insert(popups.begin() + static_cast<std::ptrdiff_t>(firstOfParent),
+                      {popup->getID().str(), script, parent});
     }
 }
 
 void InterfaceState::restore()
 {
-    hasValuesToSet = true;
+    isComingBack = true;
+    screensAsked = 0;
+    popupsAsked = 0;
+    alreadySet.clear();
     framesLeft = framesToWait;
 }
 
-void InterfaceState::goOnRestoring()
+void InterfaceState::setValuesOfOpened()
 {
-    if (--framesLeft < 0) {
-        screensToOpen.clear();
-        popupsToOpen.clear();
-        hasValuesToSet = false;
-        return;
-    }
-    AScreen* active = game.getActiveScreen();
-    if (!game.getPendingScreen().IsEmpty() || !active || !active->isOpen())
-        return;
-    if (!screensToOpen.empty()) {
-        const Opened next = screensToOpen.back();
-        screensToOpen.pop_back();
-        if (active->getID() != CString(next.id))
-            game.changeScreen(CString(next.id), 0, mainScriptResource,
-                              next.script.empty() ? CString(mainScriptFile) : CString(next.script));
-        return;
-    }
-    if (!popupsToOpen.empty()) {
-        const Opened next = popupsToOpen.back(); // those in front open last
-        popupsToOpen.pop_back();
-        AWnd* parent = next.parent.empty() ? nullptr : game.getWnd(CString(next.parent), 1);
-        game.setPopupWnd(CString(next.id), parent, mainScriptResource, CString(next.script));
-        return;
-    }
-    hasValuesToSet = false;
-    game.setMousePos(pointerX, pointerY, 0); // an opening screen has put it on its first tab stop
     bool isSet = false;
-    for (AWnd* root : opened())
+    for (AWnd* root : opened()) {
+        if (std::find(alreadySet.begin(), alreadySet.end(), root) != alreadySet.end())
+            continue;
+        alreadySet.emplace_back(root);
         visit(*root, root->getID().str(), [&](AWnd& wnd, const std::string& place) {
             if (const auto found = kept.find(place); found != kept.end()) {
                 setValues(wnd, found->second);
                 isSet = true;
             }
         });
+    }
     // As behind a choice of the player: what depends on it follows.
     if (AWnd* told = isSet ? game.getActiveWnd() : nullptr)
         told->update();
+}
+
+void InterfaceState::goOnRestoring()
+{
+    if (--framesLeft < 0) {
+        isComingBack = false;
+        // Without a screen all of it is kept for the next read.
+        if (game.getActiveScreen() && screensAsked > 0)
+            lost.push_back("the screen " + screens[screensAsked - 1].id + " did not come back");
+        return;
+    }
+    AScreen* active = game.getActiveScreen();
+    if (!game.getPendingScreen().IsEmpty() || !active || !active->isOpen())
+        return;
+    setValuesOfOpened();
+    framesLeft = framesToWait;
+    if (screensAsked > 0 && active->getID() != CString(screens[screensAsked - 1].id)) {
+        lost.push_back("the screen " + screens[screensAsked - 1].id + " did not come back");
+        isComingBack = false;
+        return;
+    }
+    if (screensAsked < screens.size()) {
+        const Opened& next = screens[screensAsked];
+        // One that had no caller takes the place of the screen that the script begins with.
+        const int closesCurrent = screensAsked == 0;
+        ++screensAsked;
+        if (active->getID() != CString(next.id))
+            game.changeScreen(CString(next.id), closesCurrent, mainScriptResource,
+                              next.script.empty() ? CString(mainScriptFile) : CString(next.script));
+        return;
+    }
+    if (popupsAsked < popups.size()) {
+        const Opened& next = popups[popupsAsked++];
+        AWnd* parent = next.parent.empty() ? nullptr : game.getWnd(CString(next.parent), 1);
+        if (!game.setPopupWnd(CString(next.id), parent, mainScriptResource, CString(next.script)))
+            lost.push_back("the popup " + next.id + " did not come back");
+        return;
+    }
+    isComingBack = false;
+    game.setMousePos(pointerX, pointerY, 0); // an opening screen has put it on its first tab stop
 }

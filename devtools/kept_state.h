@@ -6,6 +6,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 class AMainWin;
@@ -38,7 +39,9 @@ public:
     /// Begins to bring it back. Behind the read.
     void restore();
     /// Screens and popups open one after the other, which takes some frames.
-    bool isRestoring() const { return !screensToOpen.empty() || !popupsToOpen.empty() || hasValuesToSet; }
+    bool isRestoring() const { return isComingBack; }
+    /// What did not come back, since the last call.
+    std::vector<std::string> takeLost() { return std::exchange(lost, {}); }
 
 private:
     using Values = std::map<std::string, KeptValues>; // by place
@@ -49,21 +52,28 @@ private:
     struct Opened {
         std::string id;
         std::string script;
-        std::string parent; // id, of a popup
+        std::string parent; // id, of a popup; empty for none
     };
     static Values valuesBelow(AWnd& root);
     std::vector<AWnd*> opened() const;
+    void setValuesOfOpened();
     void goOnRestoring();
 
     AMainWin& game;
     const Origins& origins;
     std::vector<First> atFirst; // what is open, as it opened
 
+    // As it was kept, until all of it is back.
     Values kept;
-    std::vector<Opened> screensToOpen; // the last one first
-    std::vector<Opened> popupsToOpen;  // the front one first
-    bool hasValuesToSet = false;
+    std::vector<Opened> screens; // the first one first
+    std::vector<Opened> popups;  // in the order in which they open
     short pointerX = 0;
     short pointerY = 0;
-    int framesLeft = 0; // until the wait is given up
+
+    bool isComingBack = false;
+    std::size_t screensAsked = 0;
+    std::size_t popupsAsked = 0;
+    std::vector<WndRef> alreadySet; // screens and popups that have their values
+    int framesLeft = 0;             // until the wait for the next one is given up
+    std::vector<std::string> lost;
 };

@@ -22,6 +22,14 @@ void Notices::tell(std::string text)
         notices.pop_front();
 }
 
+std::vector<std::string> Notices::getNotices() const
+{
+    std::vector<std::string> texts;
+    for (const Notice& each : notices)
+        texts.push_back(each.text);
+    return texts;
+}
+
 bool Notices::isShowing()
 {
     std::erase_if(notices, [&](const Notice& each) { return timeGetTime() - each.since > noticeMillis; });
@@ -34,7 +42,7 @@ void Notices::paint(Overlay& overlay) const
     if (!status.empty())
         lines.push_back({status, statusColour});
     if (!faults.empty())
-        lines.push_back({"The scripts are at fault:", headingColour});
+        lines.push_back({"At fault:", headingColour});
     for (std::size_t i = 0; i < faults.size() && i < mostFaults; ++i)
         lines.push_back({faults[i], faultColour});
     if (faults.size() > mostFaults)

@@ -16,6 +16,8 @@ public:
     const std::vector<std::string>& getFaults() const { return faults; }
     /// Stays for some seconds.
     void tell(std::string text);
+    /// Those that stand there now, the oldest first.
+    std::vector<std::string> getNotices() const;
     /// A small mark that stays, such as that a recording runs; empty: none.
     void setStatus(std::string text) { status = std::move(text); }
 

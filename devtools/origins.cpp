@@ -1,13 +1,29 @@
 #include "devtools/origins.h"
 
+#include "devtools/script_text/statement_form.h"
 #include "devtools/sources.h"
 #include "platform/framework/cstring.h"
+#include "player/reports.h"
 #include "tgx/script/vocabulary.h"
 #include "tgx/wnd/wnd.h"
+
+#include <algorithm>
 
 namespace {
 
 constexpr std::size_t mostFailures = 50; // shown; one that fails often fails for one reason
+
+std::string whyFailed(const ExecutedLine& line, const Statement* statement)
+{
+    if (!statement)
+        return line.count > 0 ? "there is no keyword " + std::to_string(line.tokens[0].id)
+                              : "the line failed";
+    if (!statement->counts.allow(line.count))
+        return "expected: " + script_text::expectedForm(*statement);
+    if (line.current && !statement->target.fits(line.current->getWindowType()))
+        return std::string(statement->keyword) + " does not go with a " + classNameOf(*line.current);
+    return std::string(statement->keyword) + " failed";
+}
 
 } // namespace
 
@@ -15,9 +31,11 @@ void Origins::lineExecuted(const ExecutedLine& line)
 {
     const Statement* statement = line.count > 0 ? statementById(line.tokens[0].id) : nullptr;
     const std::string script = line.script.str();
-    if (line.depthChange == lineFailed && failures.size() < mostFailures)
-        failures.push_back(placeIn(script, line.offset) + ": the line failed" +
-                           (statement ? std::string(": ") + statement->keyword : ""));
+    if (line.depthChange == lineFailed && failures.size() < mostFailures) {
+        std::string failure = placeIn(script, line.offset) + ": " + whyFailed(line, statement);
+        if (std::find(failures.begin(), failures.end(), failure) == failures.end())
+            failures.push_back(std::move(failure));
+    }
     // What a reference shows once more has an origin of its own.
     if (line.made && statement && statement->kind != StatementKind::Reference)
         made.insert_or_assign(line.made, Made{line.made, script, line.offset, line.made->getID().str()});
@@ -44,6 +62,14 @@ std::string Origins::scriptOf(const AWnd& wnd) const
 {
     const Made* origin = find(wnd);
     return origin && origin->id == wnd.getID().view() ? origin->script : "";
+}
+
+std::string Origins::placeOfPicture(std::string_view file) const
+{
+    for (const auto& [address, origin] : made)
+        if (origin.wnd && CString::equalNoCase(origin.wnd->getBmpFilename().view(), file))
+            return placeIn(origin.script, origin.offset);
+    return "";
 }
 
 void Origins::clear()

@@ -21,7 +21,10 @@ public:
     /// The script that defines wnd under the id that it bears, as readScriptFile wants it; empty when there
     /// is none, or when it has got another id since.
     std::string scriptOf(const AWnd& wnd) const;
-    /// "menu.tgs:31: the line failed: BUTTON", of the reads since the last clear, at most the first 50.
+    /// "menu.tgs:31" of a window that shows that picture; empty when there is none.
+    std::string placeOfPicture(std::string_view file) const;
+    /// "menu.tgs:31: expected: BUTTON "name" ...", each once, of the reads since the last clear, at most the
+    /// first 50.
     const std::vector<std::string>& getFailures() const { return failures; }
     void clear();
 

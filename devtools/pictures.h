@@ -4,16 +4,15 @@
 #include <map>
 #include <string>
 
-/// Tells whether a picture of the data directory has been written, has come or gone since the last look.
+class AMainWin;
+
+/// Tells whether a picture that the game has asked for has been written, has come or gone since the last
+/// look.
 class WatchedPictures {
 public:
-    /// Looks. Always false the first time.
-    bool haveChanged();
+    /// Looks. One that was not asked for at the last look has not changed.
+    bool haveChanged(const AMainWin& game);
 
 private:
-    using Times = std::map<std::string, std::filesystem::file_time_type>; // by path
-    static Times look();
-
-    Times known;
-    bool hasLooked = false;
+    std::map<std::string, std::filesystem::file_time_type> known; // by name; the smallest time: there is none
 };

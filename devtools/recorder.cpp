@@ -67,14 +67,6 @@ std::string Recorder::events() const
     return text;
 }
 
-int Recorder::getEventCount() const
-{
-    const auto isEvent = [](const Step& step) {
-        return step.kind == Kind::Transition || step.kind == Kind::Click || step.kind == Kind::Key;
-    };
-    return static_cast<int>(std::count_if(steps.begin(), steps.end(), isEvent)) + (pressed ? 1 : 0);
-}
-
 void Recorder::tickBegins(const InputQueue& next, bool takesInput)
 {
     ++tick;

@@ -26,8 +26,6 @@ public:
     void readAnew();
     /// The whole file so far. Does not touch the game.
     std::string events() const;
-    /// Clicks, keys and other transitions so far.
-    int getEventCount() const;
 
 private:
     using Step = RecordedStep;

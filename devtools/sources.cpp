@@ -3,64 +3,21 @@
 #include "devtools/script_text/emit.h"
 #include "devtools/script_text/parsed_script.h"
 #include "devtools/script_text/read_file.h"
+#include "devtools/script_text/text_files.h"
 #include "platform/framework/cstring.h"
 #include "platform/system/datadir.h"
 
 #include <algorithm>
+#include <deque>
 #include <filesystem>
 #include <set>
 #include <sstream>
-#include <stdexcept>
 
 namespace fs = std::filesystem;
 
 namespace {
 
 constexpr std::string_view scriptFolder = "UIG\\";
-
-std::string lowered(std::string_view text)
-{
-    std::string result(text);
-    for (char& c : result)
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c + ('a' - 'A'));
-    return result;
-}
-
-/// As short as a message can name it from the working directory.
-std::string shortest(const fs::path& path)
-{
-    std::error_code failure;
-    const fs::path near = fs::proximate(path, failure);
-    return failure || near.begin() == near.end() || *near.begin() == ".." ? path.string() : near.string();
-}
-
-/// The files of that folder with that ending, in the order of their names; none when it cannot be read.
-std::vector<std::string> filesIn(const std::string& folder, std::string_view ending)
-{
-    std::vector<std::string> files;
-    std::error_code failure;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder, failure))
-        if (lowered(entry.path().extension().string()) == ending && entry.is_regular_file(failure))
-            files.push_back(shortest(entry.path().lexically_normal()));
-    std::sort(files.begin(), files.end());
-    return files;
-}
-
-/// UIG of the data directory as the machine names it, in whatever case; empty when there is none.
-std::string scriptFolderPath()
-{
-    std::error_code failure;
-    for (const fs::directory_entry& entry : fs::directory_iterator(dataDirectory(), failure))
-        if (lowered(entry.path().filename().string()) == "uig" && entry.is_directory(failure))
-            return entry.path().string();
-    return "";
-}
-
-std::string compiledName(const std::string& textFile)
-{
-    return fs::path(textFile).stem().string() + ".tgx";
-}
 
 bool isOnDisk(const std::string& script)
 {
@@ -81,17 +38,14 @@ std::string canonical(const std::string& path)
 
 } // namespace
 
-Sources::Sources(std::vector<std::string> extraFolders) : folders(std::move(extraFolders))
-{
-    for (const std::string& folder : folders)
-        if (!fs::is_directory(folder))
-            throw std::runtime_error("no folder of scripts \"" + folder + '"');
-}
+Sources::Sources(std::vector<std::string> extraFolders, std::string main)
+    : folders(std::move(extraFolders)), mainScript(std::move(main))
+{}
 
 Sources::~Sources()
 {
-    for (const std::string& script : inMemory)
-        setMemoryFile(std::string(scriptFolder) + script, nullptr);
+    for (const auto& [key, script] : built)
+        setMemoryFile(std::string(scriptFolder) + script.name, nullptr);
 }
 
 /// The first of each name: a folder that was named stands in front of UIG.
@@ -100,13 +54,19 @@ std::vector<std::string> Sources::textFiles() const
     std::vector<std::string> found;
     std::set<std::string> names;
     std::vector<std::string> looked = folders;
-    if (std::string below = scriptFolderPath(); !below.empty())
+    if (std::string below = script_text::scriptFolder(); !below.empty())
         looked.push_back(std::move(below));
     for (const std::string& folder : looked)
-        for (std::string& file : filesIn(folder, ".tgs"))
-            if (names.insert(lowered(compiledName(file))).second)
+        for (std::string& file : script_text::filesIn(folder, ".tgs"))
+            if (names.insert(script_text::lowered(script_text::compiledName(file))).second)
                 found.push_back(std::move(file));
     return found;
+}
+
+void Sources::fault(std::string headline, std::string report)
+{
+    reports.push_back(report.empty() ? headline + '\n' : std::move(report));
+    faults.push_back(std::move(headline));
 }
 
 bool Sources::build()
@@ -114,81 +74,123 @@ bool Sources::build()
     faults.clear();
     reports.clear();
     watched.emplace(std::vector<std::string>());
-    knownFiles = textFiles();
-    compiledFiles = filesIn(scriptFolderPath(), ".tgx");
-    for (const std::string& file : compiledFiles)
-        watched->add(file);
+    for (const std::string& folder : folders) {
+        std::error_code failure;
+        if (!fs::is_directory(folder, failure))
+            fault("no folder of scripts " + folder);
+    }
+    knownFiles = allFiles();
+    const bool hasNewTexts = replace(compileTexts());
+    const bool hasNewCompiled = lookAtCompiled();
+    return hasNewTexts || hasNewCompiled;
+}
 
-    std::vector<std::pair<std::string, script_text::ParsedScript>> parsed; // by text file
+Sources::Scripts Sources::compileTexts()
+{
+    std::deque<std::pair<std::string, script_text::ParsedScript>> parsed; // by text file
     std::set<std::string> included;
+    Scripts fresh;
+    const auto keepLast = [&](const std::string& name) {
+        if (const auto last = built.find(script_text::lowered(name)); last != built.end())
+            fresh.insert(*last);
+    };
     const auto read = [&](const std::string& path, std::string& reason) {
         watched->add(path); // before it is read: a change on the way is not missed
         return readIncluded(path, reason);
     };
-    for (const std::string& file : knownFiles) {
+    for (const std::string& file : textFiles()) {
         std::string reason;
         std::optional<std::string> text = read(file, reason);
         if (!text) {
-            faults.push_back(file + ": error: cannot read: " + reason);
-            reports.push_back(faults.back() + '\n');
+            fault(file + ": error: cannot read: " + reason);
+            keepLast(script_text::compiledName(file));
             continue;
         }
         parsed.emplace_back(file, script_text::parse(file, std::move(*text), read));
         for (const std::string& each : parsed.back().second.included)
             included.insert(canonical(each));
     }
-
-    std::vector<Built> built;
     for (const auto& [file, script] : parsed) {
-        std::string name = compiledName(file);
+        std::string name = script_text::compiledName(file);
         // What others include is a part of them, unless it was compiled by itself once.
         if (included.contains(canonical(file)) && !isOnDisk(name))
             continue;
         for (const script_text::Diagnostic& each : script.diagnostics)
-            if (each.severity == script_text::Diagnostic::Error) {
-                faults.push_back(script_text::headline(each));
-                reports.push_back(script_text::describe(each));
-            }
-        if (script.hasErrors())
+            if (each.severity == script_text::Diagnostic::Error)
+                fault(script_text::headline(each), script_text::describe(each));
+        // An editor that empties a file before it writes it is caught in between.
+        if (!script.hasErrors() && script.lines.empty() && built.contains(script_text::lowered(name)))
+            fault(file + ": error: there is no statement in it any more");
+        else if (!script.hasErrors()) {
+            script_text::Emitted emitted = script_text::emit(script);
+            Map map;
+            for (std::size_t i = 0; i < script.lines.size(); ++i)
+                map.push_back({static_cast<unsigned>(emitted.offsets[i]),
+                               placeIn(script.lines[i].in->file->name, script.lines[i].number)});
+            std::string key = script_text::lowered(name);
+            fresh[std::move(key)] = {std::move(name),
+                                     std::make_shared<const std::string>(std::move(emitted.bytes)),
+                                     std::move(map)};
             continue;
-        script_text::Emitted emitted = script_text::emit(script);
-        Map map;
-        for (std::size_t i = 0; i < script.lines.size(); ++i)
-            map.push_back({static_cast<unsigned>(emitted.offsets[i]),
-                           placeIn(script.lines[i].in->file->name, script.lines[i].number)});
-        built.push_back(
-            {std::move(name), std::make_shared<const std::string>(std::move(emitted.bytes)), std::move(map)});
+        }
+        keepLast(name);
     }
-    if (!faults.empty())
-        return false;
-    replace(std::move(built));
-    return true;
+    const std::string mainKey = script_text::lowered(mainScript);
+    if (built.contains(mainKey) && !fresh.contains(mainKey) && !isOnDisk(mainScript)) {
+        fault("the text of " + mainScript + " is gone; the interface stays until it is back");
+        keepLast(mainScript);
+    }
+    return fresh;
 }
 
-void Sources::replace(std::vector<Built> built)
+/// Whether bytes differ; maps may differ all the same, of comments that have moved.
+bool Sources::replace(Scripts fresh)
 {
-    for (const std::string& script : inMemory)
-        setMemoryFile(std::string(scriptFolder) + script, nullptr);
-    inMemory.clear();
-    maps.clear();
-    for (const std::string& file : compiledFiles)
-        readSideMap(file);
-    for (Built& each : built) {
-        setMemoryFile(std::string(scriptFolder) + each.name, std::move(each.bytes));
-        maps[lowered(each.name)] = std::move(each.map);
-        inMemory.push_back(std::move(each.name));
+    bool isChanged = fresh.size() != built.size();
+    for (const auto& [key, script] : fresh) {
+        const auto last = built.find(key);
+        isChanged = isChanged || last == built.end() || *last->second.bytes != *script.bytes;
     }
+    for (const auto& [key, script] : built)
+        setMemoryFile(std::string(scriptFolder) + script.name, nullptr);
+    built = std::move(fresh);
+    for (const auto& [key, script] : built)
+        setMemoryFile(std::string(scriptFolder) + script.name, script.bytes);
+    return isChanged;
 }
 
-/// "menu.tgx.map" beside menu.tgx. One that is not as `tgx build --map` writes it is no use, and no fault.
-void Sources::readSideMap(const std::string& compiled)
+/// Whether one that no text stands in for is another file now.
+bool Sources::lookAtCompiled()
 {
-    const std::string path = compiled + ".map";
+    std::map<std::string, Compiled> fresh;
+    for (const std::string& file : script_text::filesIn(script_text::scriptFolder(), ".tgx")) {
+        watched->add(file);
+        std::error_code failure;
+        const fs::file_time_type time = fs::last_write_time(file, failure);
+        std::string key = script_text::lowered(fs::path(file).filename().string());
+        if (!failure && !built.contains(key))
+            fresh[std::move(key)] = {time, readSideMap(file, time)};
+    }
+    const bool isSame = std::equal(
+        fresh.begin(), fresh.end(), compiled.begin(), compiled.end(),
+        [](const auto& a, const auto& b) { return a.first == b.first && a.second.isSameFileAs(b.second); });
+    compiled = std::move(fresh);
+    return !isSame;
+}
+
+/// "menu.tgx.map" beside menu.tgx. One that is not as `tgx build --map` writes it, or is older than the
+/// script, is no use, and no fault.
+Sources::Map Sources::readSideMap(const std::string& script, fs::file_time_type time)
+{
+    const std::string path = script + ".map";
     std::string reason;
     watched->add(path);
+    std::error_code failure;
+    if (fs::last_write_time(path, failure) < time || failure)
+        return {};
     const std::optional<std::string> text = readIncluded(path, reason);
     if (!text)
-        return;
+        return {};
     Map map;
     std::istringstream lines(*text);
     for (std::string line; std::getline(lines, line);) {
@@ -198,23 +200,38 @@ void Sources::readSideMap(const std::string& compiled)
         std::string file;
         if (!(fields >> entry.offset >> number) || fields.get() != ' ' || !std::getline(fields, file) ||
             (!map.empty() && entry.offset < map.back().offset))
-            return;
+            return {};
         entry.place = placeIn(file, number);
         map.push_back(std::move(entry));
     }
-    maps[lowered(fs::path(compiled).filename().string())] = std::move(map);
+    return map;
+}
+
+std::vector<std::string> Sources::allFiles() const
+{
+    std::vector<std::string> files = textFiles();
+    for (std::string& file : script_text::filesIn(script_text::scriptFolder(), ".tgx"))
+        files.push_back(std::move(file));
+    return files;
 }
 
 bool Sources::haveChanged() const
 {
-    return !watched || watched->haveChanged() || textFiles() != knownFiles ||
-           filesIn(scriptFolderPath(), ".tgx") != compiledFiles;
+    return !watched || watched->haveChanged() || allFiles() != knownFiles;
+}
+
+bool Sources::isFromText(const std::string& script) const
+{
+    return built.contains(script_text::lowered(script));
 }
 
 const Sources::Map* Sources::mapOf(const std::string& script) const
 {
-    const auto found = maps.find(lowered(script));
-    return found == maps.end() || found->second.empty() ? nullptr : &found->second;
+    const std::string key = script_text::lowered(script);
+    if (const auto text = built.find(key); text != built.end())
+        return &text->second.map;
+    const auto found = compiled.find(key);
+    return found == compiled.end() || found->second.map.empty() ? nullptr : &found->second.map;
 }
 
 std::string Sources::placeOf(const std::string& script, unsigned offset) const

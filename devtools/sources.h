@@ -2,6 +2,7 @@
 
 #include "devtools/script_text/watch.h"
 
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <optional>
@@ -12,14 +13,15 @@
 /// where it stands in for the compiled file; and the side maps of those that have no text.
 class Sources {
 public:
-    /// Folders besides UIG of the data directory. Builds nothing yet. Raises std::runtime_error for one that
-    /// is not there.
-    explicit Sources(std::vector<std::string> folders);
+    /// Folders besides UIG of the data directory; one that is not there is a fault. mainScript: its name
+    /// below UIG. Builds nothing yet.
+    Sources(std::vector<std::string> folders, std::string mainScript);
     ~Sources(); // takes the compiled scripts out of the data directory
     Sources(const Sources&) = delete;
     Sources& operator=(const Sources&) = delete;
 
-    /// Compiles all text. When one is at fault nothing is replaced, and getFaults tells why.
+    /// Compiles all text. Where one is at fault, what was compiled of it before stays, and getFaults tells
+    /// why. Whether any script is another one now.
     bool build();
     /// "menu.tgs:31:5: error: ...", of the last build.
     const std::vector<std::string>& getFaults() const { return faults; }
@@ -28,6 +30,8 @@ public:
     /// Whether a file of theirs has been written, has come or gone since the last build. Also compiled files
     /// that are used as they are, and their maps.
     bool haveChanged() const;
+    /// Whether that script comes from its text.
+    bool isFromText(const std::string& script) const;
 
     /// "menu.tgs:31" for a byte of the compiled script of that name; without text or map "menu.tgx, byte
     /// 123".
@@ -46,17 +50,28 @@ private:
         std::shared_ptr<const std::string> bytes;
         Map map;
     };
+    using Scripts = std::map<std::string, Built>; // by name in lower case
+    struct Compiled {
+        std::filesystem::file_time_type time;
+        Map map;
+
+        bool isSameFileAs(const Compiled& other) const { return time == other.time; }
+    };
     std::vector<std::string> textFiles() const;
-    void replace(std::vector<Built> built);
-    void readSideMap(const std::string& compiled);
+    std::vector<std::string> allFiles() const;
+    void fault(std::string headline, std::string report = {});
+    Scripts compileTexts();
+    bool replace(Scripts fresh);
+    bool lookAtCompiled();
+    Map readSideMap(const std::string& compiled, std::filesystem::file_time_type time);
     const Map* mapOf(const std::string& script) const;
 
     std::vector<std::string> folders;
-    std::map<std::string, Map> maps; // by script name in lower case
-    std::vector<std::string> inMemory;
+    std::string mainScript;
+    Scripts built;
+    std::map<std::string, Compiled> compiled; // in UIG, by name in lower case
     std::vector<std::string> faults;
     std::vector<std::string> reports;
-    std::vector<std::string> knownFiles;    // text, of the last build
-    std::vector<std::string> compiledFiles; // in UIG, then
+    std::vector<std::string> knownFiles; // text and compiled, of the last build
     std::optional<script_text::WatchedFiles> watched;
 };

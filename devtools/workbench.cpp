@@ -7,12 +7,15 @@
 #include "platform/system/datadir.h"
 #include "player/files.h"
 #include "player/words.h"
+#include "tgx/base/swapped.h"
 #include "tgx/frame/mainwin.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <filesystem>
 #include <iostream>
+#include <stdexcept>
 
 namespace fs = std::filesystem;
 
@@ -22,44 +25,37 @@ namespace {
 constexpr std::uint32_t lookMillis = 200;
 constexpr std::uint32_t pictureLookMillis = 500; // there may be many of them
 
-constexpr int averagedFrames = 32;
+constexpr std::string_view missingFile = "cannot load ";
+constexpr double averagedFrames = 60;
 constexpr int recordedFrameMs = 17; // the host runs 60 ticks a second
-
-std::string keyHelp(const DevToolsOptions& options)
-{
-    std::string help;
-    const auto add = [&help](int code, const char* what) {
-        if (code >= VK_F1 && code <= VK_F12)
-            help += (help.empty() ? "F" : "   F") + std::to_string(code - VK_F1 + 1) + ' ' + what;
-    };
-    add(options.inspectorKey, "inspector");
-    add(options.fullScreenKey, "whole screen");
-    add(options.pictureKey, "picture");
-    add(options.recorderKey, "record");
-    return help;
-}
 
 } // namespace
 
 Workbench::Workbench(AMainWin& mainWin, DevToolsOptions toolOptions)
-    : game(mainWin), options(std::move(toolOptions)), sources(options.sources), origins(sources),
-      inspector(mainWin, origins, options), state(mainWin, origins)
+    : game(mainWin), options(std::move(toolOptions)), sources(options.sources, options.script),
+      origins(sources), inspector(mainWin, origins, options), state(mainWin, origins)
 {
+    if (game.getScriptObserver())
+        throw std::logic_error("the game has devtools already");
     buildSources();
-    pictures.haveChanged();
     game.setScriptObserver(&origins);
-    notices.tell(keyHelp(options));
+    notices.tell(describeKeys(options));
+    fullScreenBefore = game.fullScreen;
     displayhost::current(); // chosen now, if none was
-    displayhost::use(std::make_unique<WatchingHost>(displayhost::use(nullptr), *this));
+    auto watching = std::make_unique<WatchingHost>(displayhost::use(nullptr), *this);
+    host = watching.get();
+    displayhost::use(std::move(watching));
 }
 
 Workbench::~Workbench()
 {
     saveRecording();
     game.setScriptObserver(nullptr);
-    const std::unique_ptr<displayhost> own = displayhost::use(nullptr);
-    if (auto* watching = dynamic_cast<WatchingHost*>(own.get()))
-        displayhost::use(watching->release());
+    game.fullScreen = fullScreenBefore;
+    if (&displayhost::current() == host) {
+        const std::unique_ptr<displayhost> own = displayhost::use(nullptr);
+        displayhost::use(host->release());
+    }
 }
 
 // What passes between game and host
@@ -77,18 +73,24 @@ bool Workbench::takesInput(const InputQueue::Event& event)
     return true;
 }
 
-void Workbench::tickBegins(const InputQueue& next, bool takesInput)
+void Workbench::tickBegins(const InputQueue& next, bool takesNew)
 {
     if (recorder)
-        recorder->tickBegins(next, takesInput);
+        recorder->tickBegins(next, takesNew);
 }
 
 void Workbench::frameBegins()
 {
+    if (isReading)
+        return;
+    cost = measured;
+    cost.commands = static_cast<int>(game.getLastFrame().commands().size());
     if (options.reloads)
         lookForChanges();
     showFaults();
     state.follow();
+    for (std::string& each : state.takeLost())
+        notices.tell(std::move(each));
     if (!state.isRestoring())
         heldPicture.reset();
     frameStart = Clock::now();
@@ -110,15 +112,16 @@ const Image& Workbench::pictureOf(const Image& screen, std::span<const tagRECT> 
 
 void Workbench::measure(const Image& screen, std::span<const tagRECT> changed)
 {
-    cost.micros = std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - frameStart).count();
-    cost.averageMicros += (cost.micros - cost.averageMicros) / averagedFrames;
-    cost.commands = static_cast<int>(game.getLastFrame().commands().size());
-    cost.changedPixels = 0;
+    measured.micros =
+        std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - frameStart).count();
+    averageMicros += (static_cast<double>(measured.micros) - averageMicros) / averagedFrames;
+    measured.averageMicros = std::lround(averageMicros);
+    measured.changedPixels = 0;
     for (const tagRECT& each : changed) {
         const Box box =
             intersection({each.left, each.top, each.right, each.bottom}, {0, 0, screen.width, screen.height});
         if (!box.isEmpty())
-            cost.changedPixels += static_cast<long>(box.width()) * box.height();
+            measured.changedPixels += static_cast<long>(box.width()) * box.height();
     }
 }
 
@@ -128,13 +131,12 @@ void Workbench::showMessage(const CString& text)
     std::string message = oneLine(text.view());
     int line = 0;
     char script[256] = "";
-    const bool isLineMessage =
-        std::sscanf(text.str().c_str(), "Encountered an error on line %d in %255s", &line, script) == 2;
-    const std::string place = isLineMessage ? sources.placeOfLine(script, line) : "";
-    if (!place.empty())
-        message = place + ": " + message;
+    if (std::sscanf(text.str().c_str(), "Encountered an error on line %d in %255s", &line, script) == 2)
+        return; // showFaults tells of the line, with its place
     std::cerr << "message: " << message << '\n';
-    if (!isLineMessage) // the line itself is among the faults
+    if (message.starts_with(missingFile))
+        missing.insert(std::move(message)); // until it is mended
+    else
         notices.tell(std::move(message));
 }
 
@@ -173,8 +175,10 @@ void Workbench::savePicture()
 {
     const std::string path = outPath("picture-", ".png");
     makeFoldersOf(path);
-    notices.tell(writePng(game.getScreenImage(), path) ? "picture written: " + path
-                                                       : "cannot write the picture " + path);
+    const bool isWritten = writePng(game.getScreenImage(), path);
+    const std::string text = (isWritten ? "picture written: " : "cannot write the picture ") + path;
+    std::cerr << text << '\n';
+    notices.tell(text);
 }
 
 void Workbench::switchRecorder()
@@ -186,10 +190,14 @@ void Workbench::switchRecorder()
     const fs::path out = options.outDirectory.empty() ? fs::path(".") : fs::path(options.outDirectory);
     std::error_code failure;
     const fs::path data = fs::proximate(dataDirectory(), out, failure);
+    const std::string textOnly =
+        sources.isFromText(options.script) && !findDataFile("UIG\\" + options.script)
+            ? "# " + options.script + " is there as text only: tgx build makes the file that this plays on.\n"
+            : "";
     recorder.emplace(game, "# tgx: play " + quoteWord((failure ? fs::path(dataDirectory()) : data).string()) +
                                " --script " + quoteWord(options.script) + " --size " +
                                std::to_string(game.screenWidth) + 'x' + std::to_string(game.screenHeight) +
-                               " --frame-ms " + std::to_string(recordedFrameMs) + '\n');
+                               " --frame-ms " + std::to_string(recordedFrameMs) + '\n' + textOnly);
     notices.setStatus("recording");
 }
 
@@ -202,8 +210,9 @@ void Workbench::saveRecording()
     const bool isWritten = writeWhole(path, recorder->events());
     if (!isWritten)
         std::cerr << recorder->events(); // not lost
-    notices.tell(isWritten ? "recording written: " + path : "cannot write the recording " + path);
-    std::cerr << (isWritten ? "recording written: " : "cannot write the recording ") << path << '\n';
+    const std::string text = (isWritten ? "recording written: " : "cannot write the recording ") + path;
+    std::cerr << text << '\n';
+    notices.tell(text);
     recorder.reset();
     notices.setStatus("");
 }
@@ -213,18 +222,14 @@ void Workbench::saveRecording()
 void Workbench::lookForChanges()
 {
     const std::uint32_t now = timeGetTime();
-    if (now - lastLook < lookMillis || state.isRestoring())
+    if (now - lastLook < lookMillis)
         return;
     lastLook = now;
-    bool isChanged = false;
-    if (sources.haveChanged()) {
-        if (!buildSources())
-            return; // what is there goes on until the text is mended
-        isChanged = true;
-    }
+    // What is at fault stays as it was until it is mended.
+    bool isChanged = sources.haveChanged() && buildSources();
     if (now - lastPictureLook >= pictureLookMillis) {
         lastPictureLook = now;
-        if (pictures.haveChanged()) {
+        if (pictures.haveChanged(game)) {
             game.reloadsurfaces(); // those of the game itself
             isChanged = true;
         }
@@ -235,17 +240,25 @@ void Workbench::lookForChanges()
 
 bool Workbench::buildSources()
 {
-    const bool isBuilt = sources.build();
+    const bool isChanged = sources.build();
     for (const std::string& each : sources.getReports())
         std::cerr << each;
-    return isBuilt;
+    return isChanged;
 }
 
-/// Of the text, and of lines that failed when they were read.
+/// Of the text, of lines that failed when they were read, and of files that are missing.
 void Workbench::showFaults()
 {
+    const std::vector<std::string>& failures = origins.getFailures();
+    for (; printedFailures < failures.size(); ++printedFailures)
+        std::cerr << failures[printedFailures] << '\n';
     std::vector<std::string> faults = sources.getFaults();
-    faults.insert(faults.end(), origins.getFailures().begin(), origins.getFailures().end());
+    faults.insert(faults.end(), failures.begin(), failures.end());
+    for (const std::string& message : missing) {
+        const std::string place =
+            origins.placeOfPicture(std::string_view(message).substr(missingFile.size()));
+        faults.push_back(place.empty() ? message : place + ": " + message);
+    }
     if (faults != notices.getFaults())
         notices.setFaults(std::move(faults));
 }
@@ -255,10 +268,14 @@ void Workbench::readAnew()
     state.keep();
     if (recorder)
         recorder->readAnew();
-    heldPicture = copyImage(game.getScreenImage());
+    if (!heldPicture)
+        heldPicture = copyImage(game.getScreenImage());
     game.recreateScreenList();
     game.beginFontsAnew();
     origins.clear();
+    printedFailures = 0;
+    missing.clear();
+    const Swapped reading(isReading, true);
     try {
         game.startup();
         if (options.readsScript)

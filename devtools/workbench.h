@@ -13,6 +13,7 @@
 
 #include <chrono>
 #include <optional>
+#include <set>
 
 /// What DevTools is behind its face: stands between game and host, and does what the keys ask for.
 class Workbench : public HostWatcher {
@@ -21,7 +22,7 @@ public:
     ~Workbench() override;
 
     bool takesInput(const InputQueue::Event& event) override;
-    void tickBegins(const InputQueue& next, bool takesInput) override;
+    void tickBegins(const InputQueue& next, bool takesNew) override;
     void frameBegins() override;
     const Image& pictureOf(const Image& screen, std::span<const tagRECT> changed) override;
     void showMessage(const CString& text) override;
@@ -54,7 +55,15 @@ private:
     InterfaceState state;
     Overlay overlay;
 
-    FrameCost cost;
+    WatchingHost* host = nullptr; // owned by displayhost's use
+    int fullScreenBefore = 0;     // of the game, which keeps it in its settings
+    bool isReading = false;       // the game's startup may run frames
+
+    FrameCost cost;     // of the last whole frame
+    FrameCost measured; // of the one that is shown
+    double averageMicros = 0;
+    std::set<std::string> missing; // "cannot load ..." messages since the last read
+    std::size_t printedFailures = 0;
     Clock::time_point frameStart;
     std::uint32_t lastLook = 0; // milliseconds of timeGetTime
     std::uint32_t lastPictureLook = 0;

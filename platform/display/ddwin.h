@@ -12,6 +12,8 @@
 #include "platform/framework/znfixed.h"
 
 #include <memory>
+#include <string>
+#include <vector>
 
 class Canvas;
 
@@ -90,6 +92,9 @@ public:
     /// Releases a surface of this window; null and foreign ones are passed over. 1, or 0 for those.
     int deleteSurface(surface* released);
     int getSurfaceCount() const;
+    /// The pictures that surfaces and backdrops have asked for since the window was made, found or not, as
+    /// they were named.
+    std::vector<std::string> getPictureNames() const;
 
     // Fonts. The table owns them; they live as long as the window.
 

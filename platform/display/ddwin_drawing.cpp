@@ -177,6 +177,12 @@ int ddwin::getSurfaceCount() const
     return canvas->surfaces.count();
 }
 
+std::vector<std::string> ddwin::getPictureNames() const
+{
+    const auto& names = canvas->surfaces.getAskedNames();
+    return {names.begin(), names.end()};
+}
+
 int ddwin::addNewFont(CString file, CString style, int size, int spacing)
 {
     auto& fonts = canvas->fonts;

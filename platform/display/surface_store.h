@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -25,6 +26,8 @@ public:
     /// The same, decoded anew, once for each name while reloadAll runs.
     ImageRef loadAnew(std::string_view name);
     void reloadAll();
+    /// The names that were looked for on the disk, found or not.
+    const std::set<std::string, std::less<>>& getAskedNames() const { return asked; }
     /// Lets go of what was loaded and dropped again within the frame.
     void endFrame() { fresh.clear(); }
 
@@ -59,6 +62,7 @@ private:
     std::unordered_set<surface*> surfaces;
     std::unordered_map<std::string, std::weak_ptr<Image>, TextHash, std::equal_to<>> images;
     std::unordered_map<std::string, Failure> failures; // by path
+    std::set<std::string, std::less<>> asked;
     std::vector<ImageRef> fresh; // loaded since the frame began: pictures named in turn are decoded once
     std::size_t pruneAt = 64;    // entries at which those whose image is gone are looked for
     bool isReloadingAll = false;

@@ -73,6 +73,8 @@ private:
     SDL_Window* window = nullptr;
     SDL_Renderer* renderer = nullptr;
     SDL_Texture* texture = nullptr;
+    SDL_Rect windowedPlace =
+        {}; // where the window stood before it took the whole screen; without a width: never
     SDL_Cursor* cursors[2] = {}; // by CursorShape
     CursorShape cursor = CursorShape::Normal;
     int textureWidth = 0;
@@ -127,8 +129,15 @@ bool SdlHost::createWindow()
         width = shrunk.w;
         height = shrunk.h;
     }
-    window = SDL_CreateWindow(windowTitle().c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, width,
-                              height, flags);
+    int x = SDL_WINDOWPOS_CENTERED;
+    int y = SDL_WINDOWPOS_CENTERED;
+    if (!isFullScreen && windowedPlace.w > 0) {
+        x = windowedPlace.x;
+        y = windowedPlace.y;
+        width = windowedPlace.w;
+        height = windowedPlace.h;
+    }
+    window = SDL_CreateWindow(windowTitle().c_str(), x, y, width, height, flags);
     return window != nullptr;
 }
 
@@ -143,6 +152,7 @@ bool SdlHost::createRenderer()
 bool SdlHost::open(ddwin& newGame)
 {
     closeWindow();
+    windowedPlace = {};
     game = &newGame;
     if (!startVideo() || !createWindow() || !createRenderer()) {
         std::fprintf(stderr,
@@ -182,6 +192,10 @@ void SdlHost::followFullScreen(ddwin& changed)
     if (!window || game != &changed)
         return;
     letGo(); // what is let go meanwhile goes to neither window
+    if (!(SDL_GetWindowFlags(window) & SDL_WINDOW_FULLSCREEN)) {
+        SDL_GetWindowPosition(window, &windowedPlace.x, &windowedPlace.y);
+        SDL_GetWindowSize(window, &windowedPlace.w, &windowedPlace.h);
+    }
     destroyWindow();
     if (!createWindow() || !createRenderer()) {
         std::fprintf(stderr, "cannot open the window again: %s\n", SDL_GetError());

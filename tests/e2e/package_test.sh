@@ -65,6 +65,37 @@ find_package)
     run "build the guide's project" cmake --build "$work/first_button/build" -j 2
     run "test the guide's project" "$work/first_button/build/first_button_player" test "$work/first_button/tests" \
         --data "$work/first_button" --out "$work"
+    # A game with the devtools in it.
+    mkdir "$work/watched"
+    cat >"$work/watched/CMakeLists.txt" <<'CMAKE'
+cmake_minimum_required(VERSION 3.22)
+project(watched LANGUAGES CXX)
+find_package(tgx REQUIRED)
+add_executable(watched main.cpp)
+target_link_libraries(watched PRIVATE tgx::devtools)
+CMAKE
+    cat >"$work/watched/main.cpp" <<'MAIN'
+#include "devtools/devtools.h"
+#include "platform/host/headless_host.h"
+#include "tgx/frame/mainwin.h"
+
+int main()
+{
+    displayhost::use(std::make_unique<HeadlessHost>());
+    AControlsApp app;
+    AMainWin window(320, 200, 32);
+    DevTools devTools(window);
+    app.mainWin = &window;
+    window.startup();
+    window.runTick();
+    window.runFrame();
+    return 0;
+}
+MAIN
+    run "configure a game with devtools" cmake -S "$work/watched" -B "$work/watched/build" \
+        -D CMAKE_PREFIX_PATH="$prefix" -D CMAKE_BUILD_TYPE=Release
+    run "build a game with devtools" cmake --build "$work/watched/build"
+    run "run a game with devtools" "$work/watched/build/watched"
     ;;
 pkg_config)
     install_here

@@ -1,4 +1,5 @@
 #include "devtools/devtools.h"
+#include "devtools/script_text/text_files.h"
 #include "platform/host/displayhost.h"
 #include "platform/system/datadir.h"
 #include "player/player.h"
@@ -8,6 +9,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <csignal>
 #include <filesystem>
 #include <iostream>
 #include <memory>
@@ -19,6 +21,8 @@ namespace {
 
 constexpr int wrongCall = 2;
 constexpr int colourBits = 32;
+
+volatile std::sig_atomic_t isInterrupted = 0; // the window closes, and a recording is written
 
 struct ViewOptions {
     std::string data;
@@ -44,11 +48,15 @@ public:
     {
         AMainWin::startup();
         readScriptFile(CString(options.script), GetModuleHandleA(nullptr), mainScriptResource, "", 1);
-        const CString wanted(options.screen);
-        if (!hasOpened && !wanted.IsEmpty() && !(getActiveScreen() && getActiveScreen()->getID() == wanted))
-            changeScreen(wanted, 1, mainScriptResource, CString(options.script));
-        hasOpened = true;
+        if (!hasOpened && getActiveScreen())
+            openWanted();
         return 1;
+    }
+    void drawscreen() override
+    {
+        if (isInterrupted)
+            displayhost::current().closeRequested = true;
+        AMainWin::drawscreen();
     }
 
     /// A game's own classes are not here: what is of one shows as a plain window.
@@ -68,28 +76,53 @@ public:
     }
 
 private:
+    /// Later the devtools bring the screens back.
+    void openWanted()
+    {
+        hasOpened = true;
+        const CString wanted(options.screen);
+        if (wanted.IsEmpty() || getActiveScreen()->getID() == wanted)
+            return;
+        std::string others;
+        for (int i = 0; i < getScreenList()->getWindowCount(); ++i) {
+            const AWnd* screen = getWndFromIndex(i);
+            if (screen->getWindowType() != AWnd::WND_SCREEN)
+                continue;
+            if (screen->getID() == wanted) {
+                changeScreen(wanted, 1, mainScriptResource, CString(options.script));
+                return;
+            }
+            others += ' ' + screen->getID().str();
+        }
+        const std::string text = "no screen \"" + options.screen + "\"; the script has" + others;
+        std::cerr << "tgx view: " << text << '\n';
+        displayhost::current().showMessage(CString(text));
+    }
+
     const ViewOptions& options;
     std::set<std::string> unknownClasses;
     bool isAddingScreen = false;
-    bool hasOpened = false; // later the devtools bring the screens back
+    bool hasOpened = false;
 };
 
 /// "menu", "menu.tgs" and "menu.tgx" name the same script.
-std::string compiledName(const std::string& script)
+std::string scriptName(const std::string& given)
 {
-    const fs::path path(script);
-    const std::string ending = path.extension().string();
-    return ending == ".tgs" || ending.empty() ? fs::path(path).replace_extension(".tgx").string() : script;
+    const fs::path path(given);
+    const std::string ending = script_text::lowered(path.extension().string());
+    return ending == ".tgs" || ending.empty() ? fs::path(path).replace_extension(".tgx").string() : given;
 }
 
 /// Compiled or as text, right or wrong.
 bool isThere(const ViewOptions& options)
 {
-    const std::string text = fs::path(options.script).replace_extension(".tgs").string();
-    for (const std::string& folder : options.devTools.sources)
-        if (fs::exists(fs::path(folder) / text))
-            return true;
-    return findDataFile("UIG\\" + options.script) || findDataFile("UIG\\" + text);
+    std::vector<std::string> folders = options.devTools.sources;
+    folders.push_back(script_text::scriptFolder());
+    for (const std::string& folder : folders)
+        for (const std::string& file : script_text::filesIn(folder, ".tgs"))
+            if (script_text::lowered(script_text::compiledName(file)) == script_text::lowered(options.script))
+                return true;
+    return findDataFile("UIG\\" + options.script).has_value();
 }
 
 int refuse(const std::string& why)
@@ -100,16 +133,18 @@ int refuse(const std::string& why)
 
 int view(ViewOptions& options)
 {
-    options.script = compiledName(options.script);
+    options.script = scriptName(options.script);
     setDataDirectory(options.data);
     for (const std::string& folder : options.devTools.sources)
-        if (!fs::is_directory(folder))
+        if (std::error_code failure; !fs::is_directory(folder, failure))
             return refuse("no folder " + folder + "; --source names a folder with scripts in text form");
     if (!isThere(options))
         return refuse("no script " + options.script + " in " + (fs::path(options.data) / "UIG").string() +
                       ", neither compiled nor as text; --source names another folder with its text");
 
     options.devTools.script = options.script;
+    for (const int each : {SIGINT, SIGTERM})
+        std::signal(each, [](int) { isInterrupted = 1; });
     AControlsApp app; // without a program name: no settings are read or written
     ViewWindow window(options);
     const DevTools devTools(window, options.devTools);

@@ -275,7 +275,7 @@ protected:
     std::uint32_t painted(int settings, int x, int y) { return paint(settings).row(y)[x] & 0xFFFFFF; }
     std::uint32_t shown(int x, int y) { return win().getScreenImage().row(y)[x] & 0xFFFFFF; }
 
-    Sources sources{{}};
+    Sources sources{{}, "script.tgx"};
     Origins origins{sources};
     Overlay overlay;
 };
@@ -347,12 +347,12 @@ TEST(InspectorTexts, CostAndKeys)
               (Texts{"frame\t1.23 ms, 20.56 on average", "drawn\t1,093 commands",
                      "changed\t45,678 pixels, 14.9 %"}));
     EXPECT_EQ(textsOf(describeCost({}, 0)).back(), "changed\t0 pixels, 0.0 %");
-    EXPECT_EQ(describeKeys({}), "F12 next \xB7 F11 whole screen \xB7 F10 picture \xB7 F9 record");
+    EXPECT_EQ(describeKeys({}), "F12 inspector \xB7 F11 whole screen \xB7 F10 picture \xB7 F9 record");
     DevToolsOptions keys;
     keys.inspectorKey = 'I';
     keys.fullScreenKey = 0;
     keys.recorderKey = VK_INSERT;
-    EXPECT_EQ(describeKeys(keys), "I next \xB7 F10 picture \xB7 key 45 record");
+    EXPECT_EQ(describeKeys(keys), "I inspector \xB7 F10 picture \xB7 key 45 record");
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "devtools/workbench.h"
 #include "platform/display/ddwin.h"
+#include "platform/host/headless_host.h"
+#include "platform/host/image_file.h"
 #include "tests/unit/support/tgx_test.h"
 #include "tgx/controls/button.h"
 #include "tgx/controls/combobox.h"
@@ -10,6 +12,10 @@
 #include "tgx/controls/radiobutton.h"
 #include "tgx/controls/scrollbar.h"
 #include "tgx/controls/tabcontrol.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
 
 namespace {
 
@@ -23,17 +29,16 @@ protected:
     /// UIG/name in text form, as an author saves it.
     void save(const std::string& text, const std::string& name = "script.tgs") { write("UIG/" + name, text); }
 
-    /// Starts on compiled scripts and lets the devtools find the text.
+    /// Starts on a compiled script and lets the devtools find the text.
     void startWithTools(const std::string& text)
     {
-        start("SCREEN \"MENU\" 0 0 640 480 \"\"");
-        save(text);
+        start("SCREEN \"FIRST\" 0 0 640 480 \"\"");
         tools.emplace(win(), DevToolsOptions{.readsScript = true, .outDirectory = data.string()});
         saveAndWait(text);
     }
     void saveAndWait(const std::string& text)
     {
-        save(text + "# saved " + std::to_string(++saves) + '\n');
+        save(text);
         play(aWhile);
     }
     std::string faults() const
@@ -42,6 +47,11 @@ protected:
         for (const std::string& each : tools->getNotices().getFaults())
             all += each + '\n';
         return all;
+    }
+    bool isTold(const std::string& notice) const
+    {
+        const std::vector<std::string> told = tools->getNotices().getNotices();
+        return std::find(told.begin(), told.end(), notice) != told.end();
     }
     std::string textOf(const std::string& id) { return wnd(id)->getWindowText(); }
     std::string inUig(const std::string& text) const { return (data / "UIG" / text).string(); }
@@ -52,9 +62,6 @@ protected:
     }
 
     std::optional<Workbench> tools;
-
-private:
-    int saves = 0;
 };
 
 constexpr const char* note = R"(SCREEN "MENU" 0 0 640 480 ""
@@ -88,10 +95,54 @@ TEST_F(ReloadTest, AFaultyTextLeavesTheInterfaceAsItIs)
     EXPECT_EQ(faults(), "");
 }
 
+TEST_F(ReloadTest, OneFaultyTextDoesNotHoldUpTheOthers)
+{
+    startWithTools("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    GOTO \"PART\" \"part.tgx\"\nEND\n");
+    save("SUBROUTINE \"PART\"\nTEXTWND \"NOTE\" 0 0 90 20 \"one\"\n", "part.tgs");
+    save("BUTTOM\n", "unused.tgs");
+    saveAndWait("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    GOTO \"PART\" \"part.tgx\"\n    FONT 0\nEND\n");
+    EXPECT_EQ(textOf("NOTE"), "one");
+    EXPECT_EQ(faults(), inUig("unused.tgs:1:1: error: unknown keyword BUTTOM; did you mean BUTTON?\n"));
+    save("SUBROUTINE \"PART\"\nTEXTWMD \"NOTE\" 0 0 90 20 \"two\"\n", "part.tgs");
+    saveAndWait("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    GOTO \"PART\" \"part.tgx\"\nEND\n");
+    EXPECT_EQ(textOf("NOTE"), "one") << "the last good form of it";
+}
+
+TEST_F(ReloadTest, AnEditorMayEmptyOrReplaceTheFileFirst)
+{
+    startWithTools("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    EDITBOX \"NAME\" 0 0 90 20 \"\"\nEND\n");
+    control<AEditBox>("NAME").setWindowText("Ann");
+    saveAndWait("");
+    EXPECT_EQ(textOf("NAME"), "Ann");
+    EXPECT_EQ(faults(), inUig("script.tgs: error: there is no statement in it any more\n"));
+    std::filesystem::remove(inUig("script.tgs"));
+    std::filesystem::remove(inUig("script.tgx"));
+    play(aWhile);
+    EXPECT_EQ(textOf("NAME"), "Ann");
+    EXPECT_EQ(faults(), "the text of script.tgx is gone; the interface stays until it is back\n");
+    saveAndWait("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    EDITBOX \"NAME\" 0 0 60 20 \"\"\nEND\n");
+    EXPECT_EQ(textOf("NAME"), "Ann");
+    EXPECT_EQ(wnd("NAME")->width(), 60);
+    EXPECT_EQ(faults(), "");
+}
+
+TEST_F(ReloadTest, AMissingPictureStaysAFault)
+{
+    startWithTools(
+        "SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    BITMAP \"PLATE\" 0 0 20 20 \"plate.bmp\"\nEND\n");
+    EXPECT_EQ(faults(), inUig("script.tgs:3: cannot load plate.bmp\n"));
+    bitmap("other.bmp", 20, 20, 0xFF0000);
+    play(aWhile);
+    EXPECT_EQ(faults(), inUig("script.tgs:3: cannot load plate.bmp\n")) << "nobody asked for that one";
+    bitmap("plate.bmp", 20, 20, 0xFF0000);
+    play(aWhile);
+    EXPECT_EQ(faults(), "");
+}
+
 TEST_F(ReloadTest, ALineThatFailsIsNamed)
 {
     startWithTools("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    BUTTONLOOP 1 1 1 1\nEND\n");
-    EXPECT_EQ(faults(), inUig("script.tgs:3: the line failed: BUTTONLOOP\n"));
+    EXPECT_EQ(faults(), inUig("script.tgs:3: BUTTONLOOP does not go with a ScreenSpy\n"));
 }
 
 TEST_F(ReloadTest, ASideMapTellsTheLinesOfACompiledScript)
@@ -100,10 +151,16 @@ TEST_F(ReloadTest, ASideMapTellsTheLinesOfACompiledScript)
     write("UIG/script.tgx.map", "0 7 menu.tgs\n22 8 menu.tgs\n24 12 parts/notes.tgs\n47 9 menu.tgs\n");
     tools.emplace(win(), DevToolsOptions{.readsScript = true});
     script("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\nTEXTWND \"NOTE\" 10 10 200 20 \"again\"\nEND");
+    write("UIG/script.tgx.map", "0 7 menu.tgs\n22 8 menu.tgs\n24 12 parts/notes.tgs\n47 9 menu.tgs\n");
     play(aWhile);
     EXPECT_EQ(textOf("NOTE"), "again");
     EXPECT_EQ(tools->getOrigins().placeOf(*wnd("MENU")), "menu.tgs:7");
     EXPECT_EQ(tools->getOrigins().placeOf(*wnd("NOTE")), "parts/notes.tgs:12");
+
+    script("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\nTEXTWND \"NOTE\" 10 10 200 20 \"once more\"\nEND");
+    play(aWhile);
+    EXPECT_EQ(tools->getOrigins().placeOf(*wnd("MENU")), "script.tgx, byte 0")
+        << "the map is of another script";
 }
 
 TEST_F(ReloadTest, APictureThatChangesIsReadAgain)
@@ -210,11 +267,25 @@ TEST_F(ReloadTest, WhatWasChosenAndTypedComesBack)
     EXPECT_EQ(win().mouseY, 88);
 }
 
+TEST_F(ReloadTest, ScreensBehindTheActiveOneKeepWhatWasTypedToo)
+{
+    startWithTools(everything);
+    play("change FORM", "frame 10");
+    control<AEditBox>("NAME").setWindowText("Ann");
+    play("change MENU", "frame 10");
+    std::string changed = everything;
+    changed.replace(changed.find("nowhere"), 7, "harbour");
+    saveAndWait(changed);
+    EXPECT_STREQ(win().getActiveScreen()->getID(), "MENU");
+    EXPECT_EQ(textOf("NAME"), "Ann");
+}
+
 TEST_F(ReloadTest, AScreenThatIsGoneIsSaidSo)
 {
     startWithTools(everything);
     play("change FORM", "frame 10");
     saveAndWait(note);
+    EXPECT_TRUE(isTold("the screen FORM did not come back"));
     EXPECT_STREQ(win().getActiveScreen()->getID(), "MENU");
     EXPECT_EQ(textOf("NOTE"), "before");
 }
@@ -223,8 +294,34 @@ TEST_F(ReloadTest, FontsBeginAnew)
 {
     startWithTools("ADDFONT \"none.ttf\" \"\" 20\n" + std::string(note));
     EXPECT_EQ(win().getFontCount(), 2);
-    saveAndWait("ADDFONT \"none.ttf\" \"\" 20\n" + std::string(note));
+    saveAndWait("ADDFONT \"none.ttf\" \"\" 24\n" + std::string(note));
     EXPECT_EQ(win().getFontCount(), 2);
+}
+
+TEST_F(ReloadTest, TheKeysOfTheDevtoolsDoNotReachTheGame)
+{
+    startWithTools(note);
+    const ImageRef screen = copyImage(win().getScreenImage());
+    bool reachedGame = false;
+    win().duringFrame = [&] { reachedGame = reachedGame || (win().keyCode != 0 && win().keyCode != 'A'); };
+    for (const int key : std::initializer_list<int>{VK_F12, VK_F10, VK_F9, 'A', VK_F9, VK_F11}) {
+        getPlayer().getHost().input().key(static_cast<std::uint8_t>(key), key == 'A' ? 'a' : '\0');
+        play("frame 2");
+    }
+    EXPECT_FALSE(reachedGame);
+    const ImageRef picture = loadImageFile("picture-1.png");
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(picture->width, screen->width);
+    for (int y = 0; y < picture->height; ++y)
+        for (int x = 0; x < picture->width; ++x)
+            ASSERT_EQ(picture->row(y)[x], screen->row(y)[x])
+                << "the inspector is in no picture: " << x << ", " << y;
+    std::ifstream recording(data / "recording-1.events");
+    const std::string events{std::istreambuf_iterator<char>(recording), {}};
+    EXPECT_NE(events.find("\nkey a\n"), std::string::npos) << events;
+    EXPECT_EQ(win().fullScreen, 0) << "it began on the whole screen";
+    tools.reset();
+    EXPECT_EQ(win().fullScreen, 1) << "the game's own setting is back";
 }
 
 } // namespace
