@@ -10,6 +10,8 @@
 #include "tools/tgx/check/codes.h"
 #include "tools/tgx/check/output.h"
 
+#include <nlohmann/json.hpp>
+
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -28,6 +30,13 @@ using namespace script_check;
     std::abort();
 }
 
+/// Whether an editor can show it.
+bool isIn(const script_text::Place& place)
+{
+    return place.line >= 1 && place.line <= place.in->file->lineCount() && place.at.column >= 1 &&
+           place.at.length >= 0;
+}
+
 void demandUsefulFindings(const CheckReport& report)
 {
     std::vector<const script_text::Diagnostic*> findings;
@@ -37,10 +46,14 @@ void demandUsefulFindings(const CheckReport& report)
             fail("a code that the table does not have", text);
         if (each.text.empty() || each.text.find('\n') != std::string::npos)
             fail("a text that is no line", text);
+        if (!isIn(each.place))
+            fail("a place that is none", text);
         findings.push_back(&each);
     }
-    if (asJson(findings).size() < 3)
-        fail("no JSON", asJson(findings));
+    const std::string text = asJson(findings);
+    const nlohmann::json json = nlohmann::json::parse(text, nullptr, false); // false: no exceptions
+    if (!json.is_array() || json.size() != findings.size())
+        fail("no JSON array of the findings", text);
 }
 
 CheckOptions optionsFor(const FuzzDataDirectory& directory)

@@ -13,6 +13,7 @@
 #include <deque>
 #include <iostream>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -53,17 +54,18 @@ int explain(const std::string& name)
         (near.empty() ? "; --explain lists them all" : "; did you mean " + std::string(near) + "?"));
 }
 
+std::optional<std::string> readScript(const std::string& name, std::string& reason)
+{
+    return name == "-" ? readInput(name) : readIncluded(name, reason);
+}
+
 int check(const CheckArguments& arguments)
 {
     if (arguments.inputs.empty())
         return refuse("expected a script or a folder of scripts; --help tells more");
-    std::string reason;
+    std::vector<std::string> problems;
     const auto folders =
-        script_check::collect(arguments.inputs, arguments.options.dataDirectory, readIncluded, reason);
-    if (!reason.empty()) {
-        std::cerr << reason << '\n';
-        return wrongInput;
-    }
+        script_check::collect(arguments.inputs, arguments.options.dataDirectory, readScript, problems);
     std::deque<script_check::CheckReport> reports;
     std::ptrdiff_t scripts = 0;
     int broken = 0;
@@ -81,8 +83,10 @@ int check(const CheckArguments& arguments)
         reports.push_back(script_check::check(folder.files, readIncluded, options));
         broken += reports.back().broken;
     }
+    for (const std::string& each : problems)
+        std::cerr << each << '\n';
     if (scripts == 0)
-        return refuse("no script (*.tgs, *.tgx) found");
+        return problems.empty() ? refuse("no script (*.tgs, *.tgx) found") : wrongInput;
 
     std::vector<const Diagnostic*> findings;
     for (const script_check::CheckReport& report : reports)
@@ -103,10 +107,10 @@ int check(const CheckArguments& arguments)
         std::cerr << "note: pictures and fonts are not looked at; name the data directory with --data\n";
     if (broken > 0)
         std::cerr << "note: " << counted(broken, "script") << (broken == 1 ? " has" : " have")
-                  << " lines that cannot be built; how its lines work together has not been looked at\n";
+                  << " lines that are refused; how its lines work together has not been looked at\n";
     std::cerr << counted(errors, "error") << ", " << counted(warnings, "warning") << " in "
               << counted(scripts, "script") << '\n';
-    return errors > 0 || (arguments.warningsAreErrors && warnings > 0) ? wrongInput : 0;
+    return !problems.empty() || errors > 0 || (arguments.warningsAreErrors && warnings > 0) ? wrongInput : 0;
 }
 
 } // namespace
@@ -118,7 +122,7 @@ void addCheck(CLI::App& app)
     auto explained = std::make_shared<std::string>();
     command
         ->add_option("input", arguments->inputs,
-                     "Scripts, source or compiled, and folders: all scripts below are checked")
+                     "Scripts, source or compiled, and folders: all scripts below are checked; - for stdin")
         ->type_name("FILE-OR-DIR");
     command
         ->add_option(

@@ -79,9 +79,15 @@ constexpr Meaning rows[] = {
     {58, AnyWindow, "Whether, as a popup, it opens without dimming what is under it.", "keyboard"},
     {114, AnyWindow, "Another box. A negative width or height keeps the old one."},
 
-    {98, TabStops, "The windows inside that Tab and the arrow keys go through, in this order.", "taborder"},
-    {92, TabStops, "The windows inside that the keys Insert and Delete go to.", "taborder"},
-    {93, TabStops, "The windows inside that the keys Home and End go to.", "taborder"},
+    {98, TabStops,
+     "The windows inside that Tab, and the keys left and right, go through in this order. Counts on a screen "
+     "or popup.",
+     "taborder"},
+    {92, TabStops,
+     "What the keys Insert and Delete turn: a combo box, or the radio buttons of a group or tab control. "
+     "Counts on a screen or popup.",
+     "taborder"},
+    {93, TabStops, "The same for the keys Home and End.", "taborder"},
 
     {47, Buttons,
      "A button. Its strip holds the runs of frames of the states, one behind the other. A negative frame "

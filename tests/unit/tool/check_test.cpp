@@ -1,98 +1,18 @@
-#include "tools/tgx/check/check.h"
+#include "tests/unit/tool/check_fixture.h"
 
 #include "devtools/script_text/emit.h"
-#include "tests/unit/support/tgx_test.h"
-#include "tests/unit/tool/sources.h"
 #include "tools/tgx/check/codes.h"
-#include "tools/tgx/check/collect.h"
 #include "tools/tgx/check/output.h"
 
 #include <nlohmann/json.hpp>
 
-#include <fstream>
-#include <iterator>
 #include <set>
 
 using namespace std::string_literals;
 
 namespace {
 
-using script_check::check;
-using script_check::CheckOptions;
 using script_check::CheckReport;
-
-/// Divides a text into files at lines such as "== parts.tgs".
-Sources divided(std::string text, const std::string& firstName)
-{
-    Sources out;
-    std::string name = firstName;
-    while (true) {
-        const std::size_t mark = text.starts_with("== ") ? 0 : text.find("\n== ");
-        const std::size_t end = mark == 0 ? 0 : mark == std::string::npos ? mark : mark + 1;
-        if (end != 0)
-            out.files[name] = text.substr(0, end);
-        if (mark == std::string::npos)
-            return out;
-        const std::size_t lineEnd = text.find('\n', end);
-        name = text.substr(end + 3, lineEnd - end - 3);
-        text.erase(0, lineEnd + 1);
-    }
-}
-
-/// Pictures of known sizes in a data directory: wide.bmp 400 x 300, one.bmp 20 x 10, and the strip three.bmp,
-/// frames of 20 x 10.
-class Check : public TgxTest {
-protected:
-    Check()
-    {
-        bitmap("wide.bmp", 400, 300);
-        bitmap("one.bmp", 20, 10);
-        bitmap("three.bmp", 63, 10); // a pixel lies behind the last frame too
-        strip("eight.bmp", 8, 8, 8);
-        write("text.png", "no picture");
-        options.dataDirectory = data.string();
-    }
-
-    CheckReport run(const Sources& sources)
-    {
-        std::vector<script_check::ScriptFile> files;
-        for (const auto& [name, text] : sources.files)
-            if (!name.ends_with(".inc"))
-                files.push_back({name, text, name.ends_with(".tgx")});
-        return check(
-            files,
-            [&](const std::string& path, std::string& reason) {
-                const auto found = sources.files.find(path);
-                reason = "there is none";
-                return found == sources.files.end() ? std::optional<std::string>() : found->second;
-            },
-            options);
-    }
-    std::string found(const std::string& text, const std::string& firstName = "a.tgs")
-    {
-        const CheckReport report = run(divided(text, firstName));
-        std::string headlines;
-        for (const auto& each : report.findings)
-            headlines += headline(each) + " [" + each.code + "]\n";
-        return headlines;
-    }
-
-    CheckOptions options;
-};
-
-struct Row {
-    const char* name;
-    std::string text;
-    std::string findings;
-};
-
-std::string repeated(int times, const std::string& text)
-{
-    std::string out;
-    for (int i = 0; i < times; ++i)
-        out += text;
-    return out;
-}
 
 /// Subroutines "S0" to below count, each with so many calls of the next one.
 std::string chain(int count, int calls)
@@ -107,7 +27,7 @@ std::string chain(int count, int calls)
 }
 
 // Each in a.tgs, where no other file is named.
-const Row rows[] = {
+const CheckRow rows[] = {
     {"a string without an end", "TEXT \"a",
      "a.tgs:1:6: error: this string has no end; expected \" before the end of the line [syntax]\n"},
     {"a keyword mistyped", "WINDOWW \"A\" 0 0 9 9",
@@ -159,10 +79,6 @@ const Row rows[] = {
      "WINDOW \"A\" 0 0 90 90\nBEGIN\n  TEXTWND \"B\" 0 0 90 20 \"b\"\n  JUSTIFY CENTRE\nEND",
      "a.tgs:4:3: warning: JUSTIFY acts on \"A\" here; for \"B\" it stands between BEGIN and END "
      "[attribute-on-parent]\n"},
-    {"a FONT for the windows behind it",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  TEXTWND \"B\" 0 0 90 20 \"b\"\n  FONT 0\n  TEXTWND \"C\" 0 0 90 20 "
-     "\"b\"\nEND",
-     ""},
     {"a screen in a block", "SCREEN \"A\" 0 0 9 9 \"\"\nBEGIN\n  SCREEN \"B\" 0 0 9 9 \"\"\nEND",
      "a.tgs:3:3: warning: a SCREEN inside the block that begins in line 2; it goes to the top level all the "
      "same. Is an END missing? [nested-screen]\n"},
@@ -212,9 +128,6 @@ const Row rows[] = {
      "a.tgs:3:12: error: no window \"OK\" in \"A\" at this point; it comes in line 4 [missing-window]\n"
      "a.tgs:5:17: error: no window \"QUIT\" in \"A\" at this point [missing-window]\n"
      "a.tgs:6:12: error: no window \"OKK\" in \"A\" at this point; did you mean \"OK\"? [missing-window]\n"},
-    {"a tab list that names what a class of the game may make",
-     "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  USERDEF \"MAP\" 0 0 99 99 \"Map\"\n  TABORDER \"TOWN\"\nEND",
-     ""},
     {"pointers to nothing",
      "WINDOW \"A\" 0 0 90 90\nBEGIN\n  POINTER \"MAP\" \"c.tgx\"\n  POINTER \"A\" \"c.tgx\"\nEND\n== "
      "b.tgs\nWINDOW \"MAP\" 0 0 9 9\n== c.tgs\nWINDOW \"NONE\" 0 0 9 9",
@@ -261,12 +174,12 @@ const Row rows[] = {
     {"icons that are not there",
      "WINDOW \"A\" 0 0 90 90\nBEGIN\n  LISTBOX \"L\" 0 0 90 90\n  BEGIN\n    LISTICONS \"one.bmp\"\n    "
      "COLUMNS 20\n    ITEM \"ICON0\"\n    ITEM \"ICON1\"\n  END\n  TABORDER \"L\"\nEND",
-     "a.tgs:3:3: error: row 1 of \"L\" shows icon 1, and LISTICONS names 1 [missing-icon]\n"},
+     "a.tgs:8:10: error: row 1 of \"L\" shows icon 1, and LISTICONS names 1 [missing-icon]\n"},
     {"a frame of an icon that is not there",
      "WINDOW \"A\" 0 0 90 90\nBEGIN\n  LISTBOX \"L\" 0 0 90 90\n  BEGIN\n    LISTLOOK 10\n    LISTICONS "
      "\"three.bmp\"\n    COLUMNS 20\n    ITEM \"ICON0F2\"\n    ITEM \"ICON0F3\"\n  END\n  TABORDER "
      "\"L\"\nEND",
-     "a.tgs:3:3: error: \"three.bmp\" is 63 x 10 pixels and has no frame 3 of 20 x 10 for row 1 of \"L\" "
+     "a.tgs:9:10: error: \"three.bmp\" is 63 x 10 pixels and has no frame 3 of 20 x 10 for row 1 of \"L\" "
      "[strip-too-small]\n"},
     {"subroutines without end, by lines", chain(30, 2),
      "a.tgs:144:1: error: the read of \"W\" runs too long and is ended here [budget]\n"},
@@ -348,7 +261,7 @@ const Row rows[] = {
      "\"D\"\nEND",
      "a.tgs:1:1: warning: no key reaches the control in \"A\", \"B\"; name them in a TABORDER at the end of "
      "its block [unreachable]\n"
-     "a.tgs:8:3: warning: no key reaches \"E\": no TABORDER, TABLIST1 or TABLIST2 in \"C\" names it "
+     "a.tgs:8:3: warning: no key reaches \"E\": no TABORDER of \"C\" names it "
      "[unreachable]\n"},
     {"texts that do not fit",
      "WINDOW \"A\" 0 0 400 400\nBEGIN\n  TEXTWND \"B\" 0 0 40 20 \"a long text\"\n  TEXTWND \"C\" 0 20 40 60 "
@@ -363,13 +276,15 @@ const Row rows[] = {
      "a.tgs:4:26: warning: the text of \"C\" has no room in 40 x 60 pixels in font 0 from \"that goes on\" "
      "on [text-clipped]\n"
      "a.tgs:16:26: warning: the text of \"F\" is 13 pixels high in font 0, and its box has 4 [text-clipped]\n"
-     "a.tgs:17:3: warning: the item \"a long item\" of \"G\" is 54 pixels wide in font 0, and its box has 40 "
+     "a.tgs:20:10: warning: the item \"a long item\" of \"G\" is 54 pixels wide in font 0, and its box has "
+     "40 "
      "[text-clipped]\n"},
     {"a text of a list that is wider than its column",
      "WINDOW \"A\" 0 0 400 400\nBEGIN\n  LISTBOX \"L\" 0 0 90 90\n  BEGIN\n    COLUMNS 40 40\n    ITEM "
      "\"short\" "
      "\"also\"\n    ITEM \"short\" \"a long text\"\n  END\n  TABORDER \"L\"\nEND",
-     "a.tgs:3:3: warning: the text \"a long text\" in row 1 of \"L\" is 54 pixels wide in font 0, and column "
+     "a.tgs:7:18: warning: the text \"a long text\" in row 1 of \"L\" is 54 pixels wide in font 0, and "
+     "column "
      "1 has 40 [text-clipped]\n"},
     {"windows outside of others",
      "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  BITMAP \"B\" -20 0 40 40 \"\"\n  BITMAP \"C\" 640 0 9 9 \"\"\n "
@@ -430,6 +345,57 @@ const Row rows[] = {
      "b.inc:5:3: error: LISTLOOK acts on a list box, and this is a plain window [wrong-window]\n"
      "b.inc:5:12: warning: rows of height 0 count as 1; a negative height keeps the one that there is "
      "[zero-size]\n"},
+    {"blocks that are open one in the other",
+     "WINDOW \"A\" 0 0 9 9\nBEGIN\n  WINDOW \"B\" 0 0 9 9\n  BEGIN\n    WINDOW \"C\" 0 0 9 9\n    BEGIN\nEND",
+     "a.tgs:4:3: error: no END of its own closes this block: the one in line 7 does, and stands further to "
+     "the left [begin-without-end]\na.tgs:6:5: error: no END of its own closes this block: the one in line 7 "
+     "does, and stands further to the left [begin-without-end]\n"},
+    {"lines that are built as they stand", "@ WINDOW \"A\" 1 2\nFONT 9\n@65\n#! unfinished: 71 04",
+     "a.tgs:1:3: error: WINDOW takes 5 arguments, this line has 3; expected: WINDOW \"name\" x y width "
+     "height [argument-count]\na.tgs:3:1: error: no statement begins so; expected a keyword "
+     "[unknown-keyword]\na.tgs:4:1: error: the script ends inside a line, which the toolkit drops "
+     "[unfinished]\n"},
+    {"a body of one line with a block behind it, and with more lines",
+     "SUBROUTINE \"P\"\nWINDOW \"PANEL\" 0 0 9 9\nBEGIN\n  TEXTRAW 1\nEND\nSUBROUTINE \"Q\"\nTEXTRAW "
+     "1\nBUTTON \"B\" 0 0 20 20 \"\"\nWINDOW \"W\" 0 0 99 99\nBEGIN\n  GOTO \"P\"\n  GOTO \"Q\"\nEND",
+     "a.tgs:3:1: warning: the subroutine \"P\" ends with line 2, and this is no part of it; a body of "
+     "several lines stands between BEGIN and END [behind-body]\na.tgs:8:1: warning: the subroutine \"Q\" "
+     "ends with line 7, and this is no part of it; a body of several lines stands between BEGIN and END "
+     "[behind-body]\n"},
+    {"windows without a block that are read one by one",
+     "WINDOW \"W\" 0 0 90 90\nBEGIN\n  POINTER \"A\" \"b.tgx\"\nEND\n== b.tgs\nWINDOW \"A\" 0 0 90 "
+     "90\nWINDOW \"B\" 0 0 90 90\nBEGIN\nEND\n== c.tgs\nSUBROUTINE \"S\"\nTEXTRAW 1\nWINDOW \"C\" 0 0 90 "
+     "90\nGOTO \"S\"",
+     "b.tgs:1:8: warning: a read of \"A\" carries out line 2 too, which is none of it; write BEGIN and END "
+     "behind this line [without-block]\nc.tgs:3:8: warning: a read of \"C\" carries out line 4 too, which is "
+     "none of it; write BEGIN and END behind this line [without-block]\n"},
+    {"several names of one tab list",
+     "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"OK\" 10 10 80 24 \"\"\n  TABORDER \"NOPE\" \"OKK\" "
+     "\"LATER\"\n  BUTTON \"LATER\" 10 40 80 24 \"\"\nEND",
+     "a.tgs:4:12: error: no window \"NOPE\" in \"A\" at this point [missing-window]\na.tgs:4:19: error: no "
+     "window \"OKK\" in \"A\" at this point; did you mean \"OK\"? [missing-window]\na.tgs:4:25: error: no "
+     "window \"LATER\" in \"A\" at this point; it comes in line 5 [missing-window]\n"},
+    {"a ring, and other subroutines too deep",
+     chain(70, 1) +
+         "\nSUBROUTINE \"R\"\nBEGIN\nGOTO \"R\"\nEND\nWINDOW \"V\" 0 0 9 9\nBEGIN\nGOTO \"R\"\nEND",
+     "a.tgs:255:6: error: subroutines call each other more than 64 deep here [budget]\na.tgs:287:6: error: "
+     "the subroutine reaches itself: \"R\" -> \"R\" [subroutine-ring]\n"},
+    {"a font in too many blocks",
+     repeated(21, "WINDOW \"static\" 0 0 9 9\nBEGIN\n") + "ADDFONT \"\" \"\" 9\n" + repeated(21, "END\n"),
+     "a.tgs:41:1: error: WINDOW stands inside 20 blocks; it may stand inside 19 [too-deep]\n"},
+    {"what its holder shows outside of the screen",
+     "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  WINDOW \"P\" 600 0 200 90\n  BEGIN\n    BUTTON \"B\" 100 0 90 "
+     "20 \"\"\n    BUTTON \"C\" 0 30 90 20 \"\"\n  END\n  WINDOW \"Q\" 700 0 90 90\n  BEGIN\n    BUTTON "
+     "\"D\" 0 0 90 20 \"\"\n  END\n  TABORDER \"B\" \"C\" \"D\"\nEND",
+     "a.tgs:5:5: warning: \"B\" lies outside of \"A\" (640 x 480) [sticks-out]\na.tgs:6:5: warning: \"C\" "
+     "sticks out of \"A\" (640 x 480) by 50 pixels on the right; what lies outside takes no clicks "
+     "[sticks-out]\na.tgs:8:3: warning: \"Q\" lies outside of \"A\" (640 x 480) [sticks-out]\n"},
+    {"allowances that can be none",
+     "# tgx: allow\nFONT 0 # tgx: allow no-font\n# tgx: allow unknown-keyword\nFRAME 1",
+     "a.tgs:1:1: warning: expected codes behind allow; --explain lists them all [unknown-code]\na.tgs:2:8: "
+     "warning: this allows nothing: an allowance stands in a line of its own, in front of the one that it is "
+     "for [unused-allowance]\na.tgs:3:14: warning: unknown-keyword cannot be allowed here: the script cannot "
+     "be built with it [unused-allowance]\na.tgs:4:1: error: unknown keyword FRAME [unknown-keyword]\n"},
     {"a broken script, and one that uses it",
      "FRAME 1\nSUBROUTINE \"S\"\nBEGIN\nEND\n== b.tgs\nWINDOW \"W\" 0 0 9 9\nBEGIN\n  GOTO \"T\" \"a.tgx\"\n "
      " "
@@ -439,7 +405,7 @@ const Row rows[] = {
 
 TEST_F(Check, TellsEachFaultWithItsPlaceAndReason)
 {
-    for (const Row& row : rows) {
+    for (const CheckRow& row : rows) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(found(row.text), row.findings);
     }
@@ -448,7 +414,7 @@ TEST_F(Check, TellsEachFaultWithItsPlaceAndReason)
 TEST_F(Check, HasARowForEveryCode)
 {
     std::string all;
-    for (const Row& row : rows)
+    for (const CheckRow& row : rows)
         all += row.findings;
     // "unfinished" and "unused-file" have tests of their own; "line-fails" is for what no rule foresees.
     for (const script_check::Code& code : script_check::codes())
@@ -531,6 +497,14 @@ TEST_F(Check, LeavesPicturesAloneWithoutADataDirectory)
         "");
 }
 
+TEST_F(Check, ComparesScreensWithTheSizeOfTheCall)
+{
+    options.screenWidth = 640;
+    options.screenHeight = 480;
+    EXPECT_EQ(found("SCREEN \"A\" 0 0 800 600 \"\""),
+              "a.tgs:1:1: warning: \"A\" is 800 x 600, larger than the screen of 640 x 480 [sticks-out]\n");
+}
+
 TEST_F(Check, FindsPicturesThatNothingNames)
 {
     options.unusedFiles = true;
@@ -539,6 +513,7 @@ TEST_F(Check, FindsPicturesThatNothingNames)
               "a.tgs:1:1: warning: no script names the file text.png [unused-file]\n"
               "a.tgs:1:1: warning: no script names the file three.bmp [unused-file]\n"
               "a.tgs:1:1: warning: no script names the file wide.bmp [unused-file]\n");
+    EXPECT_EQ(found("# tgx: allow unused-file\nFONT 0"), "");
 }
 
 TEST_F(Check, GivesEditorsJson)
@@ -554,44 +529,6 @@ TEST_F(Check, GivesEditorsJson)
         "includedFrom": [{"file": "menu.tgs", "line": 3, "column": 11}]
     }])"));
     EXPECT_EQ(script_check::asJson({}), "[]\n");
-}
-
-TEST_F(Check, CollectsTheScriptsOfAFolder)
-{
-    write("UIG/script.tgs", "INCLUDE \"more.tgs\"");
-    write("UIG/more.tgs", "FONT 0");
-    write("UIG/script.tgx", "");
-    write("UIG/old.tgx", "");
-    write("UIG/notes.txt", "");
-    write("other/menu.tgs", "");
-    const auto read = [](const std::string& path, std::string& reason) -> std::optional<std::string> {
-        std::ifstream file(path, std::ios::binary);
-        reason = "there is none";
-        if (!file)
-            return std::nullopt;
-        return std::string{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    };
-    // Folder, its data directory, and its scripts; those that are only there for the others in brackets.
-    const auto collected = [&](std::vector<std::string> arguments) {
-        std::string list, reason;
-        for (std::string& each : arguments)
-            each = (data / each).string();
-        for (const auto& folder : script_check::collect(arguments, "", read, reason)) {
-            list +=
-                relative(folder.path, data).string() + (folder.dataDirectory.empty() ? "" : " (data)") + ':';
-            for (const auto& file : folder.files) {
-                const std::string name = std::filesystem::path(file.path).filename().string();
-                list += file.isReported ? ' ' + name : " [" + name + ']';
-            }
-            list += '\n';
-        }
-        return reason.empty() ? list : reason.substr(reason.rfind('/') + 1);
-    };
-    EXPECT_EQ(collected({""}), "UIG (data): old.tgx script.tgs\nother: menu.tgs\n");
-    EXPECT_EQ(collected({"UIG/old.tgx"}), "UIG (data): old.tgx [script.tgs]\n");
-    EXPECT_EQ(collected({"UIG/script.tgx", "other"}),
-              "UIG (data): [more.tgs] [old.tgx] script.tgx\nother: menu.tgs\n");
-    EXPECT_EQ(collected({"UIG/none.tgs"}), "none.tgs: error: cannot read: there is none");
 }
 
 } // namespace

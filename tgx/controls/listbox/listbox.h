@@ -193,6 +193,7 @@ public:
 protected:
     int getColumnStartPos(int column) const;
     int hasTitleRow() const { return titles.GetSize() > 0; }
+    int titleRoom(int column, int length) const;
     /// y from the window's top. The title row counts as the row above the page, -1 behind the last row.
     int getItemAtPos(int y) const;
 
@@ -261,7 +262,6 @@ private:
     void drawIcon(const ListCell& cell, int column, int x, int y);
     void drawProgress(surface& icon, int column, int percent, int x, int y);
     void drawFrame(surface& icon, int column, int frame, int x, int y);
-    int titleRoom(int column, int length) const;
     bmpfont* fontOfRow(int item) const;
 
     void takeHotFromPointer(int x, int y);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tools/tgx/check/check.h"
 #include "tools/tgx/check/findings.h"
 
 #include <deque>
@@ -7,7 +8,7 @@
 namespace script_check {
 
 /// Takes findings away that a comment in the line before allows, "# tgx: allow CODE ...", and finds
-/// allowances that silence nothing or name no code.
-void applyAllowances(const std::deque<Script>& scripts, Findings& findings);
+/// allowances that silence nothing or name no code. What keeps a script from being built stays.
+void applyAllowances(const std::deque<Script>& scripts, const CheckOptions& options, Findings& findings);
 
 } // namespace script_check

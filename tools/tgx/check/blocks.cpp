@@ -1,9 +1,12 @@
 // Rules for blocks: what belongs to which window.
 
 #include "tgx/script/token.h"
+#include "tools/tgx/check/pointers.h"
 #include "tools/tgx/check/rules.h"
 
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 namespace script_check {
 
@@ -31,6 +34,27 @@ int columnOf(const Script& script, int line)
     return script.line(line).tokens[0].at.column;
 }
 
+/// What stands behind a body of one line and looks as if it were part of it. Windows may begin there.
+bool isBehindBody(const Script& script, int line)
+{
+    const Statement* statement = script.statement(line);
+    if (!statement || line < 2 || script.place(line).depth > 0 ||
+        script.place(line).subroutine != LinePlace::none || script.place(line - 1).subroutine != line - 2)
+        return false;
+    switch (statement->kind) {
+    case StatementKind::BlockBegin:
+    case StatementKind::Command:
+    case StatementKind::Reference:
+        return true;
+    case StatementKind::Attribute:
+        return !script.isKeyword(line, "FONT"); // is told as one that stands outside
+    case StatementKind::Window:
+        return makesControl(*statement);
+    default:
+        return false;
+    }
+}
+
 class BlockRules {
 public:
     BlockRules(const Script& checked, Findings& found) : script(checked), findings(found) {}
@@ -38,20 +62,32 @@ public:
     bool run()
     {
         for (int line = 0; line < script.lineCount(); ++line)
-            if (const Statement* statement = script.statement(line))
+            if (const Statement* statement = script.statement(line)) {
+                if (isBehindBody(script, line))
+                    reportBehindBody(line);
                 check(line, *statement);
+            }
         if (!open.empty())
             reportUnclosed();
         return open.empty();
     }
 
 private:
+    void reportBehindBody(int line)
+    {
+        findings.add("behind-body", script, line,
+                     "the subroutine " + inQuotes(script.string(line - 2, 1)) + " ends with " +
+                         lineNumber(script, line - 1) +
+                         ", and this is no part of it; a body of several lines stands between BEGIN and END");
+    }
+
     void check(int line, const Statement& statement)
     {
         const LinePlace& place = script.place(line);
         switch (statement.kind) {
         case StatementKind::BlockBegin:
             open.push_back(line);
+            standing.push_back(line);
             if (place.subroutine == LinePlace::none || place.depth > 0)
                 checkOpener(line);
             return;
@@ -98,24 +134,35 @@ private:
             findings.add("end-without-begin", script, line, "no block is open here; expected BEGIN first");
             return;
         }
-        const int begin = open.back();
         open.pop_back();
-        // Of the blocks that close otherwise than they look, the first is the one that lost its END.
-        if (!script.isCompiled && oddBegin < 0 && script.line(begin).in == script.line(line).in &&
-            columnOf(script, begin) > columnOf(script, line)) {
-            oddBegin = begin;
-            oddEnd = line;
+        // A block that stands further to the right than its END has lost its own.
+        if (script.isCompiled)
+            return;
+        for (; !standing.empty(); standing.pop_back()) {
+            const int each = standing.back();
+            if (script.line(each).in != script.line(line).in ||
+                columnOf(script, each) <= columnOf(script, line))
+                break;
+            lost.emplace_back(each, line);
         }
+        if (!standing.empty())
+            standing.pop_back();
     }
 
+    /// Where the indentation tells which blocks lost their END, those; else the ones that are open in the
+    /// end.
     void reportUnclosed()
     {
-        if (oddBegin >= 0)
-            findings.add("begin-without-end", script, oddBegin,
-                         "no END of its own closes this block: the one in " + lineNumber(script, oddEnd) +
+        if (lost.size() + standing.size() != open.size() || script.isCompiled) {
+            lost.clear();
+            standing = open;
+        }
+        for (const auto& [begin, end] : lost)
+            findings.add("begin-without-end", script, begin,
+                         "no END of its own closes this block: the one in " + lineNumber(script, end) +
                              " does, and stands further to the left");
-        else
-            findings.add("begin-without-end", script, open.front(), "no END closes this block");
+        for (const int begin : standing)
+            findings.add("begin-without-end", script, begin, "no END closes this block");
     }
 
     void checkOpener(int begin)
@@ -124,7 +171,7 @@ private:
         if (begin + 1 < script.lineCount())
             opener = script.place(begin + 1).opener;
         if (begin + 1 < script.lineCount() && opener == LinePlace::none &&
-            script.place(begin + 1).block == begin)
+            script.place(begin + 1).block == begin && !isBehindBody(script, begin))
             findings.add("block-without-window", script, begin,
                          "no window stands in front of this block, so its lines act on the root of all "
                          "windows");
@@ -136,6 +183,8 @@ private:
         const Statement* before = line > 0 ? script.statement(line - 1) : nullptr;
         const bool followsWindow = before && namesItsWindow(*before);
         const std::string keyword = statement.keyword;
+        if (isBehindBody(script, line))
+            return;
         if (place.depth == 0 && place.subroutine == LinePlace::none) {
             // What asks for a type of window fails there, which is told when it does.
             if (keyword != "FONT" && (fitsAnyWindow(statement) || isTabList(keyword)))
@@ -145,7 +194,7 @@ private:
                                                       " it stands between BEGIN and END"
                                                 : ""));
         } else if (followsWindow && fitsAnyWindow(statement) && script.place(line - 1).block == place.block &&
-                   !(keyword == "FONT" && makesWindowBehind(line))) {
+                   !(keyword == "FONT" && makesWindowBehind(line)) && !isForPopup(keyword, place)) {
             const std::string around = place.opener >= 0 && script.tokenCount(place.opener) > 1 &&
                                                !makesPart(*script.statement(place.opener))
                                            ? inQuotes(script.string(place.opener, 1))
@@ -156,23 +205,32 @@ private:
         }
     }
 
-    /// Whether a window that takes the font comes in the same block.
+    /// EASYCLOSE does something for a popup only, which is a window of the top level.
+    bool isForPopup(std::string_view keyword, const LinePlace& place) const
+    {
+        return keyword == "EASYCLOSE" && (place.depth == 1 || place.opener == LinePlace::caller);
+    }
+
+    /// Whether a window that takes the font comes in the same block, or may come by a subroutine.
     bool makesWindowBehind(int line) const
     {
         const LinePlace& place = script.place(line);
         for (int each = line + 1; each < script.lineCount() && script.place(each).depth >= place.depth;
              ++each)
             if (const Statement* statement = script.statement(each);
-                statement && makesWindow(*statement) && script.place(each).block == place.block)
+                statement && script.place(each).block == place.block &&
+                (makesWindow(*statement) || statement->kind == StatementKind::Reference ||
+                 script.isKeyword(each, "GOTO")))
                 return true;
         return false;
     }
 
     const Script& script;
     Findings& findings;
-    std::vector<int> open; // BEGIN lines
-    int oddBegin = -1;     // closed by an END further to the left
-    int oddEnd = -1;
+    std::vector<int> open;     // BEGIN lines
+    std::vector<int> standing; // those that no END has closed, by the indentation
+    /// BEGIN lines that lost their END, each with the END further left that closes it.
+    std::vector<std::pair<int, int>> lost;
     bool wasTooDeep = false;
 };
 
@@ -180,6 +238,16 @@ private:
 bool setsOnce(const Statement& statement)
 {
     return statement.kind == StatementKind::Attribute && !statement.counts.allow(maxLineTokens);
+}
+
+/// Whether a line sets whatever the earlier one of its kind has set. One with fewer arguments may leave some
+/// of it, and negative numbers stand for what there is.
+bool setsAllOf(const Script& script, int line, int earlier)
+{
+    for (int token = 1; token < script.tokenCount(line); ++token)
+        if (script.number(line, token) < 0)
+            return false;
+    return script.tokenCount(line) >= script.tokenCount(earlier);
 }
 
 } // namespace
@@ -232,7 +300,8 @@ void checkOverridden(const Script& script, Findings& findings)
             continue;
         const auto [before, isFirst] = level.setters.try_emplace(statement->id, line);
         if (!isFirst) {
-            report(before->second, line, " is undone by the same statement in ");
+            if (setsAllOf(script, line, before->second))
+                report(before->second, line, " is undone by the same statement in ");
             before->second = line;
         }
         if (statement->id == bmpInfo)
@@ -245,6 +314,25 @@ void checkOverridden(const Script& script, Findings& findings)
     }
     while (!levels.empty())
         leave();
+}
+
+void checkWithoutBlock(const Script& script, const PointerTargets& shown, Findings& findings)
+{
+    const std::string file = folded(script.name);
+    const bool isLibrary = !script.subroutines.empty() || file == commonScriptFile;
+    for (const int line : script.topWindows) {
+        const std::string& name = script.string(line, 1);
+        if (file == mainScriptFile || !(isLibrary || shown.contains(script, name)) ||
+            isBehindBody(script, line))
+            continue;
+        const Statement* next = line + 1 < script.lineCount() ? script.statement(line + 1) : nullptr;
+        if (!next || name.empty() || name == "static" || next->kind == StatementKind::BlockBegin ||
+            next->kind == StatementKind::BlockEnd || next->kind == StatementKind::Attribute)
+            continue; // an attribute outside of blocks is told
+        findings.add("without-block", script, line, 1,
+                     "a read of " + inQuotes(name) + " carries out " + lineNumber(script, line + 1) +
+                         " too, which is none of it; write BEGIN and END behind this line");
+    }
 }
 
 void checkTopNames(const Script& script, Findings& findings)

@@ -77,10 +77,16 @@ private:
 
     void follow(Script& script, int line, int caller)
     {
-        Script* target = script.tokenCount(line) > 2 ? useScript(script, line) : &script;
-        if (!target)
-            return;
         const std::string& name = script.string(line, 1);
+        Script* target = script.tokenCount(line) > 2 ? useScript(script, line) : &script;
+        if (!target) {
+            // An embedded script, which may well be one of these.
+            if (isResourceNumber(script.string(line, 2)))
+                for (Script* each : scripts)
+                    if (Subroutine* body = each->subroutine(name))
+                        body->isUsed = true;
+            return;
+        }
         Subroutine* called = target->subroutine(name);
         if (!called) {
             if (!target->isBroken)
@@ -130,6 +136,10 @@ private:
             }
             const Call& call = node.calls[path.back().nextCall++];
             Node& callee = nodes[call.callee];
+            if (callee.state == Node::Entered || callee.subroutine->reachesRing)
+                for (auto step = path.rbegin();
+                     step != path.rend() && !nodes[step->node].subroutine->reachesRing; ++step)
+                    nodes[step->node].subroutine->reachesRing = true;
             if (callee.state == Node::Fresh) {
                 callee.state = Node::Entered;
                 path.push_back({call.callee});

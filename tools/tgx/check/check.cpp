@@ -34,7 +34,8 @@ private:
 void parseAll(std::vector<ScriptFile>& files, const script_text::ReadFile& read, CheckReport& report)
 {
     for (ScriptFile& file : files) {
-        std::string name = fs::path(file.path).filename().replace_extension(".tgx").string();
+        std::string name =
+            file.name.empty() ? fs::path(file.path).filename().replace_extension(".tgx").string() : file.name;
         std::string text = file.isCompiled ? script_text::print(file.contents) : std::move(file.contents);
         report.scripts.emplace_back(std::move(name), file.isCompiled, file.isReported,
                                     script_text::parse(file.path, std::move(text), read),
@@ -44,20 +45,15 @@ void parseAll(std::vector<ScriptFile>& files, const script_text::ReadFile& read,
 
 /// Those that add fonts come first, the main script in front of all others. Where there are several mains,
 /// what has no fonts of its own takes those of the one that has the most.
-std::vector<Script*> inReadingOrder(std::deque<Script>& scripts)
+void putInReadingOrder(std::vector<Script*>& scripts)
 {
-    std::vector<std::pair<std::pair<int, int>, Script*>> ranked;
-    for (Script& each : scripts) {
-        const int fonts = each.fontCount();
-        const bool isMain = folded(each.name) == mainScriptFile;
-        ranked.push_back({{fonts == 0 ? 2 : isMain ? 0 : 1, fonts}, &each});
-    }
-    std::stable_sort(ranked.begin(), ranked.end(),
-                     [](const auto& a, const auto& b) { return a.first < b.first; });
-    std::vector<Script*> order;
-    for (const auto& each : ranked)
-        order.push_back(each.second);
-    return order;
+    const auto rank = [](const Script* script) {
+        const int fonts = script->fontCount();
+        const bool isMain = folded(script->name) == mainScriptFile;
+        return std::pair(fonts == 0 ? 2 : isMain ? 0 : 1, fonts);
+    };
+    std::stable_sort(scripts.begin(), scripts.end(),
+                     [&](const Script* a, const Script* b) { return rank(a) < rank(b); });
 }
 
 /// The box of the first screen, where the call has not said the size.
@@ -71,9 +67,11 @@ void findScreenSize(CheckOptions& options, const std::vector<Script*>& scripts)
             }
 }
 
-void checkTrees(const std::vector<Script*>& scripts, const ScriptSet& set, const CheckOptions& options,
+void checkTrees(const std::vector<Script*>& scripts, const ScriptSet& set, CheckOptions options,
                 Findings& findings)
 {
+    const bool isSizeGiven = options.screenWidth > 0;
+    findScreenSize(options, scripts);
     const bool hasData = !options.dataDirectory.empty();
     Reading reading(scripts, set,
                     {options.screenWidth > 0 ? options.screenWidth : usualWidth,
@@ -81,18 +79,22 @@ void checkTrees(const std::vector<Script*>& scripts, const ScriptSet& set, const
                      options.scriptLines, options.scriptWork},
                     findings);
     Pictures pictures(reading);
-    TreeCheck tree{reading, pictures, findings, options.screenWidth, options.screenHeight};
+    const PointerTargets shown(scripts, set);
+    TreeCheck tree{reading,    pictures, findings, shown, hasData, options.screenWidth, options.screenHeight,
+                   isSizeGiven};
     for (Script* script : scripts) {
         if (script->isBroken || script->isUnbalanced || (!script->isReported && script->fontCount() == 0))
             continue;
         if (hasData)
             checkPictures(*script, pictures, findings);
+        checkWithoutBlock(*script, shown, findings);
         reading.read(*script);
         AWnd& root = *reading.window().getScreenList();
         checkControls(tree, root);
         checkLayout(tree, root);
         checkTexts(tree, root);
         checkStrips(tree, root);
+        checkLists(tree, root);
     }
     if (hasData && options.unusedFiles)
         checkUnusedFiles(options.dataDirectory, scripts, findings);
@@ -137,15 +139,19 @@ CheckReport check(std::vector<ScriptFile> files, const script_text::ReadFile& re
         if (script.isBroken)
             continue;
         checkArguments(script, findings);
+        checkUnread(script, findings);
         script.isUnbalanced = !checkBlocks(script, findings);
         checkOverridden(script, findings);
         checkTopNames(script, findings);
     }
-    std::vector<Script*> order = inReadingOrder(report.scripts);
+    std::vector<Script*> order;
+    for (Script& script : report.scripts)
+        order.push_back(&script);
+    findFonts(order, set);
+    putInReadingOrder(order);
     checkCalls(order, set, findings);
-    findScreenSize(options, order);
     checkTrees(order, set, options, findings);
-    applyAllowances(report.scripts, findings);
+    applyAllowances(report.scripts, options, findings);
     report.findings = std::move(findings.all);
     sort(report.findings, report.scripts);
     return report;

@@ -16,6 +16,7 @@ struct ScriptFile {
     std::string contents; // text, or bytes of a compiled script
     bool isCompiled;
     bool isReported = true; // false: it is only there because the others use it
+    std::string name = "";  // by which others ask for it, "sub\\menu.tgx"; "": that of its file
 };
 
 struct CheckOptions {

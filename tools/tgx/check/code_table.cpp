@@ -110,8 +110,9 @@ constexpr Code rows[] = {
      "LISTBOX \"L\" 0 0 100 100\nBEGIN\n  ITEM \"a\" \"b\"\nEND",
      "LISTBOX \"L\" 0 0 100 100\nBEGIN\n  COLUMNS 40 40\n  ITEM \"a\" \"b\"\nEND"},
     {"missing-icon", error, "an icon that the list does not have",
-     "ICON0 is the first file of LISTICONS. A cell with an icon that is not there ends each frame in an "
-     "exception.",
+     "ICON0 is the first file of LISTICONS, ICON0F2 its frame 2. A cell with an icon that is not there ends "
+     "each frame in an exception. Every cell that begins with ICON in capitals is an icon, words such as "
+     "ICONIC too.",
      "LISTBOX \"L\" 0 0 100 100\nBEGIN\n  LISTICONS \"a.bmp\"\n  ITEM \"ICON1\"\nEND",
      "LISTBOX \"L\" 0 0 100 100\nBEGIN\n  LISTICONS \"a.bmp\"\n  ITEM \"ICON0\"\nEND"},
     {"budget", error, "a limit of the toolkit is passed",
@@ -135,7 +136,8 @@ constexpr Code rows[] = {
      "", ""},
     {"tab-pages", error, "a tab control whose tabs and pages do not go together",
      "In its block stand the tabs, one radio group, and as many pages in the same order, all tabs in front "
-     "or all pages in front.",
+     "or all pages in front. A button that stands straight in it counts as a tab when it is clicked, and no "
+     "page belongs to it: it stands in a page, or outside.",
      "TABCONTROL \"T\" 0 0 200 200\nBEGIN\n  RADIOBUTTON \"A\" 0 0 50 20 \"A\"\n  RADIOBUTTON \"B\" 50 0 50 "
      "20 \"B\"\n  WINDOW \"PAGE_A\" 0 20 200 180\nEND",
      "TABCONTROL \"T\" 0 0 200 200\nBEGIN\n  RADIOBUTTON \"A\" 0 0 50 20 \"A\"\n  RADIOBUTTON \"B\" 50 0 50 "
@@ -188,6 +190,19 @@ constexpr Code rows[] = {
      "of that one is carried out.",
      "SUBROUTINE \"A\"\nSUBROUTINE \"B\"\nBEGIN\nEND",
      "SUBROUTINE \"A\"\nBEGIN\nEND\nSUBROUTINE \"B\"\nBEGIN\nEND"},
+    {"behind-body", warning, "lines behind the body of a subroutine that look like part of it",
+     "The body is one statement: a line, or a block from BEGIN to END. A block behind a window's line is a "
+     "second statement, and never runs.",
+     "SUBROUTINE \"PANEL\"\nWINDOW \"BOX\" 0 0 90 90\nBEGIN\n  TEXT \"a\"\nEND",
+     "SUBROUTINE \"PANEL\"\nBEGIN\n  WINDOW \"BOX\" 0 0 90 90\n  BEGIN\n    TEXT \"a\"\n  END\nEND"},
+    {"without-block", warning, "a window without a block in a script of which single windows are read",
+     "The read of a window ends with its block. Without one it carries out the next line as well, whatever "
+     "that "
+     "is: it makes another window, which is empty then and found by a later POINTER.",
+     "SUBROUTINE \"S\"\nBEGIN\nEND\nWINDOW \"A\" 0 0 90 90\nWINDOW \"B\" 0 0 90 90\nBEGIN\n  GOTO "
+     "\"S\"\nEND",
+     "SUBROUTINE \"S\"\nBEGIN\nEND\nWINDOW \"A\" 0 0 90 90\nBEGIN\nEND\nWINDOW \"B\" 0 0 90 "
+     "90\nBEGIN\n  GOTO \"S\"\nEND"},
     // Controls.
     {"radio-group", warning, "a radio group that is broken by a window between",
      "Radio buttons are one group when their lines follow one another. Any window between, a label say, "
@@ -196,18 +211,20 @@ constexpr Code rows[] = {
      "\"x\"\n  RADIOBUTTON \"B\" 0 20 50 20 \"b\"\nEND",
      "WINDOW \"W\" 0 0 90 90\nBEGIN\n  RADIOBUTTON \"A\" 0 0 50 20 \"a\"\n  RADIOBUTTON \"B\" 0 20 50 20 "
      "\"b\"\n  TEXTWND \"static\" 50 0 40 20 \"x\"\nEND"},
-    {"unreachable", warning, "a control that neither Tab nor arrows reach",
-     "Tab and the arrows walk the windows that TABORDER names, TABLIST1 and TABLIST2 lead the keys Insert, "
-     "Delete, Home and End; a radio group counts as a whole. What Esc points at counts as reached too.",
+    {"unreachable", warning, "a control that no key reaches",
+     "Tab and the arrows to the left and right walk the TABORDER of the screen or popup itself; those of "
+     "windows inside are not asked. Insert and Delete go to what TABLIST1 begins with, Home and End to what "
+     "TABLIST2 begins with, if that is a combo box or a radio button. A radio group counts as a whole, and "
+     "what Esc points at as reached. A window that a POINTER shows has its stops where it is shown.",
      "SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"A\" 0 0 80 24 \"a\"\n  BUTTON \"B\" 0 24 80 24 "
      "\"b\"\n  TABORDER \"A\"\nEND",
      "SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"A\" 0 0 80 24 \"a\"\n  BUTTON \"B\" 0 24 80 24 "
      "\"b\"\n  TABORDER \"A\" \"B\"\nEND"},
     // Looks.
     {"text-clipped", warning, "a text that does not fit its box in its font",
-     "On one line a text is cut at the right, wrapped it loses the lines that have no room; letters higher "
-     "than the box stick out of it. Make the box larger, the font smaller or the text shorter, or let it "
-     "wrap with TEXTWRAP 1.",
+     "On one line a text is cut at the right. Wrapped it loses the lines that have no room, and a word that "
+     "is wider than the box loses a letter at each place where it is cut. Letters higher than the box stick "
+     "out of it. Make the box larger, the font smaller or the text shorter, or let it wrap with TEXTWRAP 1.",
      "TEXTWND \"T\" 0 0 20 24 \"a long text\"", "TEXTWND \"T\" 0 0 200 24 \"a long text\""},
     {"sticks-out", warning, "a window that sticks out of the one it stands in",
      "A part of a control that lies outside of its parent takes no click, and a text there looks lost. A "
@@ -227,8 +244,9 @@ constexpr Code rows[] = {
      "BORDER \"frame.bmp\" 4 0", "BORDER \"frame.bmp\" 4 8"},
     // Of no use.
     {"no-effect", warning, "a statement without effect",
-     "Another line undoes it, the window ignores it, or it has no arguments where it needs some. BMPFILE "
-     "takes back the frame size of a BMPINFO in front of it.",
+     "Another line undoes it, the window ignores it, it has no arguments where it needs some, or arguments "
+     "that are not read. BMPFILE takes back the frame size of a BMPINFO in front of it. Out of a script with "
+     "subroutines windows are read one by one, and a FONT outside of them is passed over.",
      "TEXTWND \"T\" 0 0 90 24 \"\"\nBEGIN\n  TEXT \"a\"\n  TEXT \"b\"\nEND",
      "TEXTWND \"T\" 0 0 90 24 \"\"\nBEGIN\n  TEXT \"b\"\nEND"},
     {"late-columns", warning, "columns that come behind rows",
@@ -248,14 +266,19 @@ constexpr Code rows[] = {
      "All scripts of the folder are looked at.", "SUBROUTINE \"S\"\nBEGIN\nEND",
      "SUBROUTINE \"S\"\nBEGIN\nEND\nWINDOW \"W\" 0 0 9 9\nBEGIN\n  GOTO \"S\"\nEND"},
     {"unused-file", warning, "a picture or font that no script names",
-     "Looked for with --unused-files only, for the game may load it in code.", "", ""},
+     "Looked for with --unused-files only, for the game may load it in code. Told at the first line of the "
+     "main "
+     "script, or of the first one; an allowance there is for all of them.",
+     "", ""},
     // Allowances.
     {"unknown-code", warning, "an allowance for a code that there is not",
      "tgx check --explain lists all codes.", "# tgx: allow text-clip\nFONT 1",
      "# tgx: allow text-clipped\nFONT 1"},
     {"unused-allowance", warning, "an allowance that silences nothing",
-     "The line behind it has no such finding, or not any more.", "# tgx: allow text-clipped\nFONT 1",
-     "FONT 1"},
+     "The line behind it has no such finding, or not any more; or it stands behind a line, where it is for "
+     "none. An error "
+     "that keeps the script from being built cannot be allowed.",
+     "# tgx: allow sticks-out\nFONT 1", "FONT 1"},
 };
 
 } // namespace

@@ -1,4 +1,4 @@
-// Rules for what belongs together: the ids of a screen, radio groups, tabs and pages, tab stops.
+// Rules for what belongs together: the ids of a screen, tabs and pages, tab stops.
 
 #include "tgx/controls/radiobutton.h"
 #include "tgx/wnd/reserved.h"
@@ -7,6 +7,7 @@
 #include "tools/tgx/check/words.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace script_check {
 
@@ -24,90 +25,38 @@ std::string lineOf(const TreeCheck& check, const AWnd& wnd)
                                            : std::string("?"));
 }
 
-// Radio groups.
-
-struct Group {
-    int first, last; // places among the children
-};
-
-/// What stands in front of the last underscore, or of digits at the end.
-std::string_view stem(std::string_view id)
-{
-    const std::size_t underscore = id.rfind('_');
-    if (underscore != std::string_view::npos && underscore > 0)
-        return id.substr(0, underscore);
-    return id.substr(0, id.find_last_not_of("0123456789") + 1);
-}
-
-/// Whether b goes on where a ends: the same step to the right or down as inside one of them.
-bool goesOn(AWnd& parent, const Group& a, const Group& b)
-{
-    const auto box = [&](int place) { return boxOf(*parent.getWndFromIndex(place, "")); };
-    const Box end = box(a.last);
-    const Box start = box(b.first);
-    const auto isStep = [&](const Group& group) {
-        if (group.first == group.last)
-            return false;
-        const Box one = box(group.first);
-        const Box two = box(group.first + 1);
-        return start.x - end.x == two.x - one.x && start.y - end.y == two.y - one.y;
-    };
-    return isStep(a) || isStep(b);
-}
-
-/// Two groups side by side are no fault. One that is broken tells itself by its places, its ids or its size.
-void checkRadioGroups(TreeCheck& check, AWnd& parent)
-{
-    std::vector<Group> groups;
-    for (int i = 0; i < parent.getWindowCount(); ++i) {
-        if (!isRadio(parent.getWndFromIndex(i, "")))
-            continue;
-        if (!groups.empty() && groups.back().last == i - 1)
-            groups.back().last = i;
-        else
-            groups.push_back({i, i});
-    }
-    bool isBrokenOff = false; // the group before is the rest of another one
-    for (std::size_t i = 1; i < groups.size(); ++i) {
-        const Group& a = groups[i - 1];
-        const Group& b = groups[i];
-        AWnd& before = *parent.getWndFromIndex(a.last, "");
-        AWnd& next = *parent.getWndFromIndex(b.first, "");
-        const std::string_view common = stem(before.getID().view());
-        const bool isAlone = (a.first == a.last && !isBrokenOff) || b.first == b.last;
-        const bool hasOneStem = common.size() > 1 && common == stem(next.getID().view());
-        isBrokenOff = isAlone || hasOneStem || goesOn(parent, a, b);
-        if (!isBrokenOff)
-            continue;
-        AWnd& between = *parent.getWndFromIndex(a.last + 1, "");
-        check.add("radio-group", next,
-                  describe(next) + " begins a group of its own: " + describe(between) + " of " +
-                      lineOf(check, between) + " parts it from " + describe(before));
-    }
-}
-
 // Tabs and pages.
 
 void checkTabs(TreeCheck& check, AWnd& control)
 {
     int tabs = 0;
     int pages = 0;
+    int unknown = 0; // of the game's classes: tabs or pages
     int changes = 0; // from tab to page or back
+    bool hasButton = false;
     bool wasTab = false;
     for (int i = 0; i < control.getWindowCount(); ++i) {
-        const AWnd* child = control.getWndFromIndex(i, "");
-        const bool isTab = isRadio(child) || (child && child->getWindowType() == AWnd::WND_BUTTON);
-        (isTab ? tabs : pages) += 1;
-        changes += i > 0 && isTab != wasTab;
-        wasTab = isTab;
+        AWnd* child = control.getWndFromIndex(i, "");
+        if (!child)
+            continue;
+        if (child->getWindowType() == AWnd::WND_BUTTON) {
+            hasButton = true;
+            check.add("tab-pages", *child,
+                      describe(*child) + " stands among the tabs of " + describe(control) +
+                          " and is none of their group: a click on it turns the pages too, and none is its "
+                          "own. Tabs are radio buttons; other buttons stand in a page");
+        }
+        (check.reading.isOfGame(child) ? unknown : isRadio(child) ? tabs : pages) += 1;
+        changes += i > 0 && isRadio(child) != wasTab;
+        wasTab = isRadio(child);
     }
-    if (tabs + pages == 0)
-        return; // the game fills it
-    if (tabs != pages)
+    if (tabs + pages == 0 || hasButton)
+        return; // the game fills it, or it is told
+    if (std::abs(tabs - pages) > unknown)
         check.add("tab-pages", control,
                   describe(control) + " has " + std::to_string(tabs) + (tabs == 1 ? " tab" : " tabs") +
                       " and " + std::to_string(pages) + (pages == 1 ? " page" : " pages"));
-    else if (changes > 1)
+    else if (changes > 1 && unknown == 0)
         check.add("tab-pages", control,
                   "tabs and pages of " + describe(control) +
                       " are mixed; first stand all of the ones, then all of the others");
@@ -122,7 +71,7 @@ public:
     void run()
     {
         forEachBelow(top, [&](AWnd& wnd) {
-            noteStops(wnd);
+            noteInnerStops(wnd);
             if (!isPart(check, wnd))
                 noteId(wnd);
         });
@@ -131,8 +80,10 @@ public:
                 controls.push_back(&wnd);
         });
         // A panel that a POINTER shows has its stops in the screen that shows it.
-        if (!check.reading.isPointedTo(&top))
+        if (!isShownElsewhere()) {
+            noteStops();
             checkReach();
+        }
     }
 
 private:
@@ -147,14 +98,58 @@ private:
                           " already, in " + lineOf(check, *first->second) + ", and is found first");
     }
 
-    void noteStops(AWnd& wnd) { noteStopsOf(wnd.getTabStopInfo(0)); }
-    void noteStopsOf(const ATabStopInfo* stops)
+    bool isShownElsewhere() const
     {
+        const WndLines* lines = check.reading.linesOf(&top);
+        return check.reading.isPointedTo(&top) ||
+               (lines && lines->made && check.shown.contains(*lines->made.script, top.getID().view()));
+    }
+
+    /// Tab walks the order of the screen or popup itself, and asks no window inside. One that is hidden the
+    /// game may open as a popup.
+    void noteInnerStops(AWnd& wnd)
+    {
+        const ATabStopInfo* stops = wnd.getTabStopInfo(0);
         if (!stops)
             return;
-        for (const WndList* list : {&stops->tabOrderWnds, &stops->homeEndWnds, &stops->insertDeleteWnds})
-            for (int i = 0; i < list->GetSize(); ++i)
-                reached.insert(list->GetAt(i));
+        const AWnd* parent = wnd.getParent();
+        const bool isPage = parent && parent->getWindowType() == AWnd::WND_TABCONTROL;
+        for (int i = 0; i < stops->tabOrderWnds.GetSize(); ++i)
+            if (!wnd.isVisible(0) && !isPage)
+                reached.insert(stops->tabOrderWnds.GetAt(i));
+            else
+                innerOrders.try_emplace(stops->tabOrderWnds.GetAt(i), &wnd);
+    }
+
+    void noteStops()
+    {
+        const ATabStopInfo* stops = top.getTabStopInfo(0);
+        if (!stops)
+            return;
+        for (int i = 0; i < stops->tabOrderWnds.GetSize(); ++i)
+            reached.insert(stops->tabOrderWnds.GetAt(i));
+        noteKeyList(stops->insertDeleteWnds, "TABLIST1", "Insert and Delete");
+        noteKeyList(stops->homeEndWnds, "TABLIST2", "Home and End");
+    }
+
+    /// Keys go to a combo box that stands first, or to the first radio button that shows; else to where the
+    /// pointer is.
+    void noteKeyList(const WndList& list, std::string_view keyword, const char* keys)
+    {
+        if (list.IsEmpty() || !list.GetAt(0) || check.reading.isOfGame(list.GetAt(0)))
+            return;
+        AWnd& first = *list.GetAt(0);
+        if (first.getWindowType() == AWnd::WND_COMBOBOX) {
+            reached.insert(&first);
+        } else if (isRadio(&first)) {
+            for (int i = 0; i < list.GetSize(); ++i)
+                if (isRadio(list.GetAt(i)))
+                    reached.insert(list.GetAt(i));
+        } else if (const std::vector<LineRef> at = check.linesOn(top, keyword); !at.empty()) {
+            check.findings.add("no-effect", *at[0].script, at[0].line, 1,
+                               std::string(keys) + " go to no list that begins with " + typeOf(first) +
+                                   ": a combo box or a radio button stands first");
+        }
     }
 
     /// Inside another control, which leads to it.
@@ -166,7 +161,7 @@ private:
 
     bool isReached(AWnd& wnd) const
     {
-        if (reached.contains(&wnd) || check.reading.isNamedStop(&wnd) || escPointsAt(wnd.getID().view()))
+        if (reached.contains(&wnd) || check.reading.isNamedStop(wnd) || escPointsAt(wnd.getID().view()))
             return true;
         if (!isRadio(&wnd))
             return false;
@@ -179,10 +174,9 @@ private:
 
     void checkReach()
     {
-        noteStopsOf(top.getTabStopInfo(0));
         const auto missed =
             std::count_if(controls.begin(), controls.end(), [this](AWnd* wnd) { return !isReached(*wnd); });
-        if (reached.empty() && missed > 0) {
+        if (reached.empty() && innerOrders.empty() && missed > 0) {
             check.add("unreachable", top,
                       "no key reaches the " +
                           (missed == 1 ? std::string("control") : std::to_string(missed) + " controls") +
@@ -192,9 +186,16 @@ private:
         }
         for (AWnd* wnd : controls)
             if (!isReached(*wnd))
-                check.add("unreachable", *wnd,
-                          "no key reaches " + describe(*wnd) + ": no TABORDER, TABLIST1 or TABLIST2 in " +
-                              describe(top) + " names it");
+                check.add("unreachable", *wnd, "no key reaches " + describe(*wnd) + ": " + whyMissed(*wnd));
+    }
+
+    std::string whyMissed(AWnd& wnd) const
+    {
+        const auto inner = innerOrders.find(&wnd);
+        if (inner != innerOrders.end())
+            return "it stands in the TABORDER of " + describe(*inner->second) + ", and Tab walks that of " +
+                   describe(top) + " alone";
+        return "no TABORDER of " + describe(top) + " names it";
     }
 
     AWnd* firstMissed() const
@@ -206,8 +207,9 @@ private:
     TreeCheck& check;
     AWnd& top;
     std::unordered_map<std::string, AWnd*> ids;
-    std::unordered_set<const AWnd*> reached; // by a list of stops
-    std::vector<AWnd*> controls;             // in the order of their lines, level by level
+    std::unordered_set<const AWnd*> reached;            // by a list of stops
+    std::unordered_map<const AWnd*, AWnd*> innerOrders; // what a TABORDER of a window inside names
+    std::vector<AWnd*> controls;                        // in the order of their lines, level by level
 };
 
 } // namespace
@@ -215,7 +217,7 @@ private:
 void checkControls(TreeCheck& check, AWnd& root)
 {
     forEachBelow(root, [&](AWnd& wnd) {
-        if (wnd.getWindowType() == AWnd::WND_TABCONTROL)
+        if (wnd.getWindowType() == AWnd::WND_TABCONTROL && !check.reading.lacksLines())
             checkTabs(check, wnd);
         if (!check.reading.isOfGame(&wnd) || wnd.getWindowCount() > 0)
             checkRadioGroups(check, wnd);

@@ -35,12 +35,21 @@ void Findings::add(script_text::Diagnostic found)
         all.push_back(std::move(found));
 }
 
-std::string Findings::didYouMean(std::string_view word, const std::vector<std::string_view>& names)
+std::string_view Findings::nearest(std::string_view word, const std::vector<std::string_view>& names)
 {
     if (suggestions == mostSuggestions || names.size() > mostNames)
-        return "";
+        return {};
     ++suggestions;
-    const std::string_view near = script_text::nearest(word, names);
+    return script_text::nearest(word, names);
+}
+
+std::string Findings::didYouMean(std::string_view word, const std::vector<std::string_view>& names)
+{
+    return script_check::didYouMean(nearest(word, names));
+}
+
+std::string didYouMean(std::string_view near)
+{
     return near.empty() ? "" : "; did you mean " + inQuotes(near) + "?";
 }
 

@@ -21,7 +21,10 @@ public:
     }
     void add(script_text::Diagnostic found);
 
-    /// "; did you mean X?", or nothing. To look takes time: after some hundreds it is always nothing.
+    /// The one of names that was meant, or nothing. To look takes time: after some hundreds it is always
+    /// nothing.
+    std::string_view nearest(std::string_view word, const std::vector<std::string_view>& names);
+    /// "; did you mean X?", or nothing.
     std::string didYouMean(std::string_view word, const std::vector<std::string_view>& names);
 
     std::vector<script_text::Diagnostic> all;
@@ -30,5 +33,8 @@ private:
     std::set<std::tuple<std::string, int, int, std::string_view>> places;
     int suggestions = 0;
 };
+
+/// "; did you mean X?", or nothing for nothing.
+std::string didYouMean(std::string_view near);
 
 } // namespace script_check

@@ -19,60 +19,110 @@ struct Cover {
 };
 constexpr std::size_t mostCovers = 64;
 
+/// A window with others in it.
+struct Around {
+    AWnd* wnd;
+    Box box;      // screen pixels
+    bool isTold;  // it has a finding of its own
+    bool isMoved; // where it comes to stand the game says: what lies around it means nothing
+};
+
 class LayoutRules {
 public:
     explicit LayoutRules(TreeCheck& treeCheck) : check(treeCheck) {}
 
-    void enter(AWnd& parent, const Box& at, std::vector<Cover> covers, bool isRoot)
+    void run(AWnd& root)
     {
-        const bool showsOneAtATime = parent.getWindowType() == AWnd::WND_TABCONTROL || isRoot;
-        const std::size_t inherited = covers.size();
-        for (int i = parent.getWindowCount() - 1; i >= 0; --i) {
-            AWnd* child = parent.getWndFromIndex(i, "");
-            if (!child || child->getParent() != &parent || !seen.insert(child).second)
-                continue; // a window that is shown here too is looked at in its first place
-            Box box = boxOf(*child);
-            box.x += at.x;
-            box.y += at.y;
-            if (isRoot)
-                checkTop(*child);
-            else
-                checkInside(*child, parent, box, at);
-            const bool shows = child->isVisible(0);
-            if (shows && !isRoot)
-                checkCovered(*child, box, covers);
-            enter(*child, box, shows ? covers : std::vector<Cover>(), false);
-            if (shows && !showsOneAtATime)
-                putOnTop(*child, box, covers, inherited);
-        }
+        forEachChild(root, [&](AWnd& top) {
+            const bool isTold = checkTop(top);
+            around.push_back({&top, boxOf(top), isTold, true});
+            enter({});
+            around.pop_back();
+        });
     }
 
 private:
+    template<class Visit>
+    void forEachChild(AWnd& parent, Visit visit)
+    {
+        for (int i = parent.getWindowCount() - 1; i >= 0; --i) {
+            AWnd* child = parent.getWndFromIndex(i, "");
+            // A window that is shown here too is looked at in its first place.
+            if (child && child->getParent() == &parent && seen.insert(child).second)
+                visit(*child);
+        }
+    }
+
+    /// Looks at what stands in the innermost of those around.
+    void enter(std::vector<Cover> covers)
+    {
+        AWnd& parent = *around.back().wnd;
+        const Box at = around.back().box;
+        const bool showsOneAtATime = parent.getWindowType() == AWnd::WND_TABCONTROL;
+        const std::size_t inherited = covers.size();
+        forEachChild(parent, [&](AWnd& child) {
+            Box box = boxOf(child);
+            box.x += at.x;
+            box.y += at.y;
+            const bool isTold = checkInside(child, box);
+            const bool shows = child.isVisible(0);
+            if (shows && !isTold)
+                checkCovered(child, box, covers);
+            around.push_back({&child, box, isTold, !shows || check.reading.isOfGame(&child)});
+            enter(shows ? covers : std::vector<Cover>());
+            around.pop_back();
+            if (shows && !showsOneAtATime)
+                putOnTop(child, box, covers, inherited);
+        });
+    }
+
     /// A popup is put in the middle when it opens, so its position says nothing.
-    void checkTop(AWnd& wnd)
+    bool checkTop(AWnd& wnd)
     {
         const bool isTooLarge = check.screenWidth > 0 && (wnd.getWndWidth() > check.screenWidth ||
                                                           wnd.getWndHeight() > check.screenHeight);
-        if (wnd.getWindowType() == AWnd::WND_PLAIN && isTooLarge)
-            check.add("sticks-out", wnd,
-                      describe(wnd) + " is " + size(wnd.getWndWidth(), wnd.getWndHeight()) +
-                          ", larger than the screen of " + size(check.screenWidth, check.screenHeight));
+        const bool isScreen = wnd.getWindowType() == AWnd::WND_SCREEN;
+        if (!isTooLarge || (isScreen ? !check.isSizeGiven : wnd.getWindowType() != AWnd::WND_PLAIN))
+            return false;
+        check.add("sticks-out", wnd,
+                  describe(wnd) + " is " + size(wnd.getWndWidth(), wnd.getWndHeight()) +
+                      ", larger than the screen of " + size(check.screenWidth, check.screenHeight));
+        return true;
     }
 
-    void checkInside(AWnd& wnd, AWnd& parent, const Box& box, const Box& around)
+    /// From the parent outwards; the first that does not hold it tells.
+    bool checkInside(AWnd& wnd, const Box& box)
     {
         // Where parts lie their control says, and what the game's classes do with their boxes nobody knows.
-        if (around.holds(box) || isPart(check, wnd) || check.reading.isOfGame(&wnd) ||
-            isControlWithParts(parent))
-            return;
+        if (isPart(check, wnd) || check.reading.isOfGame(&wnd))
+            return false;
+        for (auto each = around.rbegin(); each != around.rend(); ++each) {
+            if (check.reading.isOfGame(each->wnd) || isControlWithParts(*each->wnd))
+                return false;
+            if (!each->box.holds(box))
+                return tellOutside(wnd, *each->wnd, box, each->box);
+            if (each->isTold || each->isMoved)
+                return false;
+        }
+        return false;
+    }
+
+    bool tellOutside(AWnd& wnd, AWnd& holder, const Box& box, const Box& place)
+    {
         const bool isText = !wnd.getText().IsEmpty();
-        const std::string parentAndSize = describe(parent) + " (" + size(around.w, around.h) + ")";
-        if (!around.touches(box))
-            check.add("sticks-out", wnd, describe(wnd) + " lies outside of " + parentAndSize);
-        else if (isControl(wnd) || isText)
-            check.add("sticks-out", wnd,
-                      describe(wnd) + " sticks out of " + parentAndSize + ' ' + sides(box, around) +
-                          (isControl(wnd) ? "; what lies outside takes no clicks" : ""));
+        const std::string holderAndSize = describe(holder) + " (" + size(place.w, place.h) + ")";
+        if (!place.touches(box)) {
+            if (!wnd.isVisible(0))
+                return false; // it waits there to be shown
+            check.add("sticks-out", wnd, describe(wnd) + " lies outside of " + holderAndSize);
+            return true;
+        }
+        if (!isControl(wnd) && !isText)
+            return false;
+        check.add("sticks-out", wnd,
+                  describe(wnd) + " sticks out of " + holderAndSize + ' ' + sides(box, place) +
+                      (isControl(wnd) ? "; what lies outside takes no clicks" : ""));
+        return true;
     }
 
     static bool isControlWithParts(const AWnd& wnd)
@@ -150,7 +200,7 @@ private:
             *smallest = cover;
     }
 
-    /// A still picture over the whole box, up to and with its edge.
+    /// A picture of which each frame covers the whole box, up to and with its edge.
     bool isOpaque(AWnd& wnd)
     {
         constexpr int halfMode = 2; // and above: what lies behind shows through
@@ -160,12 +210,17 @@ private:
         const Picture* picture = check.pictures.find(wnd.getBmpFilename().str());
         if (!picture || !picture->isOpaque)
             return false;
+        const auto frame = [](int set, int ofPicture) {
+            return set > 0 ? std::min(set, ofPicture) : ofPicture;
+        };
+        const int width = frame(wnd.getFrameWidth(), picture->width);
+        const int height = frame(wnd.getFrameHeight(), picture->height);
         if (wnd.getBmpTile())
-            return wnd.getFrameWidth() <= 0 || wnd.getFrameWidth() >= picture->width;
-        return wnd.getBmpStretch() ||
-               (picture->width >= wnd.getWndWidth() && picture->height >= wnd.getWndHeight());
+            return width == picture->width;
+        return wnd.getBmpStretch() || (width >= wnd.getWndWidth() && height >= wnd.getWndHeight());
     }
 
+    std::vector<Around> around; // outermost first
     TreeCheck& check;
     std::unordered_set<const AWnd*> seen;
 };
@@ -203,7 +258,7 @@ Box boxOf(const AWnd& wnd)
 
 void checkLayout(TreeCheck& check, AWnd& root)
 {
-    LayoutRules(check).enter(root, {}, {}, true);
+    LayoutRules(check).run(root);
 }
 
 } // namespace script_check

@@ -71,9 +71,24 @@ void checkReserved(const Script& script, int line, const Statement& statement, F
         findings.add("reserved-id", script, line, 1,
                      "a click on " + inQuotes(id) + (leaves ? " leaves the screen" : " closes the box") +
                          ", and this is no button; for decoration write \"static\"");
-    else if (isOneOf(parts, folded(id)))
+    else if (isOneOf(parts, folded(id)) && statement.keyword != std::string_view("USERDEF"))
         findings.add("reserved-id", script, line, 1,
                      "controls look for their parts by " + inQuotes(id) + "; give this window another id");
+}
+
+/// The text has it in one line, be it that of the dump.
+void reportUnfinished(const Script& script, Findings& findings)
+{
+    for (const script_text::Inclusion& in : script.text.inclusions)
+        for (int number = 1; number <= in.file->lineCount(); ++number) {
+            const std::string_view line = in.file->line(number);
+            const std::size_t start = std::min(line.find_first_not_of(" \t"), line.size());
+            if (line.substr(start).starts_with(script_text::unfinishedMark))
+                findings.add({script_text::Diagnostic::Error,
+                              {&in, number, {}},
+                              "the script ends inside a line, which the toolkit drops",
+                              "unfinished"});
+        }
 }
 
 } // namespace
@@ -82,20 +97,19 @@ void checkLines(const Script& script, Findings& findings)
 {
     for (int line = 0; line < script.lineCount(); ++line) {
         const auto& tokens = script.line(line).tokens;
-        if (script.isCompiled)
+        if (script.isCompiled || script.line(line).isAsItStands) // else the text has told them
             for (script_text::LineFault& each : script_text::lineFaults(tokens))
                 findings.add(each.code, script, line, static_cast<int>(each.token), std::move(each.text));
         if (script.isKeyword(line, "COLUMNS") && !script.line(line).isAsItStands)
             checkWidths(script, line, findings);
     }
-    if (script.isCompiled && !script.text.unfinished.empty()) {
-        const script_text::Inclusion& in = script.text.inclusions.front();
-        if (script.isReported)
-            findings.add({script_text::Diagnostic::Error,
-                          {&in, in.file->lineCount(), {}},
-                          "the script ends inside a line, which the toolkit drops",
-                          "unfinished"});
-    }
+    if (script.isReported && !script.text.unfinished.empty())
+        reportUnfinished(script, findings);
+}
+
+bool makesControl(const Statement& statement)
+{
+    return isOneOf(controls, statement.keyword);
 }
 
 void checkArguments(const Script& script, Findings& findings)

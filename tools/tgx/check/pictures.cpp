@@ -110,10 +110,10 @@ void checkUnusedFiles(const std::string& dataDirectory, const std::vector<Script
             unused.push_back(path.lexically_relative(fs::path(dataDirectory).lexically_normal()).string());
     }
     std::sort(unused.begin(), unused.end());
-    const script_text::Inclusion& in = (*first)->text.inclusions.front();
+    const script_text::StatementLine& top = (*first)->line(0); // a comment in front of it can allow them
     for (const std::string& name : unused) // all at one place, which findings.add would take for the same
         findings.all.push_back({script_text::Diagnostic::Warning,
-                                {&in, 1, {}},
+                                {top.in, top.number, {}},
                                 "no script names the file " + script_text::shown(name),
                                 "unused-file"});
 }

@@ -84,6 +84,10 @@ Reading::Reading(const std::vector<Script*>& all, const ScriptSet& names, const 
     : scripts(all), set(names), options(readingOptions), findings(found), main(names.find(mainScriptFile)),
       hostBefore(displayhost::use(nullptr))
 {
+    for (const Script* script : scripts) {
+        hasAllScripts = hasAllScripts && !script->isBroken;
+        knowsAllFonts = knowsAllFonts && !script->isBroken && !script->mayAddMoreFonts;
+    }
     auto host = std::make_unique<HeadlessHost>();
     host->onMessage = [this](const CString& text) { hear(text); };
     displayhost::use(std::move(host));
@@ -132,6 +136,11 @@ const WndLines* Reading::linesOf(const AWnd* wnd) const
     return found == lines.end() ? nullptr : &found->second;
 }
 
+bool Reading::isNamedStop(const AWnd& wnd) const
+{
+    return isCutShort || namedStops.contains(&wnd) || laterStops.contains(folded(wnd.getID().view()));
+}
+
 bool Reading::isKnownFont(const bmpfont* font) const
 {
     return !unknownFonts.contains(font);
@@ -139,8 +148,7 @@ bool Reading::isKnownFont(const bmpfont* font) const
 
 void Reading::read(Script& script)
 {
-    // Without fonts in the main script each script that adds some is a main of its own.
-    if (script.fontCount() > 0 && &script != main && !(main && main->fontCount() > 0))
+    if (isMainOfItsOwn(script))
         openWindow();
     else
         win->recreateScreenList();
@@ -148,12 +156,20 @@ void Reading::read(Script& script)
     ofGame.clear();
     pointedTo.clear();
     namedStops.clear();
+    laterStops.clear();
+    isCutShort = false;
     // Reading down a script with subroutines fails at each of them: it is a library, out of which windows are
     // read one at a time.
     if (script.subroutines.empty())
         readWhole(script);
     else
         readWindows(script);
+}
+
+/// Without fonts in the main script each script that adds some is one.
+bool Reading::isMainOfItsOwn(const Script& script) const
+{
+    return script.fontCount() > 0 && &script != main && !(main && main->fontCount() > 0);
 }
 
 void Reading::readWhole(Script& script)
@@ -163,13 +179,12 @@ void Reading::readWhole(Script& script)
 
 void Reading::readWindows(Script& script)
 {
-    if (&script == main)
-        for (int line = 0; line < script.lineCount(); ++line)
-            if (script.isKeyword(line, "ADDFONT") && script.place(line).subroutine == LinePlace::none) {
-                win->addNewFont(CString(script.string(line, 1)), CString(script.string(line, 2)),
-                                script.number(line, 3), script.number(line, 4));
-                checkMessages({&script, line});
-            }
+    if (&script == main || isMainOfItsOwn(script))
+        for (const LineRef& at : script.fontLines) {
+            win->addNewFont(CString(at.script->string(at.line, 1)), CString(at.script->string(at.line, 2)),
+                            at.script->number(at.line, 3), at.script->number(at.line, 4));
+            checkMessages(at, false);
+        }
     std::unordered_set<std::string_view> names;
     for (const int line : script.topWindows)
         if (const std::string& name = script.string(line, 1);
@@ -204,25 +219,42 @@ void Reading::hear(const CString& message)
         messages.push_back(message);
 }
 
-/// The script from which the line came, or null.
-Script* Reading::scriptOf(const ExecutedLine& executed) const
+/// Nothing for a line of no script that is looked at. Streams say no folder: of scripts of one name it is the
+/// first that has such a line there.
+LineRef Reading::lineOf(const ExecutedLine& executed) const
 {
-    return executed.script.IsEmpty() ? main : set.find(executed.script.view());
+    const auto find = [&](const Script* script) {
+        const int line = script->lineAt(executed.offset);
+        const Statement* statement = line < 0 ? nullptr : script->statement(line);
+        return statement && statement->id == executed.tokens[0].id &&
+                       script->tokenCount(line) == executed.count &&
+                       script->string(line, 1) == executed.tokens[1].text.view()
+                   ? LineRef{script, line}
+                   : LineRef{};
+    };
+    if (executed.script.IsEmpty())
+        return main ? find(main) : LineRef{};
+    for (const Script* script : set.ofFile(executed.script.view()))
+        if (const LineRef found = find(script))
+            return found;
+    return {};
 }
 
 void Reading::see(const ExecutedLine& executed)
 {
-    const Script* script = scriptOf(executed);
-    const LineRef at{script, script ? script->lineAt(executed.offset) : -1};
+    const LineRef at = lineOf(executed);
     const Statement* statement = statementById(executed.tokens[0].id);
-    if (!script || at.line < 0 || !statement || executed.count < 1) {
+    if (!at || !statement || executed.count < 1) {
         messages.clear();
         return;
     }
     lastLine = at;
-    checkMessages(at);
+    const bool hasFailed = executed.depthChange <= lineFailed;
+    checkMessages(at, hasFailed);
     AWnd* target = executed.current ? executed.current : win->getScreenList();
-    if (executed.depthChange <= lineFailed)
+    if (target && statement->kind == StatementKind::Attribute)
+        lines[target].attributes.push_back(at);
+    if (hasFailed)
         explainFailure(executed, target, at, *statement);
     else
         note(executed, target, at, statement->keyword);
@@ -264,7 +296,7 @@ void Reading::note(const ExecutedLine& executed, AWnd* target, LineRef at, std::
                          "the second bitmap of a BORDER is for list boxes; " + describe(*target) +
                              " does not read it");
     } else if (keyword == "LISTFONTS") {
-        for (int i = 1; i < executed.count; ++i)
+        for (int i = 1; i < executed.count && knowsAllFonts; ++i)
             if (!win->getFont(executed.tokens[i].value))
                 findings.add("no-font", *at.script, at.line, i, noFont(executed.tokens[i].value, *win));
     } else if (keyword == "COLUMNS" && isKnown && executed.count > 1 &&
@@ -285,23 +317,26 @@ void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef
         findings.add(code, *at.script, at.line, token, std::move(text));
     };
     if (statement.kind != StatementKind::Command && !statement.target.fits(target->getWindowType())) {
-        if (!isOfGame(target))
+        if (isOfGame(target))
+            isCutShort = isCutShort || at.script->place(at.line).subroutine != LinePlace::none;
+        else
             add("wrong-window", 0,
                 std::string(keyword) + " acts on " + typesOf(statement.target) +
                     (executed.current ? ", and " + (target->getID().IsEmpty() ? "this" : describe(*target)) +
                                             " is " + typeOf(*target)
                                       : ", and no window's block is around it"));
     } else if (keyword == "FONT") {
-        add("no-font", 1, noFont(executed.tokens[1].value, *win));
+        if (knowsAllFonts)
+            add("no-font", 1, noFont(executed.tokens[1].value, *win));
     } else if (keyword == "TABORDER" || keyword == "TABLIST1" || keyword == "TABLIST2") {
         explainMissingWindow(executed, *target, at);
     } else if (keyword == "POINTER") {
         explainPointer(at);
     } else if (keyword == "GOTO") {
-        Script* called =
-            executed.count > 2 ? set.find(executed.tokens[2].text.view()) : const_cast<Script*>(at.script);
+        const Script* called = set.calledBy(*at.script, at.line);
+        const Subroutine* body = called ? called->subroutine(executed.tokens[1].text.view()) : nullptr;
         // That there is none, or a ring, is told by the rules for calls.
-        if (called && called->subroutine(executed.tokens[1].text.view()) && !hasRing())
+        if (body && !body->reachesRing)
             add("budget", 1,
                 "subroutines call each other more than " + std::to_string(limits::subroutineDepth) +
                     " deep here");
@@ -321,40 +356,40 @@ void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef
 
 void Reading::explainMissingWindow(const ExecutedLine& executed, AWnd& target, LineRef at)
 {
-    for (int i = 1; i < executed.count; ++i) // those behind the missing one would be listed too
-        if (const AWnd* named = target.getWnd(executed.tokens[i].text, 1))
-            namedStops.insert(named);
+    const LinePlace& place = at.script->place(at.line);
+    // The line of the same block, further down, that makes the window; -1 for none.
+    const auto comesLater = [&](std::string_view name) {
+        for (int line = at.line + 1;
+             place.block >= 0 && line < at.script->lineCount() && at.script->place(line).depth >= place.depth;
+             ++line)
+            if (CString::equalNoCase(at.script->string(line, 1), name) && at.script->statement(line) &&
+                namesItsWindow(*at.script->statement(line)))
+                return line;
+        return -1;
+    };
+    std::vector<std::string_view> ids;
+    constexpr std::size_t mostIds = 2001;
+    collectIds(target, ids, mostIds);
+    const bool mayBeMade = holdsWindowOfGame(target) || !hasAllScripts || isCutShort;
     for (int i = 1; i < executed.count; ++i) {
-        const std::string_view name = executed.tokens[i].text.view();
-        if (target.getWnd(executed.tokens[i].text, 1))
+        // The line lists nothing; what it names counts as listed all the same, for the rules about that.
+        if (const AWnd* named = target.getWnd(executed.tokens[i].text, 1)) {
+            namedStops.insert(named);
             continue;
+        }
+        const std::string_view name = executed.tokens[i].text.view();
         std::string text = "no window " + inQuotes(name) + " in " + describe(target) + " at this point";
-        // A window of the game's class may make it; but where the script has one further down, it is meant.
-        const auto comesLater = [&] {
-            const int block = at.script->place(at.line).block;
-            for (int line = at.line + 1; line < at.script->lineCount(); ++line) {
-                const Statement* row = at.script->statement(line);
-                if (at.script->place(line).depth < at.script->place(at.line).depth || block < 0)
-                    break;
-                if (row && namesItsWindow(*row) && folded(at.script->string(line, 1)) == folded(name))
-                    return line;
-            }
-            return -1;
-        };
-        const int later = comesLater();
-        std::vector<std::string_view> ids;
-        constexpr std::size_t mostIds = 2001;
-        collectIds(target, ids, mostIds);
-        const std::string suggestion = later < 0 ? findings.didYouMean(name, ids) : "";
-        if (later >= 0)
+        if (const int later = comesLater(name); later >= 0) {
+            laterStops.insert(folded(name));
             text += "; it comes in line " + std::to_string(at.script->numberOf(later));
-        const bool mayBeMade =
-            holdsClosedWindow(target) ||
-            std::any_of(scripts.begin(), scripts.end(), [](const Script* each) { return each->isBroken; });
-        if (later < 0 && suggestion.empty() && mayBeMade)
-            return;
-        findings.add("missing-window", *at.script, at.line, i, text + suggestion);
-        return;
+        } else if (mayBeMade) {
+            continue;
+        } else if (const std::string_view near = findings.nearest(name, ids); !near.empty()) {
+            text += didYouMean(near);
+            if (const AWnd* meant = target.getWnd(CString(std::string(near)), 1))
+                namedStops.insert(meant);
+        }
+        findings.add("missing-window", *at.script, at.line, i, text);
     }
 }
 
@@ -366,6 +401,8 @@ void Reading::explainPointer(LineRef at)
                      inQuotes(name) + " cannot be shown here: this is inside itself, or too deep");
         return;
     }
+    if (isCutShort)
+        return;
     const bool namesScript = at.script->tokenCount(at.line) > 2;
     const std::string& file = at.script->string(at.line, 2);
     const Script* script = namesScript ? set.find(file) : main;
@@ -386,18 +423,11 @@ void Reading::explainPointer(LineRef at)
     findings.add("missing-pointer", *at.script, at.line, 1, std::move(text));
 }
 
-bool Reading::hasRing() const
-{
-    return std::any_of(findings.all.begin(), findings.all.end(), [](const script_text::Diagnostic& each) {
-        return std::string_view(each.code) == "subroutine-ring";
-    });
-}
-
 /// What the toolkit has said while it carried the line out.
-void Reading::checkMessages(LineRef at)
+void Reading::checkMessages(LineRef at, bool hasFailed)
 {
     const int count = win->getFontCount();
-    if (at.script->isKeyword(at.line, "ADDFONT")) {
+    if (at.script->isKeyword(at.line, "ADDFONT") && !hasFailed) {
         if (count == fontCount) {
             findings.add("budget", *at.script, at.line,
                          "the font table is full: it has " + std::to_string(limits::fonts) + " entries");
@@ -417,17 +447,14 @@ void Reading::checkMessages(LineRef at)
     messages.clear();
 }
 
-/// Whether a window of the game's below, or itself, holds nothing that the script says: it may make windows
-/// of its own.
-bool Reading::holdsClosedWindow(AWnd& wnd) const
+/// Itself or below: such a window may make windows of its own.
+bool Reading::holdsWindowOfGame(AWnd& wnd) const
 {
     if (isOfGame(&wnd))
         return true;
     for (int i = 0; i < wnd.getWindowCount(); ++i)
-        if (AWnd* child = wnd.getWndFromIndex(i, ""))
-            if ((isOfGame(child) && child->getWindowCount() == 0) ||
-                (!isOfGame(child) && holdsClosedWindow(*child)))
-                return true;
+        if (AWnd* child = wnd.getWndFromIndex(i, ""); child && holdsWindowOfGame(*child))
+            return true;
     return false;
 }
 

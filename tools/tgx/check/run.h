@@ -6,7 +6,7 @@
 #include "tools/tgx/check/findings.h"
 #include "tools/tgx/check/script.h"
 
-#include <optional>
+#include <memory>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -15,20 +15,13 @@ class displayhost;
 
 namespace script_check {
 
-/// A line of a script. script is null for none.
-struct LineRef {
-    const Script* script = nullptr;
-    int line = 0;
-
-    explicit operator bool() const { return script != nullptr; }
-};
-
 /// The lines that made a window what it is.
 struct WndLines {
     LineRef made;   // or brought it in first
     LineRef text;   // the last one that set its text
     LineRef bitmap; // and its bitmap
     LineRef border;
+    std::vector<LineRef> attributes = {}; // that acted on it, in order, those that failed too
 };
 
 /// What the game would see of the scripts: the toolkit reads them, and what it says and makes is written
@@ -64,7 +57,11 @@ public:
     /// Windows that a POINTER has brought in anywhere.
     bool isPointedTo(const AWnd* wnd) const { return pointedTo.contains(wnd); }
     /// Named by a tab list that failed, at this name or another.
-    bool isNamedStop(const AWnd* wnd) const { return namedStops.contains(wnd); }
+    bool isNamedStop(const AWnd& wnd) const;
+
+    /// A subroutine has ended at a line that the game's class may well take: windows and lists that come
+    /// behind it are missing.
+    bool lacksLines() const { return isCutShort; }
 
 private:
     class Window;
@@ -80,16 +77,18 @@ private:
     void explainFailure(const ExecutedLine& executed, AWnd* target, LineRef at, const Statement& statement);
     void explainMissingWindow(const ExecutedLine& executed, AWnd& target, LineRef at);
     void explainPointer(LineRef at);
-    void checkMessages(LineRef at);
-    Script* scriptOf(const ExecutedLine& executed) const;
-    bool holdsClosedWindow(AWnd& wnd) const;
-    bool hasRing() const;
+    void checkMessages(LineRef at, bool hasFailed);
+    LineRef lineOf(const ExecutedLine& executed) const;
+    bool isMainOfItsOwn(const Script& script) const;
+    bool holdsWindowOfGame(AWnd& wnd) const;
 
     const std::vector<Script*>& scripts;
     const ScriptSet& set;
     Options options;
     Findings& findings;
-    Script* main = nullptr; // the main script, if it is there
+    Script* main = nullptr;    // the main script, if it is there
+    bool hasAllScripts = true; // none is broken
+    bool knowsAllFonts = true; // that the scripts add
     std::unique_ptr<displayhost> hostBefore;
     std::unique_ptr<EmbeddedResource> mainResource;
     std::unique_ptr<AControlsApp> app;
@@ -98,11 +97,13 @@ private:
     std::unordered_set<const AWnd*> ofGame;
     std::unordered_set<const AWnd*> pointedTo;
     std::unordered_set<const AWnd*> namedStops;
+    std::unordered_set<std::string> laterStops; // ids of windows that come behind the list
     std::unordered_set<const bmpfont*> unknownFonts;
     std::vector<CString> messages; // since the line before
     int fontCount = 0;             // behind the line before
     LineRef lastLine;
     bool ranTooLong = false;
+    bool isCutShort = false;
 };
 
 } // namespace script_check

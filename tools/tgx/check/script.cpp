@@ -78,6 +78,14 @@ private:
     int topLast = LinePlace::none; // of the top level, while a subroutine is gone through
 };
 
+/// The same for all ways to write a name.
+std::string keyOf(std::string_view name)
+{
+    std::string key = folded(name);
+    std::replace(key.begin(), key.end(), '\\', '/');
+    return key;
+}
+
 bool isRefused(const script_text::ParsedScript& text)
 {
     return std::any_of(text.lines.begin(), text.lines.end(), [](const script_text::StatementLine& line) {
@@ -96,7 +104,7 @@ Script::Script(std::string runtimeName, bool compiled, bool reported, script_tex
     // Bytes behind the last whole line are in those that were given alone.
     bytes =
         std::make_shared<const std::string>(compiled ? std::move(compiledBytes) : std::move(emitted.bytes));
-    isBroken = text.hasErrors() || (isCompiled && isRefused(text));
+    isBroken = text.hasErrors() || isRefused(text);
 }
 
 int Script::number(int index, int token) const
@@ -110,24 +118,24 @@ const std::string& Script::string(int index, int token) const
     return token < tokenCount(index) ? line(index).tokens[static_cast<std::size_t>(token)].text : empty;
 }
 
-int Script::fontCount() const
-{
-    int count = 0;
-    for (int line = 0; line < lineCount(); ++line)
-        count += isKeyword(line, "ADDFONT") && place(line).subroutine == LinePlace::none;
-    return count;
-}
-
 int Script::lineAt(std::size_t offset) const
 {
     const auto found = std::lower_bound(offsets.begin(), offsets.end(), offset);
     return found != offsets.end() && *found == offset ? static_cast<int>(found - offsets.begin()) : -1;
 }
 
-Subroutine* Script::subroutine(std::string_view wanted)
+const Subroutine* Script::subroutine(std::string_view wanted) const
 {
     const auto found = subroutineByName.find(wanted);
     return found == subroutineByName.end() ? nullptr : &subroutines[found->second];
+}
+
+int Script::bodyEnd(const Subroutine& of) const
+{
+    int end = of.line + 1;
+    while (end < lineCount() && place(end).subroutine == of.line)
+        ++end;
+    return end;
 }
 
 void outline(Script& script)
@@ -137,13 +145,44 @@ void outline(Script& script)
 
 void ScriptSet::add(Script& script)
 {
-    byName.try_emplace(folded(script.name), &script);
+    const std::string key = keyOf(script.name);
+    if (byName.try_emplace(key, &script).second)
+        byFile[key.substr(key.rfind('/') + 1)].push_back(&script); // 0 behind npos
 }
 
 Script* ScriptSet::find(std::string_view name) const
 {
-    const auto found = byName.find(folded(name));
+    const auto found = byName.find(keyOf(name));
     return found == byName.end() ? nullptr : found->second;
+}
+
+const std::vector<Script*>& ScriptSet::ofFile(std::string_view name) const
+{
+    static const std::vector<Script*> none;
+    const auto found = byFile.find(folded(name));
+    return found == byFile.end() ? none : found->second;
+}
+
+const Script* ScriptSet::calledBy(const Script& script, int line) const
+{
+    return script.tokenCount(line) > 2 ? find(script.string(line, 2)) : &script;
+}
+
+void findFonts(const std::vector<Script*>& scripts, const ScriptSet& set)
+{
+    for (Script* script : scripts)
+        forEachLineThroughCalls(*script, 0, script->lineCount(), set,
+                                [&](const Script& at, int line, bool isCalled) {
+                                    if (!isCalled && at.place(line).subroutine != LinePlace::none)
+                                        return false;
+                                    if (at.isKeyword(line, "ADDFONT"))
+                                        script->fontLines.push_back({&at, line});
+                                    // Inside of windows a GOTO fills those.
+                                    if (at.isKeyword(line, "GOTO") &&
+                                        (isCalled || at.place(line).depth == 0) && !set.calledBy(at, line))
+                                        script->mayAddMoreFonts = true;
+                                    return true;
+                                });
 }
 
 std::string folded(std::string_view text)

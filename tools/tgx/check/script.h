@@ -3,11 +3,12 @@
 #include "devtools/script_text/parsed_script.h"
 #include "tgx/script/vocabulary.h"
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_set>
+#include <utility>
 #include <vector>
 
 /// What can be found wrong with scripts without playing them.
@@ -26,8 +27,19 @@ struct LinePlace {
 
 struct Subroutine {
     std::string name;
-    int line;    // of the definition
-    bool isUsed; // by a GOTO somewhere
+    int line;                 // of the definition
+    bool isUsed;              // by a GOTO somewhere
+    bool reachesRing = false; // calls of its own lead to one that reaches itself
+};
+
+struct Script;
+
+/// A line of a script. script is null for none.
+struct LineRef {
+    const Script* script = nullptr;
+    int line = 0;
+
+    explicit operator bool() const { return script != nullptr; }
 };
 
 /// A script that is looked at, or that is there because others use it.
@@ -35,7 +47,7 @@ struct Script {
     Script(std::string runtimeName, bool compiled, bool reported, script_text::ParsedScript parsed,
            std::string compiledBytes);
 
-    std::string name;          // by which scripts and the game ask for it: "menu.tgx"
+    std::string name;          // by which scripts and the game ask for it: "menu.tgx", "sub\\menu.tgx"
     bool isCompiled;           // it was given as bytes; text is what dump prints of them
     bool isReported;           // else its own faults are nobody's business
     bool isBroken;             // lines are missing or refused: what the others mean cannot be told
@@ -48,6 +60,10 @@ struct Script {
     std::vector<LinePlace> places; // one for each line
     std::vector<Subroutine> subroutines;
     std::vector<int> topWindows; // lines
+
+    // Filled by findFonts().
+    std::vector<LineRef> fontLines; // each ADDFONT of a read from top to bottom
+    bool mayAddMoreFonts = false;   // in a script that is not known
 
     int lineCount() const { return static_cast<int>(text.lines.size()); }
     const script_text::StatementLine& line(int index) const
@@ -68,12 +84,18 @@ struct Script {
     /// 0 and "" behind the line's end, as the toolkit reads it.
     int number(int index, int token) const;
     const std::string& string(int index, int token) const;
-    /// ADDFONT lines outside of subroutines.
-    int fontCount() const;
+    /// Fonts that a read from top to bottom adds.
+    int fontCount() const { return static_cast<int>(fontLines.size()); }
     /// Line at that offset of bytes, or -1.
     int lineAt(std::size_t offset) const;
     /// The first subroutine of that name, or null.
-    Subroutine* subroutine(std::string_view wanted);
+    Subroutine* subroutine(std::string_view wanted)
+    {
+        return const_cast<Subroutine*>(std::as_const(*this).subroutine(wanted));
+    }
+    const Subroutine* subroutine(std::string_view wanted) const;
+    /// Behind the last line of its body.
+    int bodyEnd(const Subroutine& of) const;
 
     std::map<std::string, std::size_t, std::less<>> subroutineByName; // the first of each name
 };
@@ -81,15 +103,50 @@ struct Script {
 /// Finds blocks, subroutines and top-level windows.
 void outline(Script& script);
 
-/// Scripts by the name that others use, ignoring case.
+/// Scripts by the name that others use, ignoring case and the kind of slash.
 class ScriptSet {
 public:
     void add(Script& script);
     Script* find(std::string_view name) const;
+    /// All whose file bears the name, in whatever folder.
+    const std::vector<Script*>& ofFile(std::string_view name) const;
+    /// In which the GOTO looks for its subroutine; null when there is none.
+    const Script* calledBy(const Script& script, int line) const;
 
 private:
     std::map<std::string, Script*> byName;
+    std::map<std::string, std::vector<Script*>> byFile; // without folders
 };
+
+/// Finds the fonts that scripts add, also by way of subroutines. All of them are outlined.
+void findFonts(const std::vector<Script*>& scripts, const ScriptSet& set);
+
+/// visit(script, line, isCalled) for each line from first to below end and, where it gives true for a GOTO,
+/// for those of the subroutine that this calls. Each subroutine is gone through once.
+template<class Visit>
+void forEachLineThroughCalls(const Script& script, int first, int end, const ScriptSet& set, Visit visit)
+{
+    struct Part {
+        const Script* script;
+        int next, end;
+    };
+    std::vector<Part> parts{{&script, first, end}};
+    std::unordered_set<const Subroutine*> seen;
+    while (!parts.empty()) {
+        if (parts.back().next >= parts.back().end) {
+            parts.pop_back();
+            continue;
+        }
+        const Script& at = *parts.back().script;
+        const int line = parts.back().next++;
+        if (!visit(at, line, parts.size() > 1) || !at.isKeyword(line, "GOTO"))
+            continue;
+        const Script* called = set.calledBy(at, line);
+        const Subroutine* body = called ? called->subroutine(at.string(line, 1)) : nullptr;
+        if (body && seen.insert(body).second)
+            parts.push_back({called, body->line + 1, called->bodyEnd(*body)});
+    }
+}
 
 /// What an id means to the searches of the toolkit: its letters without case.
 std::string folded(std::string_view text);

@@ -1,8 +1,6 @@
 // Strips against the pictures that they are cut from.
 
 #include "tgx/controls/button.h"
-#include "tgx/controls/listbox/cell.h"
-#include "tgx/controls/listbox/listbox.h"
 #include "tgx/wnd/border.h"
 #include "tools/tgx/check/tree.h"
 #include "tools/tgx/check/words.h"
@@ -14,7 +12,7 @@ namespace script_check {
 
 namespace {
 
-/// Looks into buttons and lists, which keep to themselves what their script has set.
+/// Looks into buttons, which keep to themselves what their script has set.
 struct ButtonAccess : AButton {
     static int framesOf(const AButton& button)
     {
@@ -22,9 +20,6 @@ struct ButtonAccess : AButton {
         return std::accumulate(std::begin(frames), std::end(frames), 0,
                                [](int sum, int each) { return sum + std::max(each, 0); });
     }
-};
-struct ListAccess : AListBox {
-    static const CArray<CString>& iconsOf(const AListBox& list) { return list.*(&ListAccess::iconFiles); }
 };
 
 struct Frames {
@@ -61,8 +56,6 @@ public:
             checkBitmap(wnd, lines->bitmap);
         if (wnd.getBorder() && lines->border)
             checkBorder(wnd, lines->border);
-        if (wnd.getWindowType() == AWnd::WND_LISTBOX)
-            checkIcons(static_cast<AListBox&>(wnd));
     }
 
 private:
@@ -88,6 +81,8 @@ private:
         } else {
             if (AButton::isButton(&wnd))
                 frames.count = ButtonAccess::framesOf(static_cast<AButton&>(wnd));
+            else if (frames.count > 1) // a BMPFRAME may begin behind the last one
+                frames.count = std::max(frames.count, wnd.getCurrentFrame() + 1);
             if (frames.count > 1) // a still picture is shown as far as it goes
                 compare(wnd, at, *picture, frames, Rows);
         }
@@ -117,42 +112,6 @@ private:
         const int piece = wnd.getBorder()->getPieceSize();
         if (const Picture* picture = check.pictures.find(nameIn(at)))
             compare(wnd, at, *picture, {piece, piece, pieces}, OneRow);
-    }
-
-    void checkIcons(AListBox& list)
-    {
-        const CArray<CString>& files = ListAccess::iconsOf(list);
-        if (files.IsEmpty())
-            return; // the game may add them
-        for (int row = 0; row < list.getItemCount(); ++row)
-            for (int column = 0; column < list.getColumnCount(); ++column) {
-                const CString text = list.getItemText(row, column);
-                const ListCell cell = ListCell::decode(text.view());
-                if (cell.picture == ListCell::None)
-                    continue;
-                if (cell.icon < 0 || cell.icon >= files.GetSize()) {
-                    check.add("missing-icon", list,
-                              "row " + std::to_string(row) + " of " + describe(list) + " shows icon " +
-                                  std::to_string(cell.icon) + ", and LISTICONS names " +
-                                  std::to_string(files.GetSize()));
-                    return;
-                }
-                const std::string& file = files.GetAt(cell.icon).str();
-                const Picture* picture = check.pictures.find(file);
-                if (!picture || cell.number <= 0)
-                    continue;
-                const int step = list.getColumnWidth(column) + 1;
-                const int rowStep = std::max(list.getRowHeight(), 1) + 1;
-                const int perRow = step > 0 ? picture->width / step : 0;
-                if (perRow == 0 || cell.number / perRow * rowStep >= picture->height) {
-                    check.add("strip-too-small", list,
-                              inQuotes(file) + " is " + size(picture->width, picture->height) +
-                                  " pixels and has no frame " + std::to_string(cell.number) + " of " +
-                                  size(step - 1, rowStep - 1) + " for row " + std::to_string(row) + " of " +
-                                  describe(list));
-                    return;
-                }
-            }
     }
 
     /// The bitmap that the line names, and its token.

@@ -1,9 +1,13 @@
 #pragma once
 
 #include "tools/tgx/check/pictures.h"
+#include "tools/tgx/check/pointers.h"
 #include "tools/tgx/check/run.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace script_check {
@@ -28,8 +32,11 @@ struct TreeCheck {
     Reading& reading;
     Pictures& pictures;
     Findings& findings;
-    int screenWidth = 0; // pixels; 0: not known
+    const PointerTargets& shown; // of all scripts
+    bool hasData = false;        // there is a data directory
+    int screenWidth = 0;         // pixels; 0: not known
     int screenHeight = 0;
+    bool isSizeGiven = false; // in the call; else it is that of the first screen
 
     /// About the window, at the line that made it. Nothing for a window without one.
     void add(const char* code, const AWnd& wnd, std::string text)
@@ -37,6 +44,41 @@ struct TreeCheck {
         if (const WndLines* lines = reading.linesOf(&wnd); lines && lines->made)
             findings.add(code, *lines->made.script, lines->made.line, 0, std::move(text));
     }
+    /// The lines of that statement that acted on the window, in order.
+    std::vector<LineRef> linesOn(const AWnd& wnd, std::string_view keyword) const
+    {
+        std::vector<LineRef> out;
+        if (const WndLines* lines = reading.linesOf(&wnd))
+            std::copy_if(lines->attributes.begin(), lines->attributes.end(), std::back_inserter(out),
+                         [&](const LineRef& each) { return each.script->isKeyword(each.line, keyword); });
+        return out;
+    }
+};
+
+/// The ITEM lines of a list or combo box, which are its rows.
+class ItemLines {
+public:
+    ItemLines(TreeCheck& treeCheck, const AWnd& listWnd, int rowCount)
+        : check(treeCheck), list(listWnd), lines(check.linesOn(listWnd, "ITEM"))
+    {
+        if (lines.size() != static_cast<std::size_t>(rowCount))
+            lines.clear(); // which is which cannot be told
+    }
+    /// About a cell, at its line, or at that of the list.
+    void add(const char* code, int row, int column, std::string text)
+    {
+        if (lines.empty()) {
+            check.add(code, list, std::move(text));
+            return;
+        }
+        const LineRef& at = lines[static_cast<std::size_t>(row)];
+        check.findings.add(code, *at.script, at.line, column + 1, std::move(text));
+    }
+
+private:
+    TreeCheck& check;
+    const AWnd& list;
+    std::vector<LineRef> lines;
 };
 
 /// Whether a person clicks on it, types into it or chooses in it.
@@ -49,12 +91,16 @@ Box boxOf(const AWnd& wnd);
 
 /// Windows outside of others, and behind others.
 void checkLayout(TreeCheck& check, AWnd& root);
-/// Texts that their boxes cut.
+/// Texts that their boxes cut, those of rows and titles too.
 void checkTexts(TreeCheck& check, AWnd& root);
-/// Strips against the pictures that they are cut from, icons of lists.
+/// Strips against the pictures that they are cut from.
 void checkStrips(TreeCheck& check, AWnd& root);
+/// Columns, cells and icons of lists, and what belongs to combo boxes.
+void checkLists(TreeCheck& check, AWnd& root);
 /// Ids of a screen, radio groups, tabs and pages, what the keyboard reaches.
 void checkControls(TreeCheck& check, AWnd& root);
+/// Those among the children of parent.
+void checkRadioGroups(TreeCheck& check, AWnd& parent);
 
 /// visit(wnd) for each window below, once, in the order of their lines.
 template<class Visit>
