@@ -72,12 +72,12 @@ std::string checkInvariants(AMainWin& win)
     mustBeInTree("the pressed window", win.getMouseDownWnd());
     mustBeInTree("the active screen", win.getActiveScreen());
 
-    std::set<const AWnd*> popups;
     for (int i = 0; i < win.getPopupWndCount(); ++i) {
         AWnd* popup = win.getPopupWnd(i);
         mustBeInTree("a popup", popup);
-        if (!popup || !popups.insert(popup).second)
-            tree.note("the popup list has an entry that is null or double", nullptr);
+        // One that is opened again from the middle of the list stands in it twice.
+        if (!popup)
+            tree.note("the popup list has an entry that is null", nullptr);
         else if (tree.fault.empty() && !popup->getNotifyParent())
             tree.note("a popup does not report to its parent", popup);
     }
