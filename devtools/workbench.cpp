@@ -134,10 +134,12 @@ void Workbench::showMessage(const CString& text)
     if (std::sscanf(text.str().c_str(), "Encountered an error on line %d in %255s", &line, script) == 2)
         return; // showFaults tells of the line, with its place
     std::cerr << "message: " << message << '\n';
-    if (message.starts_with(missingFile))
+    if (message.starts_with(missingFile)) {
         missing.insert(std::move(message)); // until it is mended
-    else
+        faultsAreStale = true;
+    } else {
         notices.tell(std::move(message));
+    }
 }
 
 // Keys
@@ -241,6 +243,7 @@ void Workbench::lookForChanges()
 bool Workbench::buildSources()
 {
     const bool isChanged = sources.build();
+    faultsAreStale = true;
     for (const std::string& each : sources.getReports())
         std::cerr << each;
     return isChanged;
@@ -250,6 +253,9 @@ bool Workbench::buildSources()
 void Workbench::showFaults()
 {
     const std::vector<std::string>& failures = origins.getFailures();
+    if (!faultsAreStale && printedFailures == failures.size())
+        return;
+    faultsAreStale = false;
     for (; printedFailures < failures.size(); ++printedFailures)
         std::cerr << failures[printedFailures] << '\n';
     std::vector<std::string> faults = sources.getFaults();
@@ -259,8 +265,7 @@ void Workbench::showFaults()
             origins.placeOfPicture(std::string_view(message).substr(missingFile.size()));
         faults.push_back(place.empty() ? message : place + ": " + message);
     }
-    if (faults != notices.getFaults())
-        notices.setFaults(std::move(faults));
+    notices.setFaults(std::move(faults));
 }
 
 void Workbench::readAnew()
@@ -275,6 +280,7 @@ void Workbench::readAnew()
     origins.clear();
     printedFailures = 0;
     missing.clear();
+    faultsAreStale = true;
     const Swapped reading(isReading, true);
     try {
         game.startup();

@@ -64,6 +64,7 @@ private:
     double averageMicros = 0;
     std::set<std::string> missing; // "cannot load ..." messages since the last read
     std::size_t printedFailures = 0;
+    bool faultsAreStale = false; // what the panel says of them
     Clock::time_point frameStart;
     std::uint32_t lastLook = 0; // milliseconds of timeGetTime
     std::uint32_t lastPictureLook = 0;
