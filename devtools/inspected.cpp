@@ -128,12 +128,10 @@ const char* nameOfState(const AButton& button)
 std::string stateOf(AWnd& wnd)
 {
     std::string state = whyDisabled(wnd);
-    for (const AWnd* moving = &wnd; moving; moving = moving->getParent())
-        if (!moving->isWndAnimFinished()) {
-            state += state.empty() ? "is moving" : ", is moving";
-            return moving == &wnd ? state : state + " with " + nameOf(*moving);
-        }
-    return state;
+    const AWnd* moving = movingFrom(wnd);
+    if (moving)
+        state += state.empty() ? "is moving" : ", is moving";
+    return !moving || moving == &wnd ? state : state + " with " + nameOf(*moving);
 }
 
 std::string buttonStateOf(const AWnd& wnd)

@@ -6,7 +6,6 @@
 #include "tgx/controls/scrollbar.h"
 #include "tgx/frame/mainwin.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace {

@@ -243,10 +243,3 @@ std::string Sources::placeOf(const std::string& script, unsigned offset) const
                                          [](unsigned at, const Mapped& each) { return at < each.offset; });
     return behind == map->begin() ? script : std::prev(behind)->place;
 }
-
-std::string Sources::placeOfLine(const std::string& script, int line) const
-{
-    const Map* map = mapOf(script);
-    const auto index = static_cast<std::size_t>(line) - 1;
-    return map && index < map->size() ? (*map)[index].place : "";
-}

@@ -36,8 +36,6 @@ public:
     /// "menu.tgs:31" for a byte of the compiled script of that name; without text or map "menu.tgx, byte
     /// 123".
     std::string placeOf(const std::string& script, unsigned offset) const;
-    /// The same for a line of the compiled script, 1 for the first; empty when it is not known.
-    std::string placeOfLine(const std::string& script, int line) const;
 
 private:
     struct Mapped {

@@ -38,21 +38,13 @@ bool isMeantByItsId(AMainWin& win, const AWnd& wnd)
     return !wnd.getID().IsEmpty() && findMeantWindow(win, wnd.getID().str()) == &wnd;
 }
 
-bool isMoving(const AWnd& wnd)
-{
-    for (const AWnd* each = &wnd; each; each = each->getParent())
-        if (!each->isWndAnimFinished())
-            return true;
-    return false;
-}
-
 /// The window, or the nearest that it lies in, from which a point can be counted. Null: none is better than
 /// the screen's corner.
 AWnd* referenceFor(AMainWin& win, AWnd* wnd)
 {
     for (; wnd && wnd->getWindowType() != AWnd::WND_SCREEN; wnd = wnd->getParent())
         if (isMeantByItsId(win, *wnd))
-            return isMoving(*wnd) ? nullptr : wnd;
+            return movingFrom(*wnd) ? nullptr : wnd;
     return nullptr;
 }
 

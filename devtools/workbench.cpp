@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <filesystem>
 #include <iostream>
 #include <stdexcept>
@@ -128,11 +127,9 @@ void Workbench::measure(const Image& screen, std::span<const tagRECT> changed)
 /// In the panel instead of a box that holds the game up.
 void Workbench::showMessage(const CString& text)
 {
-    std::string message = oneLine(text.view());
-    int line = 0;
-    char script[256] = "";
-    if (std::sscanf(text.str().c_str(), "Encountered an error on line %d in %255s", &line, script) == 2)
+    if (text.view().starts_with("Encountered an error on line "))
         return; // showFaults tells of the line, with its place
+    std::string message = oneLine(text.view());
     std::cerr << "message: " << message << '\n';
     if (message.starts_with(missingFile)) {
         missing.insert(std::move(message)); // until it is mended
@@ -173,14 +170,19 @@ std::string Workbench::outPath(const char* stem, const char* ending) const
     }
 }
 
+void Workbench::tellWritten(const std::string& what, const std::string& path, bool isWritten)
+{
+    const std::string text = (isWritten ? what + " written: " : "cannot write the " + what + ' ') + path;
+    std::cerr << text << '\n';
+    notices.tell(text);
+}
+
 void Workbench::savePicture()
 {
     const std::string path = outPath("picture-", ".png");
     makeFoldersOf(path);
     const bool isWritten = writePng(game.getScreenImage(), path);
-    const std::string text = (isWritten ? "picture written: " : "cannot write the picture ") + path;
-    std::cerr << text << '\n';
-    notices.tell(text);
+    tellWritten("picture", path, isWritten);
 }
 
 void Workbench::switchRecorder()
@@ -212,9 +214,7 @@ void Workbench::saveRecording()
     const bool isWritten = writeWhole(path, recorder->events());
     if (!isWritten)
         std::cerr << recorder->events(); // not lost
-    const std::string text = (isWritten ? "recording written: " : "cannot write the recording ") + path;
-    std::cerr << text << '\n';
-    notices.tell(text);
+    tellWritten("recording", path, isWritten);
     recorder.reset();
     notices.setStatus("");
 }

@@ -35,6 +35,7 @@ private:
 
     void keyPressed(int code);
     void switchFullScreen();
+    void tellWritten(const std::string& what, const std::string& path, bool isWritten);
     void savePicture();
     void switchRecorder();
     void saveRecording();

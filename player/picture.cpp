@@ -29,12 +29,8 @@ std::uint32_t darkGrey(std::uint32_t pixel)
 ImageRef readPicture(const std::string& path)
 {
     // Pictures are read from the data directory: that is where this one lies for the moment.
-    struct Moved {
-        std::string before = dataDirectory();
-        ~Moved() { setDataDirectory(before); }
-    } moved;
     const fs::path folder = fs::path(path).parent_path();
-    setDataDirectory(folder.empty() ? "." : folder.string());
+    const OtherDataDirectory beside(folder.empty() ? "." : folder.string());
     return loadImageFile(fs::path(path).filename().string());
 }
 

@@ -132,13 +132,19 @@ std::string at(int x, int y)
 /// "; "PANEL" is still moving": what a person would wait for.
 std::string movementOf(const AWnd& wnd)
 {
-    for (const AWnd* moving = &wnd; moving; moving = moving->getParent())
-        if (!moving->isWndAnimFinished())
-            return "; " + nameOf(*moving) + " is still moving";
-    return "";
+    const AWnd* moving = movingFrom(wnd);
+    return moving ? "; " + nameOf(*moving) + " is still moving" : "";
 }
 
 } // namespace
+
+const AWnd* movingFrom(const AWnd& wnd)
+{
+    const AWnd* moving = &wnd;
+    while (moving && moving->isWndAnimFinished())
+        moving = moving->getParent();
+    return moving;
+}
 
 std::string nameOf(const AWnd& wnd)
 {

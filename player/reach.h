@@ -39,3 +39,5 @@ TGX_PLAYER_INTERNAL std::string whyNotReached(AMainWin& win, AWnd& wnd, int x, i
 std::string describeReach(AMainWin& win, const std::string& name, int x, int y, PointerAct act);
 /// The same for a key, which goes to the target as a whole.
 std::string describeKeyReach(AMainWin& win, const std::string& name, int x, int y);
+/// It, or the nearest that it lies in, that is still moving; null for none.
+TGX_PLAYER_INTERNAL const AWnd* movingFrom(const AWnd& wnd);

@@ -11,6 +11,18 @@
 TGX_PLATFORM_API void setDataDirectory(const std::string& path);
 TGX_PLATFORM_API const std::string& dataDirectory();
 
+/// Another folder is the data directory for as long as this lives.
+class OtherDataDirectory {
+public:
+    explicit OtherDataDirectory(const std::string& path) : before(dataDirectory()) { setDataDirectory(path); }
+    ~OtherDataDirectory() { setDataDirectory(before); }
+    OtherDataDirectory(const OtherDataDirectory&) = delete;
+    OtherDataDirectory& operator=(const OtherDataDirectory&) = delete;
+
+private:
+    std::string before;
+};
+
 /// Path of a file of the data directory. name has backslashes or slashes and any case: each component is
 /// looked for exactly first, then ignoring case. Nothing for a name that finds no regular file, is absolute,
 /// or leads out of the data directory, be it by "..", a drive letter or a link.

@@ -18,12 +18,11 @@ LineResult executeLine(const ScriptLine& line)
     if (statement->kind == StatementKind::BlockEnd)
         return {-1};
 
-    // A line of too many tokens has a count that no row allows. One level below the stack's last a block may
-    // still hold commands.
+    // A line of too many tokens has a count that no row allows.
     const bool isCommand = statement->kind == StatementKind::Command;
-    const int maxDepth = isCommand ? wndStackSize : wndStackSize - 1;
     AWnd* root = line.window.getScreenList();
-    if (!statement->counts.allow(line.count) || !statement->handler || line.depth > maxDepth || !root)
+    if (!statement->counts.allow(line.count) || !statement->handler ||
+        line.depth > deepestLevel(statement->kind) || !root)
         return failed;
 
     AWnd* target = line.current ? line.current : root;

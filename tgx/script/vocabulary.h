@@ -32,6 +32,13 @@ enum class StatementKind {
     ArgumentWord, // stands behind another keyword only
 };
 
+/// Blocks that may stand around a statement of that kind: one level below the stack's last a block may still
+/// hold commands.
+constexpr int deepestLevel(StatementKind kind)
+{
+    return kind == StatementKind::Command ? wndStackSize : wndStackSize - 1;
+}
+
 enum class ArgumentKind { Number, String, Word, NumberOrWord };
 
 /// The numbers of tokens that a line may have, the keyword included.

@@ -14,6 +14,7 @@
 #include "tgx/controls/tabcontrol.h"
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 
@@ -27,7 +28,16 @@ protected:
     ~ReloadTest() override { tools.reset(); }
 
     /// UIG/name in text form, as an author saves it.
-    void save(const std::string& text, const std::string& name = "script.tgs") { write("UIG/" + name, text); }
+    void save(const std::string& text, const std::string& name = "script.tgs")
+    {
+        write("UIG/" + name, text);
+        isNewer("UIG/" + name);
+    }
+    /// Two writes within a moment may bear one time: this one is a second behind all before it.
+    void isNewer(const std::string& name)
+    {
+        std::filesystem::last_write_time(data / name, time += std::chrono::seconds(1));
+    }
 
     /// Starts on a compiled script and lets the devtools find the text.
     void startWithTools(const std::string& text)
@@ -54,7 +64,12 @@ protected:
         return std::find(told.begin(), told.end(), notice) != told.end();
     }
     std::string textOf(const std::string& id) { return wnd(id)->getWindowText(); }
-    std::string inUig(const std::string& text) const { return (data / "UIG" / text).string(); }
+    /// As messages name it, shorter below the working directory.
+    std::string inUig(const std::string& text) const
+    {
+        const std::filesystem::path folder = std::filesystem::proximate(data / "UIG");
+        return ((*folder.begin() == ".." ? data / "UIG" : folder) / text).string();
+    }
     template<class Control>
     Control& control(const std::string& id)
     {
@@ -62,6 +77,9 @@ protected:
     }
 
     std::optional<Workbench> tools;
+
+private:
+    std::filesystem::file_time_type time = std::filesystem::file_time_type::clock::now();
 };
 
 constexpr const char* note = R"(SCREEN "MENU" 0 0 640 480 ""
@@ -132,9 +150,11 @@ TEST_F(ReloadTest, AMissingPictureStaysAFault)
         "SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    BITMAP \"PLATE\" 0 0 20 20 \"plate.bmp\"\nEND\n");
     EXPECT_EQ(faults(), inUig("script.tgs:3: cannot load plate.bmp\n"));
     bitmap("other.bmp", 20, 20, 0xFF0000);
+    isNewer("other.bmp");
     play(aWhile);
     EXPECT_EQ(faults(), inUig("script.tgs:3: cannot load plate.bmp\n")) << "nobody asked for that one";
     bitmap("plate.bmp", 20, 20, 0xFF0000);
+    isNewer("plate.bmp");
     play(aWhile);
     EXPECT_EQ(faults(), "");
 }
@@ -149,15 +169,19 @@ TEST_F(ReloadTest, ASideMapTellsTheLinesOfACompiledScript)
 {
     start("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\nTEXTWND \"NOTE\" 10 10 200 20 \"x\"\nEND");
     write("UIG/script.tgx.map", "0 7 menu.tgs\n22 8 menu.tgs\n24 12 parts/notes.tgs\n47 9 menu.tgs\n");
+    isNewer("UIG/script.tgx.map");
     tools.emplace(win(), DevToolsOptions{.readsScript = true});
     script("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\nTEXTWND \"NOTE\" 10 10 200 20 \"again\"\nEND");
+    isNewer("UIG/script.tgx");
     write("UIG/script.tgx.map", "0 7 menu.tgs\n22 8 menu.tgs\n24 12 parts/notes.tgs\n47 9 menu.tgs\n");
+    isNewer("UIG/script.tgx.map");
     play(aWhile);
     EXPECT_EQ(textOf("NOTE"), "again");
     EXPECT_EQ(tools->getOrigins().placeOf(*wnd("MENU")), "menu.tgs:7");
     EXPECT_EQ(tools->getOrigins().placeOf(*wnd("NOTE")), "parts/notes.tgs:12");
 
     script("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\nTEXTWND \"NOTE\" 10 10 200 20 \"once more\"\nEND");
+    isNewer("UIG/script.tgx");
     play(aWhile);
     EXPECT_EQ(tools->getOrigins().placeOf(*wnd("MENU")), "script.tgx, byte 0")
         << "the map is of another script";
@@ -166,10 +190,12 @@ TEST_F(ReloadTest, ASideMapTellsTheLinesOfACompiledScript)
 TEST_F(ReloadTest, APictureThatChangesIsReadAgain)
 {
     bitmap("plate.bmp", 20, 20, 0xFF0000);
+    isNewer("plate.bmp");
     startWithTools(
         "SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    BITMAP \"PLATE\" 0 0 20 20 \"plate.bmp\"\nEND\n");
     EXPECT_EQ(win().getScreenImage().row(5)[5] & 0xFFFFFF, 0xFF0000u);
     bitmap("plate.bmp", 20, 20, 0x00FF00);
+    isNewer("plate.bmp");
     play(aWhile);
     EXPECT_EQ(win().getScreenImage().row(5)[5] & 0xFFFFFF, 0x00FF00u);
 }

@@ -117,14 +117,12 @@ private:
 
     void checkDepth(int line, const Statement& statement)
     {
-        const int most =
-            statement.kind == StatementKind::Command ? wndStackSize : wndStackSize - 1; // as the interpreter
-        const bool isTooDeep = script.place(line).depth > most;
+        const bool isTooDeep = script.place(line).depth > deepestLevel(statement.kind);
         if (isTooDeep && !wasTooDeep)
             findings.add("too-deep", script, line,
                          std::string(statement.keyword) + " stands inside " +
                              std::to_string(script.place(line).depth) + " blocks; it may stand inside " +
-                             std::to_string(most));
+                             std::to_string(deepestLevel(statement.kind)));
         wasTooDeep = isTooDeep;
     }
 
@@ -318,12 +316,10 @@ void checkOverridden(const Script& script, Findings& findings)
 
 void checkWithoutBlock(const Script& script, const PointerTargets& shown, Findings& findings)
 {
-    const std::string file = folded(script.name);
-    const bool isLibrary = !script.subroutines.empty() || file == commonScriptFile;
+    const bool isLibrary = !script.subroutines.empty() || folded(script.name) == commonScriptFile;
     for (const int line : script.topWindows) {
         const std::string& name = script.string(line, 1);
-        if (file == mainScriptFile || !(isLibrary || shown.contains(script, name)) ||
-            isBehindBody(script, line))
+        if (isMain(script) || !(isLibrary || shown.contains(script, name)) || isBehindBody(script, line))
             continue;
         const Statement* next = line + 1 < script.lineCount() ? script.statement(line + 1) : nullptr;
         if (!next || name.empty() || name == "static" || next->kind == StatementKind::BlockBegin ||

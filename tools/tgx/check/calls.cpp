@@ -165,11 +165,6 @@ private:
     std::map<const Script*, std::size_t> firstNode;
 };
 
-bool isMain(const Script& script)
-{
-    return folded(script.name) == mainScriptFile;
-}
-
 void checkSubroutines(Script& script, Findings& findings)
 {
     const bool isUnused = !script.subroutines.empty() && script.topWindows.empty() && !isMain(script) &&

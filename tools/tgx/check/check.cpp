@@ -20,17 +20,6 @@ constexpr const char* nowhere = "/dev/null"; // a data directory in which nothin
 constexpr int usualWidth = 640;              // pixels, where no screen says another
 constexpr int usualHeight = 480;
 
-class KeptDataDirectory {
-public:
-    explicit KeptDataDirectory(const std::string& path) : before(dataDirectory()) { setDataDirectory(path); }
-    ~KeptDataDirectory() { setDataDirectory(before); }
-    KeptDataDirectory(const KeptDataDirectory&) = delete;
-    KeptDataDirectory& operator=(const KeptDataDirectory&) = delete;
-
-private:
-    std::string before;
-};
-
 void parseAll(std::vector<ScriptFile>& files, const script_text::ReadFile& read, CheckReport& report)
 {
     for (ScriptFile& file : files) {
@@ -49,8 +38,7 @@ void putInReadingOrder(std::vector<Script*>& scripts)
 {
     const auto rank = [](const Script* script) {
         const int fonts = script->fontCount();
-        const bool isMain = folded(script->name) == mainScriptFile;
-        return std::pair(fonts == 0 ? 2 : isMain ? 0 : 1, fonts);
+        return std::pair(fonts == 0 ? 2 : isMain(*script) ? 0 : 1, fonts);
     };
     std::stable_sort(scripts.begin(), scripts.end(),
                      [&](const Script* a, const Script* b) { return rank(a) < rank(b); });
@@ -122,7 +110,7 @@ CheckReport check(std::vector<ScriptFile> files, const script_text::ReadFile& re
 {
     CheckReport report;
     CheckOptions options = given;
-    const KeptDataDirectory kept(options.dataDirectory.empty() ? nowhere : options.dataDirectory);
+    const OtherDataDirectory other(options.dataDirectory.empty() ? nowhere : options.dataDirectory);
     parseAll(files, read, report);
 
     ScriptSet set;

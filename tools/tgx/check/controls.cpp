@@ -72,11 +72,10 @@ public:
     {
         forEachBelow(top, [&](AWnd& wnd) {
             noteInnerStops(wnd);
-            if (!isPart(check, wnd))
-                noteId(wnd);
-        });
-        forEachBelow(top, [&](AWnd& wnd) {
-            if (isControl(wnd) && !isPart(check, wnd) && !isUnder(wnd))
+            if (isPart(check, wnd))
+                return;
+            noteId(wnd);
+            if (isControl(wnd) && !isUnder(wnd))
                 controls.push_back(&wnd);
         });
         // A panel that a POINTER shows has its stops in the screen that shows it.
@@ -209,7 +208,7 @@ private:
     std::unordered_map<std::string, AWnd*> ids;
     std::unordered_set<const AWnd*> reached;            // by a list of stops
     std::unordered_map<const AWnd*, AWnd*> innerOrders; // what a TABORDER of a window inside names
-    std::vector<AWnd*> controls;                        // in the order of their lines, level by level
+    std::vector<AWnd*> controls;                        // in the order of their lines
 };
 
 } // namespace

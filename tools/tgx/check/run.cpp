@@ -6,6 +6,7 @@
 #include "platform/limits.h"
 #include "platform/system/clock.h"
 #include "platform/system/datadir.h"
+#include "tgx/base/swapped.h"
 #include "tgx/controls/listbox/listbox.h"
 #include "tools/tgx/check/rules.h"
 #include "tools/tgx/check/words.h"
@@ -62,10 +63,8 @@ public:
     }
     AScreen* addScreen(const CString& id, int x, int y, int w, int h) override
     {
-        addsScreen = true;
-        AScreen* screen = AMainWin::addScreen(id, x, y, w, h);
-        addsScreen = false;
-        return screen;
+        const Swapped adding(addsScreen, true);
+        return AMainWin::addScreen(id, x, y, w, h);
     }
     void lineExecuted(const ExecutedLine& line) override { reading.see(line); }
     void allow(long maxLines, long long work)
@@ -257,12 +256,12 @@ void Reading::see(const ExecutedLine& executed)
     if (hasFailed)
         explainFailure(executed, target, at, *statement);
     else
-        note(executed, target, at, statement->keyword);
+        note(executed, target, at, *statement);
 }
 
-void Reading::note(const ExecutedLine& executed, AWnd* target, LineRef at, std::string_view keyword)
+void Reading::note(const ExecutedLine& executed, AWnd* target, LineRef at, const Statement& statement)
 {
-    const Statement& statement = *statementById(executed.tokens[0].id);
+    const std::string_view keyword = statement.keyword;
     if (executed.made) {
         WndLines& entry = lines[executed.made];
         if (statement.kind == StatementKind::Reference) {
@@ -310,8 +309,8 @@ void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef
                              const Statement& statement)
 {
     const std::string_view keyword = statement.keyword;
-    const int most = statement.kind == StatementKind::Command ? wndStackSize : wndStackSize - 1;
-    if (!statement.counts.allow(executed.count) || !statement.handler || executed.depth > most || !target)
+    if (!statement.counts.allow(executed.count) || !statement.handler ||
+        executed.depth > deepestLevel(statement.kind) || !target)
         return; // told by the rules for lines and blocks
     const auto add = [&](const char* code, int token, std::string text) {
         findings.add(code, *at.script, at.line, token, std::move(text));

@@ -10,7 +10,6 @@
 #include <unordered_map>
 #include <unordered_set>
 
-class HeadlessHost;
 class displayhost;
 
 namespace script_check {
@@ -73,7 +72,7 @@ private:
     void readOnce(Script& script, const std::string& toWindow, long long work);
     void hear(const CString& message);
     void see(const ExecutedLine& executed);
-    void note(const ExecutedLine& executed, AWnd* target, LineRef at, std::string_view keyword);
+    void note(const ExecutedLine& executed, AWnd* target, LineRef at, const Statement& statement);
     void explainFailure(const ExecutedLine& executed, AWnd* target, LineRef at, const Statement& statement);
     void explainMissingWindow(const ExecutedLine& executed, AWnd& target, LineRef at);
     void explainPointer(LineRef at);

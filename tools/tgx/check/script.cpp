@@ -2,7 +2,7 @@
 
 #include "devtools/script_text/emit.h"
 #include "devtools/script_text/statement_form.h"
-#include "platform/framework/cstring.h"
+#include "devtools/script_text/text_files.h"
 #include "platform/host/codepage.h"
 #include "tgx/script/reader.h"
 
@@ -187,7 +187,12 @@ void findFonts(const std::vector<Script*>& scripts, const ScriptSet& set)
 
 std::string folded(std::string_view text)
 {
-    return CString(std::string(text)).MakeLower().str();
+    return script_text::lowered(text);
+}
+
+bool isMain(const Script& script)
+{
+    return folded(script.name) == mainScriptFile;
 }
 
 std::string inQuotes(std::string_view text)

@@ -150,6 +150,8 @@ void forEachLineThroughCalls(const Script& script, int first, int end, const Scr
 
 /// What an id means to the searches of the toolkit: its letters without case.
 std::string folded(std::string_view text);
+/// Whether it is the one that a game reads first.
+bool isMain(const Script& script);
 /// A text of a script as a message shows it, in quotes.
 std::string inQuotes(std::string_view text);
 /// Whether the statement makes a window that bears a name of the script's own, which is its first argument.

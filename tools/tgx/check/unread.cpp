@@ -1,6 +1,5 @@
 // Rules for what a line says and nothing reads.
 
-#include "tgx/script/token.h"
 #include "tools/tgx/check/rules.h"
 
 #include <algorithm>
@@ -34,7 +33,7 @@ void checkUnread(const Script& script, Findings& findings)
 {
     constexpr int usualMode = -1;
     constexpr int lastMode = 3;
-    const bool isLibrary = !script.subroutines.empty() && folded(script.name) != mainScriptFile;
+    const bool isLibrary = !script.subroutines.empty() && !isMain(script);
     for (int line = 0; line < script.lineCount(); ++line) {
         const Statement* statement = script.statement(line);
         if (!statement || script.line(line).isAsItStands)
