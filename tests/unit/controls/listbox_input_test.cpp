@@ -261,11 +261,13 @@ TEST_F(ListBoxInputTest, WhereTabArrives)
         {"below the titles", "COLUMNS 50\nTITLES \"T\"", 2, "[1,200,136]"},
         {"below fixed rows", "COLUMNS 50\nLISTFIXEDROWS 0 1", 3, "[1,200,160]"},
         {"in the middle of the content", "COLUMNS 50\nTEXTOFFSET 5 7", 2, "[1,140,119]"},
+        {"inside the border", "COLUMNS 50\nBORDER \"edge.bmp\" 6 4", 2, "[1,200,118]"},
         {"in front of the bar", "COLUMNS 50", 6, "[1,192,112]"},
         {"all fixed", "COLUMNS 50\nLISTFIXEDCOLUMNS 0", 2, "[0"},
         {"all of the page", "COLUMNS 50\nLISTFIXEDROWS 0 1 2 3 4", 6, "[0"},
         {"no rows", "COLUMNS 50", 0, "[0"},
     };
+    strip("edge.bmp", 4, 4, 8);
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         startList(row.attributes, "BUTTON \"GO\" 400 300 50 50 \"\"\nTABORDER \"GO\" \"LIST\"");
@@ -280,6 +282,29 @@ TEST_F(ListBoxInputTest, WhereTabArrives)
     addRows(10);
     list()->scrollToLastItem();
     EXPECT_EQ(callList("getMousePosOfFirstSelectableItem"), "[1,192,136]") << "not the row under the titles";
+}
+
+TEST_F(ListBoxInputTest, AColumnEndsBehindItsGap)
+{
+    const struct {
+        const char *name, *attributes;
+        int gap, end; // of column 0, on the screen
+    } rows[] = {
+        {"the gap stands in front of it too", "", 10, 170},
+        {"a narrow gap", "", 4, 158},
+        {"moved content", "TEXTOFFSET 20 0\n", 10, 190},
+        {"a border", "BORDER \"edge.bmp\" 6 4\n", 10, 176},
+    };
+    strip("edge.bmp", 4, 4, 8);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        startList(std::string(row.attributes) + "COLUMNS 50 50\nLISTLOOK 24 0 1\nITEM \"a\" \"b\"");
+        list()->setColumnGap(row.gap);
+        play("move " + std::to_string(row.end - 1) + " 115", "tick");
+        EXPECT_EQ(list()->getHotColumn(), 0);
+        play("move " + std::to_string(row.end) + " 115", "tick");
+        EXPECT_EQ(list()->getHotColumn(), 1);
+    }
 }
 
 TEST_F(ListBoxInputTest, ScrollingByPercentage)

@@ -280,8 +280,6 @@ TEST_F(ListBoxModelTest, MoreRowsThanNumbersForThem)
 
 TEST_F(ListBoxModelTest, Statements)
 {
-    for (const char* name : {"s.bmp", "h.bmp", "t.bmp"})
-        bitmap(name, 20, 10);
     const struct {
         const char *name, *lines, *call, *value;
     } rows[] = {
@@ -307,10 +305,6 @@ TEST_F(ListBoxModelTest, Statements)
         {"gradual left out", "LISTOPTIONS 1 1\nLISTOPTIONS 0", "getGradualReveal", "1"},
         {"fixed rows add up", "LISTFIXEDROWS 1 2\nLISTFIXEDROWS 5", "isNonSelectable 2 0", "1"},
         {"fixed columns", "LISTFIXEDCOLUMNS 4 -1", "isNonSelectable 0 -1", "1"},
-        {"titles", "TITLES \"A\" \"\"", "getItemsPerPage", "4"},
-        {"highlight files: hot is the second", "LISTHIGHLIGHT \"s.bmp\" \"h.bmp\"", "getHotRowBmpFile",
-         "\"h.bmp\""},
-        {"title file", "TITLEBMP \"t.bmp\"", "getTitleBmpFile", "\"t.bmp\""},
         {"the keyword alone does nothing",
          "COLUMNS\nLISTOPTIONS\nLISTFONTS\nLISTICONS\nLISTFIXEDROWS\n"
          "LISTFIXEDCOLUMNS\nTITLES\nSCROLLBARINFO \"x\" 3",

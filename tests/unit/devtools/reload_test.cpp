@@ -258,6 +258,7 @@ TEST_F(ReloadTest, WhatWasChosenAndTypedComesBack)
     control<AScrollBar>("BAR").setPercentage(ZnFixed::fromInt(40));
     control<AComboBox>("GOODS").setSelectedItem(2);
     control<AListBox>("LOG").setSelectedItem(5);
+    control<AListBox>("LOG").setSelectedColumn(0);
     control<AListBox>("LOG").scrollTo(ZnFixed::fromInt(100));
     const int firstRow = control<AListBox>("LOG").getFirstVisibleItem();
     ASSERT_GT(firstRow, 0);
@@ -285,6 +286,7 @@ TEST_F(ReloadTest, WhatWasChosenAndTypedComesBack)
     EXPECT_EQ(control<AComboBox>("GOODS").getSelectedItem(), 2);
     EXPECT_EQ(textOf("GOODS"), "rum");
     EXPECT_EQ(control<AListBox>("LOG").getSelectedItem(), 5);
+    EXPECT_EQ(control<AListBox>("LOG").getSelectedColumn(), 0);
     EXPECT_EQ(control<AListBox>("LOG").getFirstVisibleItem(), firstRow);
     EXPECT_EQ(control<ATabControl>("PAGES").getActiveWnd(), wnd("PAGE2"));
     EXPECT_TRUE(win().isInPopupList("ASK"));
