@@ -224,10 +224,10 @@ void AGraph::drawBar(const Plot& plot, int series, int index)
     const ZnFixed height = ZnFixed::fromRaw(static_cast<std::int32_t>(grownValue)) * plot.yStep;
     const int barTop = whole(shifted(plot.bottom) - height.raw);
 
-    // A negative value has no bar.
-    if (value >= 0 && barTop != plot.bottom)
+    // A bar that would hang below the axis is none.
+    if (barTop < plot.bottom)
         getMainWin()->fillrect(x + 1, barTop, x2, plot.bottom, colour); // a gap of one pixel at the left
-    else if (value >= 0 && showEmptyBars)
+    else if (barTop == plot.bottom && showEmptyBars)
         getMainWin()->fillrect(x, plot.bottom - 1, x2, plot.bottom, colour);
     if (index < seriesLabels[series].GetSize())
         drawLabel(plot, seriesLabels[series][index], x, barTop);

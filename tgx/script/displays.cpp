@@ -5,13 +5,7 @@
 #include "tgx/controls/vidiprinter.h"
 #include "tgx/script/statements.h"
 
-AWnd* barGraph(AWnd& target, const ScriptLine& line)
-{
-    auto* made = addControl<AGraph>(target, line);
-    made->setStyle(0);
-    return made;
-}
-
+/// Also a bar graph: that is what a graph is at first.
 AWnd* graphWnd(AWnd& target, const ScriptLine& line)
 {
     return addControl<AGraph>(target, line);

@@ -22,7 +22,7 @@ struct LineLoop {
     ScriptRun& run;
     CFile* stream;
     CArray<CFile*, CFile*>& gotoFiles;
-    AWnd* outside; // the window of depth 0; null in a read
+    WndRef outside; // the window of depth 0; null in a read
     int depth = 0;
     int count = 0;
     unsigned start = 0; // of the line in the stream
@@ -39,18 +39,22 @@ struct LineLoop {
         return true;
     }
 
+    /// The window of the block; null once that is gone.
+    AWnd* current() const
+    {
+        if (depth == 0)
+            return outside;
+        return depth <= wndStackSize ? open[depth - 1].get() : nullptr; // deeper no statement is carried out
+    }
+
     int execute()
     {
-        AWnd* current = outside;
-        if (depth > 0)
-            current =
-                depth <= wndStackSize ? open[depth - 1].get() : nullptr; // deeper no statement is carried out
         const LineResult result =
-            executeLine({window, run, stream, tokens, count, current, depth, gotoFiles});
+            executeLine({window, run, stream, tokens, count, current(), depth, gotoFiles});
         if (result.stores)
             open[depth] = result.made;
         if (ScriptObserver* observer = window.getScriptObserver(); observer && !run.isOver())
-            observer->lineExecuted({stream->GetFileName(), start, tokens, count, depth, current,
+            observer->lineExecuted({stream->GetFileName(), start, tokens, count, depth, current(),
                                     result.depthChange, result.made});
         return result.depthChange;
     }
@@ -119,13 +123,11 @@ int AMainWin::doSubroutine(CFile* stream, const CString& name, AWnd* parent,
     stream->Seek(static_cast<long>(body->position));
 
     LineLoop loop{*this, run, stream, gotoFiles, parent};
-    const WndRef caller(parent);
     loop.open[0] = parent;
     while (loop.next()) {
         // The start of another subroutine ends nothing here.
         if (loop.tokens[0].id == keyword::subroutine)
             continue;
-        loop.outside = caller;
         const int change = loop.execute();
         loop.depth += change;
         if (change == lineFailed || loop.depth <= 0)

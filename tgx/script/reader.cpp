@@ -18,7 +18,7 @@ struct TokenWriter {
     void string(std::string_view text)
     {
         if (TOKEN_INFO* token = next(stringToken))
-            token->text += text.data(); // ends with the stream's 0, and uses the storage that is there
+            token->text.assign(text); // in the storage that is there
     }
     void keyword(unsigned char id) { next(id); }
 

@@ -131,7 +131,6 @@ void buttonLoop(AButton& target, const ScriptLine& line);
 void buttonTextShift(AButton& target, const ScriptLine& line);
 
 // Progress bars, vidiprinters and graphs (displays.cpp).
-AWnd* barGraph(AWnd& target, const ScriptLine& line);
 AWnd* graphWnd(AWnd& target, const ScriptLine& line);
 AWnd* lineGraph(AWnd& target, const ScriptLine& line);
 AWnd* progressBar(AWnd& target, const ScriptLine& line);

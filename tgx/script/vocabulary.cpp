@@ -48,7 +48,7 @@ constexpr const char* justification = "LEFT|CENTRE|RIGHT";
 constexpr Statement rows[] = {
     {14, "BEGIN", BlockBegin, counts(1), ""},
     {15, "END", BlockEnd, counts(1), ""},
-    {36, "BARGRAPH", Window, boxCounts, boxForm, any, on<barGraph>},
+    {36, "BARGRAPH", Window, boxCounts, boxForm, any, on<graphWnd>},
     {37, "BITMAP", Window, counts(7, 11),
      R"("name" x y width height "bitmap" frameWidth frameHeight delay frames)", any, on<bitmap>},
     {38, "BMPFILE", Attribute, counts(2), R"("bitmap")", any, on<bmpFile>},

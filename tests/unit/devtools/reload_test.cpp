@@ -165,6 +165,20 @@ TEST_F(ReloadTest, ALineThatFailsIsNamed)
     EXPECT_EQ(faults(), inUig("script.tgs:3: BUTTONLOOP does not go with a ScreenSpy\n"));
 }
 
+TEST_F(ReloadTest, ALineMayDeleteTheWindowOfItsBlock)
+{
+    start("SCREEN \"FIRST\" 0 0 640 480 \"\"");
+    win().classes["KILLER"] = [this](const CString& id, int x, int y, int w, int h) {
+        delete win().getWnd("P", 1);
+        return new AWnd(AWnd::WND_PLAIN, id, x, y, w, h);
+    };
+    tools.emplace(win(), DevToolsOptions{.readsScript = true});
+    saveAndWait("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    WINDOW \"P\" 0 0 50 50\n    BEGIN\n"
+                "        USERDEF \"K\" 0 0 9 9 \"KILLER\"\n    END\nEND\n");
+    EXPECT_EQ(win().getWnd("P", 1), nullptr);
+    EXPECT_EQ(faults(), inUig("script.tgs:5: USERDEF failed\n"));
+}
+
 TEST_F(ReloadTest, ASideMapTellsTheLinesOfACompiledScript)
 {
     start("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\nTEXTWND \"NOTE\" 10 10 200 20 \"x\"\nEND");
