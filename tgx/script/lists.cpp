@@ -14,12 +14,12 @@ void setIconCell(AListBox& list, int row, int column, const CString& text)
     constexpr int wordLength = 4;
     const int mark = text.Find('F');
     const int frame = mark < 0 ? 0 : std::atoi(text.Mid(mark + 1));
-    const CString icon = mark < 0 ? text : text.Left(mark);
-    list.setItemDataWithIconIndex(row, column, std::atoi(icon.Mid(wordLength)), frame);
+    list.setItemDataWithIconIndex(row, column, std::atoi(text.Mid(wordLength)), frame); // ends at the F
 }
 
 // One line is one row. A list without columns gets one of its own width. A cell that has no place fails the
-// line, and what stands in front of it stays: there are fewer columns, or this one came behind a row.
+// line, and what stands in front of it stays: there are fewer columns, or this one came behind a row. What
+// stands behind the last column that a list can have is dropped.
 bool addRow(AListBox& list, const ScriptLine& line)
 try {
     if (list.getColumnCount() == 0)

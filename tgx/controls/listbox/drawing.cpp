@@ -116,8 +116,7 @@ void AListBox::drawDividers()
 void AListBox::drawTitleBackground(int y)
 {
     if (titleSurface) {
-        titleSurface->blit(left() + borderInset(), y, 0, 0, width() - 2 * borderInset(), rowStep(),
-                           titleSurface->width - 1, titleSurface->height - 1, nullptr, bmpBlitMode);
+        drawPicture(titleSurface, left() + borderInset(), y, width() - 2 * borderInset());
         return;
     }
     if (!titleShaded)

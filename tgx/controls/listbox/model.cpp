@@ -138,7 +138,7 @@ int AListBox::addItem()
     if (!scrollBar && rows > page)
         createScrollBar();
     if (AScrollBar* bar = getScrollBar()) {
-        if ((rows > page || firstVisibleItem > 0) && !bar->isVisible(0))
+        if (rows > page || firstVisibleItem > 0)
             bar->setVisible(1);
         if (rows > page)
             bar->setStep(ZnFixed::fromInt(100) / ZnFixed::fromInt(rows - page));
