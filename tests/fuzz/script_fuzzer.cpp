@@ -20,8 +20,8 @@
 
 namespace {
 
-constexpr int screenWidth = 160; // pixels: small, so that a run is about the windows and not about pixels
-constexpr int screenHeight = 120;
+constexpr int fuzzedWidth = 160; // pixels: small, so that a run is about the windows and not about pixels
+constexpr int fuzzedHeight = 120;
 constexpr std::size_t handBytes = 24;
 constexpr unsigned mainScript = 141;
 
@@ -29,7 +29,7 @@ constexpr unsigned mainScript = 141;
 /// minute.
 class FuzzMainWin : public AMainWin {
 public:
-    FuzzMainWin() : AMainWin(screenWidth, screenHeight, 32)
+    FuzzMainWin() : AMainWin(fuzzedWidth, fuzzedHeight, 32)
     {
         scriptLines = 3000;
         scriptWork = 2'000'000;
@@ -57,7 +57,7 @@ void queueEvent(AMainWin& window, std::uint8_t byte)
     case 3:
     case 4:
     case 5:
-        input.move((byte >> 4) * screenWidth / 6, low * screenHeight / 16);
+        input.move((byte >> 4) * fuzzedWidth / 6, low * fuzzedHeight / 16);
         break;
     case 6:
     case 7:
