@@ -4,6 +4,7 @@
 # Uses the toolkit as a game of that kind would, from a folder outside of this repository, and shows the log of the step
 # that failed.
 set -euo pipefail
+export CMAKE_GENERATOR=Ninja # the default is make, which nothing here needs
 
 way=$1
 source=$2
@@ -109,7 +110,7 @@ pkg_config)
     run "run" "$work/consumer" "$work/data"
     ;;
 add_subdirectory)
-    run "configure" cmake -G Ninja -S "$here/consumer" -B "$work/build" -D TGX_SOURCE_DIR="$source" \
+    run "configure" cmake -S "$here/consumer" -B "$work/build" -D TGX_SOURCE_DIR="$source" \
         -D CMAKE_BUILD_TYPE=None
     run "build" cmake --build "$work/build" -j 2 --target consumer
     run "run" "$work/build/consumer" "$work/data"
