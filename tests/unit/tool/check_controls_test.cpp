@@ -410,6 +410,14 @@ END)",
      "parts.tgs:1:1: warning: out of a script with subroutines single windows are read, and this line in "
      "none of them; FONT stands in a window's block here [no-effect]\n"
      "parts.tgs:4:10: error: a border is made of a picture, and this names none [missing-bitmap]\n"},
+    {"frames of extreme sizes", R"(CHECKBOX "B" 0 0 90 9 ""
+BEGIN
+  CHECKBOXSTATE 0 0 -1 -1 "three.bmp"
+END
+BITMAP "C" 0 0 9 9 "three.bmp" 32767 10 0 32767)",
+     "a.tgs:5:20: error: \"three.bmp\" is 63 x 10 pixels, too small for 32767 frames of 32767 x 10 that "
+     "\"C\" "
+     "takes from it; a row of them is 1073709056 x 10 [strip-too-small]\n"},
     {"a strip that begins behind its last frame", R"(WINDOW "A" 0 0 400 90
 BEGIN
   BITMAP "B" 0 0 20 10 "three.bmp" 20 10 0 3

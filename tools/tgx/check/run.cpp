@@ -294,10 +294,6 @@ void Reading::note(const ExecutedLine& executed, AWnd* target, LineRef at, const
             findings.add("no-effect", *at.script, at.line, 4,
                          "the second bitmap of a BORDER is for list boxes; " + describe(*target) +
                              " does not read it");
-    } else if (keyword == "LISTFONTS") {
-        for (int i = 1; i < executed.count && knowsAllFonts; ++i)
-            if (!win->getFont(executed.tokens[i].value))
-                findings.add("no-font", *at.script, at.line, i, noFont(executed.tokens[i].value, *win));
     } else if (keyword == "COLUMNS" && isKnown && executed.count > 1 &&
                static_cast<AListBox*>(target)->getItemCount() > 0) {
         findings.add("late-columns", *at.script, at.line,
@@ -324,9 +320,10 @@ void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef
                     (executed.current ? ", and " + (target->getID().IsEmpty() ? "this" : describe(*target)) +
                                             " is " + typeOf(*target)
                                       : ", and no window's block is around it"));
-    } else if (keyword == "FONT") {
-        if (knowsAllFonts)
-            add("no-font", 1, noFont(executed.tokens[1].value, *win));
+    } else if (keyword == "FONT" || keyword == "LISTFONTS") {
+        for (int i = 1; i < executed.count && knowsAllFonts; ++i)
+            if (!win->getFont(executed.tokens[i].value))
+                add("no-font", i, noFont(executed.tokens[i].value, *win));
     } else if (keyword == "TABORDER" || keyword == "TABLIST1" || keyword == "TABLIST2") {
         explainMissingWindow(executed, *target, at);
     } else if (keyword == "POINTER") {

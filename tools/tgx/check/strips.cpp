@@ -14,32 +14,33 @@ namespace {
 
 /// Looks into buttons, which keep to themselves what their script has set.
 struct ButtonAccess : AButton {
-    static int framesOf(const AButton& button)
+    static long long framesOf(const AButton& button)
     {
         const auto& frames = button.*(&ButtonAccess::stateFrames);
-        return std::accumulate(std::begin(frames), std::end(frames), 0,
-                               [](int sum, int each) { return sum + std::max(each, 0); });
+        return std::accumulate(std::begin(frames), std::end(frames), 0LL,
+                               [](long long sum, int each) { return sum + std::max(each, 0); });
     }
 };
 
+// In 64 bits: a script may give any 16-bit size and a button any number of frames.
 struct Frames {
-    int width, height;
-    int count; // that are shown, from the first on
+    long long width, height;
+    long long count; // that are shown, from the first on
 };
 
 /// The frame that lies last as it would lie in a picture large enough.
 struct Reach {
-    int right, bottom;
+    long long right, bottom;
 };
 
 /// A strip of more than two frames goes on in rows; a shorter one is a row alone.
 Reach reachOf(const Frames& frames, const Picture& picture)
 {
-    const int step = frames.width + 1;
-    const int perRow = picture.width > 2 * frames.width ? picture.width / step : 0;
+    const long long step = frames.width + 1;
+    const long long perRow = picture.width > 2 * frames.width ? picture.width / step : 0;
     if (perRow == 0)
         return {step * (frames.count - 1) + frames.width, frames.height};
-    const int rows = (frames.count - 1) / perRow;
+    const long long rows = (frames.count - 1) / perRow;
     return {0, rows * (frames.height + 1) + frames.height};
 }
 
@@ -82,7 +83,7 @@ private:
             if (AButton::isButton(&wnd))
                 frames.count = ButtonAccess::framesOf(static_cast<AButton&>(wnd));
             else if (frames.count > 1) // a BMPFRAME may begin behind the last one
-                frames.count = std::max(frames.count, wnd.getCurrentFrame() + 1);
+                frames.count = std::max(frames.count, wnd.getCurrentFrame() + 1LL);
             if (frames.count > 1) // a still picture is shown as far as it goes
                 compare(wnd, at, *picture, frames, Rows);
         }
@@ -91,12 +92,13 @@ private:
     enum Arrangement { OneRow, Rows };
     void compare(AWnd& wnd, LineRef at, const Picture& picture, const Frames& frames, Arrangement arrangement)
     {
-        const int step = frames.width + 1;
+        if (frames.width <= 0 || frames.height <= 0)
+            return; // the toolkit shows nothing of such a frame
+        const long long step = frames.width + 1;
         const Reach reach = arrangement == Rows
                                 ? reachOf(frames, picture)
                                 : Reach{step * (frames.count - 1) + frames.width, frames.height};
-        if (frames.width <= 0 || frames.height <= 0 ||
-            (reach.right <= picture.width && reach.bottom <= picture.height))
+        if (reach.right <= picture.width && reach.bottom <= picture.height)
             return;
         const std::string count = frames.count == 1 ? "the frame" : std::to_string(frames.count) + " frames";
         check.findings.add(

@@ -69,7 +69,7 @@ std::string noFont(int number, AMainWin& window)
            (added > 0 ? "there are 0 to " + std::to_string(added) : "there is only 0, the built-in one");
 }
 
-std::string size(int width, int height)
+std::string size(long long width, long long height)
 {
     return std::to_string(width) + " x " + std::to_string(height);
 }

@@ -18,6 +18,6 @@ std::string describe(AWnd& wnd);
 /// For a number that the font table does not hold.
 std::string noFont(int number, AMainWin& window);
 /// "120 x 40".
-std::string size(int width, int height);
+std::string size(long long width, long long height);
 
 } // namespace script_check
