@@ -134,14 +134,15 @@ AGraph::Plot AGraph::getPlot() const
 
 void AGraph::draw(int frameStep)
 {
+    // Taken before the base moves the window on: the border and the plot are drawn in one place.
+    const Plot plot = getPlot();
     AWnd::draw(frameStep);
     AMainWin* main = getMainWin();
-    RECT box{left(), top(), right(), bottom()};
+    RECT box{plot.left, plot.top, plot.right, plot.bottom};
     main->adddirtyrect(box);
     if (!isVisible(1))
         return;
 
-    const Plot plot = getPlot();
     drawValueAxis(plot);
     drawPositionAxis(plot);
     for (int series = 0; series < seriesCount; ++series) {
@@ -224,10 +225,10 @@ void AGraph::drawBar(const Plot& plot, int series, int index)
     const ZnFixed height = ZnFixed::fromRaw(static_cast<std::int32_t>(grownValue)) * plot.yStep;
     const int barTop = whole(shifted(plot.bottom) - height.raw);
 
-    // A bar that would hang below the axis is none.
+    // A negative value has no bar, not even an empty one while it grows.
     if (barTop < plot.bottom)
         getMainWin()->fillrect(x + 1, barTop, x2, plot.bottom, colour); // a gap of one pixel at the left
-    else if (barTop == plot.bottom && showEmptyBars)
+    else if (barTop == plot.bottom && value >= 0 && showEmptyBars)
         getMainWin()->fillrect(x, plot.bottom - 1, x2, plot.bottom, colour);
     if (index < seriesLabels[series].GetSize())
         drawLabel(plot, seriesLabels[series][index], x, barTop);

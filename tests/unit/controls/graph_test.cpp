@@ -115,6 +115,11 @@ TEST_F(GraphTest, BarsAndTheirLabels)
         EXPECT_EQ(operations("BARS", "textout"), Trace{row.shown});
     }
 
+    play("call BARS removeAll 1");
+    add("BARS", {-2});
+    EXPECT_EQ(operations("BARS", "fillrect"), Trace{}) << "a negative value has none while it grows either";
+    play("call BARS draw 30");
+
     // A position of 20.5 pixels, a value of 0.505: all bars shrink at once, and a bar's right end counts from
     // its whole left one. The colours of the first calls serve every series.
     play("call BARS removeAll 0", "call BARS setWndPos 100 100 205 101");
@@ -124,6 +129,17 @@ TEST_F(GraphTest, BarsAndTheirLabels)
     EXPECT_EQ(operations("BARS", "fillrect"),
               (Trace{fill(101, 100, 120, 201, "#010101"), fill(121, 200, 140, 201, "#020202"),
                      fill(101, 150, 120, 201, "#010101")}));
+}
+
+TEST_F(GraphTest, ThePlotSlidesWithTheBox)
+{
+    play("frame");
+    graph("BARS")->setMoveAnimation(0, 0, 50, 0, ZnFixed::fromInt(10), ZnFixed(), 0);
+    for (int x : {100, 110, 120}) {
+        play("frame");
+        EXPECT_EQ(frameDrawn().operations("adddirtyrect"),
+                  (Trace{dirty(x, 100, x + 200, 200), dirty(100, 100, 300, 200)}));
+    }
 }
 
 TEST_F(GraphTest, LinesWithTheirPensAndMarks)
