@@ -165,7 +165,8 @@ void AMainWin::screenWipe()
         wipeSwapsBackdrop = false;
         if (screen) {
             showBackdropOf(*screen);
-            screen->renewBkgnds(); // a new screen was started over the old backdrop
+            if (!wipeReturns)
+                screen->renewBkgnds(); // a new screen was started over the old backdrop
         }
     }
     const bool onlySwaps = swaps && left == total - 2 && left > 1;

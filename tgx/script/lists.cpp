@@ -95,13 +95,20 @@ void listHighlight(AListBox& list, const ScriptLine& line)
     list.setHotRowBmpFile(line.text(2));
 }
 
-void listFonts(AListBox& list, const ScriptLine& line)
+// An entry that the font table does not have fails the line, as for FONT; the fonts before it stay.
+bool listFonts(AListBox& list, const ScriptLine& line)
 {
     constexpr int rowFonts = 3;
-    for (int i = 1; i <= rowFonts && i < line.count; ++i)
-        list.setRowFont(i, line.window.getFont(line.number(i)));
-    if (line.count >= 5)
-        list.setTitleFont(line.window.getFont(line.number(4)));
+    for (int i = 1; i <= rowFonts + 1 && i < line.count; ++i) {
+        bmpfont* entry = line.window.getFont(line.number(i));
+        if (!entry)
+            return false;
+        if (i <= rowFonts)
+            list.setRowFont(i, entry);
+        else
+            list.setTitleFont(entry);
+    }
+    return true;
 }
 
 void listIcons(AListBox& list, const ScriptLine& line)

@@ -145,7 +145,7 @@ bool item(AWnd& target, const ScriptLine& line);
 void columns(AListBox& list, const ScriptLine& line);
 void listFixedColumns(AListBox& list, const ScriptLine& line);
 void listFixedRows(AListBox& list, const ScriptLine& line);
-void listFonts(AListBox& list, const ScriptLine& line);
+bool listFonts(AListBox& list, const ScriptLine& line);
 void listHighlight(AListBox& list, const ScriptLine& line);
 void listIcons(AListBox& list, const ScriptLine& line);
 void listLook(AListBox& list, const ScriptLine& line);

@@ -326,6 +326,7 @@ TEST_F(ListBoxModelTest, StatementsThatFail)
     } rows[] = {
         {"more cells than columns", "COLUMNS 9 9\nITEM \"a\" \"b\"\nITEM \"c\" \"d\" \"e\" \"f\"", 3,
          "a b|c d"},
+        {"a font outside the table", "VISIBLE 0\nCOLUMNS 9\nITEM \"a\"\nLISTFONTS 0 1", 4, "a"},
         {"a column behind a row", "VISIBLE 0\nCOLUMNS 9\nITEM \"a\"\nCOLUMNS 9\nITEM \"b\" \"c\"", 5,
          "a |b "},
         {"no row height", "LISTLOOK\nITEM \"a\"", 1, "a"},

@@ -221,12 +221,17 @@ TEST_F(WipeTest, TheNewBackdropSpreadsFromTheLeft)
     play("frame");
     EXPECT_EQ(win().getLastFrame().commands().back().op, DrawOp::DrawScreen);
 
+    wnd("W")->setBmpInfo(100, 100, 0, 0);
+    wnd("W")->createBkgnd(win().getBackdrop(), 1);
     play("change A", "frame 5");
     taken();
     wipe(15);
     EXPECT_EQ(taken(), none);
     wipe(1);
     EXPECT_EQ(taken(), (Calls{"A returned"})) << "a suspended one at the last frame";
+    play("frame");
+    EXPECT_EQ(pixel(0), 0u) << "with the background that it kept";
+    EXPECT_EQ(pixel(1), 0x445566u) << "of the backdrop at that time";
 }
 
 TEST_F(WipeTest, AClickCutsItShortAndTheBackdropStillComes)
