@@ -4,6 +4,7 @@
 #include "tgx/controls/combobox.h"
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/wnd/tabstops.h"
+#include "tgx/wnd/window_cast.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -171,7 +172,7 @@ void CargoScreen::choose(int lot)
 void CargoScreen::showChoice()
 {
     const int chosen = chosenLot();
-    auto& button = *getButton("MOVE", 1);
+    auto& button = part<AButton>("MOVE");
     AListBox& plan = list("PLAN");
     if (chosen == Stowage::nothing) {
         tell("CHOSEN", "No lot is chosen");
@@ -234,7 +235,7 @@ void CargoScreen::update()
 {
     bool changed = false;
     for (std::size_t i = 0; i < std::size(orders); ++i) {
-        auto* box = static_cast<AComboBox*>(getWnd(comboBoxes[i], 1));
+        auto* box = windowAs<AComboBox>(getWnd(comboBoxes[i], 1));
         if (!box || box->getSelectedItem() == orders[i])
             continue;
         orders[i] = box->getSelectedItem();

@@ -24,7 +24,7 @@ private:
     void showChoice();
     void showOrders();
     void showState();
-    AListBox& list(const char* name) { return *getListBox(name, 1); }
+    AListBox& list(const char* name) { return part<AListBox>(name); }
     int choiceIn(const char* listName);
     int chosenLot();
     void choose(int lot);

@@ -7,6 +7,7 @@
 #include "tgx/controls/button.h"
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/controls/scrollbar.h"
+#include "tgx/wnd/window_cast.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -251,10 +252,10 @@ void OptionsScreen::startup()
 {
     HarbourScreen::startup();
     // A button that starts is at rest, so it is disabled behind that.
-    if (auto* keep = static_cast<AButton*>(getWnd("KEEP", 1)))
+    if (AButton* keep = getButton("KEEP", 1))
         keep->setButtonState(AButton::BS_DISABLED);
     for (const Dial& dial : dials) {
-        if (auto* bar = static_cast<AScrollBar*>(getWnd(dial.bar, 1)))
+        if (auto* bar = windowAs<AScrollBar>(getWnd(dial.bar, 1)))
             bar->setPercentage(ZnFixed::fromInt(dial.percent));
     }
 }
@@ -263,7 +264,7 @@ void OptionsScreen::draw(int frameStep)
 {
     // A held bar keeps the mouse to itself, so its value is read here.
     for (const Dial& dial : dials) {
-        if (auto* bar = static_cast<AScrollBar*>(getWnd(dial.bar, 1)))
+        if (auto* bar = windowAs<AScrollBar>(getWnd(dial.bar, 1)))
             tell(dial.value, (std::to_string(bar->getPercentage().toInt()) + " %").c_str());
     }
     HarbourScreen::draw(frameStep);
@@ -273,7 +274,7 @@ int OptionsScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, i
 {
     if (HarbourScreen::handleMouseAction(subject, wnd, x, y, action))
         return 1;
-    auto* keep = static_cast<AButton*>(getWnd("KEEP", 1));
+    AButton* keep = getButton("KEEP", 1);
     if (action != MA_LBUTTONUP || !keep)
         return 0;
     CString family = subject.Left(5);

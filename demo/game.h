@@ -2,6 +2,7 @@
 
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/screen.h"
+#include "tgx/wnd/window_cast.h"
 
 /// Where the demo's scripts, pictures and fonts lie: the first command line argument that is no option, else
 /// the environment's TGX_DEMO_DATA, else the build tree. To be called before the main window is made.
@@ -43,6 +44,16 @@ public:
     int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
 
 protected:
+    /// A window that the screen cannot do without. A script that leaves it out, or makes it of another class,
+    /// ends the tick or frame that asks, by the exception for an invalid argument.
+    template<class T>
+    T& part(const char* name)
+    {
+        T* found = windowAs<T>(getWnd(name, 1));
+        if (!found)
+            AfxThrowInvalidArgException();
+        return *found;
+    }
     /// Writes text into the window of that id, if there is one.
     void tell(const char* window, const char* text);
     /// Whether this is a press or click on the titles of that list: it is not to reach the row that may have

@@ -6,6 +6,7 @@
 #include "tgx/controls/keyboard.h"
 #include "tgx/controls/progressbar.h"
 #include "tgx/controls/vidiprinter.h"
+#include "tgx/wnd/window_cast.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -134,7 +135,7 @@ void Level::follow(int ticks)
 
 AGraph& MarketScreen::graph(const char* name)
 {
-    return static_cast<AGraph&>(*getWnd(name, 1));
+    return part<AGraph>(name);
 }
 
 void MarketScreen::startup()
@@ -214,7 +215,7 @@ void MarketScreen::goOn(int ticks)
 void MarketScreen::showLevel(const char* bar, const char* value, const Level& level, int most,
                              const char* unit)
 {
-    if (auto* shown = static_cast<AProgressBar*>(getWnd(bar, 1)))
+    if (auto* shown = windowAs<AProgressBar>(getWnd(bar, 1)))
         shown->setPercentage(ZnFixed::fromInt(level.now) / ZnFixed::fromInt(fullLevel / 100));
     tell(value, (std::to_string(level.now * most / fullLevel) + unit).c_str());
 }
@@ -272,7 +273,7 @@ void MarketScreen::turnValves()
 
 void MarketScreen::update()
 {
-    auto* box = static_cast<AComboBox*>(getWnd("GOODS", 1));
+    auto* box = windowAs<AComboBox>(getWnd("GOODS", 1));
     if (!box || box->getSelectedItem() == goods)
         return;
     goods = box->getSelectedItem();
@@ -317,7 +318,7 @@ void MarketScreen::openNaming()
     if (!box || !main->setPopupWnd(box, this, 0))
         return;
     AWnd* field = box->getWnd("NEW_NAME", 1);
-    auto* keys = static_cast<AKeyboard*>(box->getWnd("KEYS", 1));
+    auto* keys = windowAs<AKeyboard>(box->getWnd("KEYS", 1));
     if (!field || !keys)
         return;
     field->setWindowText(shipName);

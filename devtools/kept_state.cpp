@@ -9,6 +9,7 @@
 #include "tgx/controls/tabcontrol.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/screen.h"
+#include "tgx/wnd/window_cast.h"
 
 #include <algorithm>
 #include <functional>
@@ -162,13 +163,13 @@ void InterfaceState::keep()
         }
     }
     // From the active screen back to the one without a caller; a ring ends where it closes.
-    for (AWnd* wnd = game.getActiveScreen(); wnd && wnd->getWindowType() == AWnd::WND_SCREEN;) {
-        const std::string id = wnd->getID().str();
+    for (AScreen* screen = game.getActiveScreen(); screen;) {
+        const std::string id = screen->getID().str();
         if (std::any_of(screens.begin(), screens.end(), [&](const Opened& each) { return each.id == id; }))
             break;
-        screens.insert(screens.begin(), {id, origins.scriptOf(*wnd), ""});
-        const CString& caller = static_cast<AScreen*>(wnd)->getCaller();
-        wnd = caller.IsEmpty() ? nullptr : game.getWnd(caller, 0);
+        screens.insert(screens.begin(), {id, origins.scriptOf(*screen), ""});
+        const CString& caller = screen->getCaller();
+        screen = caller.IsEmpty() ? nullptr : windowAs<AScreen>(game.getWnd(caller, 0));
     }
     // Those behind open first; of one parent's the one in front, and the others queue up behind it.
     std::string lastParent;

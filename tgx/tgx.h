@@ -24,4 +24,5 @@
 #include "tgx/wnd/screen.h"
 #include "tgx/wnd/screenlist.h"
 #include "tgx/wnd/tabstops.h"
+#include "tgx/wnd/window_cast.h"
 #include "tgx/wnd/wnd.h"

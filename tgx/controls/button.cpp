@@ -2,6 +2,7 @@
 
 #include "tgx/base/fixed.h"
 #include "tgx/base/swapped.h"
+#include "tgx/wnd/window_cast.h"
 
 #include <algorithm>
 #include <optional>
@@ -40,7 +41,7 @@ AButton* AButton::getStateWnd()
     AWnd* wnd = getWnd("RadioState", 1);
     if (!wnd)
         wnd = getWnd("CheckboxState", 1);
-    return isButton(wnd) ? static_cast<AButton*>(wnd) : nullptr;
+    return windowAs<AButton>(wnd);
 }
 
 int AButton::isSelected()

@@ -2,6 +2,7 @@
 
 #include "tgx/base/fixed.h"
 #include "tgx/frame/mainwin.h"
+#include "tgx/wnd/window_cast.h"
 
 #include <algorithm>
 #include <climits>
@@ -21,11 +22,7 @@ void AComboBox::Buttons::setState(E_BUTTON_STATE state)
 /// A script may give these ids to windows of any kind.
 AComboBox::Buttons AComboBox::getButtons()
 {
-    const auto find = [this](const char* name) {
-        AWnd* wnd = getWnd(name, 1);
-        return isButton(wnd) ? static_cast<AButton*>(wnd) : nullptr;
-    };
-    return {find("ComboPrev"), find("ComboNext")};
+    return {getButton("ComboPrev", 1), getButton("ComboNext", 1)};
 }
 
 int AComboBox::addItem(const CString& text)
@@ -131,7 +128,7 @@ void AComboBox::tellOfChoice()
 AListBox* AComboBox::getOrMakeMenu()
 {
     if (AWnd* menu = getWnd("ComboMenu", 1))
-        return menu->getWindowType() == WND_LISTBOX ? static_cast<AListBox*>(menu) : nullptr;
+        return windowAs<AListBox>(menu);
     auto* made = new AFloatingMenu("ComboMenu", 0, 0, width(), getMainWin()->screenHeight);
     addChildWindow(made);
     return made;
@@ -182,11 +179,10 @@ int AComboBox::handlePopupAction(const CString& about, AWnd* wnd, int x, int y, 
     if (!self || action != MA_LBUTTONUP)
         return 0;
     AMainWin* main = getMainWin();
-    AWnd* popup = getPopupWnd();
-    if (!popup || popup->getWindowType() != WND_LISTBOX)
+    auto* menu = windowAs<AListBox>(getPopupWnd());
+    if (!menu)
         return 0;
 
-    auto* menu = static_cast<AListBox*>(popup);
     const int chosen = menu->getSelectedItem();
     const bool isChoice = chosen >= 0 && chosen < items.GetSize();
     if (isChoice) {

@@ -1,5 +1,6 @@
 #include "platform/display/msgbox.h"
 #include "tgx/frame/mainwin.h"
+#include "tgx/wnd/window_cast.h"
 
 namespace {
 
@@ -14,10 +15,17 @@ AScreen* AMainWin::addScreen(const CString& id, int x, int y, int w, int h)
 {
     if (!screenList)
         return nullptr;
-    AWnd* screen = createNewWindow(id, x, y, w, h, id);
+    AWnd* made = createNewWindow(id, x, y, w, h, id);
+    auto* screen = windowAs<AScreen>(made);
+    if (made && !screen) {
+        // The id is that of a class of the game that is no screen.
+        MsgBox("cannot make screen %s", static_cast<const char*>(id));
+        delete made;
+    }
     if (!screen)
         screen = new AScreen(id, x, y, w, h);
-    return static_cast<AScreen*>(screenList->addChildWindow(screen));
+    screenList->addChildWindow(screen);
+    return screen;
 }
 
 AScreen* AMainWin::doChangeScreenSpecial(const CString&)
@@ -29,10 +37,8 @@ AScreen* AMainWin::changeScreen(const CString& name, int closeCurrent, unsigned 
 {
     if (!screenList || (name.IsEmpty() && pendingScreen.IsEmpty()))
         return nullptr;
-    const AWnd* wanted = screenList->getWnd(name, 1);
-    const bool isOpen = wanted && wanted->getWindowType() == AWnd::WND_SCREEN &&
-                        static_cast<const AScreen*>(wanted)->isOpen();
-    if (!isOpen)
+    const auto* wanted = windowAs<AScreen>(screenList->getWnd(name, 1));
+    if (!wanted || !wanted->isOpen())
         setCursor(waitCursor);
 
     if (!pendingScreen.IsEmpty()) {
@@ -51,12 +57,13 @@ AScreen* AMainWin::changeScreen(const CString& name, int closeCurrent, unsigned 
 /// present screen if it is closed for good, and all inside them.
 AScreen* AMainWin::usableScreen(AWnd* wnd, bool closesCurrent) const
 {
-    if (!wnd || wnd->getWindowType() != AWnd::WND_SCREEN || screenList->isWndToBeDeleted(wnd))
+    auto* screen = windowAs<AScreen>(wnd);
+    if (!screen || screenList->isWndToBeDeleted(screen))
         return nullptr;
     for (const AWnd* above = wnd; above; above = above->getParent())
         if (popupWnds.contains(above) || (closesCurrent && above == getActiveScreen()))
             return nullptr;
-    return static_cast<AScreen*>(wnd);
+    return screen;
 }
 
 AScreen* AMainWin::findOrReadScreen(const CString& name, bool closesCurrent, unsigned resource,
@@ -186,11 +193,9 @@ int AMainWin::closeAllScreensExceptCurrent()
     if (!screenList)
         return 0;
     for (int i = 0; i < screenList->getWindowCount(); ++i) {
-        AWnd* wnd = screenList->getWndFromIndex(i, "");
-        if (!wnd || wnd->getWindowType() != AWnd::WND_SCREEN || wnd == getActiveScreen())
-            continue;
-        if (static_cast<AScreen*>(wnd)->isOpen())
-            wnd->close();
+        auto* screen = windowAs<AScreen>(screenList->getWndFromIndex(i, ""));
+        if (screen && screen != getActiveScreen() && screen->isOpen())
+            screen->close();
     }
     return 0;
 }

@@ -6,6 +6,7 @@
 #include "tgx/wnd/border.h"
 #include "tgx/wnd/links.h"
 #include "tgx/wnd/tabstops.h"
+#include "tgx/wnd/window_cast.h"
 #include "tgx/wnd/wnd.h"
 
 #include <algorithm>
@@ -174,15 +175,14 @@ AWnd* AWnd::getWnd(const CString& name, int recursive)
     return nullptr;
 }
 
-// Typed look-ups: every control derives from AWnd alone, so its address is the window's.
 AButton* AWnd::getButton(const CString& name, int recursive)
 {
-    return static_cast<AButton*>(getWnd(name, recursive));
+    return windowAs<AButton>(getWnd(name, recursive));
 }
 
 AListBox* AWnd::getListBox(const CString& name, int recursive)
 {
-    return static_cast<AListBox*>(getWnd(name, recursive));
+    return windowAs<AListBox>(getWnd(name, recursive));
 }
 
 AWnd* AWnd::getWndFromIndex(int index, const CString& parentId)

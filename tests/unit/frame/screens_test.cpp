@@ -121,6 +121,30 @@ TEST_F(ScreensTest, ADyingScreenIsReadAnew)
     EXPECT_EQ(active(), "A");
 }
 
+TEST_F(ScreensTest, WindowsOfTheWrongKindAreRefused)
+{
+    begin();
+    win().classes["SHIP"] = [](const CString& id, int x, int y, int w, int h) {
+        return new AWnd(AWnd::WND_SCREEN, id, x, y, w, h);
+    };
+    expectMessage("cannot make screen SHIP");
+    script(
+        "SCREEN \"SHIP\" 0 0 640 480 \"b.bmp\"\nBEGIN\nWINDOW \"NOTE\" 0 0 90 20\nBUTTON \"GO\" 0 30 90 20 "
+        "\"\"\nLISTBOX \"LOG\" 0 60 90 90\nEND\n");
+    play("change SHIP close", "frame 6");
+    EXPECT_EQ(active(), "SHIP") << "a plain screen takes its place";
+    EXPECT_EQ(screen("SHIP")->getBackdropName(), "b.bmp");
+    const struct {
+        const char* id;
+        bool isButton, isList;
+    } rows[] = {{"NOTE", false, false}, {"GO", true, false}, {"LOG", false, true}, {"NONE", false, false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.id);
+        EXPECT_EQ(screen("SHIP")->getButton(row.id, 1) != nullptr, row.isButton);
+        EXPECT_EQ(screen("SHIP")->getListBox(row.id, 1) != nullptr, row.isList);
+    }
+}
+
 TEST_F(ScreensTest, ToTheActiveScreenItself)
 {
     begin();
