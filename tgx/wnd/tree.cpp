@@ -19,6 +19,26 @@ bmpfont* defaultFont()
     return main ? main->getFont(0) : nullptr;
 }
 
+/// Whether wnd is holder or has it among its parents.
+bool isInside(const AWnd* wnd, const AWnd* holder)
+{
+    for (; wnd; wnd = wnd->getParent())
+        if (wnd == holder)
+            return true;
+    return false;
+}
+
+/// Whether wnd is holder or is listed below it, which a window shown in two places is without being inside.
+bool isListedBelow(const AWnd* wnd, AWnd* holder)
+{
+    if (holder == wnd)
+        return true;
+    for (int i = 0; i < holder->getWindowCount(); ++i)
+        if (AWnd* next = holder->getWndFromIndex(i, ""); next && isListedBelow(wnd, next))
+            return true;
+    return false;
+}
+
 } // namespace
 
 AWnd::AWnd(E_WNDTYPE type, const CString& name, int x, int y, int width, int height)
@@ -102,6 +122,8 @@ void AWnd::inheritFont()
 
 AWnd* AWnd::addChildWindow(AWnd* added)
 {
+    if (isInside(this, added) || isListedBelow(this, added))
+        return nullptr;
     if (added->owner == this || (added->links && added->links->holders.contains(this)))
         added->getLinks().listedTwice = true;
 
@@ -120,6 +142,8 @@ AWnd* AWnd::addChildWindow(AWnd* added)
 
 void AWnd::setParentAndIndex(AWnd* newParent, int index)
 {
+    if (isInside(newParent, this))
+        return;
     parent = newParent;
     windowIndex = to16(index);
     inheritFont();

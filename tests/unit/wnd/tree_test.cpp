@@ -143,6 +143,31 @@ TEST_F(TreeTest, TabStops)
     EXPECT_EQ(a->getNextTabStop(wnd("P"), 0, nullptr), wnd("R")) << "a deleted stop has dropped out";
 }
 
+TEST_F(TreeTest, NoWindowComesToBeInsideItself)
+{
+    const struct {
+        const char* name;
+        const char* holder;
+        const char* added;
+    } rows[] = {
+        {"itself", "P", "P"},
+        {"its parent", "TWICE", "A"},
+        {"the other holder of a window shown in two places", "DEEP", "A"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        AWnd* before = wnd(row.added)->getParent();
+        EXPECT_EQ(wnd(row.holder)->addChildWindow(wnd(row.added)), nullptr);
+        EXPECT_EQ(wnd(row.added)->getParent(), before);
+        EXPECT_EQ(wnd(row.holder)->getWindowCount(), 0);
+    }
+    wnd("A")->setParentAndIndex(wnd("P"), 7);
+    EXPECT_EQ(wnd("A")->getParent(), win().getScreenList());
+    EXPECT_EQ(checkInvariants(win()), "");
+    play("frame 6");
+    EXPECT_EQ(wnd("Q")->addChildWindow(wnd("R")), wnd("R")) << "a sibling may move below another";
+}
+
 TEST_F(TreeTest, APopupThatLosesItsParentOrDiesLeavesNoPointer)
 {
     AWnd* popup = wnd("B");
