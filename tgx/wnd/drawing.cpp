@@ -2,6 +2,7 @@
 #include "tgx/base/fixed.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/border.h"
+#include "tgx/wnd/child_walk.h"
 #include "tgx/wnd/wnd.h"
 
 #include <algorithm>
@@ -52,10 +53,15 @@ void AWnd::draw(int frameStep)
         textOut(x, atTop + textOffsetY, width() - textOffsetX, height() - textOffsetY, windowText,
                 textJustify, textWrap, ZnFixed::fromInt(1), 0, nullptr);
     }
-    for (int i = 0; i < children.GetSize(); ++i) {
-        fetchAhead(i);
-        if (AWnd* next = child(i))
-            next->draw(frameStep);
+    if (children.GetSize() > 0) {
+        ChildWalk walk(children);
+        while (walk.mayGoOn()) {
+            fetchAhead(walk.getIndex());
+            if (AWnd* next = walk.next())
+                next->draw(frameStep);
+        }
+        if (!walk.isHolderAlive())
+            return;
     }
 
     if (AMainWin* main = getMainWin(); main && main->getPopupWndCount() > 0) {

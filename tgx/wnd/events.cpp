@@ -1,5 +1,6 @@
 #include "tgx/base/swapped.h"
 #include "tgx/frame/mainwin.h"
+#include "tgx/wnd/child_walk.h"
 #include "tgx/wnd/reserved.h"
 #include "tgx/wnd/wnd.h"
 
@@ -42,8 +43,8 @@ bool closesPopup(std::string_view id)
 
 void AWnd::initialise()
 {
-    for (int i = 0; i < children.GetSize(); ++i)
-        if (AWnd* next = child(i))
+    for (ChildWalk walk(children); walk.mayGoOn();)
+        if (AWnd* next = walk.next())
             next->initialise();
 }
 
@@ -55,30 +56,30 @@ void AWnd::startup()
     if (bkgnd && main)
         createBkgnd(main->getBackdrop(), 0);
     setBmp(bmpFilename);
-    for (int i = 0; i < children.GetSize(); ++i)
-        if (AWnd* next = child(i))
+    for (ChildWalk walk(children); walk.mayGoOn();)
+        if (AWnd* next = walk.next())
             next->startup();
 }
 
 void AWnd::close()
 {
-    for (int i = 0; i < children.GetSize(); ++i)
-        if (AWnd* next = child(i))
+    for (ChildWalk walk(children); walk.mayGoOn();)
+        if (AWnd* next = walk.next())
             next->close();
 }
 
 void AWnd::returned()
 {
     setBmp(bmpFilename);
-    for (int i = 0; i < children.GetSize(); ++i)
-        if (AWnd* next = child(i))
+    for (ChildWalk walk(children); walk.mayGoOn();)
+        if (AWnd* next = walk.next())
             next->returned();
 }
 
 void AWnd::finishAnims()
 {
-    for (int i = 0; i < children.GetSize(); ++i)
-        if (AWnd* next = child(i))
+    for (ChildWalk walk(children); walk.mayGoOn();)
+        if (AWnd* next = walk.next())
             next->finishAnims();
 }
 
@@ -103,8 +104,8 @@ int AWnd::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOU
             if (AWnd* hit = getWndAtPos(x, y, 0))
                 result = hit->handleMouseAction(about, wnd, x, y, action);
     } else {
-        for (int i = 0; handling.mayGoOn() && i < children.GetSize(); ++i)
-            if (AWnd* next = child(i))
+        for (ChildWalk walk(children); handling.mayGoOn() && walk.mayGoOn();)
+            if (AWnd* next = walk.next())
                 next->handleMouseAction(about, wnd, x, y, action);
         // Asked again: a handler may have taken the key, or changed it.
         if (handling.isHandlerAlive() && main && main->keyCode == VK_ESCAPE)
@@ -134,8 +135,8 @@ void AWnd::putPointerOnCancel()
 int AWnd::handleKeyInput(char key)
 {
     const WndRef self = this; // what the key does may delete the window
-    for (int i = 0; self && i < children.GetSize(); ++i)
-        if (AWnd* next = child(i))
+    for (ChildWalk walk(children); walk.mayGoOn();)
+        if (AWnd* next = walk.next())
             next->handleKeyInput(key);
     return self ? handleMouseAction(id, this, -1, -1, MA_KEY) : 0;
 }

@@ -4,6 +4,7 @@
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/border.h"
+#include "tgx/wnd/child_walk.h"
 #include "tgx/wnd/links.h"
 #include "tgx/wnd/tabstops.h"
 #include "tgx/wnd/window_cast.h"
@@ -41,6 +42,8 @@ bool isListedBelow(const AWnd* wnd, AWnd* holder)
 
 } // namespace
 
+ChildWalk* ChildWalk::innermost = nullptr;
+
 AWnd::AWnd(E_WNDTYPE type, const CString& name, int x, int y, int width, int height)
     : wndX_(to16(x)), wndY_(to16(y)), wndWidth(to16(width)), wndHeight(to16(height)), font(defaultFont()),
       windowType(type), id(name == "static" ? CString() : name)
@@ -48,6 +51,7 @@ AWnd::AWnd(E_WNDTYPE type, const CString& name, int x, int y, int width, int hei
 
 AWnd::~AWnd()
 {
+    ChildWalk::end(children);
     tabStopInfo.reset();
     border.reset();
     anim.reset();
@@ -102,8 +106,10 @@ void AWnd::unlist(AWnd* listed)
 {
     TreeVersion::bump();
     for (int i = children.GetSize() - 1; i >= 0; --i)
-        if (child(i) == listed)
+        if (child(i) == listed) {
             children.RemoveAt(i);
+            ChildWalk::removed(children, i);
+        }
     // Below the root they keep their numbers: it remembers the active screen's.
     const AMainWin* main = getMainWin();
     if (main && main->getScreenList() == this)

@@ -183,6 +183,65 @@ TEST_F(TreeTest, APopupThatLosesItsParentOrDiesLeavesNoPointer)
     play("move 5 5", "frame 3");
 }
 
+// B's handlers delete a window of the walk that calls them; what else is there hears of it all the same.
+TEST_F(TreeTest, AWalkVisitsEveryChildWhateverIsDeleted)
+{
+    struct Visited : AWnd {
+        Visited(const char* name, std::string& visits) : AWnd(WND_PLAIN, name, 0, 0, 9, 9), log(visits) {}
+        int visit()
+        {
+            const CString name = getID();
+            std::string& visits = log;
+            visits += name;
+            if (victim)
+                delete victim.get();
+            return 0;
+        }
+        void initialise() override { visit(); }
+        void startup() override { visit(); }
+        void close() override { visit(); }
+        void returned() override { visit(); }
+        void finishAnims() override { visit(); }
+        void draw(int) override { visit(); }
+        int handleKeyInput(char) override { return visit(); }
+        int handleMouseAction(const CString&, AWnd*, int, int, E_MOUSEACTION) override { return visit(); }
+
+        std::string& log;
+        WndRef victim;
+    };
+    const struct {
+        const char* name;
+        void (*walk)(AWnd&);
+    } walks[] = {
+        {"initialise", [](AWnd& holder) { holder.initialise(); }},
+        {"startup", [](AWnd& holder) { holder.startup(); }},
+        {"close", [](AWnd& holder) { holder.close(); }},
+        {"returned", [](AWnd& holder) { holder.returned(); }},
+        {"finishAnims", [](AWnd& holder) { holder.finishAnims(); }},
+        {"draw", [](AWnd& holder) { holder.draw(1); }},
+        {"typed key", [](AWnd& holder) { holder.AWnd::handleKeyInput('x'); }},
+        {"key", [](AWnd& holder) { holder.handleMouseAction("", nullptr, -1, -1, AWnd::MA_KEY); }},
+    };
+    const struct {
+        const char* victim;
+        const char* visits;
+    } rows[] = {{"A1", "A1B1C1D1"}, {"B1", "A1B1C1D1"}, {"C1", "A1B1D1"}, {"H", "A1B1"}};
+    for (const auto& walk : walks) {
+        for (const auto& row : rows) {
+            SCOPED_TRACE(std::string(walk.name) + " deletes " + row.victim);
+            std::string visits;
+            const WndRef holder = wnd("A")->addChildWindow(new AWnd(AWnd::WND_PLAIN, "H", 0, 0, 9, 9));
+            for (const char* id : {"A1", "B1", "C1", "D1"})
+                holder->addChildWindow(new Visited(id, visits));
+            static_cast<Visited*>(wnd("B1"))->victim = wnd(row.victim);
+            walk.walk(*holder);
+            // A typed key goes on to the window's own action, and from there to the children again.
+            EXPECT_EQ(visits.substr(0, std::string(row.visits).size()), row.visits);
+            delete holder.get();
+        }
+    }
+}
+
 // Every window of both screens, at each step of a sequence that has focus, press, capture, popup, pending
 // list and change.
 TEST_F(TreeTest, AnyWindowMayDieAtAnyMoment)
