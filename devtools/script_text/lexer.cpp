@@ -40,6 +40,17 @@ std::size_t utf8Length(std::uint32_t character)
     return character < 0x80 ? 1 : character < 0x800 ? 2 : character < 0x10000 ? 3 : 4;
 }
 
+/// What of word looks like a blank or like nothing, so that the word as such explains no message; null when
+/// there is none.
+const char* invisibleIn(std::string_view word)
+{
+    if (word.find("\xC2\xA0") != std::string_view::npos)
+        return "a no-break space (U+00A0)";
+    if (word.find("\xEF\xBB\xBF") != std::string_view::npos)
+        return "a byte-order mark (U+FEFF)";
+    return nullptr;
+}
+
 class Lexer {
 public:
     explicit Lexer(std::string_view text) : line(text) {}
@@ -106,7 +117,10 @@ private:
         Span at = here();
         const std::string_view word = takeWord();
         close(at);
-        if (word[0] == '-' || std::isdigit(static_cast<unsigned char>(word[0])))
+        if (const char* const invisible = invisibleIn(word)) {
+            fault(at, "this word holds " + std::string(invisible) + "; expected a blank or nothing there");
+            out.lexemes.push_back({Lexeme::Faulty, std::string(word), 0, at});
+        } else if (word[0] == '-' || std::isdigit(static_cast<unsigned char>(word[0])))
             readNumber(word, at);
         else
             out.lexemes.push_back({Lexeme::Word, std::string(word), 0, at});
@@ -143,7 +157,11 @@ private:
         close(at);
         if (isOpen)
             fault({at.offset, at.column, 1},
-                  "this string has no end; expected \" before the end of the line");
+                  std::string("this string has no end; expected \" before the end of the line") +
+                      (bytes.ends_with('"')
+                           ? "; \\\" is a quotation mark in the string, a backslash in front "
+                             "of its end is written \\\\"
+                           : ""));
         out.lexemes.push_back({Lexeme::String, std::move(bytes), 0, at});
     }
 

@@ -89,8 +89,27 @@ private:
         report(Diagnostic::Error, code, *in, lineNumber, at, std::move(text));
     }
 
+    /// Why a text has no lines to read; null when it has.
+    static const char* unreadable(std::string_view text)
+    {
+        if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF"))
+            return "the text is UTF-16; save it as UTF-8";
+        const std::size_t end = text.find('\r');
+        if (end != std::string_view::npos && end + 1 < text.size() &&
+            text.find('\n') == std::string_view::npos)
+            return "the lines end in CR alone; save the text with LF or CR LF";
+        return nullptr;
+    }
+
     void readFileLines(const Inclusion& inclusion)
     {
+        if (const char* const why = unreadable(inclusion.file->text)) {
+            in = &inclusion;
+            lineNumber = 1;
+            error("syntax", {0, 1, 1}, why);
+            isIncludeMissing = true; // what it defines is not known
+            return;
+        }
         const int count = inclusion.file->lineCount();
         for (int number = 1; number <= count; ++number) {
             in = &inclusion; // an INCLUDE in the line before has changed them

@@ -70,6 +70,20 @@ bool fits(ArgumentKind kind, int id)
     }
 }
 
+/// How many arguments make sense. The toolkit itself takes a GOTO without a name, which goes nowhere.
+bool allows(const Statement& statement, int tokens)
+{
+    return statement.counts.allow(tokens) && (tokens > 1 || std::string_view(statement.keyword) != "GOTO");
+}
+
+/// The word of the form for that argument; empty behind the last.
+std::string_view formWord(std::string_view form, int argument)
+{
+    for (; argument > 1 && !form.empty(); --argument)
+        form.remove_prefix(std::min(form.find(' '), form.size() - 1) + 1);
+    return form.substr(0, form.find(' '));
+}
+
 } // namespace
 
 std::string expectedForm(const Statement& statement)
@@ -81,7 +95,7 @@ std::string expectedForm(const Statement& statement)
         const std::string_view word = form.substr(0, form.find(' '));
         form.remove_prefix(std::min(word.size() + 1, form.size()));
         // A line that may end in front of this one makes it and what follows optional.
-        const bool isOptional = word != "..." && statement.counts.allow(argument);
+        const bool isOptional = word != "..." && allows(statement, argument);
         out += isOptional ? " [" : " ";
         open += isOptional;
         out += word;
@@ -124,12 +138,17 @@ std::vector<LineFault> lineFaults(const std::vector<Token>& tokens)
                      std::to_string(count - 1) + "; expected: " + expectedForm(*statement),
                  "argument-count"}};
     }
+    if (!allows(*statement, count))
+        return {{0, std::string(statement->keyword) + " needs a name; expected: " + expectedForm(*statement),
+                 "argument-count"}};
     std::vector<LineFault> faults;
     for (int i = 1; i < count; ++i) {
         const ArgumentKind kind = argumentKind(*statement, i);
         if (!fits(kind, tokens[static_cast<std::size_t>(i)].id))
             faults.push_back({static_cast<std::size_t>(i),
-                              std::string("expected ") + nameOf(kind) + " here: " + expectedForm(*statement),
+                              std::string("expected ") +
+                                  (formWord(statement->form, i) == "flag" ? "0 or 1" : nameOf(kind)) +
+                                  " here: " + expectedForm(*statement),
                               "argument-kind"});
     }
     return faults;

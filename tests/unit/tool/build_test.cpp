@@ -60,7 +60,22 @@ TEST(Build, TellsWhatIsWrongAndWhatWasExpected)
         {"a number too large", "BMPFRAME 32768",
          "1:10: error: the number 32768 does not fit; expected -32768 to 32767 or 0x0 to 0xFFFF\n"},
         {"an open string, behind a character of two bytes", "TITLES \"é\" \"a\\\"",
-         "1:12: error: this string has no end; expected \" before the end of the line\n"},
+         "1:12: error: this string has no end; expected \" before the end of the line; \\\" is a quotation "
+         "mark "
+         "in the string, a backslash in front of its end is written \\\\\n"},
+        {"UTF-16", "\xFF\xFE\x45", "1:1: error: the text is UTF-16; save it as UTF-8\n"},
+        {"line ends of CR alone", "BEGIN\rEND\r",
+         "1:1: error: the lines end in CR alone; save the text with LF or CR LF\n"},
+        {"a no-break space", "FONT\xC2\xA0\x31\nFONT 1\xC2\xA0",
+         "1:1: error: this word holds a no-break space (U+00A0); expected a blank or nothing there\n"
+         "2:6: error: this word holds a no-break space (U+00A0); expected a blank or nothing there\n"},
+        {"a byte-order mark in the middle",
+         "BEGIN\n\xEF\xBB\xBF"
+         "END",
+         "2:1: error: this word holds a byte-order mark (U+FEFF); expected a blank or nothing there\n"},
+        {"a word for a flag", "COMBOWRAP LEFT", "1:11: error: expected 0 or 1 here: COMBOWRAP flag\n"},
+        {"a GOTO without a name", "GOTO",
+         "1:1: error: GOTO needs a name; expected: GOTO \"subroutine\" [\"script\"]\n"},
         {"a 0 in a string", "TEXT \"a\\x00\"", "1:8: error: a string cannot hold the character 0\n"},
         {"a character without a byte", "TEXT \"aжb\"",
          "1:8: error: the character ж (U+0436) has no byte in code page 1252; expected one that has, or \\x "
