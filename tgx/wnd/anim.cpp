@@ -75,6 +75,10 @@ int APhysicalAnim::updatePos(int frameStep)
     if (frameStep == 0)
         return 1;
 
+    const short beforeX = animOffsetX;
+    const short beforeY = animOffsetY;
+    const ZnFixed beforeW = scaleW;
+    const ZnFixed beforeH = scaleH;
     if (incScaleW.raw != 0 || incScaleH.raw != 0) {
         growScale(scaleW, incScaleW);
         growScale(scaleH, incScaleH);
@@ -83,7 +87,9 @@ int APhysicalAnim::updatePos(int frameStep)
     }
     walk(animOffsetX, endPosX, incPosX, frameStep);
     walk(animOffsetY, endPosY, incPosY, frameStep);
-    LayoutVersion::bump();
+    if (animOffsetX != beforeX || animOffsetY != beforeY || scaleW.raw != beforeW.raw ||
+        scaleH.raw != beforeH.raw)
+        LayoutVersion::bump();
     return isWndAnimFinished() ? 0 : 1;
 }
 

@@ -14,14 +14,16 @@ struct Steps {
     int first, end;
 };
 
-/// Tiles of size pixels lie every stride pixels from start on, up to but not including start + length.
+/// Tiles of size pixels lie every stride pixels from start on, up to but not including start + length,
+/// where the last one is cut.
 Steps stepsOnScreen(int start, int length, int stride, int size, int screen)
 {
     const int count = (length + stride - 1) / stride;
     int first = 0;
     if (start + size <= 0)
         first = (-start - size) / stride + 1;
-    const int end = screen <= start ? 0 : std::min(count, (screen - start + stride - 1) / stride);
+    const bool isOff = screen <= start || start + length <= 0;
+    const int end = isOff ? 0 : std::min(count, (screen - start + stride - 1) / stride);
     return {first, end};
 }
 

@@ -139,6 +139,17 @@ TEST_F(GeometryTest, AMovementWalksWhileItIsDrawn)
     }
 }
 
+TEST_F(GeometryTest, AFinishedMovementThatStaysChangesNoLayout)
+{
+    APhysicalAnim movement;
+    movement.setMoveAnimation(0, 0, 8, 0, ZnFixed::fromInt(5), ZnFixed(), 0);
+    for (const bool moves : {true, true, false, false}) {
+        const auto before = LayoutVersion::get();
+        movement.updatePos(1);
+        EXPECT_EQ(LayoutVersion::get() != before, moves) << movement.getAnimOffsetX();
+    }
+}
+
 TEST_F(GeometryTest, GrowAndShrinkSlideByHalfTheSize)
 {
     AWnd* under = wnd("UNDER"); // 80 x 80 at 110, 120
