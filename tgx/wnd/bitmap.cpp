@@ -39,12 +39,12 @@ void AWnd::setBmp(const CString& name)
 {
     if (name.IsEmpty())
         return;
-    AMainWin* main = getMainWin();
-    if (!main)
-        return;
-
     const CString wanted = name; // it may be this window's own name, which loading changes
     bmpFilename = wanted;
+    AMainWin* main = getMainWin();
+    if (!main)
+        return; // startup loads it
+
     if (!bmp || wanted != bmp->filename)
         setBmp(main->createsprite(wanted, -1, -1, -1));
     if (!bmp)

@@ -53,6 +53,9 @@ void AWnd::startup()
     if (anim)
         anim->reset();
     AMainWin* main = getMainWin();
+    // A window made before the main window was there has no font yet.
+    if (!font && main)
+        font = parent && parent->font ? parent->font : main->getFont(0);
     if (bkgnd && main)
         createBkgnd(main->getBackdrop(), 0);
     setBmp(bmpFilename);

@@ -220,4 +220,22 @@ TEST_F(DrawingTest, PositionsHoldWhenADrawMovesWhatLiesAbove)
     EXPECT_EQ(drawn("PIC"), (Trace{blit("tile.bmp").from(0, 0, 128, 64).to(6, 2, 128, 64)}));
 }
 
+class EarlyWindowTest : public TgxTest {};
+
+TEST_F(EarlyWindowTest, AWindowMadeBeforeTheMainWindowGetsItsPictureAndFont)
+{
+    bitmap("tile.bmp", 128, 64);
+    ASSERT_EQ(getMainWin(), nullptr);
+    auto* early = new AWnd(AWnd::WND_PLAIN, "EARLY", 10, 20, 128, 64);
+    early->setBmp(CString("tile.bmp"));
+    early->setWindowText("hello");
+    start("SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nWINDOW \"W\" 0 0 9 9\nEND\n");
+    wnd("W")->addChildWindow(early);
+    wnd("S")->startup();
+    EXPECT_NE(early->getBmp(), nullptr);
+    EXPECT_EQ(early->getFont(), win().getFont(0));
+    play("frame 6");
+    EXPECT_EQ(frameDrawn().operations("textout"), Trace{text("hello").at(10, 45)}) << "centred vertically";
+}
+
 } // namespace
