@@ -1,6 +1,7 @@
 #include "player/events.h"
 
 #include "platform/framework/exceptions.h"
+#include "platform/host/codepage.h"
 #include "platform/host/headless_host.h"
 #include "platform/host/image_file.h"
 #include "player/calls.h"
@@ -137,28 +138,28 @@ void shot(const Event& event)
     const Image& screen = event.win.getScreenImage();
     if (screen.width <= 0 || screen.height <= 0)
         throw WrongLine("no frame has been shown yet");
-    if (!writePng(screen, event.player.outputPath(event.text(1))))
-        throw WrongLine("cannot write " + quote(event.text(1)));
+    if (!writePng(screen, event.player.outputPath(event.fileName(1))))
+        throw WrongLine("cannot write " + quoteName(event.fileName(1)));
 }
 
 void tree(const Event& event)
 {
-    event.player.writeFile(event.text(1), treeReport(event.win));
+    event.player.writeFile(event.fileName(1), treeReport(event.win));
 }
 
 void trace(const Event& event)
 {
-    event.player.writeFile(event.text(1), traceReport(event.win));
+    event.player.writeFile(event.fileName(1), traceReport(event.win));
 }
 
 void fonts(const Event& event)
 {
-    event.player.writeFile(event.text(1), fontsReport(event.win));
+    event.player.writeFile(event.fileName(1), fontsReport(event.win));
 }
 
 void include(const Event& event)
 {
-    event.player.include(event.text(1));
+    event.player.include(event.fileName(1));
 }
 
 void test(const Event& event)
@@ -205,6 +206,14 @@ const struct EventRow {
 };
 
 } // namespace
+
+std::string Event::fileName(std::size_t index) const
+{
+    std::string name;
+    for (const char c : text(index)) // a 0 stays, so that it is refused
+        name += c ? utf8From1252({&c, 1}) : std::string(1, c);
+    return name;
+}
 
 std::int64_t Event::number(std::size_t index, std::int64_t lowest, std::int64_t highest) const
 {

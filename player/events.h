@@ -18,6 +18,8 @@ struct Event {
 
     bool has(std::size_t index) const { return index < words.size(); }
     const std::string& text(std::size_t index) const { return words[index].text; }
+    /// A word that names a file, in UTF-8.
+    std::string fileName(std::size_t index) const;
     /// Raises WrongLine for what is no number in this range, ends included.
     std::int64_t number(std::size_t index, std::int64_t lowest, std::int64_t highest) const;
     /// A number that fits the pointer's fields.

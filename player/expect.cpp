@@ -163,17 +163,17 @@ Found picture(const Event& event)
     const Image& screen = event.win.getScreenImage();
     if (screen.width <= 0 || screen.height <= 0)
         throw WrongLine("no frame has been shown yet");
-    return compareWithPicture(event.player, event.text(1), screen);
+    return compareWithPicture(event.player, event.fileName(1), screen);
 }
 
 Found tree(const Event& event)
 {
-    return compareWithFile(event.player, event.text(1), treeReport(event.win));
+    return compareWithFile(event.player, event.fileName(1), treeReport(event.win));
 }
 
 Found trace(const Event& event)
 {
-    return compareWithFile(event.player, event.text(1), traceReport(event.win));
+    return compareWithFile(event.player, event.fileName(1), traceReport(event.win));
 }
 
 enum class Waits { Yes, No };

@@ -63,7 +63,7 @@ void Player::start()
 {
     std::error_code error;
     if (!fs::is_directory(options.dataDirectory, error))
-        throw std::runtime_error("no data directory " + quote(options.dataDirectory));
+        throw std::runtime_error("no data directory " + quoteName(options.dataDirectory));
     before.reset(new Surroundings{displayhost::use(nullptr), dataDirectory()});
     setDataDirectory(options.dataDirectory);
     open();
@@ -173,7 +173,7 @@ void Player::frame()
 std::string Player::outputPath(const std::string& name) const
 {
     if (!staysBelow(name))
-        throw WrongLine("cannot write " + quote(name) + ": not a file name below the output directory");
+        throw WrongLine("cannot write " + quoteName(name) + ": not a file name below the output directory");
     const std::string path = (fs::path(options.outDirectory) / fs::path(name).lexically_normal()).string();
     makeFoldersOf(path);
     return path;
@@ -186,5 +186,5 @@ void Player::writeFile(const std::string& name, std::string_view contents)
         return;
     }
     if (!writeWhole(outputPath(name), contents))
-        throw WrongLine("cannot write " + quote(name));
+        throw WrongLine("cannot write " + quoteName(name));
 }

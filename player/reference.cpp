@@ -25,14 +25,14 @@ std::string variantName(const std::string& name, const std::string& variant)
 std::string referencePath(const Player& player, const std::string& name)
 {
     if (!staysBelow(name))
-        throw WrongLine(quote(name) + " is not a file name below the folder of the events file");
+        throw WrongLine(quoteName(name) + " is not a file name below the folder of the events file");
     return player.pathBesideEvents(name);
 }
 
 void noteUpdate(Player& player, const std::string& name, bool isWritten)
 {
     if (!isWritten)
-        throw WrongLine("cannot write " + quote(name));
+        throw WrongLine("cannot write " + quoteName(name));
     player.note("wrote " + name);
 }
 
@@ -128,7 +128,7 @@ std::optional<std::string> compareWithFile(Player& player, const std::string& na
     }
     const std::string actual = player.outputPath(variantName(name, "actual"));
     if (!writeWhole(actual, found))
-        throw WrongLine("cannot write " + quote(actual));
+        throw WrongLine("cannot write " + quoteName(actual));
     return expected ? describeDifference(*expected, found) + "; the whole is in " + actual
                     : describeMissing("file", actual);
 }
@@ -149,7 +149,7 @@ std::optional<std::string> compareWithPicture(Player& player, const std::string&
     const auto write = [&](const Image& image, const char* variant) {
         const std::string written = player.outputPath(variantName(name, variant));
         if (!writePng(image, written))
-            throw WrongLine("cannot write " + quote(written));
+            throw WrongLine("cannot write " + quoteName(written));
         return written;
     };
     const std::string actual = write(found, "actual");

@@ -112,12 +112,12 @@ void Player::include(const std::string& name)
     if (sources.size() > deepestInclude)
         throw WrongLine("files include one another more than " + std::to_string(deepestInclude) + " deep");
     if (name.empty() || name.find('\0') != std::string::npos || fs::path(name).is_absolute())
-        throw WrongLine("expected a file named from the folder of the events file, found " + quote(name));
+        throw WrongLine("expected a file named from the folder of the events file, found " + quoteName(name));
     const std::string path = pathBesideEvents(name);
     std::error_code error;
     std::ifstream file = openEvents(path);
     if (!file || !fs::is_regular_file(path, error))
-        throw WrongLine("cannot read the events file " + quote(path));
+        throw WrongLine("cannot read the events file " + quoteName(path));
     playLines(file, path, false);
 }
 
@@ -203,7 +203,7 @@ PlayStatus Player::run()
         if (!options.eventsFile.empty() && !fromStdin) {
             file = openEvents(options.eventsFile);
             if (!file)
-                throw std::runtime_error("cannot read the events file " + quote(options.eventsFile));
+                throw std::runtime_error("cannot read the events file " + quoteName(options.eventsFile));
         }
         start();
         if (options.eventsFile.empty())

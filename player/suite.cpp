@@ -32,7 +32,7 @@ std::vector<std::string> findEventsFiles(const TestOptions& options)
 {
     std::error_code error;
     if (!fs::is_directory(options.directory, error))
-        throw std::runtime_error("no folder " + quote(options.directory));
+        throw std::runtime_error("no folder " + quoteName(options.directory));
     std::vector<std::string> names;
     for (const auto& entry : fs::recursive_directory_iterator(options.directory, error)) {
         if (!entry.is_regular_file(error) || entry.path().extension() != ".events")
@@ -43,8 +43,8 @@ std::vector<std::string> findEventsFiles(const TestOptions& options)
     }
     if (names.empty())
         throw std::runtime_error(
-            "no events file below " + quote(options.directory) +
-            (options.filter.empty() ? "" : " has " + quote(options.filter) + " in its name"));
+            "no events file below " + quoteName(options.directory) +
+            (options.filter.empty() ? "" : " has " + quoteName(options.filter) + " in its name"));
     std::sort(names.begin(), names.end());
     return names;
 }
@@ -64,7 +64,7 @@ std::string readHeader(const std::string& path, PlayOptions& options)
         std::string reason;
         try {
             std::vector<std::string> words;
-            for (const Word& word : splitWords(line.substr(mark.size())))
+            for (const Word& word : splitWords(line.substr(mark.size()), Characters::Utf8))
                 words.push_back(word.text);
             if (words.empty() || words[0] != "play")
                 reason = "expected " + std::string(headerForm) + ", found " + line;
@@ -219,7 +219,7 @@ int runTests(const TestOptions& options, const MainWinFactory& factory, std::ost
         out << all << (all == 1 ? " file, " : " files, ") << all - failed << " ok, " << failed << " failed\n";
         if (!options.junitFile.empty() &&
             !writeWhole(options.junitFile, junitReport(options.directory, suite.getResults())))
-            throw std::runtime_error("cannot write " + quote(options.junitFile));
+            throw std::runtime_error("cannot write " + quoteName(options.junitFile));
         return failed > 0 ? 1 : 0;
     } catch (const std::runtime_error& wrongCall) {
         err << "test: " << wrongCall.what() << '\n';

@@ -1,5 +1,7 @@
 #include "player/words.h"
 
+#include "platform/host/codepage.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
@@ -27,11 +29,37 @@ int hexByte(std::string_view digits)
     return error == std::errc() && end == digits.data() + 2 ? static_cast<int>(value) : -1;
 }
 
+std::string escaped(unsigned char byte)
+{
+    char hex[8];
+    std::snprintf(hex, sizeof hex, "\\x%02X", byte);
+    return hex;
+}
+
+/// Takes the next character off line at place, as the bytes that it becomes.
+std::string takeCharacter(std::string_view line, std::size_t& place, Characters characters)
+{
+    std::string_view rest = line.substr(place);
+    const std::uint32_t character = rest[0] & 0x80 ? takeUtf8(rest) : (rest.remove_prefix(1), 0u);
+    const std::string_view source = line.substr(place, line.size() - rest.size() - place);
+    place += source.size();
+    if (character == 0 || characters == Characters::Utf8)
+        return std::string(source);
+    if (character == 0xFFFD && source != "\xEF\xBF\xBD") {
+        const std::string byte = escaped(static_cast<unsigned char>(source[0]));
+        throw WrongLine("the byte 0x" + byte.substr(2) + " is not UTF-8; save the file as UTF-8, or write " +
+                        byte);
+    }
+    if (const std::optional<char> byte = to1252(character))
+        return {*byte};
+    throw WrongLine("the character " + std::string(source) + " has no byte in code page 1252");
+}
+
 /// Reads the string whose opening quote stands at place; place goes behind the closing one.
-std::string readString(std::string_view line, std::size_t& place)
+std::string readString(std::string_view line, std::size_t& place, Characters characters)
 {
     std::string text;
-    for (++place; place < line.size(); ++place) {
+    for (++place; place < line.size();) {
         char c = line[place];
         if (c == '"') {
             ++place;
@@ -41,16 +69,21 @@ std::string readString(std::string_view line, std::size_t& place)
             char next = line[place + 1];
             int byte = next == 'x' ? hexByte(line.substr(place + 2)) : -1;
             if (next == '"' || next == '\\') {
-                c = next;
-                place += 1;
-            } else if (byte >= 0) {
-                c = static_cast<char>(byte);
-                place += 3;
+                text += next;
+                place += 2;
+                continue;
+            }
+            if (byte >= 0) {
+                text += static_cast<char>(byte);
+                place += 4;
+                continue;
             } // any other backslash stands for itself
         }
-        text += c;
+        text += takeCharacter(line, place, characters);
     }
-    throw WrongLine("the string \"" + text + " has no closing quote");
+    std::string shown = characters == Characters::Utf8 ? quoteName(text) : quote(text);
+    shown.pop_back();
+    throw WrongLine("the string " + shown + " has no closing quote");
 }
 
 /// Takes a sign off the front; true for a minus.
@@ -82,7 +115,7 @@ std::size_t slips(std::string_view a, std::string_view b)
 
 } // namespace
 
-std::vector<Word> splitWords(std::string_view line)
+std::vector<Word> splitWords(std::string_view line, Characters characters)
 {
     std::vector<Word> words;
     std::size_t place = 0;
@@ -92,19 +125,20 @@ std::vector<Word> splitWords(std::string_view line)
         if (place == line.size())
             return words;
         if (line[place] == '"') {
-            words.push_back({readString(line, place), true});
+            words.push_back({readString(line, place, characters), true});
             if (place < line.size() && !isBlank(line[place]))
                 throw WrongLine("a blank is missing behind the string " + quote(words.back().text));
             continue;
         }
         std::size_t start = place;
+        std::string text;
         while (place < line.size() && !isBlank(line[place])) {
             if (line[place] == '"')
                 throw WrongLine("a blank is missing before the string behind " +
-                                quote(line.substr(start, place - start)));
-            ++place;
+                                quoteName(line.substr(start, place - start)));
+            text += takeCharacter(line, place, characters);
         }
-        words.push_back({std::string(line.substr(start, place - start)), false});
+        words.push_back({std::move(text), false});
     }
 }
 
@@ -155,26 +189,40 @@ std::optional<std::int64_t> parseFixed(const Word& word)
 std::string quote(std::string_view text)
 {
     std::string quoted = "\"";
-    for (unsigned char c : text) {
-        char hex[8];
-        std::snprintf(hex, sizeof hex, "\\x%02X", c);
-        if (c < 0x20 || c > 0x7E)
-            quoted += hex;
+    for (const char c : text) {
+        const std::string character = utf8From1252({&c, 1});
+        const auto byte = static_cast<unsigned char>(c);
+        quoted += byte < 0x20 || byte == 0x7F || character == "\xEF\xBF\xBD" ? escaped(byte) : character;
+    }
+    return quoted + '"';
+}
+
+std::string quoteName(std::string_view name)
+{
+    std::string quoted = "\"";
+    while (!name.empty()) {
+        std::string_view rest = name;
+        const std::uint32_t character = takeUtf8(rest);
+        const std::string_view source = name.substr(0, name.size() - rest.size());
+        name = rest;
+        if (character >= 0x20 && (character < 0x7F || character > 0x9F) && character != 0xFFFD)
+            quoted += source;
         else
-            quoted += static_cast<char>(c);
+            for (const char c : source)
+                quoted += escaped(static_cast<unsigned char>(c));
     }
     return quoted + '"';
 }
 
 std::string quoteWord(std::string_view text)
 {
-    std::string escaped;
-    for (char c : text) {
+    std::string word = "\"";
+    for (const char c : text) {
         if (c == '"' || c == '\\')
-            escaped += '\\';
-        escaped += c;
+            word += '\\';
+        word += c < 0x20 || c > 0x7E ? escaped(static_cast<unsigned char>(c)) : std::string(1, c);
     }
-    return quote(escaped);
+    return word + '"';
 }
 
 std::string listNames(const std::vector<std::string>& names, std::size_t limit)
