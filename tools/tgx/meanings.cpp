@@ -117,7 +117,7 @@ constexpr Meaning rows[] = {
     {76, Lists, "A list of rows and columns; the statements in its block fill it.", "listbox"},
     {51, Lists,
      "Appends columns: the width of each in pixels, and a word behind it for where its text stands (left "
-     "without one).",
+     "without one). A list has up to 20 columns; those beyond are ignored.",
      "listbox"},
     {102, Lists, "The titles of the columns, from the first on.", "listbox"},
     {57, Lists,
