@@ -56,6 +56,23 @@ void copyIndexed(SDL_Surface& from, Image& to)
     }
 }
 
+/// The decoder hands out a greyscale PNG with a transparent colour as pairs of grey and alpha bytes and calls
+/// the format RGB565, which no PNG has.
+bool holdsGreyAlpha(const SDL_Surface& from, PictureKind kind)
+{
+    return kind == PictureKind::Png && from.format->BytesPerPixel == 2;
+}
+
+void copyGreyAlpha(const SDL_Surface& from, Image& to)
+{
+    for (int y = 0; y < to.height; y++) {
+        const auto* pair =
+            static_cast<const Uint8*>(from.pixels) + static_cast<std::ptrdiff_t>(y) * from.pitch;
+        for (int x = 0; x < to.width; x++, pair += 2)
+            to.row(y)[x] = std::uint32_t(pair[1]) << 24 | pair[0] * 0x010101u;
+    }
+}
+
 ImageRef decodeWithSdl(std::string_view bytes, const PictureHeader& header)
 {
     SDL_RWops* stream = SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
@@ -70,6 +87,10 @@ ImageRef decodeWithSdl(std::string_view bytes, const PictureHeader& header)
     ImageRef image = makeImage(decoded->w, decoded->h);
     if (decoded->format->BitsPerPixel == 8) {
         copyIndexed(*decoded, *image);
+        return image;
+    }
+    if (holdsGreyAlpha(*decoded, header.kind)) {
+        copyGreyAlpha(*decoded, *image);
         return image;
     }
     SdlPixels wide(SDL_ConvertSurfaceFormat(decoded.get(), SDL_PIXELFORMAT_ARGB8888, 0));
