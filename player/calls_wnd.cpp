@@ -109,6 +109,7 @@ constexpr Operation rows[] = {
     operation<&AWnd::doNextFrame>("doNextFrame"),
     operation<&AWnd::hasBkgnd>("hasBkgnd"),
     operation<&AWnd::darkenRect>("darkenRect"),
+    operation<&AWnd::renewBkgnds>("renewBkgnds"),
 
     // Text
     operation<&AWnd::textOut>("textOut"),

@@ -34,8 +34,8 @@ constexpr Meaning rows[] = {
      "screen"},
     {113, Windows, "A plain window: a panel, a frame, something to click on.", "window"},
     {37, Windows,
-     "A picture. With the four numbers it plays a strip of frames that stand 1 pixel apart, each for `delay` "
-     "ticks.",
+     "A picture. With the four numbers it plays a strip of frames, each for `delay` ticks. One pixel that is "
+     "not shown follows each frame, the last one too: a strip of three frames 20 wide is 63 pixels wide.",
      "bitmap"},
     {99, Windows, "A text, moved by `textX` and `textY`, and perhaps a picture behind it.", "text"},
     {106, Windows,
@@ -67,8 +67,8 @@ constexpr Meaning rows[] = {
     {115, AnyWindow, "Whether the text is wrapped to the width. On an edit box: several lines.", "textwrap"},
     {108, AnyWindow, "Whether the text is drawn as it stands, not cut to fit.", "textwrap"},
     {61, AnyWindow,
-     "Its font, an entry of the font table; 0 is the built-in one. Windows that are made inside behind this "
-     "line begin with it.",
+     "Its font, an entry of the font table; 0 is the built-in one. Windows made inside it after this line "
+     "start with the same font; those made before keep theirs.",
      "text"},
     {110, AnyWindow, "Whether it shows: above 0.", "tabcontrol"},
     {60, AnyWindow,
@@ -108,7 +108,9 @@ constexpr Meaning rows[] = {
      "trough, lever.",
      "scrollbar"},
     {112, Buttons, "A scroll bar that stands; frames as those of `HSCROLLBAR`.", "scrollbar"},
-    {45, Buttons, "How many frames each state's run has.", "button"},
+    {45, Buttons,
+     "How many frames each state's run has. Without it the strip has three frames: normal, hot and pressed.",
+     "button"},
     {44, Buttons, "How many ticks each frame of a state's run stays.", "opening"},
     {46, Buttons, "Whether each state's run starts again at its end.", "opening"},
     {85, Buttons, "Whether a press moves the text by a pixel; at first it does.", "checkbox"},

@@ -21,8 +21,9 @@ constexpr const char* head = R"(# Script reference
 Every statement of interface scripts. How a script is written, and what windows and blocks are, stands in [script.md](script.md).
 
 How to read the forms: `"in quotes"` is a string, `lower` a number, `UPPER` a word, `a|B` a number or that word; `[ ]` may be left out, and `...` stands
-for more of the same. A `flag` is the lowest bit of its number. `x y width height` are pixels, from the corner of the window around. Window names are compared
-without regard to case where they are looked for. **Arguments** tells how many a line may have, **byte** the statement's value in the compiled script.
+for more of the same. A `flag` is the lowest bit of its number. `x y width height` are pixels, from the corner of the window around. A window that a statement
+names is found whatever the case of its name; the name of a subroutine, and that of a window which is read alone out of a script, are compared
+exactly. **Arguments** tells how many a line may have, **byte** the statement's value in the compiled script.
 
 The pictures are those of short scripts to begin with, [examples/controls](../examples/controls/README.md).
 )";
