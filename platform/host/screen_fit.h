@@ -35,6 +35,10 @@ struct ScreenFit {
     }
     /// Whole screen pixels: every one is shown as large as the next.
     bool isWholeScale() const { return w % screenWidth == 0 && h % screenHeight == 0; }
+    bool contains(int windowX, int windowY) const
+    {
+        return windowX >= x && windowX < x + w && windowY >= y && windowY < y + h;
+    }
     /// The screen pixel under a place of the window; from outside, the nearest.
     Point toScreen(int windowX, int windowY) const
     {

@@ -14,6 +14,20 @@ namespace {
 /// Not every system tells of a pointer that was moved: behind this time no more is waited for.
 constexpr std::uint32_t ownMotionMillis = 100;
 
+/// The farthest that the second press of a double click may be from the first, window units.
+constexpr int doubleClickRadius = 4;
+
+/// Where the pointer is while it is not over the screen.
+constexpr ScreenFit::Point offScreen{-1, -1};
+
+/// Whether a key with these modifiers is a command of the system or the program, and types nothing. Right Alt
+/// is AltGr on many keyboards, which types a character, on some systems together with Ctrl.
+bool isCommand(unsigned modifiers)
+{
+    const bool hasAltGr = modifiers & (KMOD_RALT | KMOD_MODE);
+    return (modifiers & (KMOD_LALT | KMOD_GUI)) || ((modifiers & KMOD_CTRL) && !hasAltGr);
+}
+
 std::optional<MouseButton> buttonOf(std::uint8_t button)
 {
     switch (button) {
@@ -79,7 +93,25 @@ void SdlInput::handleMotion(const SDL_MouseMotionEvent& motion)
         if (!isOverdue)
             return; // ours, or from before it
     }
-    moveTo(fit.toScreen(motion.x, motion.y));
+    movePointer(motion.x, motion.y);
+}
+
+/// A pointer beside the screen is over nothing; while a button is held, such as on a lever, it is at the
+/// nearest place of the screen.
+void SdlInput::movePointer(int windowX, int windowY)
+{
+    moveTo(fit.contains(windowX, windowY) || heldButtons.any() ? fit.toScreen(windowX, windowY) : offScreen);
+}
+
+/// clicks of the event says that the press came in time. Where SDL counts clicks together, more than these
+/// may be meant: of other places nearby, and a third and fourth.
+bool SdlInput::isSecondClick(const SDL_MouseButtonEvent& event)
+{
+    const bool isSecond = event.clicks > 1 && lastPress.button == event.button && !lastPress.wasSecond &&
+                          std::abs(event.x - lastPress.x) <= doubleClickRadius &&
+                          std::abs(event.y - lastPress.y) <= doubleClickRadius;
+    lastPress = {event.button, event.x, event.y, isSecond};
+    return isSecond;
 }
 
 void SdlInput::handleButton(const SDL_MouseButtonEvent& event)
@@ -91,15 +123,17 @@ void SdlInput::handleButton(const SDL_MouseButtonEvent& event)
     if (event.state == SDL_PRESSED) {
         // A click that brings the window to the front may come without a motion to its place.
         if (!awaitsOwnMotion)
-            moveTo(fit.toScreen(event.x, event.y));
-        if (event.clicks > 0 && event.clicks % 2 == 0) // a third click in a row begins anew
+            movePointer(event.x, event.y);
+        if (!fit.contains(event.x, event.y))
+            return;
+        if (isSecondClick(event))
             queue.doubleClick(*button);
         else
             queue.press(*button);
         heldButtons.set(index);
     } else if (heldButtons.test(index)) {
         if (!awaitsOwnMotion)
-            moveTo(fit.toScreen(event.x, event.y));
+            movePointer(event.x, event.y);
         queue.release(*button);
         heldButtons.reset(index);
     }
@@ -113,6 +147,7 @@ void SdlInput::handleKeyDown(const SDL_KeyboardEvent& event)
     setCode(event.keysym.scancode, code);
     waitingKey = code;
     waitingIsRepeat = event.repeat != 0;
+    waitingIsCommand = isCommand(event.keysym.mod);
 }
 
 /// The code that the key went down with is let go, whatever its code would be by now.
@@ -144,6 +179,8 @@ void SdlInput::handleText(std::string_view text)
 {
     if (!typesText(waitingKey))
         flush();
+    if (waitingKey != 0 && waitingIsCommand)
+        return; // some systems send the letter all the same
     while (!text.empty()) {
         const std::optional<char> character = to1252(takeUtf8(text));
         if (!character)

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <bitset>
+#include <climits>
 #include <cstdint>
 #include <string_view>
 
@@ -37,16 +38,27 @@ private:
     void handleText(std::string_view text);
     void sendWaitingKey(char character);
     void moveTo(ScreenFit::Point place);
+    void movePointer(int windowX, int windowY);
+    bool isSecondClick(const SDL_MouseButtonEvent& event);
 
     InputQueue& queue;
     ScreenFit fit;
-    ScreenFit::Point last = {-1, -1}; // what the queue knows last
+    ScreenFit::Point last = {INT_MIN, INT_MIN}; // what the queue knows last; at first nothing
     std::bitset<3> heldButtons;
+    // The last press, window units. A second one at its place in time makes a double click of the two.
+    struct Press {
+        int button = -1;
+        int x = 0;
+        int y = 0;
+        bool wasSecond = false;
+    };
+    Press lastPress;
     // Virtual key codes of the keys that are down, by scancode; 0 for one that is not.
     std::array<std::uint8_t, SDL_NUM_SCANCODES> codes{};
     // A key event waits for the text event right behind it, so that one transition has code and character.
     std::uint8_t waitingKey = 0;
     bool waitingIsRepeat = false;
+    bool waitingIsCommand = false; // held with Ctrl, Alt or Super: it types nothing
     // The motion event that moving the pointer brings, in window units, until it has come.
     bool awaitsOwnMotion = false;
     ScreenFit::Point ownMotion = {0, 0};

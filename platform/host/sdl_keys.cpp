@@ -57,9 +57,44 @@ std::uint8_t numpadKey(const SDL_Keysym& key)
     return key.sym == SDLK_KP_0 ? numpad0 : key.sym == SDLK_KP_PERIOD ? numpadPoint : 0;
 }
 
-} // namespace
+/// What the key at that place types on a US keyboard; SDLK_UNKNOWN for a place that types nothing.
+SDL_Keycode keyAtPlace(SDL_Scancode place)
+{
+    if (place >= SDL_SCANCODE_A && place <= SDL_SCANCODE_Z)
+        return SDLK_a + (place - SDL_SCANCODE_A);
+    if (place >= SDL_SCANCODE_1 && place <= SDL_SCANCODE_9)
+        return SDLK_1 + (place - SDL_SCANCODE_1);
+    switch (place) {
+    case SDL_SCANCODE_0:
+        return SDLK_0;
+    case SDL_SCANCODE_MINUS:
+        return SDLK_MINUS;
+    case SDL_SCANCODE_EQUALS:
+        return SDLK_EQUALS;
+    case SDL_SCANCODE_LEFTBRACKET:
+        return SDLK_LEFTBRACKET;
+    case SDL_SCANCODE_RIGHTBRACKET:
+        return SDLK_RIGHTBRACKET;
+    case SDL_SCANCODE_BACKSLASH:
+        return SDLK_BACKSLASH;
+    case SDL_SCANCODE_SEMICOLON:
+        return SDLK_SEMICOLON;
+    case SDL_SCANCODE_APOSTROPHE:
+        return SDLK_QUOTE;
+    case SDL_SCANCODE_GRAVE:
+        return SDLK_BACKQUOTE;
+    case SDL_SCANCODE_COMMA:
+        return SDLK_COMMA;
+    case SDL_SCANCODE_PERIOD:
+        return SDLK_PERIOD;
+    case SDL_SCANCODE_SLASH:
+        return SDLK_SLASH;
+    default:
+        return SDLK_UNKNOWN;
+    }
+}
 
-std::uint8_t virtualKeyOf(const SDL_Keysym& key)
+std::uint8_t codeOf(const SDL_Keysym& key)
 {
     if (key.sym >= SDLK_a && key.sym <= SDLK_z)
         return static_cast<std::uint8_t>('A' + (key.sym - SDLK_a));
@@ -70,6 +105,18 @@ std::uint8_t virtualKeyOf(const SDL_Keysym& key)
     if (const std::uint8_t code = numpadKey(key))
         return code;
     return lookUp(keys, key.sym);
+}
+
+} // namespace
+
+std::uint8_t virtualKeyOf(const SDL_Keysym& key)
+{
+    if (const std::uint8_t code = codeOf(key))
+        return code;
+    // A character of another script, such as a Cyrillic letter: the place of the key decides.
+    SDL_Keysym atPlace = key;
+    atPlace.sym = keyAtPlace(key.scancode);
+    return codeOf(atPlace);
 }
 
 char controlCharacterOf(std::uint8_t virtualKey)

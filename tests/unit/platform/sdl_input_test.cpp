@@ -34,15 +34,30 @@ protected:
         event.key.keysym.mod = static_cast<Uint16>(modifiers);
         keys->handle(event);
     }
-    void mouse(bool down, int button, int x, int y)
+    void mouse(bool down, int button, int x, int y, int clicks = 1)
     {
         SDL_Event event{};
         event.type = down ? SDL_MOUSEBUTTONDOWN : SDL_MOUSEBUTTONUP;
         event.button.button = static_cast<Uint8>(button);
         event.button.state = down ? SDL_PRESSED : SDL_RELEASED;
-        event.button.clicks = 1;
+        event.button.clicks = static_cast<Uint8>(clicks);
         event.button.x = x;
         event.button.y = y;
+        keys->handle(event);
+    }
+    void motion(int x, int y)
+    {
+        SDL_Event event{};
+        event.type = SDL_MOUSEMOTION;
+        event.motion.x = x;
+        event.motion.y = y;
+        keys->handle(event);
+    }
+    void text(const char* typed)
+    {
+        SDL_Event event{};
+        event.type = SDL_TEXTINPUT;
+        SDL_strlcpy(event.text.text, typed, sizeof event.text.text);
         keys->handle(event);
     }
     void pad(SDL_JoystickID id, bool down, int button)
@@ -137,6 +152,87 @@ TEST_F(SdlInputTest, ALostFocusLetsGoOfAll)
     mouse(false, SDL_BUTTON_LEFT, 30, 40);
     pad(2, false, SDL_CONTROLLER_BUTTON_A);
     EXPECT_TRUE(queue().empty()) << "what comes up later has been let go already";
+}
+
+TEST_F(SdlInputTest, KeysOfOtherScriptsAndCommands)
+{
+    const struct {
+        const char* name;
+        SDL_Scancode place;
+        SDL_Keycode meaning;
+        int modifiers;
+        const char* typed;
+        int code, character;
+    } rows[] = {
+        {"a letter", SDL_SCANCODE_Q, SDLK_a, 0, "a", 'A', 'a'},
+        {"a Cyrillic letter, by the key's place", SDL_SCANCODE_F, 0x430, 0, "\xD0\xB0", 'F', 0},
+        {"a Cyrillic letter beside the Latin ones", SDL_SCANCODE_SEMICOLON, 0x436, 0, "\xD0\xB6", 0xBA, 0},
+        {"an accented letter on a digit's key", SDL_SCANCODE_2, 0xE9, 0, "\xC3\xA9", '2', 0xE9},
+        {"with Alt", SDL_SCANCODE_A, SDLK_a, KMOD_LALT, "a", 'A', 0},
+        {"with Super", SDL_SCANCODE_A, SDLK_a, KMOD_LGUI, "a", 'A', 0},
+        {"with Ctrl", SDL_SCANCODE_A, SDLK_a, KMOD_LCTRL, "a", 'A', 0},
+        {"with AltGr", SDL_SCANCODE_Q, SDLK_q, KMOD_RALT, "@", 'Q', '@'},
+        {"with AltGr that comes with Ctrl", SDL_SCANCODE_Q, SDLK_q, KMOD_RALT | KMOD_LCTRL, "@", 'Q', '@'},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        key(true, row.place, row.meaning, row.modifiers);
+        text(row.typed);
+        keys->flush();
+        wnd->runTick();
+        EXPECT_EQ(wnd->keyCode, row.code);
+        EXPECT_EQ(static_cast<unsigned char>(wnd->keyChar), row.character);
+        key(false, row.place, row.meaning, row.modifiers);
+        held();
+    }
+}
+
+TEST_F(SdlInputTest, ADoubleClickIsTwoPressesOfOneButtonAtOnePlace)
+{
+    const struct {
+        const char* name;
+        int button, x, y, clicks, isDouble;
+    } rows[] = {
+        {"the first", SDL_BUTTON_LEFT, 100, 100, 1, 0},
+        {"the second, a little aside", SDL_BUTTON_LEFT, 104, 96, 2, 1},
+        {"a third begins again", SDL_BUTTON_LEFT, 104, 96, 3, 0},
+        {"and a fourth ends that", SDL_BUTTON_LEFT, 104, 96, 4, 1},
+        {"a row below", SDL_BUTTON_LEFT, 104, 116, 5, 0},
+        {"there again", SDL_BUTTON_LEFT, 104, 116, 6, 1},
+        {"too late", SDL_BUTTON_LEFT, 104, 116, 1, 0},
+        {"another button", SDL_BUTTON_RIGHT, 104, 116, 1, 0},
+        {"the first one after the other", SDL_BUTTON_LEFT, 104, 116, 2, 0},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        mouse(true, row.button, row.x, row.y, row.clicks);
+        wnd->runTick();
+        EXPECT_EQ(wnd->lButtonDblClk || wnd->rButtonDblClk, row.isDouble);
+        mouse(false, row.button, row.x, row.y, row.clicks);
+        held();
+    }
+}
+
+TEST_F(SdlInputTest, BesideTheScreenThePointerIsOverNothing)
+{
+    keys->setFit(ScreenFit::of(640, 480, 840, 480)); // 100 pixels of bar at each side
+    motion(50, 200);
+    mouse(true, SDL_BUTTON_LEFT, 50, 200);
+    held();
+    EXPECT_EQ(wnd->mouseX, -1);
+    EXPECT_EQ(wnd->lButtonDown, 0);
+
+    mouse(true, SDL_BUTTON_LEFT, 100, 200);
+    motion(50, 200);
+    held();
+    EXPECT_EQ(wnd->mouseX, 0) << "a lever that is held goes on to its end";
+    EXPECT_EQ(wnd->lButtonDown, 1);
+    mouse(false, SDL_BUTTON_LEFT, 50, 200);
+    wnd->runTick();
+    EXPECT_EQ(wnd->lButtonUp, 1);
+    motion(51, 200);
+    held();
+    EXPECT_EQ(wnd->mouseX, -1);
 }
 
 TEST_F(SdlInputTest, AControllerLetsGoOfWhatItHolds)
