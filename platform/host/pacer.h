@@ -7,6 +7,7 @@
 class Pacer {
 public:
     static constexpr std::int64_t tickMicros = 1'000'000 / 60;
+    static constexpr std::int64_t unseenFrameMicros = 1'000'000 / 10;
     /// Ticks that are made up at once behind a stall. What goes beyond is forgotten, or a slow tick would
     /// bring ever more.
     static constexpr int ticksAtOnce = 4;
@@ -29,13 +30,16 @@ public:
             nextTick = now + tickMicros;
         return ticks;
     }
-    int takeFrame(std::int64_t now)
+    /// isUnseen: nobody sees the window. Frames go on slowly then, for what ends only with frames: a change
+    /// of screen, a wipe, the exit.
+    int takeFrame(std::int64_t now, bool isUnseen = false)
     {
         if (nextFrame > now)
             return 0;
         // In step with the display as long as frames keep up; a late one is followed by a pause of half a
         // period at least.
-        nextFrame = std::max(nextFrame + frameMicros, now + frameMicros / 2);
+        const std::int64_t period = isUnseen ? unseenFrameMicros : frameMicros;
+        nextFrame = std::max(nextFrame + period, now + period / 2);
         return 1;
     }
 

@@ -18,6 +18,7 @@
 #include <string>
 #include <string_view>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -65,6 +66,7 @@ private:
     void closeWindow();
     void updateFit();
     void handleWindowEvent(const SDL_WindowEvent& event);
+    void followTopMost();
     void letGo();
     void showGatheredMessages();
     bool isMinimised() const { return SDL_GetWindowFlags(window) & SDL_WINDOW_MINIMIZED; }
@@ -81,8 +83,9 @@ private:
     int textureHeight = 0;
     bool hasVideo = false; // started by us
     bool hasController = false;
-    bool pixelsAreLost = true; // the texture holds nothing of the screen
-    bool windowIsStale = true; // what the window shows is not the texture
+    bool pixelsAreLost = true;  // the texture holds nothing of the screen
+    bool isPointerOwed = false; // the game moved it while the window was in the background
+    bool windowIsStale = true;  // what the window shows is not the texture
     Pacer pacer;
     SdlInput mouseAndKeys{input()};
     SdlController controllers;
@@ -276,6 +279,10 @@ void SdlHost::show(const Image& screen, std::span<const tagRECT> changed)
 {
     if (!window || screen.width <= 0 || screen.height <= 0 || !prepareTexture(screen))
         return;
+    if (isMinimised()) {
+        pixelsAreLost = true; // the window gets the whole screen when it is back
+        return;
+    }
     if (pixelsAreLost)
         upload(screen, {0, 0, screen.width, screen.height});
     else
@@ -360,9 +367,13 @@ void SdlHost::handleWindowEvent(const SDL_WindowEvent& event)
         break;
     case SDL_WINDOWEVENT_FOCUS_GAINED:
         game->appActive = 1;
+        followTopMost();
+        if (std::exchange(isPointerOwed, false))
+            movePointer(game->mouseX, game->mouseY);
         break;
     case SDL_WINDOWEVENT_FOCUS_LOST:
         game->appActive = 0;
+        followTopMost();
         letGo();
         break;
     case SDL_WINDOWEVENT_SIZE_CHANGED:
@@ -375,6 +386,13 @@ void SdlHost::handleWindowEvent(const SDL_WindowEvent& event)
     }
 }
 
+/// Always on top only while the player is in the game: other programs must be able to cover it.
+void SdlHost::followTopMost()
+{
+    const bool isFullScreen = SDL_GetWindowFlags(window) & SDL_WINDOW_FULLSCREEN;
+    SDL_SetWindowAlwaysOnTop(window, game->appActive && game->topMost && isFullScreen ? SDL_TRUE : SDL_FALSE);
+}
+
 void SdlHost::letGo()
 {
     mouseAndKeys.letGo();
@@ -383,9 +401,13 @@ void SdlHost::letGo()
 
 void SdlHost::movePointer(int x, int y)
 {
-    // A window in the background leaves the pointer to the one in front.
-    if (!window || SDL_GetKeyboardFocus() != window)
+    if (!window)
         return;
+    // A window in the background leaves the pointer to the one in front, and moves it when the focus is back.
+    if (SDL_GetKeyboardFocus() != window) {
+        isPointerOwed = true;
+        return;
+    }
     input().dropMovesAtHead();
     mouseAndKeys.pointerWasMoved(x, y, SDL_GetTicks());
     const ScreenFit::Point place = mouseAndKeys.getFit().toWindow(x, y);
@@ -423,9 +445,7 @@ void SdlHost::waitForWork(int& ticks, int& frames)
         if (pacer.nextDue() > now)
             std::this_thread::sleep_for(std::chrono::microseconds(pacer.nextDue() - now));
         ticks = pacer.takeTicks(nowMicros());
-        frames = pacer.takeFrame(nowMicros());
-        if (isMinimised())
-            frames = 0;
+        frames = pacer.takeFrame(nowMicros(), isMinimised());
     }
 }
 

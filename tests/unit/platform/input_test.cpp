@@ -278,6 +278,10 @@ TEST(Pacer, makesUpAFewTicksAndNeverMore)
     for (std::int64_t now = 0; now < 1'000'000; now += 500)
         frames += pacer.takeFrame(now);
     EXPECT_NEAR(frames, 30, 1);
+    frames = 0;
+    for (std::int64_t now = 1'000'000; now < 2'000'000; now += 500)
+        frames += pacer.takeFrame(now, true);
+    EXPECT_NEAR(frames, 10, 1) << "of a window that nobody sees";
 }
 
 TEST(ScreenFit, keepsTheShapeAndMapsThePointerBack)
