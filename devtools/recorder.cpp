@@ -125,7 +125,9 @@ void Recorder::take(const InputQueue& next)
         if (pointer != before)
             pointerMoved();
     };
-    for (const InputQueue::Event& event : next.getEvents()) {
+    const std::size_t count = next.countForNextTick();
+    for (std::size_t i = 0; i < count; ++i) {
+        const InputQueue::Event& event = next.getEvents()[i];
         if (InputQueue::isTransition(event)) {
             comesBack = false;
             endMoves();
@@ -226,11 +228,11 @@ void Recorder::release(MouseButton button)
     giveUpClick();
     const std::string line = std::string("release ") + buttonName(button);
     const std::optional<std::size_t> lostPress = std::exchange(lostPresses[index], std::nullopt);
-    const bool isOfDoubleClick = !heldButtons[index]; // which is a flag alone
+    const bool isOfLostPress = !heldButtons[index]; // so nothing is down in the playing either
     if (lostPress && isLost(steps[*lostPress].line + ", " + line)) {
         steps[*lostPress] = std::move(steps.back()); // the note stands for both
         steps.pop_back();
-    } else if (!isOfDoubleClick || !isLost(line)) {
+    } else if (!isOfLostPress || !isLost(line)) {
         point(button == MouseButton::Left ? PointerAct::Release : PointerAct::Point);
         addTransition(line);
     }
@@ -250,6 +252,7 @@ void Recorder::doubleClick(MouseButton button)
     else
         point(PointerAct::Click);
     addTransition(line);
+    heldButtons.set(static_cast<std::size_t>(button));
     if (click)
         steps.back().clickLine = click->text;
 }

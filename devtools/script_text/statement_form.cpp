@@ -76,7 +76,7 @@ bool allows(const Statement& statement, int tokens)
     return statement.counts.allow(tokens) && (tokens > 1 || std::string_view(statement.keyword) != "GOTO");
 }
 
-/// The word of the form for that argument; empty behind the last.
+/// The word of the form for that argument; empty after the last one.
 std::string_view formWord(std::string_view form, int argument)
 {
     for (; argument > 1 && !form.empty(); --argument)

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <iterator>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -99,12 +100,30 @@ void InputQueue::beginTick(ddwin& window)
 {
     endTick(window); // of a tick that nobody ended
     clearFieldsOfOneTick(window);
-    while (!events.empty()) {
-        const Event event = take();
-        apply(window, event);
-        if (isTransition(event))
-            break;
+    std::size_t count = countForNextTick();
+    const std::bitset<3> goingDown = std::exchange(doubleClicked, {});
+    for (MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
+        if (goingDown.test(static_cast<std::size_t>(button)))
+            fieldsOf(window, button).down = 1;
     }
+    for (; count > 0; --count)
+        apply(window, take());
+}
+
+std::size_t InputQueue::countForNextTick() const
+{
+    const auto transition = std::find_if(events.begin(), events.end(), isTransition);
+    const auto count = static_cast<std::size_t>(transition - events.begin());
+    const bool isTaken =
+        transition != events.end() && !(transition->kind == Kind::Release &&
+                                        doubleClicked.test(static_cast<std::size_t>(transition->button)));
+    return count + isTaken;
+}
+
+void InputQueue::clear()
+{
+    events.clear();
+    doubleClicked.reset();
 }
 
 InputQueue::Event InputQueue::take()
@@ -132,6 +151,7 @@ void InputQueue::apply(ddwin& window, const Event& event)
         break;
     case Kind::DoubleClick:
         fieldsOf(window, event.button).doubleClick = 1;
+        doubleClicked.set(static_cast<std::size_t>(event.button));
         break;
     case Kind::WheelUp:
         window.wheelUp = 1;

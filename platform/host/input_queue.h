@@ -2,6 +2,7 @@
 
 #include "platform/export.h"
 
+#include <bitset>
 #include <cstdint>
 #include <deque>
 
@@ -32,6 +33,7 @@ public:
     void move(int x, int y);
     void press(MouseButton button);
     void release(MouseButton button);
+    /// Sets its flag alone; from the next tick on the button counts as pressed, until its release.
     void doubleClick(MouseButton button);
     void wheel(bool up);
     /// code 0 is no key. secondCode goes to keyCode2. repeat: the platform's repeat of a held key.
@@ -42,8 +44,11 @@ public:
     Event take();
     /// Those that wait, the oldest first.
     const std::deque<Event>& getEvents() const { return events; }
+    /// How many of them the next tick takes: up to the first transition. A release waits for one tick after
+    /// the double click that it ends.
+    std::size_t countForNextTick() const;
     bool empty() const { return events.empty(); }
-    void clear() { events.clear(); }
+    void clear();
 
     /// Begins a tick: the flags of one tick and the key fields of window go back to 0, the moves at the head
     /// are applied, then one transition. A key counts as held until endTick.
@@ -69,4 +74,5 @@ private:
     std::deque<Event> events;
     std::uint8_t tickKey = 0; // counts as held until the tick has ended, 0 for none
     bool tickKeyWasHeld = false;
+    std::bitset<3> doubleClicked; // buttons that count as pressed from the next tick on
 };

@@ -118,7 +118,7 @@ constexpr Meaning rows[] = {
 
     {76, Lists, "A list of rows and columns; the statements in its block fill it.", "listbox"},
     {51, Lists,
-     "Appends columns: the width of each in pixels, and a word behind it for where its text stands (left "
+     "Appends columns: the width of each in pixels, and after it a word for the side of its text (left "
      "without one). A list has up to 20 columns; those beyond are ignored.",
      "listbox"},
     {102, Lists, "The titles of the columns, from the first on.", "listbox"},

@@ -56,6 +56,8 @@ TEST_F(ListBoxInputTest, PressingAndPointing)
     list()->setHotItem(1);
     play("doubleclick left", "tick");
     EXPECT_EQ(state(), "1,0 1,0") << "a double click does not ask";
+    play("release left", "tick 2");
+    list()->setSelectedItem(1);
     list()->setEnabled(0);
     play("move 120 180", "tick");
     EXPECT_EQ(state(), "1,0 -1,0") << "nothing gets hot in a disabled list";

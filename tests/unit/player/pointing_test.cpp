@@ -72,7 +72,7 @@ TEST_F(PointingTest, ADoubleClickIsAClickThenTheFlagThenARelease)
         seen += win().lButtonDown ? 'd' : win().lButtonUp ? 'u' : win().lButtonDblClk ? '2' : '.';
     };
     play("doubleclick OK");
-    EXPECT_EQ(seen, ".du2u");
+    EXPECT_EQ(seen, ".du2du");
     play("doubleclick left", "tick");
     EXPECT_EQ(win().lButtonDblClk, 1) << "with a button's name only that flag";
 }
