@@ -172,10 +172,17 @@ protected:
 private:
     void drawPopups();
     void countTowardsChange();
+    /// A change of screen: what is wanted, and where it is read from if it does not exist.
+    struct ScreenRequest {
+        CString name;
+        bool closesCurrent;
+        unsigned resource;
+        CString file;
+    };
     AScreen* doChangeScreen();
+    AScreen* enterScreen(AScreen& screen, const ScreenRequest& request);
     AScreen* usableScreen(AWnd* wnd, bool closesCurrent) const;
-    AScreen* findOrReadScreen(const CString& name, bool closesCurrent, unsigned resource,
-                              const CString& file);
+    AScreen* findOrReadScreen(const ScreenRequest& request);
     void reportMissingScreen(const CString& name);
     void showBackdropOf(const AScreen& screen);
     void completeExit();

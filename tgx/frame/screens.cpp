@@ -66,13 +66,15 @@ AScreen* AMainWin::usableScreen(AWnd* wnd, bool closesCurrent) const
     return screen;
 }
 
-AScreen* AMainWin::findOrReadScreen(const CString& name, bool closesCurrent, unsigned resource,
-                                    const CString& file)
+AScreen* AMainWin::findOrReadScreen(const ScreenRequest& request)
 {
-    AScreen* found = usableScreen(screenList->getWnd(name, 1), closesCurrent);
+    if (request.name.IsEmpty())
+        return nullptr;
+    AScreen* found = usableScreen(screenList->getWnd(request.name, 1), request.closesCurrent);
     if (!found)
-        found =
-            usableScreen(readScriptFile(file, GetModuleHandleA(nullptr), resource, name, 0), closesCurrent);
+        found = usableScreen(
+            readScriptFile(request.file, GetModuleHandleA(nullptr), request.resource, request.name, 0),
+            request.closesCurrent);
     return found;
 }
 
@@ -80,19 +82,22 @@ AScreen* AMainWin::doChangeScreen()
 {
     if (!screenList || pendingScreen.IsEmpty())
         return nullptr;
-    const CString name = pendingScreen;
-    const bool closesCurrent = pendingCloseCurrent != 0;
-    const unsigned resource = pendingResource;
-    const CString file = pendingFile;
+    const ScreenRequest request{pendingScreen, pendingCloseCurrent != 0, pendingResource, pendingFile};
     pendingScreen.Empty();
 
-    // A screen that is not to be had is found out before anything is taken down for it.
-    WndRef target = findOrReadScreen(name, closesCurrent, resource, file);
-    if (!target) {
-        reportMissingScreen(name);
+    // A missing screen is found out before anything is taken down for it.
+    AScreen* found = findOrReadScreen(request);
+    if (!found) {
+        reportMissingScreen(request.name);
         return nullptr;
     }
+    return enterScreen(*found, request);
+}
 
+/// screen is the one that request asks for.
+AScreen* AMainWin::enterScreen(AScreen& screen, const ScreenRequest& request)
+{
+    WndRef target = &screen;
     keepListSelection = 0;
     mouseDownWnd = nullptr;
     loseFocus();
@@ -101,24 +106,24 @@ AScreen* AMainWin::doChangeScreen()
         deletePopupWnd();
     if (current) {
         current->close();
-        if (closesCurrent)
+        if (request.closesCurrent)
             screenList->addWndToDelete(current);
         else if (current)
             static_cast<AScreen*>(current.get())->setOpen(1);
     }
     // A handler may have deleted it meanwhile.
     if (!target || screenList->isWndToBeDeleted(target))
-        target = findOrReadScreen(name, closesCurrent, resource, file);
+        target = findOrReadScreen(request);
     auto* next = static_cast<AScreen*>(target.get());
     if (!next) {
-        if (closesCurrent)
+        if (request.closesCurrent)
             screenList->setActiveScreen(nullptr);
-        reportMissingScreen(name);
+        reportMissingScreen(request.name);
         return nullptr;
     }
 
     screenList->setActiveScreen(next);
-    if (!closesCurrent && current)
+    if (!request.closesCurrent && current)
         next->setCaller(current->getID());
     else if (!next->isOpen())
         next->setCaller("");

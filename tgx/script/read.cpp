@@ -5,6 +5,7 @@
 #include "tgx/script/observer.h"
 #include "tgx/script/reader.h"
 #include "tgx/script/run.h"
+#include "tgx/wnd/window_cast.h"
 
 #include <algorithm>
 
@@ -188,7 +189,12 @@ AWnd* AMainWin::readScriptFile(const CString& name, HINSTANCE instance, unsigned
     if (finalRead) {
         AWnd* first = screenList ? screenList->getWndOfType(AWnd::WND_SCREEN, 0, 0) : nullptr;
         if (first) {
-            changeScreen(first->getID(), 0, mainScriptResource, mainScriptFile);
+            // No request can name a screen without an id: it is entered as it is.
+            auto* unnamed = first->getID().IsEmpty() ? windowAs<AScreen>(first) : nullptr;
+            if (unnamed && pendingScreen.IsEmpty())
+                enterScreen(*unnamed, {"", false, mainScriptResource, mainScriptFile});
+            else
+                changeScreen(first->getID(), 0, mainScriptResource, mainScriptFile);
             // With a change already waiting, changeScreen has carried that one out and dropped ours.
             if (!pendingScreen.IsEmpty())
                 doChangeScreen();

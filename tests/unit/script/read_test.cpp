@@ -109,6 +109,20 @@ TEST_F(ScriptTest, AFinalReadOpensTheFirstScreen)
     EXPECT_EQ(window->getActiveScreen()->isOpen(), 1);
 }
 
+TEST_F(ScriptTest, AFirstScreenWithoutANameOpensToo)
+{
+    for (const char* name : {"", "static"}) {
+        SCOPED_TRACE(name);
+        window->recreateScreenList();
+        file("t.tgx", line("SCREEN", name, 0, 0, 640, 480, "") + block(wnd("A")) +
+                          line("SCREEN", "TWO", 0, 0, 640, 480, ""));
+        read("t.tgx", "", 1);
+        ASSERT_NE(window->getActiveScreen(), nullptr);
+        EXPECT_EQ(window->getActiveScreen()->hasChildCalled("A"), 1);
+        EXPECT_EQ(window->getActiveScreen()->isOpen(), 1);
+    }
+}
+
 TEST_F(ScriptTest, SubroutinesActOnTheCallersWindow)
 {
     file("lib.tgx", sub("ADD", block(wnd("L"))) + sub("ONE", wnd("O") + wnd("P")) +
