@@ -13,6 +13,7 @@ constexpr Operation rows[] = {
     operation<&AScreen::isOpen>("isOpen"),
     operation<&AScreen::setOpen>("setOpen"),
     operation<&AScreen::getCanExit>("getCanExit"),
+    operation<&AScreen::setCanExit>("setCanExit"),
 
     operation<&AScreenList::getActiveScreen>("getActiveScreen"),
     operation<&AScreenList::getActiveScreenIndex>("getActiveScreenIndex"),

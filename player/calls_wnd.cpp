@@ -19,6 +19,7 @@ constexpr Operation rows[] = {
 
     // Tree
     operation<&AWnd::addChildWindow>("addChildWindow"),
+    operation<&AWnd::releaseChildWindow>("releaseChildWindow"),
     operation<&AWnd::setParentAndIndex>("setParentAndIndex"),
     operation<&AWnd::getParent>("getParent"),
     operation<&AWnd::getOwner>("getOwner"),
@@ -107,6 +108,7 @@ constexpr Operation rows[] = {
     operation<&AWnd::getLoop>("getLoop"),
     operation<&AWnd::setLoop>("setLoop"),
     operation<&AWnd::doNextFrame>("doNextFrame"),
+    operation<&AWnd::deleteBkgnd>("deleteBkgnd"),
     operation<&AWnd::hasBkgnd>("hasBkgnd"),
     operation<&AWnd::darkenRect>("darkenRect"),
     operation<&AWnd::renewBkgnds>("renewBkgnds"),

@@ -3,6 +3,7 @@
 #include "tgx/base/fixed.h"
 #include "tgx/controls/radiobutton.h"
 #include "tgx/frame/mainwin.h"
+#include "tgx/wnd/child_walk.h"
 
 ATabControl::ATabControl(const CString& name, int x, int y, int width, int height)
     : AWnd(WND_TABCONTROL, name, x, y, width, height)
@@ -90,9 +91,12 @@ void ATabControl::draw(int frameStep)
 {
     if (!isVisible(1))
         return;
+    const WndRef self = this; // a game's class below may delete it
     AWnd::draw(frameStep);
-    for (int i = 0; i < children.GetSize(); ++i) {
-        AWnd* tab = children.GetAt(i);
+    if (!self)
+        return;
+    for (ChildWalk walk(children); walk.mayGoOn();) {
+        AWnd* tab = walk.next();
         if (isTab(tab) && static_cast<AButton*>(tab)->isSelected())
             tab->draw(0);
     }

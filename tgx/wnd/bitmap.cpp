@@ -129,6 +129,14 @@ void AWnd::createBkgnd(surface* source, int darken)
         darkenRect(0, 0, width(), height());
 }
 
+void AWnd::deleteBkgnd()
+{
+    AMainWin* main = getMainWin();
+    if (bkgnd && main)
+        main->deleteSurface(bkgnd);
+    bkgnd = nullptr;
+}
+
 void AWnd::renewBkgnds()
 {
     AMainWin* main = getMainWin();

@@ -2,6 +2,16 @@
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/wnd.h"
 
+namespace {
+
+/// Wraps round where the difference does not fit: any position may be asked for.
+int difference(int position, int origin)
+{
+    return static_cast<int>(static_cast<unsigned>(position) - static_cast<unsigned>(origin));
+}
+
+} // namespace
+
 std::uint64_t LayoutVersion::value = 1;
 std::uint64_t TreeVersion::value = 1;
 
@@ -47,6 +57,16 @@ int AWnd::width() const
 int AWnd::height() const
 {
     return anim ? scaledSize(wndHeight, anim->getScaleH()) : wndHeight;
+}
+
+int AWnd::getWndX(int screenX) const
+{
+    return difference(screenX, left());
+}
+
+int AWnd::getWndY(int screenY) const
+{
+    return difference(screenY, top());
 }
 
 void AWnd::setWndPos(int x, int y, int w, int h)

@@ -30,6 +30,9 @@ public:
     const CString& getExtraString() const { return extraString; }
     int isOpen() const { return open; }
     void setOpen(int set) { open = set & 1; }
+    /// Whether a click on a reserved id may leave the screen. 1 at first; 0 from the first
+    /// action on that finds "TGX_CLOSE" disabled.
+    void setCanExit(int set) { canExit = set & 1; }
     int getCanExit() const { return canExit; }
 
 protected:

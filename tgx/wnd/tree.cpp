@@ -146,6 +146,25 @@ AWnd* AWnd::addChildWindow(AWnd* added)
     return added;
 }
 
+AWnd* AWnd::releaseChildWindow(AWnd* released)
+{
+    if (!released || !lists(released))
+        return nullptr;
+    unlist(released);
+    if (released->owner == this)
+        released->owner = nullptr;
+    if (released->parent == this)
+        released->parent = nullptr;
+    if (released->links) {
+        released->links->listedTwice = false;
+        WndList& holders = released->links->holders;
+        if (const int at = holders.find(this); at >= 0)
+            holders.RemoveAt(at);
+    }
+    LayoutVersion::bump();
+    return released;
+}
+
 void AWnd::setParentAndIndex(AWnd* newParent, int index)
 {
     if (isInside(newParent, this))

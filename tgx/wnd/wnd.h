@@ -104,11 +104,15 @@ public:
 
     // Tree (tree.cpp).
 
-    /// Appends child. Owns child from here on. A child with the default font takes this window's font. The
-    /// child.
+    /// Appends child and returns it. Owns child from here on. A child with the default font takes this
+    /// window's font. A child that this window is inside of would close a ring: null then, and the caller
+    /// keeps it.
     AWnd* addChildWindow(AWnd* child);
-    /// Hangs this window under another one without being listed there. Not owned by it: owner stays. Takes
-    /// its font as above.
+    /// Takes child out of this window without deleting it and returns it; the caller owns it from here on.
+    /// Null for a window that is not among the children.
+    AWnd* releaseChildWindow(AWnd* child);
+    /// Sets the parent without listing this window there. Not owned by it: owner stays. Takes its font as
+    /// above. Does nothing for a parent that is this window or inside it.
     void setParentAndIndex(AWnd* parent, int index);
     /// Null for a window that has no parent or is its own.
     AWnd* getParent() const { return parent.get() == this ? nullptr : parent.get(); }
@@ -135,7 +139,7 @@ public:
     /// Depth first, ignoring case; with recursive 0 only the direct children. The first match, or null; this
     /// window itself is not tested. An empty id matches the first window without one.
     AWnd* getWnd(const CString& id, int recursive);
-    /// The same window, typed; its real type is not asked.
+    /// The same window, typed; null when it is of another class.
     AButton* getButton(const CString& id, int recursive);
     AListBox* getListBox(const CString& id, int recursive);
     /// Child at index, of this window or of the one called parentId below it. Null behind the last; a
@@ -178,8 +182,8 @@ public:
     int centreX() const { return left() + width() / 2; }
     int centreY() const { return top() + height() / 2; }
     /// A screen position as one relative to this window's corner.
-    int getWndX(int screenX) const { return screenX - left(); }
-    int getWndY(int screenY) const { return screenY - top(); }
+    int getWndX(int screenX) const;
+    int getWndY(int screenY) const;
     /// A negative width or height keeps the old one.
     void setWndPos(int x, int y, int w, int h);
     /// Centres on the screen, or with inParent in the parent; a screen, or a window without a parent, stays
@@ -246,6 +250,8 @@ public:
     /// Keeps that part of source, a backdrop, which lies under this window; darken: a checkerboard of black
     /// over it.
     void createBkgnd(surface* source, int darken);
+    /// Releases the kept background.
+    void deleteBkgnd();
     int hasBkgnd() const { return bkgnd != nullptr; }
     /// Takes every background that this window and those below keep anew from the present backdrop.
     void renewBkgnds();

@@ -198,6 +198,10 @@ TEST_F(DrawingTest, ABackgroundIsTakenFromTheBackdropAndTakenAnew)
     play("frame");
     EXPECT_EQ(pixel(0, 0), 0x203040u);
     EXPECT_EQ(win().getSurfaceCount(), surfaces) << "opening again loses no surface";
+    pic()->deleteBkgnd();
+    play("frame");
+    EXPECT_EQ(pic()->hasBkgnd(), 0);
+    EXPECT_EQ(win().getSurfaceCount(), surfaces - 1);
 }
 
 TEST_F(DrawingTest, PositionsHoldWhenADrawMovesWhatLiesAbove)

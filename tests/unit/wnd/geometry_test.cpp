@@ -31,6 +31,7 @@ TEST_F(GeometryTest, AnOffsetMovesTheWindowAndAllBelowItButNotItsRestingPlace)
     EXPECT_EQ(leaf->posY(1), 160);
     EXPECT_EQ(leaf->wndX(), 10);
     EXPECT_EQ(leaf->getWndX(leaf->left()), 0);
+    EXPECT_EQ(leaf->getWndY(INT_MIN), INT_MAX - leaf->top() + 1) << "wraps round";
     EXPECT_EQ(leaf->getWndY(200), 47);
     EXPECT_EQ(leaf->right(), 185);
     EXPECT_EQ(leaf->centreY(), 163);

@@ -143,6 +143,24 @@ TEST_F(TreeTest, TabStops)
     EXPECT_EQ(a->getNextTabStop(wnd("P"), 0, nullptr), wnd("R")) << "a deleted stop has dropped out";
 }
 
+TEST_F(TreeTest, AReleasedChildIsTheCallers)
+{
+    EXPECT_EQ(wnd("B")->releaseChildWindow(wnd("P")), nullptr) << "not a child of B";
+    std::unique_ptr<AWnd> released(wnd("A")->releaseChildWindow(wnd("P")));
+    ASSERT_NE(released, nullptr);
+    EXPECT_EQ(released->getParent(), nullptr);
+    EXPECT_EQ(win().getWnd("P", 1), nullptr);
+    EXPECT_EQ(wnd("Q")->getWindowIndex(), 3) << "those after it move up";
+    play("frame 3");
+    wnd("B")->addChildWindow(released.release());
+    EXPECT_EQ(wnd("P")->getParent(), wnd("B"));
+
+    AWnd* deep = wnd("B")->releaseChildWindow(wnd("DEEP"));
+    EXPECT_EQ(win().getWnd("DEEP", 1), deep) << "its first holder lists it still";
+    destroy("DEEP");
+    play("frame 3");
+}
+
 TEST_F(TreeTest, NoWindowComesToBeInsideItself)
 {
     const struct {
