@@ -21,6 +21,9 @@ constexpr int fontPixels = 96;
 constexpr int fonts = 256;
 /// Pixels of the characters of all fonts of a window: 256 MiB. Past it a font fails to load.
 constexpr long long glyphPixels = 64'000'000;
+/// A script that a tool reads, in text form or compiled: a million short lines, which is as many as one read
+/// executes. A tool keeps about a hundred bytes for each byte.
+constexpr std::size_t scriptBytes = 16u * 1024 * 1024;
 /// Lines that one outermost read of a script executes. GOTO chains that double at each step end here.
 constexpr long scriptLines = 1'000'000;
 /// What those lines may cost beyond being lines, in steps of a search through windows: a step takes some

@@ -1,7 +1,9 @@
+#include "platform/system/whole_file.h"
 #include "player/suite.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 
@@ -116,7 +118,11 @@ int parseAndRun(CLI::App& app, int argc, char** argv, const std::function<int()>
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : static_cast<int>(PlayStatus::WrongCall); // 0: --help
     }
-    return run();
+    tgx::removeNewFilesOnSignals();
+    const int status = run();
+    return tgx::hasWrittenStdout(app.get_name().empty() ? "play" : app.get_name())
+               ? status
+               : std::max(status, static_cast<int>(PlayStatus::WrongLine));
 }
 
 } // namespace

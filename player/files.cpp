@@ -1,8 +1,9 @@
 #include "player/files.h"
 
+#include "platform/limits.h"
+#include "platform/system/whole_file.h"
+
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 namespace fs = std::filesystem;
 
@@ -18,25 +19,14 @@ std::optional<std::string> readWhole(const std::string& path)
     std::error_code error;
     if (!fs::is_regular_file(path, error))
         return std::nullopt;
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
-        return std::nullopt;
-    return std::string(std::istreambuf_iterator<char>(file), {});
+    std::string reason;
+    return tgx::readWholeFile(path, limits::fileBytes, reason);
 }
 
 bool writeWhole(const std::string& path, std::string_view contents)
 {
-    const std::string temporary = path + ".new";
-    std::ofstream file(temporary, std::ios::binary);
-    file << contents;
-    file.close();
-    std::error_code error;
-    if (file)
-        fs::rename(temporary, path, error);
-    if (file && !error)
-        return true;
-    fs::remove(temporary, error);
-    return false;
+    std::string reason;
+    return tgx::writeWholeFile(path, contents, reason);
 }
 
 void makeFoldersOf(const std::string& path)

@@ -6,6 +6,9 @@
 #include "player/words.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -96,6 +99,13 @@ void Player::playLines(std::istream& events, const std::string& name, bool isInt
         // Whoever writes line by line waits for the end of the run, not for another part.
         if (isInteractive && (abandoned || hasEnded()))
             break;
+    }
+    // A read that fails is not the end of the file. cin does not hear of it itself.
+    if (events.bad() || (&events == &std::cin && std::ferror(stdin))) {
+        const std::string reason = "cannot read on after this line: " + std::string(std::strerror(errno));
+        if (isIncluded)
+            throw WrongLine(place() + reason);
+        fail(reason);
     }
     if (!isIncluded)
         endPart();

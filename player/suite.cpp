@@ -15,6 +15,9 @@
 #include <fstream>
 #include <iostream>
 #include <map>
+#ifdef __linux__
+#include <sys/prctl.h>
+#endif
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -80,8 +83,14 @@ std::string readHeader(const std::string& path, PlayOptions& options)
 }
 
 /// In the child process: only the run's stderr is looked at.
-[[noreturn]] void playInChild(const PlayOptions& options, const MainWinFactory& factory, int stderrFile)
+[[noreturn]] void playInChild(const PlayOptions& options, const MainWinFactory& factory, int stderrFile,
+                              [[maybe_unused]] pid_t suite)
 {
+#ifdef __linux__
+    prctl(PR_SET_PDEATHSIG, SIGTERM); // whatever ends the suite ends its runs
+    if (getppid() != suite)
+        _exit(1);
+#endif
     const int nothing = open("/dev/null", O_RDWR);
     dup2(nothing, STDIN_FILENO);
     dup2(nothing, STDOUT_FILENO);
@@ -147,9 +156,10 @@ private:
         FILE* messages = std::tmpfile();
         if (!messages)
             return refuse(result, std::string("no temporary file: ") + std::strerror(errno) + '\n');
+        const pid_t suite = getpid();
         const pid_t child = fork();
         if (child == 0)
-            playInChild(play, factory, fileno(messages));
+            playInChild(play, factory, fileno(messages), suite);
         if (child > 0) {
             running[child] = {&result, messages, Clock::now()};
             return;

@@ -1,26 +1,15 @@
 #include "devtools/script_text/read_file.h"
 
-#include <cerrno>
-#include <cstring>
+#include "platform/limits.h"
+#include "platform/system/whole_file.h"
+
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 namespace fs = std::filesystem;
 
 std::optional<std::string> readFile(const std::string& name, std::string& reason)
 {
-    std::error_code ignored;
-    if (fs::is_directory(name, ignored)) {
-        reason = "this is a folder, a file was expected";
-        return std::nullopt;
-    }
-    std::ifstream file(name, std::ios::binary);
-    if (!file) {
-        reason = std::strerror(errno);
-        return std::nullopt;
-    }
-    return std::string{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    return tgx::readWholeFile(name, limits::scriptBytes, reason);
 }
 
 std::optional<std::string> readIncluded(const std::string& name, std::string& reason)

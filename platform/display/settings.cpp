@@ -1,9 +1,9 @@
 #include "platform/display/settings.h"
 
 #include "platform/display/settings_internal.h"
+#include "platform/system/whole_file.h"
 
 #include <charconv>
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -12,7 +12,6 @@
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <unistd.h>
 
 namespace {
 
@@ -99,32 +98,15 @@ Settings readSettings(const fs::path& file)
     return settings;
 }
 
-/// Writes beside and renames, so that a reader, or a crash in the middle, meets the old file or the new one.
 bool replaceFile(const fs::path& file, const Settings& settings)
 {
     std::error_code error;
     fs::create_directories(file.parent_path(), error);
-    if (error)
-        return false;
-    std::string beside = file.string() + ".XXXXXX";
-    const int descriptor = ::mkstemp(beside.data());
-    if (descriptor < 0)
-        return false;
-    std::FILE* out = ::fdopen(descriptor, "wb");
-    bool written = out != nullptr;
-    if (out) {
-        for (const auto& [name, value] : settings)
-            written = std::fprintf(out, "%s=%lu\n", name.c_str(), value) > 0 && written;
-        written = std::fflush(out) == 0 && ::fsync(descriptor) == 0 && written;
-        written = std::fclose(out) == 0 && written;
-    } else {
-        ::close(descriptor);
-    }
-    if (!written || ::rename(beside.c_str(), file.c_str()) != 0) {
-        ::unlink(beside.c_str());
-        return false;
-    }
-    return true;
+    std::string text;
+    for (const auto& [name, value] : settings)
+        text += name + '=' + std::to_string(value) + '\n';
+    std::string reason;
+    return !error && tgx::writeWholeFile(file.string(), text, reason, tgx::NewFile::Care::OnDisk);
 }
 
 } // namespace

@@ -4,11 +4,12 @@
 #include "platform/host/bmp_decoder.h"
 #include "platform/host/picture_header.h"
 #include "platform/limits.h"
+#include "platform/system/whole_file.h"
 
 #include <SDL.h>
 #include <SDL_image.h>
 
-#include <cstdio>
+#include <string>
 
 namespace {
 
@@ -147,6 +148,30 @@ ImageRef loadImageFile(std::string_view name, long long* room)
     return image;
 }
 
+namespace {
+
+/// Appends to the string that the stream was made for.
+std::size_t append(SDL_RWops* stream, const void* bytes, std::size_t size, std::size_t count)
+{
+    static_cast<std::string*>(stream->hidden.unknown.data1)
+        ->append(static_cast<const char*>(bytes), size * count);
+    return count;
+}
+
+bool encodePng(SDL_Surface* pixels, std::string& png)
+{
+    SDL_RWops* stream = SDL_AllocRW();
+    if (!stream)
+        return false;
+    stream->write = append;
+    stream->hidden.unknown.data1 = &png;
+    const bool isEncoded = IMG_SavePNG_RW(pixels, stream, 0) == 0;
+    SDL_FreeRW(stream);
+    return isEncoded;
+}
+
+} // namespace
+
 bool writePng(const Image& image, const std::string& path)
 {
     SdlPixels pixels(SDL_CreateRGBSurfaceWithFormat(0, image.width, image.height, 24, SDL_PIXELFORMAT_RGB24));
@@ -161,10 +186,7 @@ bool writePng(const Image& image, const std::string& path)
             to[2] = static_cast<Uint8>(pixel);
         }
     }
-    // Beside, then renamed: a reader finds the old picture or the new one, never half of it.
-    const std::string part = path + ".part";
-    if (IMG_SavePNG(pixels.get(), part.c_str()) == 0 && std::rename(part.c_str(), path.c_str()) == 0)
-        return true;
-    std::remove(part.c_str());
-    return false;
+    std::string png;
+    std::string reason;
+    return encodePng(pixels.get(), png) && tgx::writeWholeFile(path, png, reason);
 }

@@ -1,4 +1,5 @@
 #include "devtools/script_text/diagnostics.h"
+#include "platform/system/whole_file.h"
 #include "tools/tgx/commands.h"
 
 #include <CLI/CLI.hpp>
@@ -7,6 +8,7 @@
 
 namespace {
 
+constexpr int wrongInput = 1;
 constexpr int wrongCall = 2;
 
 /// One line; the command that it is about in front.
@@ -33,6 +35,22 @@ std::string whyNoCommand(const CLI::App& app, const std::string& name)
     for (std::size_t i = 0; i < names.size(); ++i)
         text += (i == 0 ? " " : i + 1 == names.size() ? " and " : ", ") + names[i];
     return text;
+}
+
+/// Exit status.
+int run(CLI::App& app, int argc, char** argv)
+{
+    try {
+        app.parse(argc, argv);
+        if (!app.get_subcommands().empty())
+            return 0;
+        std::cerr << app.help();
+        return wrongCall;
+    } catch (const CLI::RuntimeError& ended) {
+        return ended.get_exit_code();
+    } catch (const CLI::ParseError& ended) {
+        return app.exit(ended) == 0 ? 0 : wrongCall; // help and version end here too
+    }
 }
 
 } // namespace
@@ -62,15 +80,7 @@ int main(int argc, char** argv)
             return wrongCall;
         }
     }
-    try {
-        app.parse(argc, argv);
-        if (!app.get_subcommands().empty())
-            return 0;
-        std::cerr << app.help();
-        return wrongCall;
-    } catch (const CLI::RuntimeError& ended) {
-        return ended.get_exit_code();
-    } catch (const CLI::ParseError& ended) {
-        return app.exit(ended) == 0 ? 0 : wrongCall; // help and version end here too
-    }
+    tgx::removeNewFilesOnSignals();
+    const int status = run(app, argc, argv);
+    return tgx::hasWrittenStdout("tgx") ? status : std::max(status, wrongInput);
 }

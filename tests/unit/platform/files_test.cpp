@@ -3,13 +3,17 @@
 #include "platform/framework/cfile.h"
 #include "platform/limits.h"
 #include "platform/system/datadir.h"
+#include "platform/system/whole_file.h"
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -145,6 +149,46 @@ TEST_F(Files, aMemoryFileReadsWhatItIsGiven)
     EXPECT_EQ(file.Read(&byte, 1), 0u);
     file.Attach(nullptr, 3);
     EXPECT_EQ(file.GetLength(), 0u);
+}
+
+TEST_F(Files, ANewFileIsWholeOrNotThere)
+{
+    const std::string path = (base / "new.txt").string();
+    std::string reason;
+    const auto inFolder = [this] { return std::distance(fs::directory_iterator(base), {}); };
+    const auto before = inFolder();
+    {
+        tgx::NewFile abandoned;
+        EXPECT_TRUE(abandoned.prepare(path, "half", reason));
+        EXPECT_EQ(inFolder(), before + 1);
+    }
+    EXPECT_EQ(inFolder(), before) << "one that was not put into place";
+    EXPECT_FALSE(tgx::writeWholeFile((base / "none/new.txt").string(), "a", reason));
+    EXPECT_FALSE(tgx::writeWholeFile(base.string(), "a", reason));
+    EXPECT_FALSE(tgx::writeWholeFile("/dev/full", "a", reason));
+    EXPECT_EQ(inFolder(), before);
+
+    fs::create_symlink("new.txt", base / "link.txt");
+    EXPECT_TRUE(tgx::writeWholeFile(path, "first", reason)) << reason;
+    fs::permissions(path, fs::perms::owner_all);
+    EXPECT_TRUE(tgx::writeWholeFile((base / "link.txt").string(), "second", reason)) << reason;
+    EXPECT_TRUE(fs::is_symlink(base / "link.txt"));
+    EXPECT_EQ(tgx::readWholeFile(path, 6, reason), "second");
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_all) << "those of the file that was there";
+    EXPECT_FALSE(tgx::readWholeFile(path, 5, reason)) << "one byte too many";
+
+    const pid_t child = fork();
+    if (child == 0) {
+        tgx::removeNewFilesOnSignals();
+        tgx::NewFile interrupted;
+        interrupted.prepare(path, "third", reason);
+        std::raise(SIGTERM);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(inFolder(), before + 2) << "new.txt and its link";
+    EXPECT_EQ(tgx::readWholeFile(path, 6, reason), "second");
 }
 
 } // namespace

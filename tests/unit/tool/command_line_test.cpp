@@ -65,6 +65,22 @@ const struct Row {
     {"check --explain budget", 0, "budget (error): ", "", ""},
     {"check --explain bugdet", 2, "", "tgx check: there is no code bugdet; did you mean budget?", ""},
 
+    // Disks that are full, inputs that fail or never end.
+    {"dump good1.tgx > /dev/full", 1, "", "stdout: error: cannot write: ", ""},
+    {"check --explain budget > /dev/full", 1, "", "tgx: cannot write to standard output: ", ""},
+    {"play . --script none.tgx --events calls.events > /dev/full", 1, "", "message: no screen", ""},
+    {"build good.tgs; ulimit -f 1; trap '' XFSZ; tgx build big.tgs -o good1.tgx", 1, "",
+     "good1.tgx: error: cannot write: ", "good.tgx"},
+    {"build empty", 1, "", "empty: error: cannot read: this is a folder", ""},
+    {"dump empty", 1, "", "empty: error: cannot read: this is a folder", ""},
+    {"build /proc/self/mem -o a.tgx", 1, "", "/proc/self/mem: error: cannot read: ", ""},
+    {"dump /proc/self/mem", 1, "", "/proc/self/mem: error: cannot read: ", ""},
+    {"check /proc/self/mem", 1, "", "/proc/self/mem: error: cannot read: ", ""},
+    {"play . --script none.tgx --events /proc/self/mem 2>&1 | tail -n 1", 0,
+     "/proc/self/mem:0: cannot read on after this line: ", "", ""},
+    {"dump /dev/zero", 1, "", "/dev/zero: error: cannot read: it has more than 16777216 bytes", ""},
+    {"check - < /dev/zero", 1, "", "stdin: error: cannot read: it has more than 16777216 bytes", ""},
+
     {"", 2, "", "The bench of whoever writes an interface", ""},
     {"bild good.tgs", 2, "", "tgx: no command bild", ""},
 };
@@ -102,11 +118,16 @@ TEST_F(CommandLine, EndsWithAStatusAndWritesAllOrNothing)
     const fs::path outFile = outputs / "out";
     const fs::path errFile = outputs / "err";
     fs::create_directories(outputs);
+    std::string big;
+    for (int i = 0; i < 200; ++i)
+        big += "WINDOW \"A\" 0 0 9 9\n";
     const std::map<std::string, std::string> given = {
         {"good.tgs", "WINDOW \"A\" 0 0 9 9\n"},
         {"good1.tgx", build(parse("WINDOW \"A\" 0 0 9 9"))},
         {"including.tgs", "INCLUDE \"good.tgs\"\n"},
         {"warned.tgs", "WINDOW \"A\" 0 0 9 9\nBEGIN\n  TEXTRAW 1\n  TEXTRAW 0\nEND\n"},
+        {"big.tgs", big},
+        {"calls.events", "call main getFrameStep\n"},
         {"bad.tgs", "WINDOWW \"A\" 0 0 9 9\n"},
         {"bad.tgx", "of an older build"},
         {"bad.map", "of an older build"},

@@ -4,6 +4,12 @@
 #include <algorithm>
 #include <csignal>
 #include <fstream>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+#ifdef __linux__
+#include <sys/prctl.h>
+#endif
 
 namespace fs = std::filesystem;
 
@@ -202,5 +208,24 @@ TEST_F(TestCommandTest, AGamesOwnPlayerTestsToo)
         0);
     EXPECT_EQ(err.str(), "");
 }
+
+#ifdef __linux__
+TEST_F(TestCommandTest, ARunEndsWithItsSuite)
+{
+    events("long.events", std::string(header) + "tree begun.json\nframe 2000000000\n");
+    prctl(PR_SET_CHILD_SUBREAPER, 1); // what loses its parent becomes ours
+    const pid_t suite = fork();
+    if (suite == 0)
+        _exit(run());
+    while (!fs::exists(outputs / "long" / "begun.json"))
+        std::this_thread::yield();
+    kill(suite, SIGKILL);
+    int status = 0;
+    EXPECT_EQ(waitpid(suite, &status, 0), suite);
+    EXPECT_GT(waitpid(-1, &status, 0), 0);
+    EXPECT_TRUE(WIFSIGNALED(status));
+    prctl(PR_SET_CHILD_SUBREAPER, 0);
+}
+#endif
 
 } // namespace
