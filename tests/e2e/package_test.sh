@@ -66,6 +66,15 @@ find_package)
     run "build the guide's project" cmake --build "$work/first_button/build" -j 2
     run "test the guide's project" "$work/first_button/build/first_button_player" test "$work/first_button/tests" \
         --data "$work/first_button" --out "$work"
+    # The small game, which has its main window, screens and scripts in several files.
+    cp -r "$source/examples/small_game" "$work/small_game"
+    mkdir "$work/small_game/UIG"
+    cp -r "$build"/examples/controls/data/{art,fonts} "$work/small_game"
+    cp "$build"/examples/controls/data/UIG/scroll1.bmp "$work/small_game/UIG"
+    run "configure the small game" cmake -S "$work/small_game" -B "$work/small_game/build" -D CMAKE_PREFIX_PATH="$prefix"
+    run "build the small game" cmake --build "$work/small_game/build" -j 2
+    run "test the small game" "$work/small_game/build/small_game_player" test "$work/small_game/tests" \
+        --data "$work/small_game" --out "$work"
     # A game with the devtools in it.
     mkdir "$work/watched"
     cat >"$work/watched/CMakeLists.txt" <<'CMAKE'

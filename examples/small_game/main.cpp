@@ -1,0 +1,22 @@
+#include "game.h"
+
+class Game : public LobsterWindow {
+public:
+    using LobsterWindow::LobsterWindow;
+
+    int startup() override
+    {
+        LobsterWindow::startup();
+        readScriptFile("script.tgx", GetModuleHandleA(nullptr), mainScript, "", 1);
+        return 1;
+    }
+};
+
+int main()
+{
+    // The program and the company say where settings are kept.
+    AControlsApp app("Lobster Bay", "TGX Examples", "1.0");
+    Game game(640, 400, 32);
+    app.mainWin = &game;
+    return app.Run();
+}
