@@ -44,6 +44,7 @@ void WatchingHost::pump(ddwin& window)
 {
     inner->pump(window);
     closeRequested = closeRequested || inner->closeRequested;
+    userWantsToClose = std::exchange(inner->userWantsToClose, false) || userWantsToClose;
     // What the watcher does may bring more: a window that changes lets go of what is held.
     while (!inner->input().empty())
         if (const InputQueue::Event event = inner->input().take(); !watcher.takesInput(event))

@@ -37,6 +37,7 @@ public:
     void followFullScreen(ddwin& window) override;
     void tickBegins(ddwin& window, bool takesInput) override;
     void frameBegins(ddwin& window) override;
+    bool dropsLostInput() const override { return inner->dropsLostInput(); }
 
 private:
     std::unique_ptr<displayhost> inner;

@@ -128,6 +128,8 @@ void Recorder::take(const InputQueue& next)
     const std::size_t count = next.countForNextTick();
     for (std::size_t i = 0; i < count; ++i) {
         const InputQueue::Event& event = next.getEvents()[i];
+        if (event.isPlaced)
+            pointer = {event.x, event.y};
         if (InputQueue::isTransition(event)) {
             comesBack = false;
             endMoves();
@@ -145,6 +147,9 @@ void Recorder::take(const InputQueue& next)
             return release(event.button);
         case InputQueue::Kind::DoubleClick:
             return doubleClick(event.button);
+        case InputQueue::Kind::Cancel:
+            cancel(event.button);
+            break;
         case InputQueue::Kind::WheelUp:
             return wheel(true);
         case InputQueue::Kind::WheelDown:
@@ -255,6 +260,20 @@ void Recorder::doubleClick(MouseButton button)
     heldButtons.set(static_cast<std::size_t>(button));
     if (click)
         steps.back().clickLine = click->text;
+}
+
+/// Events files have no word for it, but beside the screen a release clicks nothing either.
+void Recorder::cancel(MouseButton button)
+{
+    giveUpClick();
+    const auto index = static_cast<std::size_t>(button);
+    if (!heldButtons[index])
+        return;
+    steps.push_back({.kind = Kind::Move, .tick = tick, .line = "move -1 -1"});
+    addTransition(std::string("release ") + buttonName(button));
+    heldButtons.reset(index);
+    played.reset();
+    point(PointerAct::Point);
 }
 
 void Recorder::wheel(bool up)

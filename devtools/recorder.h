@@ -57,6 +57,7 @@ private:
     void press(MouseButton button);
     void release(MouseButton button);
     void doubleClick(MouseButton button);
+    void cancel(MouseButton button);
     void wheel(bool up);
     void key(const InputQueue::Event& event);
     void hold(const InputQueue::Event& event);

@@ -174,6 +174,7 @@ public:
     int mButtonDblClk = 0;
     int wheelUp = 0;
     int wheelDown = 0;
+    int pressCancelled = 0; // the left button was let go of without a click; whoever has taken note clears it
     int mouseDownCount = 0; // ticks that the first button has been held, 1 on the first
 
     int appActive = 1;

@@ -5,6 +5,7 @@
 #include "platform/host/input_queue.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 
@@ -14,7 +15,8 @@ struct tagRECT;
 
 enum class CursorShape { Normal, Wait };
 
-/// Wheel notches, repeats and moves that wait for longer are of no use to anybody.
+/// Milliseconds. Wheel notches, repeats and moves that wait for longer are of no use to anybody; after a
+/// stall that is longer, nor is what came during it.
 constexpr std::uint32_t staleInputMillis = 250;
 
 /// The one seam to the outside: shows frames, brings input, sets the cursor, shows messages, waits. There is
@@ -55,15 +57,23 @@ public:
     virtual void tickBegins(ddwin& window, bool takesInput);
     virtual void frameBegins(ddwin& window);
 
+    /// Whether input that comes while nothing takes it, such as during a change of screens, is dropped. A
+    /// person in front of a window means it for what was shown then; a played run hands everything out, so
+    /// the base says no.
+    virtual bool dropsLostInput() const { return false; }
+
     InputQueue& input() { return queue; }
     /// Set by WM_CLOSE; the main loop ends then.
     bool closeRequested = false;
+    /// The user has asked for the window to be closed. The main loop passes it on and clears it.
+    bool userWantsToClose = false;
 
 private:
     InputQueue queue;
 };
 
 /// Opens the window, calls its startup and runs ticks and frames until running is 0 or the window is closed.
-/// An invalid argument ends the frame it came from and is reported once. Exit status: 0, or 1 when no window
+/// onCloseRequest is called when the user wants to close the window; without it that closes the window. An
+/// invalid argument ends the frame it came from and is reported once. Exit status: 0, or 1 when no window
 /// could be opened.
-TGX_PLATFORM_API int runMainLoop(ddwin& window);
+TGX_PLATFORM_API int runMainLoop(ddwin& window, const std::function<void()>& onCloseRequest = {});

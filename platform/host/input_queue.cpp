@@ -49,11 +49,41 @@ void clearFieldsOfOneTick(ddwin& window)
     window.keyChar = 0;
 }
 
+InputQueue::Event placed(InputQueue::Event event, std::optional<InputQueue::Place> at)
+{
+    if (at) {
+        event.isPlaced = true;
+        event.x = coordinate(at->x);
+        event.y = coordinate(at->y);
+    }
+    return event;
+}
+
+void movePointer(ddwin& window, const InputQueue::Event& event)
+{
+    window.prevMouseX = window.mouseX;
+    window.prevMouseY = window.mouseY;
+    window.mouseX = event.x;
+    window.mouseY = event.y;
+}
+
 } // namespace
 
 void InputQueue::addNow(Event event)
 {
     event.time = timeGetTime();
+    add(event);
+}
+
+void InputQueue::add(const Event& event)
+{
+    const auto button = static_cast<std::size_t>(event.button);
+    if (event.kind == Kind::Release && droppedPresses.test(button)) {
+        droppedPresses.reset(button);
+        return;
+    }
+    if (event.kind == Kind::Press || event.kind == Kind::DoubleClick)
+        droppedPresses.reset(button);
     events.push_back(event);
 }
 
@@ -62,24 +92,29 @@ void InputQueue::move(int x, int y)
     addNow({.kind = Kind::Move, .x = coordinate(x), .y = coordinate(y)});
 }
 
-void InputQueue::press(MouseButton button)
+void InputQueue::press(MouseButton button, std::optional<Place> at)
 {
-    addNow({.kind = Kind::Press, .button = button});
+    addNow(placed({.kind = Kind::Press, .button = button}, at));
 }
 
-void InputQueue::release(MouseButton button)
+void InputQueue::release(MouseButton button, std::optional<Place> at)
 {
-    addNow({.kind = Kind::Release, .button = button});
+    addNow(placed({.kind = Kind::Release, .button = button}, at));
 }
 
-void InputQueue::doubleClick(MouseButton button)
+void InputQueue::doubleClick(MouseButton button, std::optional<Place> at)
 {
-    addNow({.kind = Kind::DoubleClick, .button = button});
+    addNow(placed({.kind = Kind::DoubleClick, .button = button}, at));
 }
 
-void InputQueue::wheel(bool up)
+void InputQueue::cancel(MouseButton button)
 {
-    addNow({.kind = up ? Kind::WheelUp : Kind::WheelDown});
+    addNow({.kind = Kind::Cancel, .button = button});
+}
+
+void InputQueue::wheel(bool up, std::optional<Place> at)
+{
+    addNow(placed({.kind = up ? Kind::WheelUp : Kind::WheelDown}, at));
 }
 
 void InputQueue::key(std::uint8_t code, char character, std::uint8_t secondCode, bool repeat)
@@ -124,6 +159,7 @@ void InputQueue::clear()
 {
     events.clear();
     doubleClicked.reset();
+    droppedPresses.reset();
 }
 
 InputQueue::Event InputQueue::take()
@@ -135,12 +171,11 @@ InputQueue::Event InputQueue::take()
 
 void InputQueue::apply(ddwin& window, const Event& event)
 {
+    if (event.isPlaced && (event.x != window.mouseX || event.y != window.mouseY))
+        movePointer(window, event);
     switch (event.kind) {
     case Kind::Move:
-        window.prevMouseX = window.mouseX;
-        window.prevMouseY = window.mouseY;
-        window.mouseX = event.x;
-        window.mouseY = event.y;
+        movePointer(window, event);
         break;
     case Kind::Press:
         fieldsOf(window, event.button).down = 1;
@@ -152,6 +187,14 @@ void InputQueue::apply(ddwin& window, const Event& event)
     case Kind::DoubleClick:
         fieldsOf(window, event.button).doubleClick = 1;
         doubleClicked.set(static_cast<std::size_t>(event.button));
+        break;
+    case Kind::Cancel:
+        fieldsOf(window, event.button).down = 0;
+        doubleClicked.reset(static_cast<std::size_t>(event.button));
+        if (event.button == MouseButton::Left) {
+            window.pressCancelled = 1;
+            window.mouseDownCount = 0; // a press in the same tick begins again
+        }
         break;
     case Kind::WheelUp:
         window.wheelUp = 1;
@@ -189,6 +232,29 @@ void InputQueue::hold(ddwin& window, std::uint8_t code, bool held)
         tickKeyWasHeld = held; // its event keeps it down until the tick has ended
     else
         window.keyDown[code] = held;
+}
+
+void InputQueue::dropFrom(std::size_t first)
+{
+    std::size_t kept = first;
+    for (std::size_t i = first; i < events.size(); ++i) {
+        Event event = events[i];
+        const auto button = static_cast<std::size_t>(event.button);
+        if (event.kind == Kind::Press || event.kind == Kind::DoubleClick) {
+            droppedPresses.set(button);
+            continue;
+        }
+        if (event.kind == Kind::Release) {
+            if (droppedPresses.test(button)) {
+                droppedPresses.reset(button);
+                continue;
+            }
+            event.kind = Kind::Cancel;
+        }
+        if (!isTransition(event))
+            events[kept++] = event;
+    }
+    events.resize(std::min(kept, events.size()));
 }
 
 void InputQueue::dropMovesAtHead()

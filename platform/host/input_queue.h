@@ -5,6 +5,7 @@
 #include <bitset>
 #include <cstdint>
 #include <deque>
+#include <optional>
 
 class ddwin;
 
@@ -14,7 +15,17 @@ enum class MouseButton : std::uint8_t { Left, Right, Middle };
 /// front of it, so that a press and its release between two ticks are two ticks and nothing is lost.
 class TGX_PLATFORM_API InputQueue {
 public:
-    enum class Kind : std::uint8_t { Move, Press, Release, DoubleClick, WheelUp, WheelDown, Key, Hold };
+    enum class Kind : std::uint8_t {
+        Move,
+        Press,
+        Release,
+        DoubleClick,
+        Cancel,
+        WheelUp,
+        WheelDown,
+        Key,
+        Hold
+    };
     struct Event {
         Kind kind;
         MouseButton button = MouseButton::Left;
@@ -22,24 +33,36 @@ public:
         std::uint8_t secondCode = 0;
         char character = 0;
         bool repeat = false;
-        bool held = false; // of Hold
+        bool held = false;     // of Hold
+        bool isPlaced = false; // of buttons and notches: x and y say where the pointer was
         std::int16_t x = 0;
         std::int16_t y = 0;
         std::uint32_t time = 0;
     };
-    static bool isTransition(const Event& event) { return !isMove(event) && event.kind != Kind::Hold; }
+    static bool isTransition(const Event& event)
+    {
+        return event.kind != Kind::Move && event.kind != Kind::Hold && event.kind != Kind::Cancel;
+    }
+    /// Where the pointer is when a button or the wheel is used, screen pixels. The tick that takes the event
+    /// puts it there, whatever has moved it since.
+    struct Place {
+        int x;
+        int y;
+    };
 
     /// Time is that of timeGetTime when the event came in, for what may grow stale.
     void move(int x, int y);
-    void press(MouseButton button);
-    void release(MouseButton button);
+    void press(MouseButton button, std::optional<Place> at = {});
+    void release(MouseButton button, std::optional<Place> at = {});
     /// Sets its flag alone; from the next tick on the button counts as pressed, until its release.
-    void doubleClick(MouseButton button);
-    void wheel(bool up);
+    void doubleClick(MouseButton button, std::optional<Place> at = {});
+    /// The button is no longer held, and that is no click: no release follows.
+    void cancel(MouseButton button);
+    void wheel(bool up, std::optional<Place> at = {});
     /// code 0 is no key. secondCode goes to keyCode2. repeat: the platform's repeat of a held key.
     void key(std::uint8_t code, char character, std::uint8_t secondCode = 0, bool repeat = false);
-    /// An event of another queue, behind those that wait here.
-    void add(const Event& event) { events.push_back(event); }
+    /// An event of another queue, after those that wait here.
+    void add(const Event& event);
     /// The oldest one, out of the queue. There has to be one.
     Event take();
     /// Those that wait, the oldest first.
@@ -67,6 +90,11 @@ public:
     /// presses, releases and keys stay.
     void dropStale(std::uint32_t now, std::uint32_t oldest);
 
+    /// Drops the transitions from that event on, counted from the oldest: nobody meant them for what is shown
+    /// by now. A button that was held before them is cancelled, and one that went down with them stays up,
+    /// also when its release comes later.
+    void dropFrom(std::size_t first);
+
 private:
     static bool isMove(const Event& event) { return event.kind == Kind::Move; }
     void addNow(Event event);
@@ -74,5 +102,6 @@ private:
     std::deque<Event> events;
     std::uint8_t tickKey = 0; // counts as held until the tick has ended, 0 for none
     bool tickKeyWasHeld = false;
-    std::bitset<3> doubleClicked; // buttons that count as pressed from the next tick on
+    std::bitset<3> droppedPresses; // buttons whose release is dropped too
+    std::bitset<3> doubleClicked;  // buttons that count as pressed from the next tick on
 };

@@ -2,6 +2,8 @@
 #include "platform/framework/exceptions.h"
 #include "platform/host/displayhost.h"
 
+#include <utility>
+
 namespace {
 
 /// Runs parts of the program and survives an invalid argument out of them. A fault that comes back with each
@@ -37,12 +39,13 @@ struct OpenWindow {
 
 } // namespace
 
-int runMainLoop(ddwin& window)
+int runMainLoop(ddwin& window, const std::function<void()>& onCloseRequest)
 {
     if (!displayhost::current().open(window))
         return 1;
     const OpenWindow closing{window};
     displayhost::current().closeRequested = false;
+    displayhost::current().userWantsToClose = false;
 
     Guard guard;
     guard.run([&] { window.startup(); });
@@ -51,6 +54,12 @@ int runMainLoop(ddwin& window)
         int frames = 0;
         displayhost::current().waitForWork(ticks, frames);
         displayhost::current().pump(window);
+        if (std::exchange(displayhost::current().userWantsToClose, false)) {
+            if (onCloseRequest)
+                guard.run(onCloseRequest);
+            else
+                displayhost::current().closeRequested = true;
+        }
         for (; ticks > 0 && goesOn(window); --ticks)
             guard.run([&] { window.runTick(); });
         if (frames > 0 && goesOn(window))

@@ -54,6 +54,7 @@ public:
     void showMessage(const CString& text) override;
     void waitForWork(int& ticks, int& frames) override;
     void followFullScreen(ddwin& window) override;
+    bool dropsLostInput() const override { return true; }
 
 private:
     bool startVideo();
@@ -84,6 +85,7 @@ private:
     bool hasVideo = false; // started by us
     bool hasController = false;
     bool pixelsAreLost = true;  // the texture holds nothing of the screen
+    Uint32 lastPump = 0;        // milliseconds of SDL_GetTicks
     bool isPointerOwed = false; // the game moved it while the window was in the background
     bool windowIsStale = true;  // what the window shows is not the texture
     Pacer pacer;
@@ -172,6 +174,7 @@ bool SdlHost::open(ddwin& newGame)
     setCursor(cursor);
     SDL_StartTextInput();
     updateFit();
+    lastPump = SDL_GetTicks();
 
     SDL_DisplayMode mode;
     const bool isKnown = SDL_GetWindowDisplayMode(window, &mode) == 0 && mode.refresh_rate > 0;
@@ -330,13 +333,15 @@ void SdlHost::pump(ddwin& polled)
 {
     if (!window || game != &polled)
         return;
+    const bool hasStalled = SDL_GetTicks() - lastPump > staleInputMillis;
+    const std::size_t before = input().getEvents().size();
     SDL_Event event;
     while (SDL_PollEvent(&event)) {
         if (controllers.handle(event, input()))
             continue;
         switch (event.type) {
         case SDL_QUIT:
-            closeRequested = true;
+            userWantsToClose = true;
             break;
         case SDL_WINDOWEVENT:
             handleWindowEvent(event.window);
@@ -355,6 +360,10 @@ void SdlHost::pump(ddwin& polled)
         }
     }
     mouseAndKeys.flush();
+    // Events have no time of their own that could be trusted: all of these came while nobody looked.
+    if (hasStalled)
+        input().dropFrom(before);
+    lastPump = SDL_GetTicks();
     controllers.repeat(SDL_GetTicks(), input());
     input().dropStale(timeGetTime(), staleInputMillis);
 }
@@ -363,7 +372,7 @@ void SdlHost::handleWindowEvent(const SDL_WindowEvent& event)
 {
     switch (event.event) {
     case SDL_WINDOWEVENT_CLOSE:
-        closeRequested = true;
+        userWantsToClose = true;
         break;
     case SDL_WINDOWEVENT_FOCUS_GAINED:
         game->appActive = 1;

@@ -59,7 +59,7 @@ void SdlInput::handle(const SDL_Event& event)
     case SDL_MOUSEWHEEL: {
         const int notches = event.wheel.direction == SDL_MOUSEWHEEL_FLIPPED ? -event.wheel.y : event.wheel.y;
         for (int i = 0; i < std::abs(notches); ++i)
-            queue.wheel(notches > 0);
+            queue.wheel(notches > 0, placeOf(event.wheel.mouseX, event.wheel.mouseY));
         break;
     }
     case SDL_KEYDOWN:
@@ -96,11 +96,25 @@ void SdlInput::handleMotion(const SDL_MouseMotionEvent& motion)
     movePointer(motion.x, motion.y);
 }
 
+/// Where the pointer is for the toolkit; nothing while a move of its own is still on the way.
+std::optional<InputQueue::Place> SdlInput::placeOf(int windowX, int windowY) const
+{
+    if (awaitsOwnMotion)
+        return std::nullopt;
+    const ScreenFit::Point at = pointerAt(windowX, windowY);
+    return InputQueue::Place{at.x, at.y};
+}
+
 /// A pointer beside the screen is over nothing; while a button is held, such as on a lever, it is at the
 /// nearest place of the screen.
+ScreenFit::Point SdlInput::pointerAt(int windowX, int windowY) const
+{
+    return fit.contains(windowX, windowY) || heldButtons.any() ? fit.toScreen(windowX, windowY) : offScreen;
+}
+
 void SdlInput::movePointer(int windowX, int windowY)
 {
-    moveTo(fit.contains(windowX, windowY) || heldButtons.any() ? fit.toScreen(windowX, windowY) : offScreen);
+    moveTo(pointerAt(windowX, windowY));
 }
 
 /// clicks of the event says that the press came in time. Where SDL counts clicks together, more than these
@@ -127,14 +141,14 @@ void SdlInput::handleButton(const SDL_MouseButtonEvent& event)
         if (!fit.contains(event.x, event.y))
             return;
         if (isSecondClick(event))
-            queue.doubleClick(*button);
+            queue.doubleClick(*button, placeOf(event.x, event.y));
         else
-            queue.press(*button);
+            queue.press(*button, placeOf(event.x, event.y));
         heldButtons.set(index);
     } else if (heldButtons.test(index)) {
         if (!awaitsOwnMotion)
             movePointer(event.x, event.y);
-        queue.release(*button);
+        queue.release(*button, placeOf(event.x, event.y));
         heldButtons.reset(index);
     }
 }
@@ -205,7 +219,7 @@ void SdlInput::letGo()
     flush();
     for (MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
         if (heldButtons.test(static_cast<std::size_t>(button)))
-            queue.release(button);
+            queue.cancel(button);
     }
     heldButtons.reset();
     for (std::size_t key = 0; key < codes.size(); ++key)

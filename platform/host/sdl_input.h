@@ -9,6 +9,7 @@
 #include <bitset>
 #include <climits>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 /// Turns the window's mouse and key events into transitions of the input queue.
@@ -23,7 +24,7 @@ public:
     void handle(const SDL_Event& event);
     /// Behind the last event there is: a key that waited for its character goes without.
     void flush() { sendWaitingKey(0); }
-    /// Lets go of all that is held, as when the window loses the focus.
+    /// Lets go of all that is held, as when the window loses the focus. No button clicks by that.
     void letGo();
     /// The toolkit has put the pointer to this place of the screen. Motion that began before comes no more.
     void pointerWasMoved(int screenX, int screenY, std::uint32_t now);
@@ -39,6 +40,8 @@ private:
     void sendWaitingKey(char character);
     void moveTo(ScreenFit::Point place);
     void movePointer(int windowX, int windowY);
+    ScreenFit::Point pointerAt(int windowX, int windowY) const;
+    std::optional<InputQueue::Place> placeOf(int windowX, int windowY) const;
     bool isSecondClick(const SDL_MouseButtonEvent& event);
 
     InputQueue& queue;

@@ -48,5 +48,5 @@ AControlsApp::~AControlsApp()
 
 int AControlsApp::Run()
 {
-    return mainWin ? runMainLoop(*mainWin) : 1;
+    return mainWin ? runMainLoop(*mainWin, [this] { mainWin->onCloseRequest(); }) : 1;
 }

@@ -1,8 +1,11 @@
+#include "platform/host/displayhost.h"
 #include "tgx/base/fixed.h"
 #include "tgx/controls/button.h"
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/tabstops.h"
+
+#include <utility>
 
 namespace {
 
@@ -30,8 +33,12 @@ void AMainWin::OnMouseAction()
         return;
 
     flushMessages();
+    if (std::exchange(pressCancelled, 0))
+        mouseDownWnd = nullptr; // what was pressed goes back to rest with the moves that now reach it
     if (nextDrawCount > 0 || !pendingScreen.IsEmpty()) {
         flushMessages();
+        if (displayhost::current().dropsLostInput())
+            displayhost::current().input().dropFrom(0);
         ddwin::OnMouseAction();
         return;
     }

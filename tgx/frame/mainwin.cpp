@@ -133,6 +133,11 @@ void AMainWin::exitProgram()
     exitRequested = true;
 }
 
+void AMainWin::onCloseRequest()
+{
+    exitProgram();
+}
+
 void AMainWin::completeExit()
 {
     if (!screenList)

@@ -49,6 +49,10 @@ protected:
     virtual AScreen* doChangeScreenSpecial(const CString& name);
 
 public:
+    /// The user wants to close the window. The base calls exitProgram. A game may ask first, and stay open by
+    /// not calling it.
+    virtual void onCloseRequest();
+
     // Frame (mainwin.cpp).
 
     /// Asks for the end; the next frame carries it out: the screen is closed, all windows are deleted, the

@@ -1,3 +1,4 @@
+#include "platform/host/displayhost.h"
 #include "tests/unit/support/tgx_test.h"
 #include "tgx/controls/scrollbar.h"
 
@@ -26,6 +27,17 @@ protected:
         return blit("bar.bmp").from(n * 21, 0).to(x, y, w, h).mode(-1);
     }
 };
+
+TEST_F(ScrollBarTest, ACancelledPressLetsGoOfTheLever)
+{
+    play("move 110 130", "press left", "tick 2");
+    EXPECT_EQ(bar("V")->getLeverHeld(), 1);
+    displayhost::current().input().cancel(MouseButton::Left);
+    play("tick", "move 110 200", "tick");
+    EXPECT_EQ(bar("V")->getLeverHeld(), 0);
+    EXPECT_EQ(win().getMouseCaptureWndCount(), 0);
+    EXPECT_EQ(percent("V"), 0);
+}
 
 TEST_F(ScrollBarTest, ADragFollowsThePointerOffTheBarInWholePercent)
 {

@@ -1,4 +1,6 @@
+#include "platform/host/displayhost.h"
 #include "tests/unit/support/tgx_test.h"
+#include "tgx/controls/button.h"
 
 namespace {
 
@@ -29,6 +31,25 @@ protected:
         play("frame 6", "move 50 20", "tick");
     }
 };
+
+// What a host does that loses the focus.
+TEST_F(InputTest, ACancelledPressClicksNothing)
+{
+    const auto cancel = [] { displayhost::current().input().cancel(MouseButton::Left); };
+    play("press left", "tick 3");
+    EXPECT_EQ(win().getMouseDownWnd(), wnd("A"));
+    cancel();
+    play("tick");
+    EXPECT_EQ(win().getMouseDownWnd(), nullptr);
+    EXPECT_EQ(screen("S")->getButton("A", 0)->getButtonState(), AButton::BS_HOT);
+    play("press left", "move 150 20", "tick 2");
+    cancel();
+    play("tick 2");
+    EXPECT_EQ(screen("S")->getButton("A", 0)->getButtonState(), AButton::BS_NORMAL);
+    EXPECT_EQ(clicks(), none);
+    play("press left", "tick", "release left", "tick");
+    EXPECT_EQ(clicks(), std::vector<std::string>{"B"}) << "the next press is one as any other";
+}
 
 TEST_F(InputTest, OneActionGoesOutATick)
 {

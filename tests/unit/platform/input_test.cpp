@@ -241,6 +241,63 @@ TEST_F(Input, theLoopEndsAtOnceWhenRunningIsCleared)
     EXPECT_EQ(wnd->ticks.size(), 1u) << "the close request of the run before is forgotten";
 }
 
+TEST_F(Input, theUsersWishToCloseIsPassedOnOrClosesTheWindow)
+{
+    wnd->inTick = [] { displayhost::current().userWantsToClose = true; };
+    int asked = 0;
+    EXPECT_EQ(runMainLoop(*wnd, [&] { wnd->running = ++asked < 3; }), 0);
+    EXPECT_EQ(asked, 3) << "the window stayed open twice";
+    wnd->running = 1;
+    wnd->ticks.clear();
+    EXPECT_EQ(runMainLoop(*wnd), 0);
+    EXPECT_EQ(wnd->ticks.size(), 1u);
+}
+
+TEST_F(Input, aPressHasItsPlaceWhateverMovesThePointerMeanwhile)
+{
+    queue().press(MouseButton::Left, InputQueue::Place{50, 60});
+    queue().release(MouseButton::Left);
+    wnd->mouseX = 9;
+    EXPECT_EQ(run(2), (Seen{"at 50,60 down1", "up"}));
+    queue().wheel(true, InputQueue::Place{70, 60});
+    EXPECT_EQ(run(1), (Seen{"at 70,60 wheelup"}));
+}
+
+TEST_F(Input, aCancelledPressIsNoClick)
+{
+    queue().press(MouseButton::Left);
+    queue().cancel(MouseButton::Left);
+    queue().press(MouseButton::Left);
+    EXPECT_EQ(run(3), (Seen{"down1", "down1", "down2"})) << "up and down again within a tick";
+    queue().cancel(MouseButton::Left);
+    EXPECT_EQ(run(2), (Seen{"-", "-"}));
+    queue().doubleClick(MouseButton::Left);
+    queue().cancel(MouseButton::Left);
+    EXPECT_EQ(run(2), (Seen{"double", "-"}));
+}
+
+TEST_F(Input, whatIsDroppedLeavesNoHalfOfAClick)
+{
+    queue().press(MouseButton::Left);
+    EXPECT_EQ(run(1), (Seen{"down1"}));
+    queue().key('A', 'a');
+    const std::size_t kept = queue().getEvents().size();
+    queue().release(MouseButton::Left);
+    queue().move(5, 5);
+    queue().press(MouseButton::Right);
+    queue().release(MouseButton::Right);
+    queue().doubleClick(MouseButton::Middle);
+    queue().key('B', 'b');
+    queue().wheel(true);
+    queue().dropFrom(kept);
+    queue().release(MouseButton::Middle); // of the press that was dropped
+    EXPECT_EQ(run(3), (Seen{"down2 key A=a", "at 5,5", "-"}))
+        << "the left button is let go of without a click";
+    queue().press(MouseButton::Middle);
+    queue().release(MouseButton::Middle);
+    EXPECT_EQ(run(2), (Seen{"middle", "middleup"}));
+}
+
 TEST_F(Input, anInvalidArgumentIsReportedOnceAndTheLoopGoesOn)
 {
     wnd->inStartup = [] { AfxThrowInvalidArgException(); };
