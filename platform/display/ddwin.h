@@ -86,11 +86,14 @@ public:
     /// Null when the picture cannot be loaded. The other arguments are -1.
     surface* createsprite(const char* name, int a, int b, long c);
     /// A surface that holds a copy of that rectangle of source; what lies outside source is black. old, if
-    /// not null, is reused and returned. For a null source, or a section that is too large, old is empty, 0
-    /// by 0; without old the result is null.
+    /// not null, is reused and returned. For a null source, or a section that is too large, which is
+    /// reported, old is empty, 0 by 0; without old the result is null.
     surface* createBkgndSection(surface* source, int x, int y, int w, int h, surface* old);
     /// Releases a surface of this window; null and foreign ones are passed over. 1, or 0 for those.
     int deleteSurface(surface* released);
+    /// Says that a window no longer shows a surface. One of a file may drop its pixels with the frame; they
+    /// are loaded again when it is used. Null and foreign ones are passed over.
+    void letGo(surface* unused);
     int getSurfaceCount() const;
     /// The pictures that surfaces and backdrops have asked for since the window was made, found or not, as
     /// they were named.

@@ -149,8 +149,15 @@ surface* ddwin::createBkgndSection(surface* source, int x, int y, int w, int h, 
     const int width = std::clamp(w, 0, limits::imageSide);
     const int height = std::clamp(h, 0, limits::imageSide);
     const long long pixels = static_cast<long long>(width) * height;
-    if (!source || pixels > limits::imagePixels || livePixelCount() + pixels > limits::livePixels)
+    if (!source)
         return made;
+    if (livePixelCount() + pixels > limits::livePixels)
+        canvas->surfaces.makeRoom();
+    if (pixels > limits::imagePixels || livePixelCount() + pixels > limits::livePixels) {
+        const CString name = *source->filename ? source->filename : "background";
+        MsgBox("cannot load %s", static_cast<const char*>(name));
+        return made;
+    }
     ImageRef section = makeImage(width, height);
     if (image) {
         const Box part = clipped(-std::int64_t(x), -std::int64_t(y), std::int64_t(image->width) - x,
@@ -170,6 +177,11 @@ surface* ddwin::createBkgndSection(surface* source, int x, int y, int w, int h, 
 int ddwin::deleteSurface(surface* released)
 {
     return released && canvas->surfaces.release(released);
+}
+
+void ddwin::letGo(surface* unused)
+{
+    canvas->surfaces.letGo(unused);
 }
 
 int ddwin::getSurfaceCount() const

@@ -2,6 +2,7 @@
 
 #include "platform/display/canvas.h"
 #include "platform/display/ddwin.h"
+#include "platform/display/msgbox.h"
 #include "platform/host/image_file.h"
 
 namespace {
@@ -19,7 +20,8 @@ surface::surface(ddwin* newOwner) : owner(newOwner)
 }
 
 surface::surface(const surface& other)
-    : width(other.width), height(other.height), owner(other.owner), image(other.image), name(other.name)
+    : width(other.width), height(other.height), owner(other.owner), image(other.image), name(other.name),
+      isDropped(other.isDropped)
 {
     filename = name.GetBuffer();
 }
@@ -31,6 +33,7 @@ surface& surface::operator=(const surface& other)
     owner = other.owner;
     image = other.image;
     name = other.name;
+    isDropped = other.isDropped;
     filename = name.GetBuffer();
     return *this;
 }
@@ -38,7 +41,25 @@ surface& surface::operator=(const surface& other)
 surface::~surface()
 {
     while (refs)
-        refs->detach();
+        refs->unlink();
+}
+
+const ImageRef& surface::getImage()
+{
+    fetchDropped();
+    return image;
+}
+
+void surface::fetchDropped()
+{
+    if (!isDropped)
+        return;
+    isDropped = false; // one that fails is reported once
+    const CString file = name;
+    if (ImageRef again = owner->canvas->surfaces.load(file.view()))
+        setImage(std::move(again), file);
+    else
+        MsgBox("cannot load %s", static_cast<const char*>(file));
 }
 
 int surface::reload()
@@ -55,6 +76,7 @@ int surface::reload()
 void surface::setImage(ImageRef newImage, const CString& newName)
 {
     image = std::move(newImage);
+    isDropped = false;
     width = image ? static_cast<short>(std::min<int>(image->width, INT16_MAX)) : 0;
     height = image ? static_cast<short>(std::min<int>(image->height, INT16_MAX)) : 0;
     name = newName;
@@ -66,6 +88,7 @@ void surface::setImage(ImageRef newImage, const CString& newName)
 /// A command of this bitmap's pixels, as they are now. Only with an owner.
 inline DrawCommand& surface::record(DrawOp op)
 {
+    fetchDropped();
     Canvas& canvas = *owner->canvas;
     DrawCommand& command = canvas.record(op);
     if (image) {
@@ -121,6 +144,7 @@ void surface::blit(int x, int y, int w, int h, IDirectDrawSurface* dest, int mod
 
 void surface::setPixel(int x, int y, unsigned long colour)
 {
+    fetchDropped();
     if (!image || x < 0 || y < 0 || x >= image->width || y >= image->height)
         return;
     // Another surface shares the pixels, or a list that can still be read does.
@@ -147,6 +171,14 @@ void SurfaceRef::attach(surface* to)
 }
 
 void SurfaceRef::detach()
+{
+    surface* const held = target;
+    unlink();
+    if (held && !held->refs && held->owner)
+        held->owner->letGo(held);
+}
+
+void SurfaceRef::unlink()
 {
     if (!target)
         return;

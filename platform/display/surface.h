@@ -52,8 +52,8 @@ public:
     short width = 0;  // pixels
     short height = 0; // pixels
 
-    /// Pixels, shared; null while there are none.
-    const ImageRef& getImage() const { return image; }
+    /// Pixels, shared; null while there are none. Loads those that were dropped.
+    const ImageRef& getImage();
     /// Takes the pixels, with width and height, and names the surface and an image without a name.
     void setImage(ImageRef newImage, const CString& name);
 
@@ -64,7 +64,11 @@ protected:
 
 private:
     friend class SurfaceRef;
+    friend class SurfaceStore;
     DrawCommand& record(DrawOp op);
 
+    void fetchDropped();
+
     SurfaceRef* refs = nullptr; // first of those that point here
+    bool isDropped = false;     // the pixels: they are loaded again when they are used
 };

@@ -30,6 +30,7 @@ private:
     friend class surface;
     void attach(surface* to);
     void detach();
+    void unlink();
 
     surface* target = nullptr;
     SurfaceRef* next = nullptr;

@@ -48,13 +48,13 @@ ImageRef SurfaceStore::decode(std::string_view name)
     if (const auto known = failures.find(*path); known != failures.end() && known->second.isOf(file)) {
         const long long room = known->second.room;
         if (room > 0 && hasNoRoomFor(room))
-            fresh.clear();
+            makeRoom();
         if (room == 0 || hasNoRoomFor(room))
             return nullptr;
     }
     ImageRef image = loadImageFile(name, &file.room);
-    if (!image && file.room > 0 && !fresh.empty()) {
-        fresh.clear();
+    if (!image && file.room > 0 && !(fresh.empty() && unused.empty())) {
+        makeRoom();
         image = loadImageFile(name, &file.room);
     }
     if (image) {
@@ -85,9 +85,28 @@ void SurfaceStore::reloadAll()
     fresh.clear();
     isReloadingAll = true;
     for (surface* owned : surfaces)
-        if (*owned->filename)
+        if (*owned->filename && !owned->isDropped)
             owned->reload();
     isReloadingAll = false;
+}
+
+void SurfaceStore::letGo(surface* wanted)
+{
+    if (owns(wanted) && *wanted->filename)
+        unused.insert(wanted);
+}
+
+void SurfaceStore::makeRoom()
+{
+    fresh.clear();
+    for (surface* each : unused) {
+        // Shown again meanwhile, or written to, so that the file holds something else.
+        if (each->refs || !each->image || each->image->version != 0)
+            continue;
+        each->image.reset();
+        each->isDropped = true;
+    }
+    unused.clear();
 }
 
 surface* SurfaceStore::make(ddwin* window)
@@ -101,6 +120,7 @@ bool SurfaceStore::release(surface* released)
 {
     if (surfaces.erase(released) == 0)
         return false;
+    unused.erase(released);
     delete released;
     return true;
 }

@@ -28,8 +28,12 @@ public:
     void reloadAll();
     /// The names that were looked for on the disk, found or not.
     const std::set<std::string, std::less<>>& getAskedNames() const { return asked; }
-    /// Lets go of what was loaded and dropped again within the frame.
-    void endFrame() { fresh.clear(); }
+    /// What no one shows any more may drop its pixels, if a file holds them.
+    void letGo(surface* wanted);
+    /// Drops the pixels of files that no one shows: those that were loaded within the frame only, and those
+    /// of surfaces that were let go of.
+    void makeRoom();
+    void endFrame() { makeRoom(); }
 
     /// A new surface, owned here.
     surface* make(ddwin* window);
@@ -60,6 +64,7 @@ private:
     void remember(std::string_view name, const ImageRef& image);
 
     std::unordered_set<surface*> surfaces;
+    std::unordered_set<surface*> unused; // let go of since the frame began
     std::unordered_map<std::string, std::weak_ptr<Image>, TextHash, std::equal_to<>> images;
     std::unordered_map<std::string, Failure> failures; // by path
     std::set<std::string, std::less<>> asked;

@@ -84,6 +84,10 @@ AWnd::~AWnd()
     }
     if (owner)
         owner->unlist(this);
+    if (AMainWin* main = getMainWin()) {
+        main->letGo(bmp);
+        main->deleteSurface(bkgnd);
+    }
     while (refs)
         refs->detach();
     LayoutVersion::bump();

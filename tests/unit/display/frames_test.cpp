@@ -109,6 +109,46 @@ TEST_F(FramesTest, ADeletedSurfaceIsStillShownByItsFrame)
         << "the list can be read until the next frame ends";
 }
 
+TEST_F(FramesTest, AFilesPixelsGoWhenNoWindowShowsThemAndComeBackWhenUsed)
+{
+    const auto picture = [&](char blue) {
+        write("a.bmp", bmpFile(1, 1, {24, 0, "", std::string(1, blue) + std::string("\x20\x10\0", 3)}));
+    };
+    picture('\x30');
+    const long long before = livePixelCount();
+    surface* sprite = window.createsprite("a.bmp", -1, -1, -1);
+    surface* written = window.createsprite("a.bmp", -1, -1, -1);
+    written->setPixel(0, 0, 0x445566);
+    const auto letGo = [&] {
+        SurfaceRef first(sprite);
+        SurfaceRef(written).get();
+        window.frame();
+        EXPECT_NE(sprite->getImage(), nullptr);
+    };
+    const long long shared = livePixelCount() - before;
+    letGo();
+    window.frame(), window.frame();
+    EXPECT_EQ(livePixelCount() - before, shared / 2) << "only what was written to is kept";
+    EXPECT_EQ(sprite->width, 1);
+    window.frame([&] {
+        surface copy(*sprite);
+        copy.blit(0, 0, 1, 1, nullptr, -1);
+        sprite->blit(1, 0, 1, 1, nullptr, -1);
+        written->blit(2, 0, 1, 1, nullptr, -1);
+    });
+    EXPECT_EQ(window.at(0, 0), 0x102030u);
+    EXPECT_EQ(window.at(1, 0), 0x102030u);
+    EXPECT_EQ(window.at(2, 0), 0x445566u);
+
+    letGo();
+    window.frame(), window.frame();
+    std::filesystem::remove(folder / "a.bmp");
+    window.reloadsurfaces();
+    window.frame([&] { sprite->blit(1, 0, 1, 1, nullptr, -1), sprite->blit(1, 0, 1, 1, nullptr, -1); });
+    EXPECT_EQ(takeMessages(), std::vector<std::string>{"cannot load a.bmp"}) << "once";
+    EXPECT_EQ(window.getSurfaceCount(), 2);
+}
+
 TEST_F(FramesTest, APixelThatIsSetShowsFromTheNextBlitOnAndNowhereElse)
 {
     write("a.bmp", bmpFile(1, 1, {24, 0, "", std::string("\x30\x20\x10\0", 4)}));
@@ -209,6 +249,7 @@ TEST_F(FramesTest, PixelsOfAllPicturesTogetherAreBounded)
         sections.push_back(window.createBkgndSection(&white, 0, 0, 8000, 8000, nullptr));
     EXPECT_EQ(std::count(sections.begin(), sections.end(), nullptr), 0);
     EXPECT_EQ(window.createBkgndSection(&white, 0, 0, 8000, 8000, nullptr), nullptr);
+    EXPECT_EQ(takeMessages(), std::vector<std::string>{"cannot load background"});
     EXPECT_EQ(window.createBkgndSection(&white, 0, 0, 8000, 8000, sections[0]), sections[0]);
     EXPECT_EQ(sections[0]->width, 8000) << "takes the place of its own pixels";
     EXPECT_EQ(window.createsprite("large.bmp", -1, -1, -1), nullptr);
@@ -277,6 +318,10 @@ TEST_F(FramesTest, ABackdropFitsTheScreenOrIsPlain)
     EXPECT_EQ(section->width, 0) << "the old one is empty and still there";
     EXPECT_NE(window.createBkgndSection(window.getBackdrop(), INT_MIN, INT_MAX, INT_MAX, 1, nullptr),
               nullptr);
+
+    EXPECT_EQ(window.createBkgndSection(window.getBackdrop(), 0, 0, INT_MAX, INT_MAX, section), section);
+    EXPECT_EQ(section->width, 0);
+    EXPECT_EQ(takeMessages(), std::vector<std::string>{"cannot load small.bmp"}) << "larger than any picture";
 
     window.setbackdrop("none.bmp", -1);
     EXPECT_EQ(takeMessages(), std::vector<std::string>{"cannot load none.bmp"});

@@ -290,4 +290,48 @@ TEST_F(WipeTest, NarrowScreens)
     EXPECT_EQ(win().getLastFrame().commands().back().op, DrawOp::DrawScreen) << "no wipe at all";
 }
 
+TEST_F(ScreensTest, TenThousandVisitsLeaveAsManyPixelsAsOne)
+{
+    for (const char* name : {"pic.bmp", "other.bmp", "edge.bmp", "icon.bmp", "row.bmp"})
+        bitmap(name, 48, 24);
+    bitmap("back.bmp", 64, 48);
+    strip("UIG/scroll1.bmp", 16, 26, 6);
+    const std::string contents = R"(BEGIN
+BITMAP "PIC" 0 0 48 24 "pic.bmp" 48 24 0 1
+BITMAP "OTHER" 0 24 48 24 "other.bmp" 48 24 0 1
+BEGIN
+  BORDER "edge.bmp" 4 8 "edge.bmp"
+END
+LISTBOX "LIST" 0 0 40 40
+BEGIN
+  COLUMNS 30
+  LISTICONS "icon.bmp"
+  LISTHIGHLIGHT "row.bmp" "row.bmp"
+  ITEM "ICON0"
+END
+END
+)";
+    start("SCREEN \"A\" 0 0 64 48 \"back.bmp\"\n" + contents + "SCREEN \"B\" 0 0 64 48 \"\"\n" + contents +
+              "SCREEN \"EMPTY\" 0 0 64 48 \"\"\nBEGIN\nWINDOW \"NONE\" 0 0 1 1\nEND\n",
+          64, 48);
+    play("frame 6");
+    const auto visit = [&](const char* name) {
+        play(std::string("change ") + name + " close", "frame 8");
+        for (const char* id : {"PIC", "OTHER", "LIST"})
+            wnd(id)->createBkgnd(win().getBackdrop(), 0);
+        play("frame 2");
+        return livePixelCount();
+    };
+    const auto leave = [&] {
+        play("change EMPTY close", "frame 10");
+        return livePixelCount();
+    };
+    const long long shown[] = {visit("A"), visit("B")};
+    const long long left = leave();
+    EXPECT_LT(left, shown[1]);
+    for (int i = 0; i < 5000; i++)
+        ASSERT_TRUE(visit("A") == shown[0] && visit("B") == shown[1]) << i;
+    EXPECT_EQ(leave(), left);
+}
+
 } // namespace
