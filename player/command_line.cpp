@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
+#include <new>
 
 namespace {
 
@@ -128,7 +129,7 @@ int parseAndRun(CLI::App& app, int argc, char** argv, const std::function<int()>
 } // namespace
 
 int playMain(int argc, char** argv, const MainWinFactory& factory)
-{
+try {
     if (argc > 1 && std::string_view(argv[1]) == "test") {
         CLI::App app("Plays every events file below a folder, side by side", "test");
         TestOptions options;
@@ -141,4 +142,7 @@ int playMain(int argc, char** argv, const MainWinFactory& factory)
     addPlayArguments(app, options);
     app.footer("With the word test in front, every events file below a folder: test --help tells more.");
     return parseAndRun(app, argc, argv, [&] { return play(options, factory); });
+} catch (const std::bad_alloc&) {
+    std::cerr << "play: out of memory\n";
+    return static_cast<int>(PlayStatus::WrongCall);
 }

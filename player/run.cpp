@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <new>
 #include <utility>
 
 namespace fs = std::filesystem;
@@ -100,7 +101,7 @@ void Player::playLines(std::istream& events, const std::string& name, bool isInt
         if (isInteractive && (abandoned || hasEnded()))
             break;
     }
-    // A read that fails is not the end of the file. cin does not hear of it itself.
+    // A read that fails, or no memory for a line, is not the end of the file. cin does not hear of it itself.
     if (events.bad() || (&events == &std::cin && std::ferror(stdin))) {
         const std::string reason = "cannot read on after this line: " + std::string(std::strerror(errno));
         if (isIncluded)
@@ -229,6 +230,9 @@ PlayStatus Player::run()
 }
 
 int play(const PlayOptions& options, const MainWinFactory& factory)
-{
+try {
     return static_cast<int>(Player(options, factory, std::cout, std::cerr).run());
+} catch (const std::bad_alloc&) {
+    std::cerr << "play: out of memory\n";
+    return static_cast<int>(PlayStatus::WrongCall);
 }

@@ -3,6 +3,7 @@
 #include "platform/display/code_page.h"
 #include "platform/framework/cfile.h"
 #include "platform/limits.h"
+#include "platform/system/out_of_memory.h"
 
 #include <SDL_ttf.h>
 
@@ -98,11 +99,14 @@ Glyph paintedGlyph(const Ink& ink, const FontStyle& style)
 void loadCharacter(TTF_Font& from, unsigned char character, const FontStyle& style, int size, int spacing,
                    bmpfont& font)
 {
+    const AllocationWatch memory; // a character that finds none would be blank
     const std::uint32_t code = unicodeOf(character);
     int minX = 0, maxX = 0, minY = 0, maxY = 0, advance = 0;
     if (code < 0x20 || !TTF_GlyphIsProvided32(&from, code) ||
-        TTF_GlyphMetrics32(&from, code, &minX, &maxX, &minY, &maxY, &advance) != 0)
+        TTF_GlyphMetrics32(&from, code, &minX, &maxX, &minY, &maxY, &advance) != 0) {
+        memory.check();
         return;
+    }
     font.advances[character] =
         static_cast<std::int16_t>(std::clamp(advance + spacing, 0, 8 * limits::fontPixels));
     // A font may claim any size for a character; one far larger than the others is left blank.
@@ -111,6 +115,7 @@ void loadCharacter(TTF_Font& from, unsigned char character, const FontStyle& sty
         maxX > 2 * most)
         return;
     SdlPixels rendered(TTF_RenderGlyph32_Blended(&from, code, SDL_Color{255, 255, 255, 255}));
+    memory.check();
     if (!rendered || rendered->format->BytesPerPixel != 4 || rendered->w > 2 * most || rendered->h > 2 * most)
         return;
     // A picture begins at the pen, or further left by what reaches out of it.
@@ -121,15 +126,20 @@ void loadCharacter(TTF_Font& from, unsigned char character, const FontStyle& sty
 
 std::unique_ptr<bmpfont> loadFontFile(std::string_view name, const FontStyle& style, int size, int spacing)
 {
-    if (size < 1 || size > limits::fontPixels || !isLibraryReady())
+    if (size < 1 || size > limits::fontPixels)
+        return nullptr;
+    const AllocationWatch memory;
+    const bool isReady = isLibraryReady();
+    memory.check();
+    if (!isReady)
         return nullptr;
     CFile file;
     if (!file.Open(std::string(name).c_str()) || file.GetLength() == 0)
         return nullptr;
+    const AllocationWatch opening;
     SDL_RWops* stream = SDL_RWFromConstMem(file.bytes().data(), static_cast<int>(file.GetLength()));
-    if (!stream)
-        return nullptr;
-    const std::unique_ptr<TTF_Font, CloseFont> from(TTF_OpenFontRW(stream, 1, size));
+    const std::unique_ptr<TTF_Font, CloseFont> from(stream ? TTF_OpenFontRW(stream, 1, size) : nullptr);
+    opening.check();
     // Every character is rendered on a picture of the font's own height.
     if (!from || TTF_FontHeight(from.get()) > 4 * size)
         return nullptr;

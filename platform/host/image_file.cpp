@@ -4,6 +4,7 @@
 #include "platform/host/bmp_decoder.h"
 #include "platform/host/picture_header.h"
 #include "platform/limits.h"
+#include "platform/system/out_of_memory.h"
 #include "platform/system/whole_file.h"
 
 #include <SDL.h>
@@ -76,10 +77,10 @@ void copyGreyAlpha(const SDL_Surface& from, Image& to)
 
 ImageRef decodeWithSdl(std::string_view bytes, const PictureHeader& header)
 {
+    const AllocationWatch memory;
     SDL_RWops* stream = SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
-    if (!stream)
-        return nullptr;
-    SdlPixels decoded(IMG_LoadTyped_RW(stream, 1, typeName(header.kind)));
+    SdlPixels decoded(stream ? IMG_LoadTyped_RW(stream, 1, typeName(header.kind)) : nullptr);
+    memory.check();
     // The decoder reads the header by itself: what it made must be what was allowed. A GIF's first picture
     // may be smaller than its screen.
     if (!decoded || decoded->w > header.width || decoded->h > header.height ||
@@ -95,6 +96,7 @@ ImageRef decodeWithSdl(std::string_view bytes, const PictureHeader& header)
         return image;
     }
     SdlPixels wide(SDL_ConvertSurfaceFormat(decoded.get(), SDL_PIXELFORMAT_ARGB8888, 0));
+    memory.check();
     if (!wide)
         return nullptr;
     for (int y = 0; y < image->height; y++) {

@@ -1,5 +1,7 @@
 #include "platform/system/datadir.h"
 
+#include "platform/system/out_of_memory.h"
+
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
@@ -90,7 +92,9 @@ std::shared_ptr<const Listing> listingOf(const std::string& folder)
             return found->second;
         kept.erase(found);
     }
+    const AllocationWatch memory;
     DIR* directory = ::opendir(folder.c_str());
+    memory.check();
     if (!directory)
         return nullptr;
     auto listing = std::make_shared<Listing>();
@@ -114,7 +118,9 @@ std::shared_ptr<const Listing> listingOf(const std::string& folder)
 /// The path with every link resolved, empty when it leads nowhere.
 std::string canonical(const std::string& path)
 {
+    const AllocationWatch memory;
     const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr), &std::free);
+    memory.check();
     return resolved ? resolved.get() : "";
 }
 

@@ -5,6 +5,8 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <iostream>
+#include <new>
 
 namespace {
 
@@ -38,7 +40,7 @@ std::string whyNoCommand(const CLI::App& app, const std::string& name)
 }
 
 /// Exit status.
-int run(CLI::App& app, int argc, char** argv)
+int parseAndRun(CLI::App& app, int argc, char** argv)
 {
     try {
         app.parse(argc, argv);
@@ -53,9 +55,7 @@ int run(CLI::App& app, int argc, char** argv)
     }
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+int run(int argc, char** argv)
 {
     CLI::App app(
         "The bench of whoever writes an interface: compiles its scripts, shows what is in them, checks and "
@@ -81,6 +81,16 @@ int main(int argc, char** argv)
         }
     }
     tgx::removeNewFilesOnSignals();
-    const int status = run(app, argc, argv);
+    const int status = parseAndRun(app, argc, argv);
     return tgx::hasWrittenStdout("tgx") ? status : std::max(status, wrongInput);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+try {
+    return run(argc, argv);
+} catch (const std::bad_alloc&) {
+    std::cerr << "tgx: out of memory\n";
+    return wrongCall;
 }

@@ -2,6 +2,11 @@
 
 #include "platform/host/image_file.h"
 
+#include <SDL.h>
+
+#include <cerrno>
+#include <new>
+
 using namespace std::string_literals;
 
 namespace {
@@ -267,6 +272,54 @@ TEST_F(ImageFileTest, AWrittenPictureReadsTheSameAndLeavesNothingBeside)
     for (int y = 0; y < 3; y++)
         for (int x = 0; x < 5; x++)
             EXPECT_EQ(read->row(y)[x], image->row(y)[x]);
+}
+
+/// While it lives, the libraries' allocation of that number fails.
+class FailingMemory {
+public:
+    explicit FailingMemory(int number)
+    {
+        left = number;
+        SDL_GetMemoryFunctions(&make, &clear, &grow, &free);
+        SDL_SetMemoryFunctions(
+            [](std::size_t size) { return isLeft() ? make(size) : nullptr; },
+            [](std::size_t count, std::size_t size) { return isLeft() ? clear(count, size) : nullptr; },
+            [](void* old, std::size_t size) { return isLeft() ? grow(old, size) : nullptr; }, free);
+    }
+    ~FailingMemory() { SDL_SetMemoryFunctions(make, clear, grow, free); }
+
+private:
+    static bool isLeft()
+    {
+        if (left-- != 0)
+            return true;
+        errno = ENOMEM; // as the system's own do
+        return false;
+    }
+    static inline int left;
+    static inline SDL_malloc_func make;
+    static inline SDL_calloc_func clear;
+    static inline SDL_realloc_func grow;
+    static inline SDL_free_func free;
+};
+
+TEST_F(ImageFileTest, ADecoderWithoutMemoryIsNoBrokenPicture)
+{
+    write("a.png", pngFile(1, 1, 2, "", "\0\x11\x22\x33"s));
+    write("a.gif", gifFile(true));
+    write("a.jpg", jpegFile());
+    for (const char* name : {"a.png", "a.gif", "a.jpg"}) {
+        int refused = 0;
+        for (ImageRef image; !image; refused++) {
+            const FailingMemory memory(refused);
+            try {
+                image = loadImageFile(name);
+                ASSERT_TRUE(image) << name << ", allocation " << refused;
+            } catch (const std::bad_alloc&) {
+            }
+        }
+        EXPECT_GT(refused, 2) << name;
+    }
 }
 
 } // namespace

@@ -73,6 +73,18 @@ TEST_F(PlayerTest, AMissingScriptIsReportedAndTheRunGoesOn)
     EXPECT_EQ(out.str(), "2: null\n");
 }
 
+TEST_F(PlayerTest, WithoutMemoryTheRunEndsWithAMessage)
+{
+    write("run.events", "frame\n");
+    options.dataDirectory = data.string();
+    options.eventsFile = (data / "run.events").string();
+    testing::internal::CaptureStderr();
+    const int status =
+        ::play(options, [](int, int, int) -> std::unique_ptr<AMainWin> { throw std::bad_alloc(); });
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "play: out of memory\n");
+    EXPECT_EQ(status, static_cast<int>(PlayStatus::WrongCall));
+}
+
 TEST_F(PlayerTest, WrongCallsRunNothing)
 {
     const std::string present = std::exchange(options.eventsFile, (data / "missing.events").string());
