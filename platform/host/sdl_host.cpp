@@ -3,6 +3,7 @@
 #include "platform/display/ddwin.h"
 #include "platform/display/settings_internal.h"
 #include "platform/host/codepage.h"
+#include "platform/host/message_picture.h"
 #include "platform/host/message_text.h"
 #include "platform/host/pacer.h"
 #include "platform/host/sdl_controller.h"
@@ -70,6 +71,7 @@ private:
     void followTopMost();
     void letGo();
     void showGatheredMessages();
+    void showInWindow(const std::string& text);
     bool isMinimised() const { return SDL_GetWindowFlags(window) & SDL_WINDOW_MINIMIZED; }
 
     ddwin* game = nullptr; // not owned; whose window is open
@@ -435,13 +437,40 @@ void SdlHost::showGatheredMessages()
 {
     if (messages.empty())
         return;
-    const std::string text = utf8From1252(boxText(messages));
+    const std::string text = boxText(messages);
     messages.clear();
     if (!window || isSetInEnvironment("TGX_NO_MESSAGE_BOX"))
         return;
     letGo(); // what is let go while the box is open goes to the box
-    SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_INFORMATION, windowTitle().c_str(), text.c_str(), window);
+    const std::string utf8 = utf8From1252(text);
+    if (isSetInEnvironment("TGX_MESSAGE_IN_WINDOW") ||
+        SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_INFORMATION, windowTitle().c_str(), utf8.c_str(), window) !=
+            0)
+        showInWindow(text);
     windowIsStale = true;
+}
+
+/// For a system that can show no box. Returns when the message has been read: at a key, a click, or the wish
+/// to close the window.
+void SdlHost::showInWindow(const std::string& text)
+{
+    const ImageRef picture = messagePicture(game->getScreenImage(), text);
+    if (picture->width <= 0 || picture->height <= 0 || !prepareTexture(*picture))
+        return;
+    pixelsAreLost = true; // the screen's own come back with the next frame
+    upload(*picture, {0, 0, picture->width, picture->height});
+    SDL_Event event;
+    do {
+        present();
+        // Shown again now and then: not every system says when the window was uncovered.
+        if (!SDL_WaitEventTimeout(&event, 500))
+            event.type = SDL_FIRSTEVENT;
+        if (event.type == SDL_QUIT)
+            userWantsToClose = true;
+    } while (!userWantsToClose && event.type != SDL_KEYDOWN && event.type != SDL_MOUSEBUTTONDOWN &&
+             event.type != SDL_CONTROLLERBUTTONDOWN);
+    SDL_FlushEvents(SDL_KEYDOWN, SDL_TEXTINPUT);
+    lastPump = SDL_GetTicks() - staleInputMillis - 1; // what comes next was meant for the message
 }
 
 void SdlHost::waitForWork(int& ticks, int& frames)
