@@ -2,6 +2,7 @@
 
 #include "tgx/controls/tabcontrol.h"
 #include "tgx/frame/mainwin.h"
+#include "tgx/wnd/window_cast.h"
 
 ARadioButton::ARadioButton(const CString& name, int x, int y, int width, int height)
     : AButton(name, x, y, width, height, WND_RADIOBUTTON)
@@ -133,8 +134,8 @@ int ARadioButton::handleMouseAction(const CString& about, AWnd* wnd, int x, int 
 void ARadioButton::tellOfChoice()
 {
     AWnd* holder = getParent();
-    if (holder && holder->getWindowType() == WND_TABCONTROL)
-        static_cast<ATabControl*>(holder)->setActiveWnd(getSelectedButton(), 1);
+    if (auto* tabs = windowAs<ATabControl>(holder))
+        tabs->setActiveWnd(getSelectedButton(), 1);
     else if (AWnd* active = getMainWin()->getActiveWnd())
         active->update();
 }

@@ -3,6 +3,7 @@
 #include "platform/display/surface.h"
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/frame/mainwin.h"
+#include "tgx/wnd/window_cast.h"
 
 #include <algorithm>
 
@@ -45,7 +46,7 @@ ZnFixed AScrollBar::getPercentageAfter(int steps) const
 AListBox* AScrollBar::getList() const
 {
     AWnd* holder = getParent();
-    return holder && holder->getWindowType() == WND_LISTBOX ? static_cast<AListBox*>(holder) : nullptr;
+    return windowAs<AListBox>(holder);
 }
 
 /// Centre of the lever: one and a half frames from the start, and the fraction of the travel.

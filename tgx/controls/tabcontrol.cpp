@@ -4,6 +4,7 @@
 #include "tgx/controls/radiobutton.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/child_walk.h"
+#include "tgx/wnd/window_cast.h"
 
 ATabControl::ATabControl(const CString& name, int x, int y, int width, int height)
     : AWnd(WND_TABCONTROL, name, x, y, width, height)
@@ -14,10 +15,16 @@ bool ATabControl::isTab(const AWnd* wnd)
     return wnd && (wnd->getWindowType() == WND_BUTTON || wnd->getWindowType() == WND_RADIOBUTTON);
 }
 
+/// wnd as a tab, or null when it is none.
+AButton* ATabControl::tabAmong(AWnd* wnd)
+{
+    return isTab(wnd) ? windowAs<AButton>(wnd) : nullptr;
+}
+
 void ATabControl::startup()
 {
     AWnd::startup();
-    auto* first = static_cast<ARadioButton*>(getWndOfType(WND_RADIOBUTTON, 0, 0));
+    auto* first = windowAs<ARadioButton>(getWndOfType(WND_RADIOBUTTON, 0, 0));
     if (!first)
         return;
     if (tabCount == 0)
@@ -58,8 +65,8 @@ void ATabControl::setActiveWnd(AButton* tab, int interactive)
     AMainWin* main = getMainWin();
     AScreen* screen = main->getActiveScreen();
     const WndRef under = screen ? screen->getWndAtPos(main->mouseX, main->mouseY, 1) : nullptr;
-    if (tab->getWindowType() == WND_RADIOBUTTON)
-        static_cast<ARadioButton*>(tab)->setSelectedButton(tab);
+    if (auto* radio = windowAs<ARadioButton>(tab))
+        radio->setSelectedButton(tab);
 
     if (AWnd* page = pageOf(*tab)) {
         for (AWnd* wnd : children)
@@ -81,9 +88,9 @@ int ATabControl::handleMouseAction(const CString& about, AWnd* wnd, int x, int y
     AWnd::handleMouseAction(about, wnd, x, y, action);
     if (!handling.mayGoOn() || !isVisible(1) || action != MA_LBUTTONUP)
         return 0;
-    AWnd* hit = getWndAtPos(x, y, 0);
-    if (isTab(hit) && static_cast<AButton*>(hit)->getButtonState() != AButton::BS_DISABLED)
-        setActiveWnd(static_cast<AButton*>(hit), 1);
+    AButton* tab = tabAmong(getWndAtPos(x, y, 0));
+    if (tab && tab->getButtonState() != AButton::BS_DISABLED)
+        setActiveWnd(tab, 1);
     return 0;
 }
 
@@ -96,8 +103,8 @@ void ATabControl::draw(int frameStep)
     if (!self)
         return;
     for (ChildWalk walk(children); walk.mayGoOn();) {
-        AWnd* tab = walk.next();
-        if (isTab(tab) && static_cast<AButton*>(tab)->isSelected())
+        AButton* tab = tabAmong(walk.next());
+        if (tab && tab->isSelected())
             tab->draw(0);
     }
 }

@@ -30,5 +30,6 @@ protected:
 
 private:
     static bool isTab(const AWnd* wnd);
+    static AButton* tabAmong(AWnd* wnd);
     AWnd* pageOf(const AWnd& tab) const;
 };

@@ -4,6 +4,7 @@
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/wnd/tabstops.h"
+#include "tgx/wnd/window_cast.h"
 
 #include <utility>
 
@@ -285,10 +286,10 @@ int AMainWin::setMousePosOnWnd(AWnd* wnd, int jump)
 {
     if (!wnd)
         return 1;
-    if (isOfType(wnd, AWnd::WND_LISTBOX)) {
+    if (auto* list = windowAs<AListBox>(wnd)) {
         int x = 0;
         int y = 0;
-        if (!static_cast<AListBox*>(wnd)->getMousePosOfFirstSelectableItem(x, y))
+        if (!list->getMousePosOfFirstSelectableItem(x, y))
             return 0;
         setMousePos(x, y, jump);
         return 1;
@@ -310,7 +311,8 @@ int AMainWin::setMousePosOnNextTabStop(AWnd* below, AWnd* start, int backwards, 
     const WndRef root = below;
     WndRef from = start;
     if (isOfType(from, AWnd::WND_BUTTON))
-        static_cast<AButton*>(start)->setButtonState(AButton::BS_NORMAL);
+        if (auto* button = windowAs<AButton>(start))
+            button->setButtonState(AButton::BS_NORMAL);
     const auto stopCount = [&root] {
         const ATabStopInfo* stops = root ? root->getTabStopInfo(0) : nullptr;
         return stops ? stops->tabOrderWnds.GetSize() : 0;
@@ -322,8 +324,8 @@ int AMainWin::setMousePosOnNextTabStop(AWnd* below, AWnd* start, int backwards, 
             continue;
         }
         // A table of cells that is the only stop keeps the pointer, and the key goes on to it.
-        if (next == from && isOfType(next, AWnd::WND_LISTBOX) &&
-            static_cast<AListBox*>(next.get())->getCellHighlight())
+        if (const auto* list = next == from ? windowAs<AListBox>(next) : nullptr;
+            list && list->getCellHighlight())
             return 0;
         if (isOfType(from, AWnd::WND_EDITBOX) && from == getMouseCaptureWnd(0))
             setMouseCaptureWnd(nullptr); // leaving an edit box ends the typing

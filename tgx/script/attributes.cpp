@@ -83,8 +83,8 @@ void bmpBlitMode(AWnd& target, const ScriptLine& line)
 void border(AWnd& target, const ScriptLine& line)
 {
     target.setBorder(line.text(1), line.number(2), line.number(3));
-    if (line.count == 5 && target.getWindowType() == AWnd::WND_LISTBOX)
-        static_cast<AListBox&>(target).setHotBorder(line.text(4), line.number(2), line.number(3));
+    if (auto* list = line.count == 5 ? windowAs<AListBox>(&target) : nullptr)
+        list->setHotBorder(line.text(4), line.number(2), line.number(3));
 }
 
 void easyClose(AWnd& target, const ScriptLine& line)

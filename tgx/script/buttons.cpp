@@ -52,8 +52,7 @@ int lastRadioButtons(AWnd& target, int limit)
 {
     int count = 0;
     for (int i = target.getWindowCount() - 1; i >= 0 && count < limit; --i, ++count) {
-        const AWnd* wnd = target.getWndFromIndex(i, "");
-        if (!wnd || wnd->getWindowType() != AWnd::WND_RADIOBUTTON)
+        if (!windowAs<ARadioButton>(target.getWndFromIndex(i, "")))
             break;
     }
     return count;

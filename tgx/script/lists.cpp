@@ -52,10 +52,12 @@ AWnd* keyboard(AWnd& target, const ScriptLine& line)
 // An item of a combo box, or a row of a list box.
 bool item(AWnd& target, const ScriptLine& line)
 {
-    if (target.getWindowType() == AWnd::WND_LISTBOX)
-        return addRow(static_cast<AListBox&>(target), line);
-    static_cast<AComboBox&>(target).addItem(line.text(1));
-    return true;
+    if (auto* list = windowAs<AListBox>(&target))
+        return addRow(*list, line);
+    auto* combo = windowAs<AComboBox>(&target);
+    if (combo)
+        combo->addItem(line.text(1));
+    return combo != nullptr;
 }
 
 // A width each, with or without a word for the justification behind it.

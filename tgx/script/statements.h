@@ -4,6 +4,7 @@
 #include "tgx/controls/graph.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/script/vocabulary.h"
+#include "tgx/wnd/window_cast.h"
 
 #include <type_traits>
 
@@ -27,7 +28,7 @@ struct ScriptLine {
 ///     bool f(Target&, const ScriptLine&)     false: the line fails
 ///     AWnd* f(AWnd& target, const ScriptLine&)   the window that it made; null: the line fails
 ///     bool f(const ScriptLine&)              a command, which has no target
-/// where the row's target rule has made sure that the window is a Target.
+/// The row's target rule has looked at the window's type; a line for a window of another class fails.
 template<auto handler>
 struct HandlerOf;
 
@@ -35,14 +36,23 @@ template<class Target, class Result, Result (*handler)(Target&, const ScriptLine
 struct HandlerOf<handler> {
     static bool run(AWnd& target, const ScriptLine& line, AWnd*& made)
     {
-        auto& typed = static_cast<Target&>(target);
+        if constexpr (std::is_same_v<Target, AWnd>) {
+            return runOn(target, line, made);
+        } else {
+            // The row has looked at the window's type, which a game's class may have chosen freely.
+            auto* typed = windowAs<Target>(&target);
+            return typed && runOn(*typed, line, made);
+        }
+    }
+    static bool runOn(Target& target, const ScriptLine& line, AWnd*& made)
+    {
         if constexpr (std::is_void_v<Result>) {
-            handler(typed, line);
+            handler(target, line);
             return true;
         } else if constexpr (std::is_same_v<Result, bool>) {
-            return handler(typed, line);
+            return handler(target, line);
         } else {
-            made = handler(typed, line);
+            made = handler(target, line);
             return made != nullptr;
         }
     }

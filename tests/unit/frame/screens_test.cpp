@@ -145,6 +145,44 @@ TEST_F(ScreensTest, WindowsOfTheWrongKindAreRefused)
     }
 }
 
+// A game's factory gives plain windows types that only the toolkit's own classes should have.
+TEST_F(ScreensTest, NoWindowIsTakenForAClassByItsTypeAlone)
+{
+    begin();
+    const std::pair<const char*, AWnd::E_WNDTYPE> types[] = {
+        {"list", AWnd::WND_LISTBOX},    {"button", AWnd::WND_BUTTON}, {"radio", AWnd::WND_RADIOBUTTON},
+        {"tabs", AWnd::WND_TABCONTROL}, {"edit", AWnd::WND_EDITBOX},  {"combo", AWnd::WND_COMBOBOX}};
+    std::string text = "SCREEN \"LIES\" 0 0 640 480 \"\"\nBEGIN\n";
+    for (const auto& [name, type] : types) {
+        win().classes[name] = [type = type](const CString& id, int x, int y, int w, int h) {
+            return new AWnd(type, id, x, y, w, h);
+        };
+        text += std::string("USERDEF \"") + name + "\" 0 0 90 90 \"" + name + "\"\n";
+    }
+    text +=
+        "USERDEF \"H\" 100 0 90 90 \"list\"\nBEGIN\n  ITEM \"a\"\n  COLUMNS 9\n  VSCROLLBAR \"V\" 0 0 20 90 "
+        "\"\" 20 20\nEND\n"
+        "USERDEF \"T\" 200 0 90 90 \"tabs\"\nBEGIN\n  RADIOBUTTON \"R\" 0 0 20 20 \"\"\nEND\n"
+        "TABCONTROL \"U\" 300 0 90 90\nBEGIN\n  USERDEF \"S\" 0 0 40 40 \"radio\"\n  USERDEF \"W\" 40 0 40 "
+        "40 "
+        "\"button\"\n  RADIOBUTTON \"X\" 0 40 20 20 \"\"\nEND\n"
+        "TABORDER \"list\" \"button\" \"edit\" \"combo\" \"V\" \"R\"\nEND\n";
+    script(text);
+    for (int line : {11, 12})
+        expectMessage("Encountered an error on line " + std::to_string(line) +
+                      " in script.tgx\nThe line is :\n\t");
+    play("change LIES close", "frame 6");
+    EXPECT_EQ(active(), "LIES");
+    for (int x : {45, 110, 210, 320, 345, 310}) {
+        play("move " + std::to_string(x) + " 45", "press left", "frame 2", "release left", "frame");
+        play("doubleclick left", "frame 2", "release left", "frame", "wheel up", "frame");
+    }
+    for (const char* key : {"tab", "down", "end", "delete", "left", "return", "esc", "x"})
+        for (int i = 0; i < 7; ++i)
+            play(std::string("key ") + key, "frame");
+    EXPECT_EQ(active(), "LIES") << "and nothing has crashed";
+}
+
 TEST_F(ScreensTest, ToTheActiveScreenItself)
 {
     begin();

@@ -6,6 +6,7 @@
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/controls/scrollbar.h"
 #include "tgx/frame/mainwin.h"
+#include "tgx/wnd/window_cast.h"
 
 #include <algorithm>
 
@@ -284,8 +285,10 @@ void AListBox::setSelectedItem(int item)
 
 void AListBox::deselect(AWnd& wnd)
 {
-    if (wnd.getWindowType() == WND_LISTBOX)
-        static_cast<AListBox&>(wnd).setSelectedItem(-1);
+    if (wnd.getWindowType() != WND_LISTBOX)
+        return; // asked of every window of a screen at each click
+    if (auto* list = windowAs<AListBox>(&wnd))
+        list->setSelectedItem(-1);
 }
 
 void AListBox::setSelectedColumn(int column)
