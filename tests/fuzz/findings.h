@@ -1,0 +1,57 @@
+#pragma once
+
+#include "tests/fuzz/data_directory.h"
+#include "tools/tgx/check/check.h"
+#include "tools/tgx/check/codes.h"
+#include "tools/tgx/check/output.h"
+
+#include <nlohmann/json.hpp>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+/// A crash, so that libFuzzer keeps the input.
+[[noreturn]] inline void fail(const char* what, const std::string& text)
+{
+    std::fprintf(stderr, "%s:\n%s\n", what, text.c_str());
+    std::abort();
+}
+
+/// Whether an editor can show it.
+inline bool isIn(const script_text::Place& place)
+{
+    return place.line >= 1 && place.line <= place.in->file->lineCount() && place.at.column >= 1 &&
+           place.at.length >= 0;
+}
+
+/// Each finding has a code that is known, a place that can be shown, and one line of text.
+inline void demandUsefulFindings(const script_check::CheckReport& report)
+{
+    std::vector<const script_text::Diagnostic*> findings;
+    for (const script_text::Diagnostic& each : report.findings) {
+        const std::string text = script_check::asText(each, script_text::Colour::No);
+        if (!script_check::codeCalled(each.code))
+            fail("a code that the table does not have", text);
+        if (each.text.empty() || each.text.find('\n') != std::string::npos)
+            fail("a text that is no line", text);
+        if (!isIn(each.place))
+            fail("a place that is none", text);
+        findings.push_back(&each);
+    }
+    const std::string text = script_check::asJson(findings);
+    const nlohmann::json json = nlohmann::json::parse(text, nullptr, false); // false: no exceptions
+    if (!json.is_array() || json.size() != findings.size())
+        fail("no JSON array of the findings", text);
+}
+
+inline script_check::CheckOptions optionsFor(const FuzzDataDirectory& directory)
+{
+    script_check::CheckOptions options;
+    options.dataDirectory = directory.path.string();
+    // A small part of what a game allows: this build is slow.
+    options.scriptLines = 3000;
+    options.scriptWork = 2'000'000;
+    return options;
+}
