@@ -50,10 +50,8 @@ const ImageRef& surface::getImage()
     return image;
 }
 
-void surface::fetchDropped()
+void surface::loadDropped()
 {
-    if (!isDropped)
-        return;
     isDropped = false; // one that fails is reported once
     const CString file = name;
     if (ImageRef again = owner->canvas->surfaces.load(file.view()))

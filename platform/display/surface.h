@@ -67,7 +67,13 @@ private:
     friend class SurfaceStore;
     DrawCommand& record(DrawOp op);
 
-    void fetchDropped();
+    /// Pixels that are there cost no look at the flag, which is in another cache line.
+    void fetchDropped()
+    {
+        if (!image && isDropped)
+            loadDropped();
+    }
+    void loadDropped();
 
     SurfaceRef* refs = nullptr; // first of those that point here
     bool isDropped = false;     // the pixels: they are loaded again when they are used

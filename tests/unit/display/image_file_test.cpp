@@ -316,7 +316,7 @@ private:
         errno = ENOMEM; // as the system's own do
         return false;
     }
-    const LeaksIgnored leaksIgnored;
+    [[maybe_unused]] LeaksIgnored leaksIgnored;
     static inline int left;
     static inline SDL_malloc_func make;
     static inline SDL_calloc_func clear;
