@@ -150,8 +150,10 @@ private:
         ++pos;
         std::string bytes;
         isBroken = false;
+        foreignCount = 0;
         while (pos < line.size() && line[pos] != '"')
             bytes += takeCharacter();
+        reportForeign();
         const bool isOpen = pos == line.size();
         pos += !isOpen;
         close(at);
@@ -163,6 +165,20 @@ private:
                              "of its end is written \\\\"
                            : ""));
         out.lexemes.push_back({Lexeme::String, std::move(bytes), 0, at});
+    }
+
+    /// Once for a string: a text in another language has many.
+    void reportForeign()
+    {
+        if (foreignCount == 0)
+            return;
+        const int others = foreignCount - 1;
+        fault(firstForeign.at,
+              firstForeign.what +
+                  (others == 0   ? " has"
+                   : others == 1 ? " and another one of this text have"
+                                 : " and " + std::to_string(others) + " others of this text have") +
+                  " no byte in code page 1252; expected one that has, or \\x and two digits");
     }
 
     /// The byte that the string's next character stands for.
@@ -207,9 +223,8 @@ private:
         }
         pos += length;
         const std::optional<char> byte = to1252(character);
-        if (!byte)
-            fault(at, "the character " + shown(source) + " (" + hex("U+%04X", character) +
-                          ") has no byte in code page 1252; expected one that has, or \\x and two digits");
+        if (!byte && foreignCount++ == 0)
+            firstForeign = {at, "the character " + shown(source) + " (" + hex("U+%04X", character) + ")"};
         return byte.value_or('?');
     }
 
@@ -218,6 +233,12 @@ private:
     std::size_t counted = 0; // bytes whose characters column has counted
     int column = 1;
     bool isBroken = false; // the string, its first broken byte reported
+    struct Foreign {
+        Span at;
+        std::string what;
+    };
+    Foreign firstForeign;
+    int foreignCount = 0; // characters of the string that the code page does not have
 };
 
 } // namespace

@@ -35,6 +35,16 @@ int refuse(const std::string& why)
     return wrongCall;
 }
 
+std::string unknownCode(const std::string& name)
+{
+    std::vector<std::string_view> names;
+    for (const script_check::Code& code : script_check::codes())
+        names.emplace_back(code.name);
+    const std::string_view near = script_text::nearest(name, names);
+    return "there is no code " + script_text::shown(name) +
+           (near.empty() ? "; --explain lists them all" : "; did you mean " + std::string(near) + "?");
+}
+
 int explain(const std::string& name)
 {
     if (name.empty() || name == "all") {
@@ -45,13 +55,7 @@ int explain(const std::string& name)
         std::cout << script_check::explain(*code);
         return 0;
     }
-    std::vector<std::string_view> names;
-    for (const script_check::Code& code : script_check::codes())
-        names.emplace_back(code.name);
-    const std::string_view near = script_text::nearest(name, names);
-    return refuse(
-        "there is no code " + script_text::shown(name) +
-        (near.empty() ? "; --explain lists them all" : "; did you mean " + std::string(near) + "?"));
+    return refuse(unknownCode(name));
 }
 
 std::optional<std::string> readScript(const std::string& name, std::string& reason)
@@ -63,6 +67,9 @@ int check(const CheckArguments& arguments)
 {
     if (arguments.inputs.empty())
         return refuse("expected a script or a folder of scripts; --help tells more");
+    for (const std::string& code : arguments.options.allowed)
+        if (!script_check::codeCalled(code))
+            return refuse(unknownCode(code));
     std::vector<std::string> problems;
     const auto folders =
         script_check::collect(arguments.inputs, arguments.options.dataDirectory, readScript, problems);
@@ -139,6 +146,13 @@ void addCheck(CLI::App& app)
                      "Fonts that the game adds in code, in front of the scripts'")
         ->check(CLI::Range(0, 255))
         ->type_name("N");
+    command
+        ->add_option(
+            "--allow", arguments->options.allowed,
+            "Codes of findings to pass over everywhere, such as those of compiled scripts; may be given "
+            "again")
+        ->delimiter(',')
+        ->type_name("CODE,...");
     command->add_flag("--unused-files", arguments->options.unusedFiles,
                       "Also find pictures and fonts that no script names");
     command->add_flag("--json", arguments->isJson, "Print the findings as one JSON array, for editors");

@@ -63,6 +63,9 @@ TEST(Build, TellsWhatIsWrongAndWhatWasExpected)
          "1:12: error: this string has no end; expected \" before the end of the line; \\\" is a quotation "
          "mark "
          "in the string, a backslash in front of its end is written \\\\\n"},
+        {"a text in another script", "TEXT \"\xD0\xB6\xD0\xB6 a\xD0\xB6\"",
+         "1:7: error: the character \xD0\xB6 (U+0436) and 2 others of this text have no byte in code page "
+         "1252; expected one that has, or \\x and two digits\n"},
         {"UTF-16", "\xFF\xFE\x45", "1:1: error: the text is UTF-16; save it as UTF-8\n"},
         {"line ends of CR alone", "BEGIN\rEND\r",
          "1:1: error: the lines end in CR alone; save the text with LF or CR LF\n"},

@@ -140,7 +140,7 @@ BEGIN
 END)"},
     {"all arguments that there are", R"(WINDOW "A" 0 0 400 90
 BEGIN
-  LISTBOX "L" 0 0 200 90
+  LISTBOX "L" 0 0 400 90
   BEGIN
     LISTLOOK 20 1 1
     LISTOPTIONS 1 1
@@ -347,7 +347,7 @@ END)",
      "that, as in ICON0 or ICON0F2 [missing-icon]\n"},
     {"rows that need a scroll bar, whose picture is not there", R"(WINDOW "A" 0 0 400 90
 BEGIN
-  LISTBOX "L" 0 0 200 40
+  LISTBOX "L" 0 0 200 42
   BEGIN
     LISTLOOK 20
     ITEM "a"
@@ -360,7 +360,7 @@ END)",
      "\"uig\\scroll1.bmp\" in the data directory [missing-bitmap]\n"},
     {"arguments that nothing reads", R"(WINDOW "A" 0 0 400 90
 BEGIN
-  LISTBOX "L" 0 0 200 90
+  LISTBOX "L" 0 0 400 90
   BEGIN
     LISTLOOK 20 1 1 1
     LISTOPTIONS 1 1 1

@@ -170,7 +170,9 @@ const CheckRow rows[] = {
      "40\n  END\n  TABORDER \"L\"\nEND",
      "a.tgs:5:14: error: this row has more cells than \"L\" had columns when its rows began: 1 "
      "[missing-column]\n"
-     "a.tgs:6:5: warning: \"L\" has rows already; COLUMNS belongs in front of them [late-columns]\n"},
+     "a.tgs:6:5: warning: \"L\" has rows already; COLUMNS belongs in front of them [late-columns]\n"
+     "a.tgs:6:5: warning: the columns of \"L\" take 150 pixels with the gaps before them, and it has 90 "
+     "[wide-columns]\n"},
     {"icons that are not there",
      "WINDOW \"A\" 0 0 90 90\nBEGIN\n  LISTBOX \"L\" 0 0 90 90\n  BEGIN\n    LISTICONS \"one.bmp\"\n    "
      "COLUMNS 20\n    ITEM \"ICON0\"\n    ITEM \"ICON1\"\n  END\n  TABORDER \"L\"\nEND",
@@ -186,11 +188,74 @@ const CheckRow rows[] = {
     {"subroutines too deep", chain(70, 1),
      "a.tgs:255:6: error: subroutines call each other more than 64 deep here [budget]\n"},
 
+    {"lists whose last row does not show, and whose columns do not fit",
+     "WINDOW \"A\" 0 0 400 90\nBEGIN\n  LISTBOX \"L\" 0 0 90 60\n  BEGIN\n    COLUMNS 40 40\n    LISTLOOK "
+     "20\n    ITEM \"a\"\n  END\n  LISTBOX \"M\" 100 0 90 60\n  BEGIN\n    COLUMNS 40\n    LISTLOOK 20\n  "
+     "END\n  TABORDER \"L\" \"M\"\nEND",
+     "a.tgs:5:5: warning: the columns of \"L\" take 100 pixels with the gaps before them, and it has 90 "
+     "[wide-columns]\n"
+     "a.tgs:9:3: warning: \"M\" has 60 pixels for rows of 20, and the last one that fits is not drawn; make "
+     "it 1 higher [hidden-last-row]\n"},
+    {"a combo box at the edge of the screen, and controls that are as they should not be",
+     "SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\n  COMBOBOX \"C\" 0 440 100 24 \"\"\n  BEGIN\n    COMBOBELOW 1\n  "
+     "  "
+     "ITEM \"a\"\n    ITEM \"b\"\n  END\n  CHECKBOX \"B\" 0 0 90 24 \"\"\n  BEGIN\n    ENABLED 0\n    "
+     "USERDEF \"RadioState\" 0 0 9 9\n    CHECKBOXSTATE 0 0 20 10 \"three.bmp\" 20 10 1\n  END\n  TABCONTROL "
+     "\"T\" 200 0 "
+     "90 90\n  BEGIN\n    RADIOBUTTON \"R\" 0 0 20 20 \"\"\n    WINDOW \"P\" 0 20 9 9\n    BEGIN\n      "
+     "VISIBLE 0\n    END\n  END\n  EDITBOX \"E\" 0 100 90 6 \"\"\n  TEXTWND \"X\" 0 200 300 24 \"a\\nb\"\n  "
+     "TABORDER \"C\" \"B\" \"R\" \"E\"\nEND",
+     "a.tgs:3:3: warning: the menu of \"C\" ends at 512, below the screen of 480 pixels, and its last items "
+     "cannot be chosen; let it open above, without COMBOBELOW [menu-off-screen]\n"
+     "a.tgs:11:5: warning: \"B\" enables itself when its screen opens; the game disables it with "
+     "setButtonState [no-effect]\n"
+     "a.tgs:13:5: warning: the window \"RadioState\" of \"B\" carries its selection, and this state is left "
+     "alone [no-effect]\n"
+     "a.tgs:15:3: error: all pages of \"T\" are hidden, so that none shows when it opens; leave the first "
+     "one visible [tab-pages]\n"
+     "a.tgs:23:3: warning: what is typed into \"E\" is 13 pixels high in font 0, and its box has 6 "
+     "[text-clipped]\n"
+     "a.tgs:24:28: warning: the text of \"X\" has a line break and stands on one line; let it wrap with "
+     "TEXTWRAP 1 [line-break]\n"},
+    {"styles that mean nothing",
+     "ADDFONT \"a.ttf\" \"bald\" 12 0\nADDFONT \"a.ttf\" \"Bold #12345g\" 12 0\nADDFONT \"a.ttf\" \"shadow, "
+     "#00ff7F\" 12 0",
+     "a.tgs:1:9: error: the font \"a.ttf\" cannot be loaded; the built-in one takes its place "
+     "[missing-font]\n"
+     "a.tgs:1:17: warning: \"bald\" is no word of a style; expected bold, italic, shadow or a colour such as "
+     "#2b3038; did you mean \"bold\"? [font-style]\n"
+     "a.tgs:2:9: error: the font \"a.ttf\" cannot be loaded; the built-in one takes its place "
+     "[missing-font]\n"
+     "a.tgs:2:17: warning: \"#12345g\" is no colour; expected # and six hexadecimal digits [font-style]\n"
+     "a.tgs:3:9: error: the font \"a.ttf\" cannot be loaded; the built-in one takes its place "
+     "[missing-font]\n"},
+    {"a screen called as a class of windows",
+     "SCREEN \"Ship\" 0 0 640 480 \"\"\nWINDOW \"A\" 0 0 90 90\nBEGIN\n  USERDEF \"S\" 0 0 9 9 \"Ship\"\nEND",
+     "a.tgs:1:8: warning: the game makes windows of the class \"Ship\", and is asked for that class when "
+     "this "
+     "screen is opened [class-name]\n"},
+    {"screens and boxes that lead nowhere",
+     "SCREEN \"\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"GO\" 0 0 90 24 \"\"\n  TABORDER \"GO\"\nEND\nSCREEN "
+     "\"B\" 0 0 "
+     "640 480 \"\"\nBEGIN\n  TEXTWND \"T\" 0 0 90 24 \"b\"\nEND\nWINDOW \"QUERYBOX\" 0 0 200 100\nBEGIN\n  "
+     "TEXTWND "
+     "\"MESSAGEBOXTITEL\" 0 0 90 24 \"\"\n  TEXTWND \"MESSAGEBOXTEXT\" 0 24 90 24 \"\"\n  BUTTON \"OK\" 0 60 "
+     "90 24 "
+     "\"\"\n  TABORDER \"OK\"\nEND",
+     "a.tgs:1:1: warning: the first screen opens without a name too, but nothing can come back to it "
+     "[unnamed-screen]\n"
+     "a.tgs:6:1: warning: nothing in \"B\" can be clicked; a button TGX_BACK leads back to the screen before "
+     "[no-way-out]\n"
+     "a.tgs:10:1: warning: no button of \"QUERYBOX\" closes it; TGX_OK, TGX_CANCEL, TGX_YES, TGX_NO and "
+     "TGX_CLOSE do [stuck-box]\n"
+     "a.tgs:10:1: warning: \"QUERYBOX\" has no window \"MESSAGEBOXTITLE\", so that text does not show; did "
+     "you mean \"MESSAGEBOXTITEL\"? [box-part]\n"},
     {"pictures that are not there",
      "SCREEN \"A\" 0 0 640 480 \"none.bmp\"\nBEGIN\n  BITMAP \"static\" 0 0 9 9 \"text.png\"\n  BITMAP \"B\" "
      "9 "
      "9 9 9 \"ONE.BMP\"\nEND",
-     "a.tgs:1:24: error: no picture \"none.bmp\" in the data directory [missing-bitmap]\n"
+     "a.tgs:1:24: error: no picture \"none.bmp\" in the data directory; did you mean "
+     "\"one.bmp\"? [missing-bitmap]\n"
      "a.tgs:3:27: error: \"text.png\" cannot be read as a picture [missing-bitmap]\n"},
     {"strips too small",
      "WINDOW \"A\" 0 0 200 200\nBEGIN\n  BITMAP \"B\" 0 0 20 10 \"three.bmp\" 20 10 1 4\n  BITMAP \"C\" 30 0 "
@@ -280,7 +345,7 @@ const CheckRow rows[] = {
      "40 "
      "[text-clipped]\n"},
     {"a text of a list that is wider than its column",
-     "WINDOW \"A\" 0 0 400 400\nBEGIN\n  LISTBOX \"L\" 0 0 90 90\n  BEGIN\n    COLUMNS 40 40\n    ITEM "
+     "WINDOW \"A\" 0 0 400 400\nBEGIN\n  LISTBOX \"L\" 0 0 110 90\n  BEGIN\n    COLUMNS 40 40\n    ITEM "
      "\"short\" "
      "\"also\"\n    ITEM \"short\" \"a long text\"\n  END\n  TABORDER \"L\"\nEND",
      "a.tgs:7:18: warning: the text \"a long text\" in row 1 of \"L\" is 54 pixels wide in font 0, and "

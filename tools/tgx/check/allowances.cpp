@@ -183,6 +183,12 @@ void applyAllowances(const std::deque<Script>& scripts, const CheckOptions& opti
                 keepsFromBeingBuilt.insert({each.place.in->file->name, each.place.line, each.code});
     }
 
+    std::erase_if(findings.all, [&](const script_text::Diagnostic& found) {
+        const Target target{found.place.in->file->name, found.place.line, found.code};
+        return std::find(options.allowed.begin(), options.allowed.end(), found.code) !=
+                   options.allowed.end() &&
+               !keepsFromBeingBuilt.contains(target);
+    });
     std::vector<script_text::Diagnostic> refused;
     std::erase_if(findings.all, [&](const script_text::Diagnostic& found) {
         const Target target{found.place.in->file->name, found.place.line, found.code};

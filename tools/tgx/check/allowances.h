@@ -7,8 +7,9 @@
 
 namespace script_check {
 
-/// Takes findings away that a comment in the line before allows, "# tgx: allow CODE ...", and finds
-/// allowances that silence nothing or name no code. What keeps a script from being built stays.
+/// Takes findings away whose codes options allows, or that a comment in the line before allows, "# tgx: allow
+/// CODE ...", and finds allowances that silence nothing or name no code. What keeps a script from being built
+/// stays.
 void applyAllowances(const std::deque<Script>& scripts, const CheckOptions& options, Findings& findings);
 
 } // namespace script_check

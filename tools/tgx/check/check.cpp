@@ -83,6 +83,7 @@ void checkTrees(const std::vector<Script*>& scripts, const ScriptSet& set, Check
         checkTexts(tree, root);
         checkStrips(tree, root);
         checkLists(tree, root);
+        checkTraps(tree, root);
     }
     if (hasData && options.unusedFiles)
         checkUnusedFiles(options.dataDirectory, scripts, findings);
@@ -138,6 +139,7 @@ CheckReport check(std::vector<ScriptFile> files, const script_text::ReadFile& re
     findFonts(order, set);
     putInReadingOrder(order);
     checkCalls(order, set, findings);
+    checkScreenNames(order, findings);
     checkTrees(order, set, options, findings);
     applyAllowances(report.scripts, options, findings);
     report.findings = std::move(findings.all);

@@ -23,8 +23,9 @@ struct CheckOptions {
     std::string dataDirectory; // where pictures and fonts lie; "": not known, and they are not looked for
     int screenWidth = 0;       // pixels; 0: that of the first screen
     int screenHeight = 0;
-    int fonts = 0;            // that the game adds before the scripts do
-    bool unusedFiles = false; // look for pictures and fonts that nothing names
+    int fonts = 0;                    // that the game adds before the scripts do
+    bool unusedFiles = false;         // look for pictures and fonts that nothing names
+    std::vector<std::string> allowed; // codes that are passed over everywhere
     // What a read of one window may take; the toolkit's own limits.
     long scriptLines = limits::scriptLines;
     long long scriptWork = limits::scriptWork;

@@ -242,6 +242,65 @@ constexpr Code rows[] = {
      "A strip of several frames needs the size of one, a strip of 0 frames is not shown. A control of size 0 "
      "cannot be hit.",
      "BORDER \"frame.bmp\" 4 0", "BORDER \"frame.bmp\" 4 8"},
+    {"line-break", warning, "a line break in a text of one line",
+     "A text that does not wrap is drawn on one line, and the mark \\n shows as it is written.",
+     "TEXTWND \"T\" 0 0 200 48 \"one\\ntwo\"",
+     "TEXTWND \"T\" 0 0 200 48 \"one\\ntwo\"\nBEGIN\n  TEXTWRAP 1\nEND"},
+    {"hidden-last-row", warning, "a list whose last row never shows",
+     "A row is drawn only when a pixel is left below it. In a list whose height is a multiple of its row "
+     "height, borders aside, the last row can be clicked and is not seen. Make the list 1 pixel higher.",
+     "LISTBOX \"L\" 0 0 100 60\nBEGIN\n  COLUMNS 80\n  LISTLOOK 20\nEND",
+     "LISTBOX \"L\" 0 0 100 61\nBEGIN\n  COLUMNS 80\n  LISTLOOK 20\nEND"},
+    {"wide-columns", warning, "columns that are wider than their list",
+     "A gap of 10 pixels stands in front of each column. What goes beyond the list is cut.",
+     "LISTBOX \"L\" 0 0 100 61\nBEGIN\n  COLUMNS 60 60\n  LISTLOOK 20\nEND",
+     "LISTBOX \"L\" 0 0 140 61\nBEGIN\n  COLUMNS 60 60\n  LISTLOOK 20\nEND"},
+    {"menu-off-screen", warning, "a combo box whose menu leaves the screen below",
+     "The menu is cut at the lower edge of the screen, and cannot be scrolled: the items that are cut cannot "
+     "be chosen with the mouse. Without COMBOBELOW it opens above the box.",
+     "SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\n  COMBOBOX \"C\" 0 440 100 24 \"\"\n  BEGIN\n    COMBOBELOW 1\n  "
+     "  ITEM "
+     "\"a\"\n    ITEM \"b\"\n    ITEM \"c\"\n  END\n  TABORDER \"C\"\nEND",
+     "SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\n  COMBOBOX \"C\" 0 440 100 24 \"\"\n  BEGIN\n    ITEM \"a\"\n    "
+     "ITEM "
+     "\"b\"\n    ITEM \"c\"\n  END\n  TABORDER \"C\"\nEND"},
+    {"font-style", warning, "a word in a font's style that means nothing",
+     "A style is made of the words bold, italic and shadow and of a colour, # and six hexadecimal digits. "
+     "Others are passed over.",
+     "ADDFONT \"a.ttf\" \"bald\" 12 0", "ADDFONT \"a.ttf\" \"bold\" 12 0"},
+    // Screens and boxes.
+    {"unnamed-screen", warning, "a screen without a name",
+     "A screen is asked for by its name. The first one opens without, but no other can lead back to it.",
+     "SCREEN \"\" 0 0 640 480 \"\"", "SCREEN \"MENU\" 0 0 640 480 \"\""},
+    {"class-name", warning, "a screen with the name of a class of windows",
+     "A game's factory is asked for a screen by its name. Where it makes windows of that name for USERDEF, "
+     "the "
+     "screen is refused with \"cannot make screen\", and a plain one takes its place.",
+     "SCREEN \"Ship\" 0 0 640 480 \"\"\nWINDOW \"A\" 0 0 90 90\nBEGIN\n  USERDEF \"S\" 0 0 9 9 \"Ship\"\nEND",
+     "SCREEN \"SHIPS\" 0 0 640 480 \"\"\nWINDOW \"A\" 0 0 90 90\nBEGIN\n  USERDEF \"S\" 0 0 9 9 "
+     "\"Ship\"\nEND"},
+    {"no-way-out", warning, "a screen that nothing leaves",
+     "Nothing in it can be clicked, unlike in a screen before it: only the game can lead on.",
+     "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"GO\" 0 0 90 20 \"\"\n  TABORDER \"GO\"\nEND\nSCREEN "
+     "\"B\" 0 0 640 480 \"\"\nBEGIN\n  TEXTWND \"T\" 0 0 90 20 "
+     "\"b\"\nEND",
+     "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"GO\" 0 0 90 20 \"\"\n  TABORDER \"GO\"\nEND\nSCREEN "
+     "\"B\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"TGX_BACK\" 0 0 90 20 "
+     "\"b\"\n  TABORDER \"TGX_BACK\"\nEND"},
+    {"stuck-box", warning, "a message box that no button closes",
+     "The base closes a box at a click on TGX_OK, TGX_CANCEL, TGX_YES, TGX_NO or TGX_CLOSE.",
+     "WINDOW \"MESSAGEBOX\" 0 0 200 100\nBEGIN\n  TEXTWND \"MESSAGEBOXTITLE\" 0 0 200 20 \"\"\n  TEXTWND "
+     "\"MESSAGEBOXTEXT\" 0 20 200 40 \"\"\n  BUTTON \"OK\" 0 70 80 24 \"OK\"\n  TABORDER \"OK\"\nEND",
+     "WINDOW \"MESSAGEBOX\" 0 0 200 100\nBEGIN\n  TEXTWND \"MESSAGEBOXTITLE\" 0 0 200 20 \"\"\n  TEXTWND "
+     "\"MESSAGEBOXTEXT\" 0 20 200 40 \"\"\n  BUTTON \"TGX_OK\" 0 70 80 24 \"OK\"\n  TABORDER "
+     "\"TGX_OK\"\nEND"},
+    {"box-part", warning, "a message box without a window for its text or title",
+     "messageBox and queryBox write into MESSAGEBOXTITLE and MESSAGEBOXTEXT.",
+     "WINDOW \"MESSAGEBOX\" 0 0 200 100\nBEGIN\n  TEXTWND \"MESSAGEBOXTITEL\" 0 0 200 20 \"\"\n  TEXTWND "
+     "\"MESSAGEBOXTEXT\" 0 20 200 40 \"\"\n  BUTTON \"TGX_OK\" 0 70 80 24 \"OK\"\n  TABORDER \"TGX_OK\"\nEND",
+     "WINDOW \"MESSAGEBOX\" 0 0 200 100\nBEGIN\n  TEXTWND \"MESSAGEBOXTITLE\" 0 0 200 20 \"\"\n  TEXTWND "
+     "\"MESSAGEBOXTEXT\" 0 20 200 40 \"\"\n  BUTTON \"TGX_OK\" 0 70 80 24 \"OK\"\n  TABORDER "
+     "\"TGX_OK\"\nEND"},
     // Of no use.
     {"no-effect", warning, "a statement without effect",
      "Another line undoes it, the window ignores it, it has no arguments where it needs some, or arguments "

@@ -6,6 +6,7 @@
 #include "tools/tgx/check/rules.h"
 
 #include <algorithm>
+#include <set>
 
 namespace script_check {
 
@@ -61,6 +62,28 @@ void checkSizes(const Script& script, int line, std::string_view keyword, Findin
         add(number(7) <= 0 ? 7 : 8, "a scroll bar's six frames need a size");
 }
 
+/// As parseFontStyle reads it, which passes over what it does not know.
+void checkStyle(const Script& script, int line, Findings& findings)
+{
+    static const std::vector<std::string_view> known{"bold", "italic", "shadow"};
+    const std::string style = folded(script.string(line, 2));
+    for (std::size_t start = 0; (start = style.find_first_not_of(" ,", start)) != style.npos;) {
+        const std::string word = style.substr(start, style.find_first_of(" ,", start) - start);
+        start += word.size();
+        if (std::find(known.begin(), known.end(), word) != known.end())
+            continue;
+        const bool isColour = word[0] == '#';
+        if (isColour && word.size() == 7 && word.find_first_not_of("0123456789abcdef", 1) == word.npos)
+            continue;
+        findings.add("font-style", script, line, 2,
+                     isColour ? inQuotes(word) + " is no colour; expected # and six hexadecimal digits"
+                              : inQuotes(word) +
+                                    " is no word of a style; expected bold, italic, shadow or a "
+                                    "colour such as #2b3038" +
+                                    findings.didYouMean(word, known));
+    }
+}
+
 void checkReserved(const Script& script, int line, const Statement& statement, Findings& findings)
 {
     if (!namesItsWindow(statement))
@@ -107,6 +130,22 @@ void checkLines(const Script& script, Findings& findings)
         reportUnfinished(script, findings);
 }
 
+void checkScreenNames(const std::vector<Script*>& scripts, Findings& findings)
+{
+    std::set<std::string> classes; // compared exactly, as a factory does
+    for (const Script* script : scripts)
+        for (int line = 0; line < script->lineCount(); ++line)
+            if (script->isKeyword(line, "USERDEF"))
+                classes.insert(script->string(line, script->tokenCount(line) > 6 ? 6 : 1));
+    for (const Script* script : scripts)
+        for (int line = 0; line < script->lineCount(); ++line)
+            if (const std::string& id = script->string(line, 1);
+                script->isKeyword(line, "SCREEN") && !id.empty() && classes.contains(id))
+                findings.add("class-name", *script, line, 1,
+                             "the game makes windows of the class " + inQuotes(id) +
+                                 ", and is asked for that class when this screen is opened");
+}
+
 bool makesControl(const Statement& statement)
 {
     return isOneOf(controls, statement.keyword);
@@ -119,6 +158,8 @@ void checkArguments(const Script& script, Findings& findings)
         if (!statement)
             continue;
         checkSizes(script, line, statement->keyword, findings);
+        if (script.isKeyword(line, "ADDFONT"))
+            checkStyle(script, line, findings);
         checkReserved(script, line, *statement, findings);
         // ITEM alone is an empty row.
         if (statement->kind == StatementKind::Attribute && script.tokenCount(line) == 1 &&

@@ -131,7 +131,7 @@ private:
     static bool hasFrame(const Picture& picture, int step, int rowStep, int frame)
     {
         const int perRow = step > 0 ? picture.width / step : 0;
-        return perRow > 0 && frame / perRow * rowStep < picture.height;
+        return perRow > 0 && static_cast<long long>(frame / perRow) * rowStep < picture.height;
     }
 
     void checkScrollBar()

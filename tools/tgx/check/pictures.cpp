@@ -72,6 +72,23 @@ const Picture* Pictures::find(const std::string& name)
     return entry->second ? &*entry->second : nullptr;
 }
 
+std::string otherFile(const std::string& name, Findings& findings)
+{
+    std::string hint;
+    if (std::any_of(name.begin(), name.end(), [](unsigned char c) { return c < 0x20 || c >= 0x7F; }))
+        hint = "; in a string \\xNN is one character, and a folder called x... is written \\\\x";
+    const std::string path = withSlashes(name);
+    const std::size_t slash = path.rfind('/');
+    const std::string folder = slash == path.npos ? "" : path.substr(0, slash);
+    std::vector<std::string> files;
+    std::error_code error;
+    for (const fs::directory_entry& each : fs::directory_iterator(fs::path(dataDirectory()) / folder, error))
+        if (each.is_regular_file(error))
+            files.push_back(name.substr(0, slash == path.npos ? 0 : slash + 1) +
+                            each.path().filename().string());
+    return hint + findings.didYouMean(name, {files.begin(), files.end()});
+}
+
 void checkPictures(const Script& script, Pictures& pictures, Findings& findings)
 {
     forEachFile(script, false, [&](int line, int token, const std::string& name) {
@@ -79,7 +96,8 @@ void checkPictures(const Script& script, Pictures& pictures, Findings& findings)
             return;
         findings.add("missing-bitmap", script, line, token,
                      pictures.isThere(name) ? inQuotes(name) + " cannot be read as a picture"
-                                            : "no picture " + inQuotes(name) + " in the data directory");
+                                            : "no picture " + inQuotes(name) + " in the data directory" +
+                                                  otherFile(name, findings));
     });
 }
 

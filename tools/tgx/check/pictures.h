@@ -42,4 +42,8 @@ void checkPictures(const Script& script, Pictures& pictures, Findings& findings)
 void checkUnusedFiles(const std::string& dataDirectory, const std::vector<Script*>& scripts,
                       Findings& findings);
 
+/// "; did you mean ...?" with a file of the same folder of the data directory, and what \x does in a name; or
+/// "".
+std::string otherFile(const std::string& name, Findings& findings);
+
 } // namespace script_check

@@ -31,6 +31,9 @@ void checkWithoutBlock(const Script& script, const PointerTargets& shown, Findin
 /// Calls between subroutines of all scripts, what they miss and what nothing calls. Marks what is used.
 void checkCalls(std::vector<Script*>& scripts, const ScriptSet& set, Findings& findings);
 
+/// Screens that bear the name of a class for USERDEF, of all scripts.
+void checkScreenNames(const std::vector<Script*>& scripts, Findings& findings);
+
 /// Whether the statement makes a window that a person clicks on, types into or chooses in.
 bool makesControl(const Statement& statement);
 /// Whether a GOTO's second argument can only be the number of an embedded script.

@@ -8,6 +8,7 @@
 #include "platform/system/datadir.h"
 #include "tgx/base/swapped.h"
 #include "tgx/controls/listbox/listbox.h"
+#include "tools/tgx/check/pictures.h"
 #include "tools/tgx/check/rules.h"
 #include "tools/tgx/check/words.h"
 
@@ -436,7 +437,8 @@ void Reading::checkMessages(LineRef at, bool hasFailed)
                                  (size < 1 || size > limits::fontPixels
                                       ? " at this size; 1 to " + std::to_string(limits::fontPixels) + " fit"
                                       : "") +
-                                 "; the built-in one takes its place");
+                                 "; the built-in one takes its place" +
+                                 otherFile(at.script->string(at.line, 1), findings));
         }
     }
     fontCount = count;

@@ -99,6 +99,8 @@ void checkStrips(TreeCheck& check, AWnd& root);
 void checkLists(TreeCheck& check, AWnd& root);
 /// Ids of a screen, radio groups, tabs and pages, what the keyboard reaches.
 void checkControls(TreeCheck& check, AWnd& root);
+/// What the toolkit does as it should and its author does not expect.
+void checkTraps(TreeCheck& check, AWnd& root);
 /// Those among the children of parent.
 void checkRadioGroups(TreeCheck& check, AWnd& parent);
 
