@@ -110,8 +110,10 @@ public:
 
     // Popups (popups.cpp).
 
-    /// Opens popup for parent, in front, or hidden at the end when parent has the front popup too. Null
-    /// closes the front popup. popup.
+    /// Opens popup for parent, in front, or hidden at the end when parent has the front popup too, and
+    /// returns it. Null closes the front popup. The popup gets startup(), and no initialise(). One that has a
+    /// movement is closed at once all the same, without waiting for it; see AWnd::draw for one that slides
+    /// away.
     AWnd* setPopupWnd(AWnd* popup, AWnd* parent, int centre);
     /// Finds the window or reads it, and opens it centred.
     AWnd* setPopupWnd(const CString& name, AWnd* parent, unsigned resource, const CString& file);

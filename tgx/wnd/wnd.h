@@ -24,6 +24,23 @@ struct IDirectDrawSurface;
 /// Positions and sizes are pixels, 16 bits signed when stored. Flags that an operation takes as an int use
 /// its lowest bit, but for setVisible and showAllControls, which ask whether it is above 0. Answers of
 /// handlers are 1 for taken, 0 for not taken.
+///
+/// For a class that derives from it:
+///
+/// - handleMouseAction hears every action that passes on its way down the tree, whatever window it is about:
+///   compare wnd with this. A null wnd means all windows. The answer 1 stops nothing; it only tells the
+///   caller.
+/// - Keys arrive there too, as MA_KEY with x and y at -1. handleKeyInput is called for nothing but the edit
+/// box
+///   that is typed into.
+/// - What a call of the base reaches may delete this window. Hold a WndRef to it, or ActionRefs, across the
+///   call, and ask before touching a member.
+/// - A window never deletes itself while an operation of its own runs. It calls update() of its screen or
+/// popup
+///   as the last thing that its handler does, and is deleted there; the windows on the way notice. Screens
+///   and popups, which are children of the root, are deleted by AScreenList::addWndToDelete.
+/// - A window that is added after its screen has opened needs a call of startup(), which loads its picture.
+/// - Overriding one form of setWindowText hides the other: `using AWnd::setWindowText;` keeps both.
 class TGX_API AWnd {
 public:
     /// What a window is; controls are told apart by it.
@@ -69,37 +86,42 @@ public:
     // Virtual operations, in slot order.
 
     /// Deletes the children that it owns, last first, and unhooks the others. Afterwards no pointer of the
-    /// toolkit leads here.
+    /// toolkit leads here. The kept background is released; the bitmap stays with the display library.
     virtual ~AWnd();
     /// Paints background, bitmap, border and text, then the children, then moves on. frameStep: animation
-    /// ticks that this frame stands for; 0 paints and moves nothing.
+    /// ticks that this frame stands for; 0 paints and moves nothing. A popup of this window whose movement
+    /// has ended and kept its record (deleteWhenDone 0) is closed in the next frame.
     virtual void draw(int frameStep);
     /// The decimal text of value, through the text form of this operation.
     virtual void setWindowText(int value);
     virtual void setWindowText(const CString& text);
-    /// Behind startup, when a screen has opened for the first time. The base goes on to the children, as do
-    /// the next three.
+    /// Called after startup when a screen has opened for the first time, never for a popup. The base passes
+    /// it on to the children, as it does the next three.
     virtual void initialise();
-    /// When a screen or popup opens: movement back to rest, background taken anew, bitmap loaded.
+    /// Called when a screen or popup opens. The base puts the movement back to rest, takes the kept
+    /// background again and loads the bitmap.
     virtual void startup();
-    /// When it is left. Bitmaps stay loaded.
+    /// Called when the screen or popup is left. Bitmaps stay loaded.
     virtual void close();
-    /// When it is come back to: bitmaps that are missing are loaded.
+    /// Called when a suspended screen is shown again, instead of startup. The base loads bitmaps that are
+    /// missing.
     virtual void returned();
-    /// An action on its way down the tree. id and wnd: what the action is about; x, y: the pointer in screen
-    /// pixels, or -1 for a key. The base passes it to the topmost usable child under the point, a key to all
-    /// children.
+    /// Called for an action on its way down the tree. id and wnd: the window that the action is about, null
+    /// for all; x, y: the pointer in screen pixels, or -1 for a key. The base passes it to the topmost usable
+    /// child under the point, a key and everything during Esc to all children, and returns the child's
+    /// answer.
     virtual int handleMouseAction(const CString& id, AWnd* wnd, int x, int y, E_MOUSEACTION action);
-    /// Children first, then its own handleMouseAction with MA_KEY.
+    /// Called for a key that is typed into an edit box. Passes it to the children, then calls its own
+    /// handleMouseAction with MA_KEY.
     virtual int handleKeyInput(char key);
-    /// An action in a popup that this window opened. The base climbs to the root first, and closes the popup
-    /// on a click with one of the ids that answer a box. 0.
+    /// Called on the parent of a popup for each action in it. The base calls that of its own parent first,
+    /// and closes the popup on a click with one of the ids that answer a box. Returns 0.
     virtual int handlePopupAction(const CString& id, AWnd* wnd, int x, int y, E_MOUSEACTION action);
-    /// The pointer has left. The base does nothing and answers 0.
+    /// Called when the pointer has left. The base does nothing and returns 0.
     virtual int handleLostFocus();
-    /// Brings to an end what runs in the windows below; the base passes it on.
+    /// Ends what runs in this window, such as a growing graph. The base passes it on to the children.
     virtual void finishAnims();
-    /// For the game: controls call it on the screen or popup after a new choice.
+    /// Called by controls on their screen or popup after a choice by the player. The base does nothing.
     virtual void update();
 
     // Tree (tree.cpp).
@@ -123,10 +145,13 @@ public:
     int getWindowIndex() const { return windowIndex; }
     E_WNDTYPE getWindowType() const { return windowType; }
     const CString& getID() const { return id; }
-    /// Stores it as it is: no test for "static".
+    /// Stores the id unchanged, "static" too.
     void setID(const CString& newId);
+    /// Whether the screen stays bright behind this popup.
     int isEasyClose() const { return easyClose; }
     void setEasyClose(int set) { easyClose = set & 1; }
+    /// Whether actions in this window also go to its parent's handlePopupAction. Set when it opens as a
+    /// popup.
     int getNotifyParent() const { return notifyParent; }
     void setNotifyParent(int set) { notifyParent = set & 1; }
     /// This window; the argument is not read.
@@ -218,7 +243,9 @@ public:
     void setBmpFilename(const CString& name, int width, int height);
     /// Size of a frame, ticks a frame (0 or less: no animation), frames.
     void setBmpInfo(int width, int height, int delay, int count);
+    /// Pixels by which the bitmap is moved inside the window.
     void setBmpOffset(int x, int y);
+    /// Pixel of the bitmap that the first frame begins at.
     void setBmpSourceInfo(int x, int y);
     int getBmpOffsetX() const { return bmpOffsetX; }
     int getBmpOffsetY() const { return bmpOffsetY; }
@@ -227,8 +254,10 @@ public:
     int getBmpBlitMode() const { return bmpBlitMode; }
     /// Low 8 bits. 0 normal, 1 opaque, 2 half, 3 additive.
     void setBmpBlitMode(int mode) { bmpBlitMode = static_cast<unsigned char>(mode); }
+    /// Whether a frame is stretched to the window; 1 at first.
     int getBmpStretch() const { return bmpStretch; }
     void setBmpStretch(int set) { bmpStretch = set & 1; }
+    /// Whether a frame is repeated all over the window. Beats stretching.
     int getBmpTile() const { return bmpTile; }
     void setBmpTile(int set) { bmpTile = set & 1; }
     int getFrameWidth() const { return frameWidth; }
@@ -238,9 +267,12 @@ public:
     /// keeps it.
     void setCurrentFrame(int frame);
     int getFirstFrame() const { return firstFrame; }
+    /// Frames of the running strip.
     int getFrameCount() const { return frameCount; }
     void setFrameCount(int count) { frameCount = static_cast<short>(count); }
+    /// Animation ticks for a frame; 0 or less: the strip does not run.
     int getFrameDelay() const { return frameDelay; }
+    /// Whether the strip starts again after its last frame.
     int getLoop() const { return loop; }
     void setLoop(int set) { loop = set & 1; }
     /// Counts frameStep ticks; 1 when the next frame is due.
@@ -253,7 +285,7 @@ public:
     /// Releases the kept background.
     void deleteBkgnd();
     int hasBkgnd() const { return bkgnd != nullptr; }
-    /// Takes every background that this window and those below keep anew from the present backdrop.
+    /// Takes every background that this window and those below keep from the present backdrop again.
     void renewBkgnds();
     /// Blackens every second pixel of the kept background; right and bottom excluded. 0 without one, else 1.
     int darkenRect(int left, int top, int right, int bottom);
@@ -270,15 +302,19 @@ public:
     /// Not owned: fonts live in the main window's table.
     void setFont(bmpfont* newFont) { font = newFont; }
     bmpfont* getFont() const { return font; }
+    /// Pixels by which the text is moved inside the window; the right and lower edges stay.
     void setTextOffset(int x, int y);
     int getTextOffsetX() const { return textOffsetX; }
     int getTextOffsetY() const { return textOffsetY; }
     void setTextJustify(E_TEXTJUSTIFY justify) { textJustify = justify; }
     E_TEXTJUSTIFY getTextJustify() const { return textJustify; }
+    /// Whether the text is drawn unchanged, line breaks included, and not cut at the window's edge.
     int getTextRaw() const { return textRaw; }
     void setTextRaw(int set) { textRaw = set & 1; }
+    /// Whether a text of one line is centred vertically.
     int getTextCentreV() const { return textCentreV; }
     void setTextCentreV(int set) { textCentreV = set & 1; }
+    /// Whether the text is broken into lines at the window's width.
     int getTextWrap() const { return textWrap; }
     void setTextWrap(int set) { textWrap = set & 1; }
 
