@@ -36,7 +36,7 @@ PointerAct actOf(PlayedInput::Kind kind)
 
 struct Player::Surroundings {
     std::unique_ptr<displayhost> host;
-    std::string dataDirectory;
+    OtherDataDirectory data; // puts the one before back at the end
 };
 
 Player::Player(const PlayOptions& playOptions, const MainWinFactory& mainWinFactory, std::ostream& outStream,
@@ -55,7 +55,6 @@ Player::~Player()
         return;
     shut();
     displayhost::use(std::move(before->host));
-    setDataDirectory(before->dataDirectory);
     useRealTime();
 }
 
@@ -64,8 +63,7 @@ void Player::start()
     std::error_code error;
     if (!fs::is_directory(options.dataDirectory, error))
         throw std::runtime_error("no data directory " + quoteName(options.dataDirectory));
-    before.reset(new Surroundings{displayhost::use(nullptr), dataDirectory()});
-    setDataDirectory(options.dataDirectory);
+    before.reset(new Surroundings{displayhost::use(nullptr), OtherDataDirectory(options.dataDirectory)});
     open();
 }
 

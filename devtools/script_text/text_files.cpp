@@ -44,9 +44,10 @@ std::vector<std::string> filesIn(const std::string& folder, std::string_view end
 std::string scriptFolder()
 {
     std::error_code failure;
-    for (const fs::directory_entry& entry : fs::directory_iterator(dataDirectory(), failure))
-        if (lowered(entry.path().filename().string()) == "uig" && entry.is_directory(failure))
-            return entry.path().string();
+    for (const std::string& folder : dataDirectories())
+        for (const fs::directory_entry& entry : fs::directory_iterator(folder, failure))
+            if (lowered(entry.path().filename().string()) == "uig" && entry.is_directory(failure))
+                return entry.path().string();
     return "";
 }
 

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <dirent.h>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <sys/stat.h>
@@ -14,7 +15,27 @@
 
 namespace {
 
-std::string root = ".";
+/// Empty where the system does not tell.
+std::string executableFolder()
+{
+    std::error_code failure;
+    return std::filesystem::read_symlink("/proc/self/exe", failure).parent_path().string();
+}
+
+/// Where files are looked for as long as no data directory is set.
+std::vector<std::string> defaultRoots()
+{
+    std::vector<std::string> folders{"."};
+    if (std::string beside = executableFolder(); !beside.empty())
+        folders.push_back(std::move(beside));
+    return folders;
+}
+
+std::vector<std::string>& roots()
+{
+    static auto& folders = *new std::vector<std::string>(defaultRoots());
+    return folders;
+}
 
 std::string lowered(std::string_view name)
 {
@@ -130,44 +151,13 @@ bool isBelow(const std::string& path, const std::string& folder)
                              path[folder.size()] == '/');
 }
 
-std::map<std::string, std::shared_ptr<const std::string>>& memoryFiles()
+/// Path of a regular file below root.
+std::optional<std::string> findBelow(const std::string& root, const std::vector<std::string>& components)
 {
-    static auto& files = *new std::map<std::string, std::shared_ptr<const std::string>>;
-    return files;
-}
-
-/// The one form of all names that mean the same file in memory; "" for a refused one.
-std::string memoryKey(std::string_view name)
-{
-    std::string key;
-    if (const std::optional<std::vector<std::string>> components = splitSafely(name))
-        for (const std::string& component : *components)
-            key += '/' + lowered(component);
-    return key;
-}
-
-} // namespace
-
-void setDataDirectory(const std::string& path)
-{
-    root = path.empty() ? "." : path;
-}
-
-const std::string& dataDirectory()
-{
-    return root;
-}
-
-std::optional<std::string> findDataFile(std::string_view name)
-{
-    const std::optional<std::vector<std::string>> components = splitSafely(name);
-    if (!components)
-        return std::nullopt;
-
     std::string path = root;
     bool hasLink = false; // without one, and without "..", the path cannot lead out
     struct stat status = {};
-    for (const std::string& component : *components) {
+    for (const std::string& component : components) {
         std::string next = path + '/' + component;
         if (::lstat(next.c_str(), &status) != 0) {
             const std::shared_ptr<const Listing> listing = listingOf(path);
@@ -192,6 +182,58 @@ std::optional<std::string> findDataFile(std::string_view name)
     if (!S_ISREG(status.st_mode))
         return std::nullopt;
     return hasLink ? canonical(path) : path;
+}
+
+std::map<std::string, std::shared_ptr<const std::string>>& memoryFiles()
+{
+    static auto& files = *new std::map<std::string, std::shared_ptr<const std::string>>;
+    return files;
+}
+
+/// The one form of all names that mean the same file in memory; "" for a refused one.
+std::string memoryKey(std::string_view name)
+{
+    std::string key;
+    if (const std::optional<std::vector<std::string>> components = splitSafely(name))
+        for (const std::string& component : *components)
+            key += '/' + lowered(component);
+    return key;
+}
+
+} // namespace
+
+void setDataDirectory(const std::string& path)
+{
+    roots() = path.empty() ? defaultRoots() : std::vector<std::string>{path};
+}
+
+const std::string& dataDirectory()
+{
+    return roots().front();
+}
+
+const std::vector<std::string>& dataDirectories()
+{
+    return roots();
+}
+
+OtherDataDirectory::OtherDataDirectory(const std::string& path) : before(roots())
+{
+    setDataDirectory(path);
+}
+
+OtherDataDirectory::~OtherDataDirectory()
+{
+    roots() = std::move(before);
+}
+
+std::optional<std::string> findDataFile(std::string_view name)
+{
+    if (const std::optional<std::vector<std::string>> components = splitSafely(name))
+        for (const std::string& root : roots())
+            if (std::optional<std::string> found = findBelow(root, *components))
+                return found;
+    return std::nullopt;
 }
 
 bool setMemoryFile(std::string_view name, std::shared_ptr<const std::string> bytes)

@@ -6,21 +6,27 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
-/// The folder below which scripts, pictures and fonts are looked for: the working directory at first.
+/// The folder in which scripts, pictures and fonts are looked for. Until one is set, and with "", there are
+/// two: the working directory, and then the folder of the executable, so that a game finds its data wherever
+/// it is started from.
 TGX_PLATFORM_API void setDataDirectory(const std::string& path);
+/// The one that was set, or ".".
 TGX_PLATFORM_API const std::string& dataDirectory();
+/// All folders in which files are looked for, in that order.
+TGX_PLATFORM_API const std::vector<std::string>& dataDirectories();
 
 /// Another folder is the data directory for as long as this lives.
-class OtherDataDirectory {
+class TGX_PLATFORM_API OtherDataDirectory {
 public:
-    explicit OtherDataDirectory(const std::string& path) : before(dataDirectory()) { setDataDirectory(path); }
-    ~OtherDataDirectory() { setDataDirectory(before); }
+    explicit OtherDataDirectory(const std::string& path);
+    ~OtherDataDirectory();
     OtherDataDirectory(const OtherDataDirectory&) = delete;
     OtherDataDirectory& operator=(const OtherDataDirectory&) = delete;
 
 private:
-    std::string before;
+    std::vector<std::string> before;
 };
 
 /// Path of a file of the data directory. name has backslashes or slashes and any case: each component is

@@ -96,6 +96,29 @@ TEST_F(Files, aNameFindsItsFileInAnyCaseAndNothingOutside)
     EXPECT_FALSE(findDataFile(std::string_view("both.txt\0x", 10))) << "a name goes on behind a 0 byte";
 }
 
+TEST_F(Files, withoutADataDirectoryTheWorkingFolderComesFirstThenTheExecutables)
+{
+    const std::string name = "tgx-files-test-" + std::to_string(getpid()) + ".txt";
+    const fs::path beside = fs::read_symlink("/proc/self/exe").parent_path() / name;
+    const fs::path before = fs::current_path();
+    fs::current_path(base);
+    setDataDirectory("");
+    std::ofstream(beside) << "beside";
+    EXPECT_EQ(contents(name), "beside");
+    {
+        const OtherDataDirectory other((base / "data").string());
+        EXPECT_EQ(contents(name), "none") << "a folder that was named is the only one";
+    }
+    EXPECT_EQ(contents(name), "beside") << "both are back";
+    write(name, "here");
+    EXPECT_EQ(contents(name), "here");
+    setDataDirectory(".");
+    fs::remove(base / name);
+    EXPECT_EQ(contents(name), "none");
+    fs::remove(beside);
+    fs::current_path(before);
+}
+
 TEST_F(Files, aFileThatAppearsAfterAFailedLookUpIsFound)
 {
     // A folder that has not changed for long keeps its listing in memory.
