@@ -29,6 +29,7 @@ struct DevToolsOptions {
     int fullScreenKey = VK_F11;
     int pictureKey = VK_F10;
     int recorderKey = VK_F9;
+    int screensKey = VK_F8;
 };
 
 /// What an author of an interface sees while a game runs: the interface is read again when a script or a

@@ -103,10 +103,8 @@ std::string describeKeys(const DevToolsOptions& keys)
         int code;
         const char* meaning;
     } rows[] = {
-        {keys.inspectorKey, "inspector"},
-        {keys.fullScreenKey, "whole screen"},
-        {keys.pictureKey, "picture"},
-        {keys.recorderKey, "record"},
+        {keys.inspectorKey, "inspector"}, {keys.fullScreenKey, "whole screen"}, {keys.pictureKey, "picture"},
+        {keys.recorderKey, "record"},     {keys.screensKey, "screens"},
     };
     std::string help;
     for (const auto& row : rows)

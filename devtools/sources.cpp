@@ -4,6 +4,7 @@
 #include "devtools/script_text/parsed_script.h"
 #include "devtools/script_text/read_file.h"
 #include "devtools/script_text/text_files.h"
+#include "platform/framework/cfile.h"
 #include "platform/framework/cstring.h"
 #include "platform/system/datadir.h"
 
@@ -141,6 +142,20 @@ Sources::Scripts Sources::compileTexts()
         keepLast(mainScript);
     }
     return fresh;
+}
+
+std::vector<Sources::Script> Sources::scripts() const
+{
+    std::vector<Script> all;
+    for (const auto& [key, script] : built)
+        all.push_back({script.name, script.bytes});
+    for (const std::string& file : script_text::filesIn(script_text::scriptFolder(), ".tgx")) {
+        std::string name = fs::path(file).filename().string();
+        CFile compiledFile;
+        if (!isFromText(name) && compiledFile.Open((std::string(scriptFolder) + name).c_str()))
+            all.push_back({std::move(name), std::make_shared<const std::string>(compiledFile.bytes())});
+    }
+    return all;
 }
 
 /// Whether bytes differ; maps may differ all the same, of comments that have moved.

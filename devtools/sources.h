@@ -33,6 +33,14 @@ public:
     /// Whether that script comes from its text.
     bool isFromText(const std::string& script) const;
 
+    struct Script {
+        std::string name; // below UIG
+        std::shared_ptr<const std::string> bytes;
+    };
+    /// Returns all scripts: those compiled of text, followed by the compiled files that no text replaces,
+    /// which are read for this.
+    std::vector<Script> scripts() const;
+
     /// "menu.tgs:31" for a byte of the compiled script of that name; without text or map "menu.tgx, byte
     /// 123".
     std::string placeOf(const std::string& script, unsigned offset) const;

@@ -32,7 +32,8 @@ constexpr int recordedFrameMs = 17; // the host runs 60 ticks a second
 
 Workbench::Workbench(AMainWin& mainWin, DevToolsOptions toolOptions)
     : game(mainWin), options(std::move(toolOptions)), sources(options.sources, options.script),
-      origins(sources), inspector(mainWin, origins, options), state(mainWin, origins)
+      origins(sources), inspector(mainWin, origins, options), screenChooser(mainWin, sources, options.script),
+      state(mainWin, origins)
 {
     if (game.getScriptObserver())
         throw std::logic_error("the game has devtools already");
@@ -62,13 +63,18 @@ Workbench::~Workbench()
 bool Workbench::takesInput(const InputQueue::Event& event)
 {
     using Kind = InputQueue::Kind;
-    const int keys[] = {options.inspectorKey, options.fullScreenKey, options.pictureKey, options.recorderKey};
-    const bool isKey = event.kind == Kind::Key || event.kind == Kind::Hold;
-    if (!isKey || event.code == 0 ||
-        std::find(std::begin(keys), std::end(keys), event.code) == std::end(keys))
+    const int keys[] = {options.inspectorKey, options.fullScreenKey, options.pictureKey, options.recorderKey,
+                        options.screensKey};
+    if (event.kind != Kind::Key && event.kind != Kind::Hold)
         return false;
-    if (event.kind == Kind::Key && !event.repeat)
+    const bool isOurs =
+        event.code != 0 && std::find(std::begin(keys), std::end(keys), event.code) != std::end(keys);
+    if (!isOurs && !screenChooser.isOpen())
+        return false;
+    if (isOurs && event.kind == Kind::Key && !event.repeat)
         keyPressed(event.code);
+    else if (!isOurs && event.kind == Kind::Key)
+        screenChooser.keyPressed(event.code);
     return true;
 }
 
@@ -99,11 +105,13 @@ const Image& Workbench::pictureOf(const Image& screen, std::span<const tagRECT> 
 {
     measure(screen, changed);
     const bool hasNotices = notices.isShowing();
-    if (!heldPicture && !hasNotices && !inspector.isOn())
+    if (!heldPicture && !hasNotices && !inspector.isOn() && !screenChooser.isOpen())
         return screen;
     overlay.begin(heldPicture ? *heldPicture : screen);
     if (inspector.isOn() && !heldPicture)
         inspector.paint(overlay, cost);
+    if (screenChooser.isOpen())
+        screenChooser.paint(overlay);
     if (hasNotices)
         notices.paint(overlay);
     return overlay.getPicture();
@@ -151,6 +159,16 @@ void Workbench::keyPressed(int code)
         savePicture();
     else if (code == options.recorderKey)
         switchRecorder();
+    else if (code == options.screensKey)
+        switchScreenList();
+}
+
+void Workbench::switchScreenList()
+{
+    if (screenChooser.isOpen())
+        screenChooser.close();
+    else if (!screenChooser.open())
+        notices.tell("no script has a screen with a name");
 }
 
 void Workbench::switchFullScreen()
@@ -271,6 +289,7 @@ void Workbench::showFaults()
 void Workbench::readAnew()
 {
     state.keep();
+    screenChooser.close(); // its screens may be gone
     if (recorder)
         recorder->readAnew();
     if (!heldPicture)

@@ -9,6 +9,7 @@
 #include "devtools/overlay.h"
 #include "devtools/pictures.h"
 #include "devtools/recorder.h"
+#include "devtools/screen_chooser.h"
 #include "devtools/sources.h"
 
 #include <chrono>
@@ -35,6 +36,7 @@ private:
 
     void keyPressed(int code);
     void switchFullScreen();
+    void switchScreenList();
     void tellWritten(const std::string& what, const std::string& path, bool isWritten);
     void savePicture();
     void switchRecorder();
@@ -51,6 +53,7 @@ private:
     Sources sources;
     Origins origins;
     Inspector inspector;
+    tgx::ScreenChooser screenChooser;
     Notices notices;
     std::optional<Recorder> recorder;
     InterfaceState state;

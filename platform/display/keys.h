@@ -18,6 +18,7 @@ enum VirtualKey : unsigned char {
     VK_DELETE = 0x2E,
     VK_F1 = 0x70,
     VK_F7 = 0x76,
+    VK_F8 = 0x77,
     VK_F9 = 0x78,
     VK_F10 = 0x79,
     VK_F11 = 0x7A,

@@ -179,7 +179,7 @@ void addView(CLI::App& app)
         ->type_name("DIR2");
     command->footer(
         "Keys: F12 inspector, once more for all windows; F11 whole screen; F10 picture; F9 begins and ends a "
-        "recording.\n"
+        "recording; F8 lists the screens and goes to one.\n"
         "What has been chosen and typed stays when a script or a picture is read again.");
     command->callback([options] {
         if (int status = view(*options))

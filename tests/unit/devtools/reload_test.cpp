@@ -366,4 +366,34 @@ TEST_F(ReloadTest, TheKeysOfTheDevtoolsDoNotReachTheGame)
     EXPECT_EQ(win().fullScreen, 1) << "the game's own setting is back";
 }
 
+TEST_F(ReloadTest, TheListOfScreensGoesToAScreenOfAnyScript)
+{
+    save("SCREEN \"CELLAR\" 0 0 640 480 \"\"\n", "cellar.tgs");
+    startWithTools("SCREEN \"HALL\" 0 0 640 480 \"\"\nSCREEN \"LOFT\" 0 0 640 480 \"\"\n"
+                   "WINDOW \"NOTE\" 0 0 9 9\n");
+    const struct {
+        const char* name;
+        std::vector<int> keys;
+        const char* screen;
+    } rows[] = {
+        {"the list begins on the active screen", {VK_F8, VK_RETURN}, "HALL"},
+        {"the next one of the same script", {VK_F8, VK_DOWN, VK_RETURN}, "LOFT"},
+        {"one of another script, which has not been read yet", {VK_F8, VK_END, VK_RETURN}, "CELLAR"},
+        {"the letter that its name begins with", {VK_F8, 'L', VK_RETURN}, "LOFT"},
+        {"a letter that none begins with", {VK_F8, 'X', VK_HOME, VK_RETURN}, "HALL"},
+        {"closed without a choice", {VK_F8, VK_DOWN, VK_ESCAPE}, "HALL"},
+    };
+    bool reachedGame = false;
+    win().duringFrame = [&] { reachedGame = reachedGame || win().keyCode != 0; };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        for (const int key : row.keys)
+            getPlayer().getHost().input().key(static_cast<std::uint8_t>(key), '\0');
+        play(aWhile);
+        ASSERT_TRUE(win().getActiveScreen());
+        EXPECT_STREQ(win().getActiveScreen()->getID(), row.screen);
+    }
+    EXPECT_FALSE(reachedGame) << "keys go to the open list alone";
+}
+
 } // namespace
