@@ -4,7 +4,7 @@
 #include "bench/many_scene.h"
 #include "bench/measure.h"
 
-#include "platform/host/displayhost.h"
+#include "platform/display/host.h"
 #include "tgx/controls/button.h"
 
 #include <stdexcept>

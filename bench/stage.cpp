@@ -1,8 +1,8 @@
 #include "bench/stage.h"
 
-#include "platform/host/headless_host.h"
+#include "platform/framework/datadir.h"
+#include "platform/host/headless/headless_host.h"
 #include "platform/system/clock.h"
-#include "platform/system/datadir.h"
 
 #include <cstdio>
 #include <cstdlib>

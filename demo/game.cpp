@@ -3,7 +3,7 @@
 #include "demo/cargo.h"
 #include "demo/fleet.h"
 #include "demo/market.h"
-#include "platform/system/datadir.h"
+#include "platform/framework/datadir.h"
 #include "tgx/controls/button.h"
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/controls/scrollbar.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/host/displayhost.h"
+#include "platform/display/host.h"
 
 /// Who stands behind a WatchingHost.
 class HostWatcher {

@@ -1,7 +1,7 @@
 #include "devtools/origins.h"
 
-#include "devtools/script_text/statement_form.h"
 #include "devtools/sources.h"
+#include "language/text/statement_form.h"
 #include "platform/framework/cstring.h"
 #include "player/reports.h"
 #include "tgx/script/vocabulary.h"

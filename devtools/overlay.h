@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/display/bmpfont.h"
-#include "platform/display/box.h"
-#include "platform/display/image.h"
+#include "platform/media/bmpfont.h"
+#include "platform/media/box.h"
+#include "platform/media/image.h"
 
 #include <string>
 #include <string_view>

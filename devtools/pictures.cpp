@@ -1,6 +1,6 @@
 #include "devtools/pictures.h"
 
-#include "platform/system/datadir.h"
+#include "platform/framework/datadir.h"
 #include "tgx/frame/mainwin.h"
 
 #include <optional>

@@ -2,7 +2,7 @@
 
 #include "devtools/recording.h"
 #include "devtools/spot.h"
-#include "platform/host/input_queue.h"
+#include "platform/display/input_queue.h"
 
 #include <array>
 #include <bitset>

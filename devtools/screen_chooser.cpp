@@ -1,6 +1,6 @@
 #include "devtools/screen_chooser.h"
 
-#include "devtools/script_text/text_files.h"
+#include "language/text/text_files.h"
 #include "platform/display/keys.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/script/reader.h"

@@ -2,7 +2,7 @@
 
 #include "devtools/overlay.h"
 #include "devtools/sources.h"
-#include "platform/host/input_queue.h"
+#include "platform/display/input_queue.h"
 
 #include <string>
 #include <vector>

@@ -1,12 +1,12 @@
 #include "devtools/sources.h"
 
-#include "devtools/script_text/emit.h"
-#include "devtools/script_text/parsed_script.h"
-#include "devtools/script_text/read_file.h"
-#include "devtools/script_text/text_files.h"
+#include "language/text/emit.h"
+#include "language/text/parsed_script.h"
+#include "language/text/read_file.h"
+#include "language/text/text_files.h"
 #include "platform/framework/cfile.h"
 #include "platform/framework/cstring.h"
-#include "platform/system/datadir.h"
+#include "platform/framework/datadir.h"
 
 #include <algorithm>
 #include <deque>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "devtools/script_text/watch.h"
+#include "language/text/watch.h"
 
 #include <filesystem>
 #include <map>

@@ -1,10 +1,10 @@
 #include "devtools/workbench.h"
 
+#include "platform/display/message_text.h"
+#include "platform/framework/datadir.h"
 #include "platform/framework/exceptions.h"
-#include "platform/host/image_file.h"
-#include "platform/host/message_text.h"
+#include "platform/media/image_file.h"
 #include "platform/system/clock.h"
-#include "platform/system/datadir.h"
 #include "player/files.h"
 #include "player/words.h"
 #include "tgx/base/swapped.h"

@@ -1,9 +1,9 @@
 #include "player/events.h"
 
 #include "platform/framework/exceptions.h"
-#include "platform/host/codepage.h"
-#include "platform/host/headless_host.h"
-#include "platform/host/image_file.h"
+#include "platform/host/headless/headless_host.h"
+#include "platform/media/encoding.h"
+#include "platform/media/image_file.h"
 #include "player/calls.h"
 #include "player/expect.h"
 #include "player/keys.h"

@@ -1,7 +1,7 @@
 #include "player/picture.h"
 
-#include "platform/host/image_file.h"
-#include "platform/system/datadir.h"
+#include "platform/framework/datadir.h"
+#include "platform/media/image_file.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/display/image.h"
+#include "platform/media/image.h"
 
 #include <optional>
 #include <string>

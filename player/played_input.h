@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/host/input_queue.h"
+#include "platform/display/input_queue.h"
 
 #include <deque>
 #include <functional>

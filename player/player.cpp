@@ -1,10 +1,10 @@
 #include "player/player.h"
 
+#include "platform/display/message_text.h"
+#include "platform/framework/datadir.h"
 #include "platform/framework/exceptions.h"
-#include "platform/host/headless_host.h"
-#include "platform/host/message_text.h"
+#include "platform/host/headless/headless_host.h"
 #include "platform/system/clock.h"
-#include "platform/system/datadir.h"
 #include "platform/system/module.h"
 #include "player/files.h"
 #include "player/reach.h"

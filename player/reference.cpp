@@ -1,6 +1,6 @@
 #include "player/reference.h"
 
-#include "platform/host/image_file.h"
+#include "platform/media/image_file.h"
 #include "player/files.h"
 #include "player/picture.h"
 #include "player/player.h"

@@ -1,6 +1,6 @@
 // The order of a run: files, lines, parts and what is told about them.
 
-#include "platform/host/message_text.h"
+#include "platform/display/message_text.h"
 #include "player/events.h"
 #include "player/player.h"
 #include "player/words.h"

@@ -1,6 +1,6 @@
 #include "player/words.h"
 
-#include "platform/host/codepage.h"
+#include "platform/media/encoding.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,7 +1,7 @@
 #include "harbour.h"
 
 #include "game.h"
-#include "platform/host/displayhost.h"
+#include "platform/display/host.h"
 
 #include <string>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/display/damage.h"
-#include "platform/display/image.h"
 #include "platform/display/rasteriser.h"
+#include "platform/media/image.h"
 
 /// The shown backdrop and the picture to come. What is marked dirty is copied from the one into the other by
 /// restore, so that a wipe spreads the new picture piece by piece. While the whole screen shows one picture

@@ -1,7 +1,7 @@
 #include "platform/display/canvas.h"
 
 #include "platform/display/ddwin.h"
-#include "platform/host/displayhost.h"
+#include "platform/display/host.h"
 
 Canvas::Canvas(ddwin& owner)
     : backBuffer(&owner), window(owner), screen(makeImage(0, 0)), backdropSurface(&owner)

@@ -2,12 +2,12 @@
 
 #include "platform/display/backdrop.h"
 #include "platform/display/backdrop_layer.h"
-#include "platform/display/bmpfont.h"
 #include "platform/display/damage.h"
 #include "platform/display/directdraw.h"
 #include "platform/display/display_list.h"
 #include "platform/display/rasteriser.h"
 #include "platform/display/surface_store.h"
+#include "platform/media/bmpfont.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include "platform/display/command_box.h"
 
-#include "platform/display/image.h"
-#include "platform/display/int_math.h"
+#include "platform/media/image.h"
+#include "platform/media/int_math.h"
 
 namespace {
 

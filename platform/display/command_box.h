@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/display/box.h"
 #include "platform/display/display_list.h"
+#include "platform/media/box.h"
 
 /// A blit with its sizes sorted out: an unstretched one has the source's size.
 struct BlitSource {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/display/box.h"
 #include "platform/display/display_list.h"
-#include "platform/display/text_layout.h"
+#include "platform/media/box.h"
+#include "platform/media/text_layout.h"
 
 #include <vector>
 

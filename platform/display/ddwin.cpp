@@ -1,7 +1,7 @@
 #include "platform/display/ddwin.h"
 
 #include "platform/display/canvas.h"
-#include "platform/host/displayhost.h"
+#include "platform/display/host.h"
 
 #include <utility>
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/display/backdrop.h"
-#include "platform/display/bmpfont.h"
 #include "platform/display/directdraw.h"
 #include "platform/display/display_list.h"
 #include "platform/display/keys.h"
@@ -10,6 +9,7 @@
 #include "platform/framework/cstring.h"
 #include "platform/framework/cwnd.h"
 #include "platform/framework/znfixed.h"
+#include "platform/media/bmpfont.h"
 
 #include <memory>
 #include <string>

@@ -1,8 +1,8 @@
 #include "platform/display/canvas.h"
 #include "platform/display/ddwin.h"
 #include "platform/display/msgbox.h"
-#include "platform/host/font_file.h"
 #include "platform/limits.h"
+#include "platform/media/font_file.h"
 
 #include <algorithm>
 #include <cstring>

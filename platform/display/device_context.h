@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/system/pen.h"
+#include "platform/display/pen.h"
 
 /// A pen, the one kind of object that a device context draws with.
 struct GdiObject {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/display/pen.h"
 #include "platform/export.h"
-#include "platform/system/pen.h"
 
 class ddwin;
 

@@ -1,6 +1,6 @@
 #include "platform/display/msgbox.h"
 
-#include "platform/host/displayhost.h"
+#include "platform/display/host.h"
 
 #include <cstdarg>
 #include <cstdio>

@@ -1,5 +1,5 @@
-#include "platform/display/int_math.h"
 #include "platform/display/painters.h"
+#include "platform/media/int_math.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "platform/display/blit_rows.h"
-#include "platform/display/int_math.h"
 #include "platform/display/painters.h"
+#include "platform/media/int_math.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/display/box.h"
 #include "platform/display/display_list.h"
-#include "platform/display/image.h"
-#include "platform/display/text_layout.h"
+#include "platform/media/box.h"
+#include "platform/media/image.h"
+#include "platform/media/text_layout.h"
 
 #include <span>
 #include <vector>

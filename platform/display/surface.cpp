@@ -3,7 +3,7 @@
 #include "platform/display/canvas.h"
 #include "platform/display/ddwin.h"
 #include "platform/display/msgbox.h"
-#include "platform/host/image_file.h"
+#include "platform/media/image_file.h"
 
 namespace {
 

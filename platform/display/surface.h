@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/display/image.h"
 #include "platform/display/surface_ref.h"
 #include "platform/export.h"
 #include "platform/framework/cstring.h"
+#include "platform/media/image.h"
 
 #include <cstdint>
 

@@ -1,8 +1,8 @@
 #include "platform/display/surface_store.h"
 
-#include "platform/host/image_file.h"
+#include "platform/framework/datadir.h"
 #include "platform/limits.h"
-#include "platform/system/datadir.h"
+#include "platform/media/image_file.h"
 
 #include <optional>
 #include <sys/stat.h>

@@ -1,7 +1,7 @@
 #include "platform/framework/cfile.h"
 
+#include "platform/framework/datadir.h"
 #include "platform/limits.h"
-#include "platform/system/datadir.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -8,7 +8,7 @@
 #include <string_view>
 
 /// A file open for reading. Opening reads the whole file, so that Seek costs nothing and a file that changes
-/// while it is read does no harm. Names are those of the data directory (platform/system/datadir.h):
+/// while it is read does no harm. Names are those of the data directory (platform/framework/datadir.h):
 /// backslashes, any case.
 class TGX_PLATFORM_API CFile {
 public:

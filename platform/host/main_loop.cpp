@@ -1,6 +1,6 @@
 #include "platform/display/ddwin.h"
+#include "platform/display/host.h"
 #include "platform/framework/exceptions.h"
-#include "platform/host/displayhost.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/system/datadir.h"
+#include "platform/framework/datadir.h"
 
 #include <cstddef>
 #include <cstdlib>

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "language/check/check.h"
+#include "language/check/codes.h"
+#include "language/check/output.h"
 #include "tests/fuzz/data_directory.h"
-#include "tools/tgx/check/check.h"
-#include "tools/tgx/check/codes.h"
-#include "tools/tgx/check/output.h"
 
 #include <nlohmann/json.hpp>
 

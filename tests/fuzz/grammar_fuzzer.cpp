@@ -2,7 +2,7 @@
 // plausible for it, among them 0, -1 and the extremes of 16 bits. So nearly every line does something, where
 // mutated bytes mostly break lines. Each script builds, is checked, and is played with a few events.
 
-#include "devtools/script_text/emit.h"
+#include "language/text/emit.h"
 #include "tests/fuzz/findings.h"
 #include "tests/fuzz/play_script.h"
 #include "tgx/script/vocabulary.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/host/headless_host.h"
+#include "platform/host/headless/headless_host.h"
 #include "platform/system/clock.h"
 #include "tests/unit/support/invariants.h"
 #include "tgx/frame/mainwin.h"

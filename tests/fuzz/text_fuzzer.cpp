@@ -4,9 +4,9 @@
 //
 // A form feed divides the text into files: the script itself, then "1", "2" and so on for INCLUDE.
 
-#include "devtools/script_text/emit.h"
-#include "devtools/script_text/parsed_script.h"
-#include "devtools/script_text/print.h"
+#include "language/text/emit.h"
+#include "language/text/parsed_script.h"
+#include "language/text/print.h"
 
 #include <cstdint>
 #include <cstdio>

@@ -1,7 +1,7 @@
 #include "tgx/frame/app.h"
 
+#include "platform/display/host.h"
 #include "platform/framework/extension.h"
-#include "platform/host/displayhost.h"
 #include "tgx/frame/mainwin.h"
 
 #include <optional>

@@ -1,4 +1,4 @@
-#include "platform/host/displayhost.h"
+#include "platform/display/host.h"
 #include "tgx/base/fixed.h"
 #include "tgx/controls/button.h"
 #include "tgx/controls/listbox/listbox.h"

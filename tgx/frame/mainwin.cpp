@@ -1,9 +1,9 @@
 #include "tgx/frame/mainwin.h"
 
+#include "platform/display/message.h"
 #include "platform/display/settings.h"
 #include "platform/online/connection.h"
 #include "platform/system/clock.h"
-#include "platform/system/message.h"
 #include "tgx/script/run.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // Statements that act on no window: fonts and subroutine calls.
 
+#include "platform/display/message.h"
 #include "platform/display/msgbox.h"
-#include "platform/system/message.h"
 #include "tgx/script/run.h"
 #include "tgx/script/statements.h"
 

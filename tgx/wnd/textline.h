@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/display/bmpfont.h"
+#include "platform/media/bmpfont.h"
 #include "tgx/wnd/wnd.h"
 
 #include <string_view>

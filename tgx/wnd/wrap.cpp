@@ -1,7 +1,7 @@
 #include "tgx/wnd/wrap.h"
 
-#include "platform/display/bmpfont.h"
 #include "platform/framework/znfixed.h"
+#include "platform/media/bmpfont.h"
 
 #include <algorithm>
 #include <climits>

@@ -1,4 +1,4 @@
-#include "devtools/script_text/print.h"
+#include "language/text/print.h"
 #include "tools/tgx/commands.h"
 #include "tools/tgx/files.h"
 

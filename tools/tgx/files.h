@@ -1,6 +1,6 @@
 #pragma once
 
-#include "devtools/script_text/read_file.h"
+#include "language/text/read_file.h"
 
 #include <optional>
 #include <string>

@@ -1,4 +1,4 @@
-#include "devtools/script_text/diagnostics.h"
+#include "language/text/diagnostics.h"
 #include "platform/system/whole_file.h"
 #include "tools/tgx/commands.h"
 

@@ -1,7 +1,7 @@
-#include "tools/tgx/check/codes.h"
+#include "language/check/codes.h"
+#include "language/reference/reference.h"
 #include "tools/tgx/commands.h"
 #include "tools/tgx/files.h"
-#include "tools/tgx/reference.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "devtools/script_text/diagnostics.h"
+#include "language/text/diagnostics.h"
 
 #include <cstddef>
 #include <cstdio>

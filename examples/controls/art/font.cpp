@@ -1,7 +1,7 @@
 #include "examples/controls/art/looks.h"
 
-#include "platform/display/bmpfont.h"
-#include "platform/display/code_page.h"
+#include "platform/media/bmpfont.h"
+#include "platform/media/code_page.h"
 
 #include <cstdio>
 #include <fstream>

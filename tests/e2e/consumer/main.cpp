@@ -1,7 +1,7 @@
 // consumer DIR: reads the main script, from DIR or from the executable, and looks at what it made.
 
-#include "platform/host/headless_host.h"
-#include "platform/system/datadir.h"
+#include "platform/framework/datadir.h"
+#include "platform/host/headless/headless_host.h"
 #include "tgx/frame/mainwin.h"
 
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "platform/host/displayhost.h"
+#include "platform/display/host.h"
 #include "tests/unit/support/tgx_test.h"
 #include "tgx/controls/scrollbar.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "devtools/recorder.h"
-#include "platform/host/headless_host.h"
+#include "platform/host/headless/headless_host.h"
 #include "platform/system/clock.h"
 #include "player/reports.h"
 #include "tests/unit/support/tgx_test.h"

@@ -2,8 +2,8 @@
 
 #include "devtools/workbench.h"
 #include "platform/display/ddwin.h"
-#include "platform/host/headless_host.h"
-#include "platform/host/image_file.h"
+#include "platform/host/headless/headless_host.h"
+#include "platform/media/image_file.h"
 #include "tests/unit/support/tgx_test.h"
 #include "tgx/controls/button.h"
 #include "tgx/controls/combobox.h"

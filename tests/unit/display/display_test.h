@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/display/ddwin.h"
-#include "platform/host/headless_host.h"
-#include "platform/system/datadir.h"
+#include "platform/framework/datadir.h"
+#include "platform/host/headless/headless_host.h"
 
 #include <filesystem>
 #include <fstream>

@@ -1,6 +1,6 @@
 #include "tests/unit/display/display_test.h"
 
-#include "platform/system/pen.h"
+#include "platform/display/pen.h"
 
 #include <cmath>
 #include <set>

@@ -1,6 +1,6 @@
 #include "tests/unit/display/display_test.h"
 
-#include "platform/host/image_file.h"
+#include "platform/media/image_file.h"
 
 #include <SDL.h>
 #ifdef __has_include

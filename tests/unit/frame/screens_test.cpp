@@ -1,4 +1,4 @@
-#include "platform/host/headless_host.h"
+#include "platform/host/headless/headless_host.h"
 #include "tests/unit/support/tgx_test.h"
 
 namespace {

@@ -1,8 +1,8 @@
 // Names from scripts reach files of the data directory, and nothing else.
 
 #include "platform/framework/cfile.h"
+#include "platform/framework/datadir.h"
 #include "platform/limits.h"
-#include "platform/system/datadir.h"
 #include "platform/system/whole_file.h"
 
 #include <gtest/gtest.h>

@@ -1,12 +1,12 @@
 // What a person did reaches the window's fields in order, one transition a tick, and the main loop runs them.
 
 #include "platform/display/ddwin.h"
+#include "platform/display/message.h"
 #include "platform/framework/exceptions.h"
-#include "platform/host/headless_host.h"
-#include "platform/host/pacer.h"
-#include "platform/host/screen_fit.h"
+#include "platform/host/headless/headless_host.h"
+#include "platform/host/sdl/pacer.h"
+#include "platform/host/sdl/screen_fit.h"
 #include "platform/system/clock.h"
-#include "platform/system/message.h"
 
 #include <gtest/gtest.h>
 

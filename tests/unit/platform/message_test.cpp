@@ -1,6 +1,6 @@
 // A message inside the game's own window.
 
-#include "platform/host/message_picture.h"
+#include "platform/display/message_picture.h"
 
 #include <gtest/gtest.h>
 

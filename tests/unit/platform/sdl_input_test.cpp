@@ -2,9 +2,9 @@
 // values.
 
 #include "platform/display/ddwin.h"
-#include "platform/host/headless_host.h"
-#include "platform/host/sdl_controller.h"
-#include "platform/host/sdl_input.h"
+#include "platform/host/headless/headless_host.h"
+#include "platform/host/sdl/sdl_controller.h"
+#include "platform/host/sdl/sdl_input.h"
 
 #include <gtest/gtest.h>
 

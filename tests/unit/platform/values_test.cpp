@@ -1,15 +1,15 @@
 // Fixed-point operators, strings, resources and the texts that go to the user.
 
+#include "platform/display/message.h"
+#include "platform/display/message_text.h"
 #include "platform/display/msgbox.h"
 #include "platform/framework/carray.h"
 #include "platform/framework/cstring.h"
 #include "platform/framework/extension.h"
 #include "platform/framework/znfixed.h"
-#include "platform/host/codepage.h"
-#include "platform/host/headless_host.h"
-#include "platform/host/message_text.h"
+#include "platform/host/headless/headless_host.h"
+#include "platform/media/encoding.h"
 #include "platform/system/clock.h"
-#include "platform/system/message.h"
 #include "platform/system/module.h"
 
 #include <gtest/gtest.h>

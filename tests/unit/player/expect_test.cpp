@@ -1,5 +1,5 @@
-#include "platform/host/image_file.h"
-#include "platform/system/datadir.h"
+#include "platform/framework/datadir.h"
+#include "platform/media/image_file.h"
 #include "tests/unit/support/tgx_test.h"
 #include "tgx/controls/combobox.h"
 

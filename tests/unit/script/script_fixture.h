@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/host/headless_host.h"
-#include "platform/system/datadir.h"
+#include "platform/framework/datadir.h"
+#include "platform/host/headless/headless_host.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/script/vocabulary.h"
 

@@ -1,7 +1,7 @@
 // The program itself, as a shell runs it: exit status, what it says, and that it writes all or nothing.
 
+#include "tests/unit/language/sources.h"
 #include "tests/unit/support/tgx_test.h"
-#include "tests/unit/tool/sources.h"
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>

@@ -1,5 +1,5 @@
-#include "platform/display/bmpfont.h"
 #include "platform/display/surface.h"
+#include "platform/media/bmpfont.h"
 #include "tgx/base/swapped.h"
 #include "tgx/controls/listbox/cell.h"
 #include "tgx/controls/listbox/listbox.h"

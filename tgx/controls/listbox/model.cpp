@@ -1,5 +1,5 @@
-#include "platform/display/bmpfont.h"
 #include "platform/display/msgbox.h"
+#include "platform/media/bmpfont.h"
 #include "tgx/base/fixed.h"
 #include "tgx/base/numtext.h"
 #include "tgx/controls/listbox/cell.h"

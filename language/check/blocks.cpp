@@ -1,0 +1,358 @@
+// Rules for blocks: what belongs to which window.
+
+#include "language/check/pointers.h"
+#include "language/check/rules.h"
+#include "tgx/script/token.h"
+
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace script_check {
+
+namespace {
+
+bool isTabList(std::string_view keyword)
+{
+    return keyword == "TABORDER" || keyword == "TABLIST1" || keyword == "TABLIST2";
+}
+
+/// An attribute of any window, which does not tell by itself which one is meant.
+bool fitsAnyWindow(const Statement& statement)
+{
+    return statement.kind == StatementKind::Attribute && statement.target.types == TargetRule{}.types &&
+           !isTabList(statement.keyword);
+}
+
+std::string lineNumber(const Script& script, int line)
+{
+    return "line " + std::to_string(script.numberOf(line));
+}
+
+int columnOf(const Script& script, int line)
+{
+    return script.line(line).tokens[0].at.column;
+}
+
+/// What stands behind a body of one line and looks as if it were part of it. Windows may begin there.
+bool isBehindBody(const Script& script, int line)
+{
+    const Statement* statement = script.statement(line);
+    if (!statement || line < 2 || script.place(line).depth > 0 ||
+        script.place(line).subroutine != LinePlace::none || script.place(line - 1).subroutine != line - 2)
+        return false;
+    switch (statement->kind) {
+    case StatementKind::BlockBegin:
+    case StatementKind::Command:
+    case StatementKind::Reference:
+        return true;
+    case StatementKind::Attribute:
+        return !script.isKeyword(line, "FONT"); // is told as one that stands outside
+    case StatementKind::Window:
+        return makesControl(*statement);
+    default:
+        return false;
+    }
+}
+
+class BlockRules {
+public:
+    BlockRules(const Script& checked, Findings& found) : script(checked), findings(found) {}
+
+    bool run()
+    {
+        for (int line = 0; line < script.lineCount(); ++line)
+            if (const Statement* statement = script.statement(line)) {
+                if (isBehindBody(script, line))
+                    reportBehindBody(line);
+                check(line, *statement);
+            }
+        if (!open.empty())
+            reportUnclosed();
+        return open.empty();
+    }
+
+private:
+    void reportBehindBody(int line)
+    {
+        findings.add("behind-body", script, line,
+                     "the subroutine " + inQuotes(script.string(line - 2, 1)) + " ends with " +
+                         lineNumber(script, line - 1) +
+                         ", and this is no part of it; a body of several lines stands between BEGIN and END");
+    }
+
+    void check(int line, const Statement& statement)
+    {
+        const LinePlace& place = script.place(line);
+        switch (statement.kind) {
+        case StatementKind::BlockBegin:
+            open.push_back(line);
+            standing.push_back(line);
+            if (place.subroutine == LinePlace::none || place.depth > 0)
+                checkOpener(line);
+            return;
+        case StatementKind::BlockEnd:
+            close(line);
+            return;
+        case StatementKind::Definition:
+            if (place.depth > 0)
+                findings.add("nested-subroutine", script, line,
+                             "SUBROUTINE inside a block; it stands at the top level, best in a script of "
+                             "its own");
+            return;
+        case StatementKind::Screen:
+            if (place.depth > 0 && place.subroutine == LinePlace::none)
+                findings.add("nested-screen", script, line,
+                             "a SCREEN inside the block that begins in " + lineNumber(script, place.block) +
+                                 "; it goes to the top level all the same. Is an END missing?");
+            break;
+        case StatementKind::Attribute:
+            checkTarget(line, statement);
+            break;
+        default:
+            break;
+        }
+        checkDepth(line, statement);
+    }
+
+    void checkDepth(int line, const Statement& statement)
+    {
+        const bool isTooDeep = script.place(line).depth > deepestLevel(statement.kind);
+        if (isTooDeep && !wasTooDeep)
+            findings.add("too-deep", script, line,
+                         std::string(statement.keyword) + " stands inside " +
+                             std::to_string(script.place(line).depth) + " blocks; it may stand inside " +
+                             std::to_string(deepestLevel(statement.kind)));
+        wasTooDeep = isTooDeep;
+    }
+
+    void close(int line)
+    {
+        if (open.empty()) {
+            findings.add("end-without-begin", script, line, "no block is open here; expected BEGIN first");
+            return;
+        }
+        open.pop_back();
+        // A block that stands further to the right than its END has lost its own.
+        if (script.isCompiled)
+            return;
+        for (; !standing.empty(); standing.pop_back()) {
+            const int each = standing.back();
+            if (script.line(each).in != script.line(line).in ||
+                columnOf(script, each) <= columnOf(script, line))
+                break;
+            lost.emplace_back(each, line);
+        }
+        if (!standing.empty())
+            standing.pop_back();
+    }
+
+    /// Where the indentation tells which blocks lost their END, those; else the ones that are open in the
+    /// end.
+    void reportUnclosed()
+    {
+        if (lost.size() + standing.size() != open.size() || script.isCompiled) {
+            lost.clear();
+            standing = open;
+        }
+        for (const auto& [begin, end] : lost)
+            findings.add("begin-without-end", script, begin,
+                         "no END of its own closes this block: the one in " + lineNumber(script, end) +
+                             " does, and stands further to the left");
+        for (const int begin : standing)
+            findings.add("begin-without-end", script, begin, "no END closes this block");
+    }
+
+    void checkOpener(int begin)
+    {
+        int opener = LinePlace::none;
+        if (begin + 1 < script.lineCount())
+            opener = script.place(begin + 1).opener;
+        if (begin + 1 < script.lineCount() && opener == LinePlace::none &&
+            script.place(begin + 1).block == begin && !isBehindBody(script, begin))
+            findings.add("block-without-window", script, begin,
+                         "no window stands in front of this block, so its lines act on the root of all "
+                         "windows");
+    }
+
+    void checkTarget(int line, const Statement& statement)
+    {
+        const LinePlace& place = script.place(line);
+        const Statement* before = line > 0 ? script.statement(line - 1) : nullptr;
+        const bool followsWindow = before && namesItsWindow(*before);
+        const std::string keyword = statement.keyword;
+        if (isBehindBody(script, line))
+            return;
+        if (place.depth == 0 && place.subroutine == LinePlace::none) {
+            // What asks for a type of window fails there, which is told when it does.
+            if (keyword != "FONT" && (fitsAnyWindow(statement) || isTabList(keyword)))
+                findings.add("outside-block", script, line,
+                             keyword + " outside of all blocks acts on the root of all windows" +
+                                 (followsWindow ? "; for " + inQuotes(script.string(line - 1, 1)) +
+                                                      " it stands between BEGIN and END"
+                                                : ""));
+        } else if (followsWindow && fitsAnyWindow(statement) && script.place(line - 1).block == place.block &&
+                   !(keyword == "FONT" && makesWindowBehind(line)) && !isForPopup(keyword, place)) {
+            const std::string around = place.opener >= 0 && script.tokenCount(place.opener) > 1 &&
+                                               !makesPart(*script.statement(place.opener))
+                                           ? inQuotes(script.string(place.opener, 1))
+                                           : "the window around";
+            findings.add("attribute-on-parent", script, line,
+                         keyword + " acts on " + around + " here; for " +
+                             inQuotes(script.string(line - 1, 1)) + " it stands between BEGIN and END");
+        }
+    }
+
+    /// EASYCLOSE does something for a popup only, which is a window of the top level.
+    bool isForPopup(std::string_view keyword, const LinePlace& place) const
+    {
+        return keyword == "EASYCLOSE" && (place.depth == 1 || place.opener == LinePlace::caller);
+    }
+
+    /// Whether a window that takes the font comes in the same block, or may come by a subroutine.
+    bool makesWindowBehind(int line) const
+    {
+        const LinePlace& place = script.place(line);
+        for (int each = line + 1; each < script.lineCount() && script.place(each).depth >= place.depth;
+             ++each)
+            if (const Statement* statement = script.statement(each);
+                statement && script.place(each).block == place.block &&
+                (makesWindow(*statement) || statement->kind == StatementKind::Reference ||
+                 script.isKeyword(each, "GOTO")))
+                return true;
+        return false;
+    }
+
+    const Script& script;
+    Findings& findings;
+    std::vector<int> open;     // BEGIN lines
+    std::vector<int> standing; // those that no END has closed, by the indentation
+    /// BEGIN lines that lost their END, each with the END further left that closes it.
+    std::vector<std::pair<int, int>> lost;
+    bool wasTooDeep = false;
+};
+
+/// A line that sets what another line of its kind would set again. Those that append have no fixed count.
+bool setsOnce(const Statement& statement)
+{
+    return statement.kind == StatementKind::Attribute && !statement.counts.allow(maxLineTokens);
+}
+
+/// Whether a line sets whatever the earlier one of its kind has set. One with fewer arguments may leave some
+/// of it, and negative numbers stand for what there is.
+bool setsAllOf(const Script& script, int line, int earlier)
+{
+    for (int token = 1; token < script.tokenCount(line); ++token)
+        if (script.number(line, token) < 0)
+            return false;
+    return script.tokenCount(line) >= script.tokenCount(earlier);
+}
+
+} // namespace
+
+bool checkBlocks(const Script& script, Findings& findings)
+{
+    return BlockRules(script, findings).run();
+}
+
+void checkOverridden(const Script& script, Findings& findings)
+{
+    const auto report = [&](int line, int by, const char* what) {
+        findings.add("no-effect", script, line,
+                     std::string(script.statement(line)->keyword) + what + lineNumber(script, by));
+    };
+    struct Level {
+        std::unordered_map<int, int> setters; // by keyword, the last line
+        int resetInfo = -1;                   // a BMPINFO whose size a BMPFILE took back, and that one
+        int resetBy = -1;
+    };
+    std::vector<Level> levels(1);
+    const auto leave = [&] {
+        if (levels.back().resetInfo >= 0)
+            report(levels.back().resetInfo, levels.back().resetBy,
+                   " sets a frame size that is taken back by the BMPFILE in ");
+        levels.pop_back();
+    };
+    const int font = statementByKeyword("FONT")->id;
+    const int bmpInfo = statementByKeyword("BMPINFO")->id;
+    for (int line = 0; line < script.lineCount(); ++line) {
+        const Statement* statement = script.statement(line);
+        if (!statement)
+            continue;
+        if (statement->kind == StatementKind::BlockBegin) {
+            levels.emplace_back();
+            continue;
+        }
+        if (statement->kind == StatementKind::BlockEnd) {
+            if (levels.size() > 1)
+                leave();
+            continue;
+        }
+        Level& level = levels.back();
+        // Windows take the font that holds when they are made.
+        if (makesWindow(*statement) || statement->kind == StatementKind::Command ||
+            statement->kind == StatementKind::Reference)
+            level.setters.erase(font);
+        // At the top level each FONT is for the windows behind it, and the rest acts on nothing.
+        if (!setsOnce(*statement) || levels.size() == 1)
+            continue;
+        const auto [before, isFirst] = level.setters.try_emplace(statement->id, line);
+        if (!isFirst) {
+            if (setsAllOf(script, line, before->second))
+                report(before->second, line, " is undone by the same statement in ");
+            before->second = line;
+        }
+        if (statement->id == bmpInfo)
+            level.resetInfo = -1;
+        else if (script.isKeyword(line, "BMPFILE") && level.setters.contains(bmpInfo) &&
+                 level.resetInfo < 0) {
+            level.resetInfo = level.setters[bmpInfo];
+            level.resetBy = line;
+        }
+    }
+    while (!levels.empty())
+        leave();
+}
+
+void checkWithoutBlock(const Script& script, const PointerTargets& shown, Findings& findings)
+{
+    const bool isLibrary = !script.subroutines.empty() || folded(script.name) == commonScriptFile;
+    for (const int line : script.topWindows) {
+        const std::string& name = script.string(line, 1);
+        if (isMain(script) || !(isLibrary || shown.contains(script, name)) || isBehindBody(script, line))
+            continue;
+        const Statement* next = line + 1 < script.lineCount() ? script.statement(line + 1) : nullptr;
+        if (!next || name.empty() || name == "static" || next->kind == StatementKind::BlockBegin ||
+            next->kind == StatementKind::BlockEnd || next->kind == StatementKind::Attribute)
+            continue; // an attribute outside of blocks is told
+        findings.add("without-block", script, line, 1,
+                     "a read of " + inQuotes(name) + " carries out " + lineNumber(script, line + 1) +
+                         " too, which is none of it; write BEGIN and END behind this line");
+    }
+}
+
+void checkTopNames(const Script& script, Findings& findings)
+{
+    std::unordered_map<std::string_view, int> first; // line whose first argument is that string
+    for (int line = 0; line < script.lineCount(); ++line)
+        if (script.tokenCount(line) > 1 && !script.string(line, 1).empty())
+            first.try_emplace(script.string(line, 1), line);
+    std::unordered_map<std::string_view, int> defined;
+    for (const int line : script.topWindows) {
+        const std::string& name = script.string(line, 1);
+        if (name.empty() || name == "static")
+            continue;
+        const auto [other, isFirst] = defined.try_emplace(name, line);
+        if (!isFirst) {
+            findings.add("duplicate-id", script, line, 1,
+                         inQuotes(name) + " is defined already, in " + lineNumber(script, other->second) +
+                             "; a read of it takes that one");
+        } else if (const int taker = first[name]; taker != line) {
+            findings.add("name-taken", script, taker, 1,
+                         "a read of the window " + inQuotes(name) + ", which is defined in " +
+                             lineNumber(script, line) + ", begins here; give this another name");
+        }
+    }
+}
+
+} // namespace script_check

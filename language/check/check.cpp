@@ -1,0 +1,150 @@
+#include "language/check/check.h"
+
+#include "language/check/allowances.h"
+#include "language/check/rules.h"
+#include "language/check/tree.h"
+#include "language/text/print.h"
+#include "platform/framework/datadir.h"
+#include "tgx/script/token.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace script_check {
+
+namespace {
+
+constexpr const char* nowhere = "/dev/null"; // a data directory in which nothing is found
+constexpr int usualWidth = 640;              // pixels, where no screen says another
+constexpr int usualHeight = 480;
+
+void parseAll(std::vector<ScriptFile>& files, const script_text::ReadFile& read, CheckReport& report)
+{
+    for (ScriptFile& file : files) {
+        std::string name =
+            file.name.empty() ? fs::path(file.path).filename().replace_extension(".tgx").string() : file.name;
+        std::string text = file.isCompiled ? script_text::print(file.contents) : std::move(file.contents);
+        report.scripts.emplace_back(std::move(name), file.isCompiled, file.isReported,
+                                    script_text::parse(file.path, std::move(text), read),
+                                    file.isCompiled ? std::move(file.contents) : std::string());
+    }
+}
+
+/// Those that add fonts come first, the main script in front of all others. Where there are several mains,
+/// what has no fonts of its own takes those of the one that has the most.
+void putInReadingOrder(std::vector<Script*>& scripts)
+{
+    const auto rank = [](const Script* script) {
+        const int fonts = script->fontCount();
+        return std::pair(fonts == 0 ? 2 : isMain(*script) ? 0 : 1, fonts);
+    };
+    std::stable_sort(scripts.begin(), scripts.end(),
+                     [&](const Script* a, const Script* b) { return rank(a) < rank(b); });
+}
+
+/// The box of the first screen, where the call has not said the size.
+void findScreenSize(CheckOptions& options, const std::vector<Script*>& scripts)
+{
+    for (const Script* script : scripts)
+        for (const int line : script->topWindows)
+            if (script->isKeyword(line, "SCREEN") && options.screenWidth <= 0) {
+                options.screenWidth = std::max(script->number(line, 2) + script->number(line, 4), 0);
+                options.screenHeight = std::max(script->number(line, 3) + script->number(line, 5), 0);
+            }
+}
+
+void checkTrees(const std::vector<Script*>& scripts, const ScriptSet& set, CheckOptions options,
+                Findings& findings)
+{
+    const bool isSizeGiven = options.screenWidth > 0;
+    findScreenSize(options, scripts);
+    const bool hasData = !options.dataDirectory.empty();
+    Reading reading(scripts, set,
+                    {options.screenWidth > 0 ? options.screenWidth : usualWidth,
+                     options.screenHeight > 0 ? options.screenHeight : usualHeight, options.fonts, hasData,
+                     options.scriptLines, options.scriptWork},
+                    findings);
+    Pictures pictures(reading);
+    const PointerTargets shown(scripts, set);
+    TreeCheck tree{reading,    pictures, findings, shown, hasData, options.screenWidth, options.screenHeight,
+                   isSizeGiven};
+    for (Script* script : scripts) {
+        if (script->isBroken || script->isUnbalanced || (!script->isReported && script->fontCount() == 0))
+            continue;
+        if (hasData)
+            checkPictures(*script, pictures, findings);
+        checkWithoutBlock(*script, shown, findings);
+        reading.read(*script);
+        AWnd& root = *reading.window().getScreenList();
+        checkControls(tree, root);
+        checkLayout(tree, root);
+        checkTexts(tree, root);
+        checkStrips(tree, root);
+        checkLists(tree, root);
+        checkTraps(tree, root);
+    }
+    if (hasData && options.unusedFiles)
+        checkUnusedFiles(options.dataDirectory, scripts, findings);
+}
+
+void sort(std::vector<script_text::Diagnostic>& findings, const std::deque<Script>& scripts)
+{
+    std::map<std::string, std::size_t> order; // files as they come
+    for (const Script& script : scripts)
+        for (const script_text::SourceFile& file : script.text.files)
+            order.try_emplace(file.name, order.size());
+    std::stable_sort(findings.begin(), findings.end(),
+                     [&](const script_text::Diagnostic& a, const script_text::Diagnostic& b) {
+                         const auto key = [&](const script_text::Diagnostic& each) {
+                             return std::tuple(order[each.place.in->file->name], each.place.line,
+                                               each.place.at.column);
+                         };
+                         return key(a) < key(b);
+                     });
+}
+
+} // namespace
+
+CheckReport check(std::vector<ScriptFile> files, const script_text::ReadFile& read, const CheckOptions& given)
+{
+    CheckReport report;
+    CheckOptions options = given;
+    const OtherDataDirectory other(options.dataDirectory.empty() ? nowhere : options.dataDirectory);
+    parseAll(files, read, report);
+
+    ScriptSet set;
+    Findings findings;
+    for (Script& script : report.scripts) {
+        set.add(script);
+        outline(script);
+        if (!script.isReported)
+            continue;
+        for (script_text::Diagnostic& each : script.text.diagnostics)
+            findings.add(each);
+        checkLines(script, findings);
+        report.broken += script.isBroken;
+        if (script.isBroken)
+            continue;
+        checkArguments(script, findings);
+        checkUnread(script, findings);
+        script.isUnbalanced = !checkBlocks(script, findings);
+        checkOverridden(script, findings);
+        checkTopNames(script, findings);
+    }
+    std::vector<Script*> order;
+    for (Script& script : report.scripts)
+        order.push_back(&script);
+    findFonts(order, set);
+    putInReadingOrder(order);
+    checkCalls(order, set, findings);
+    checkScreenNames(order, findings);
+    checkTrees(order, set, options, findings);
+    applyAllowances(report.scripts, options, findings);
+    report.findings = std::move(findings.all);
+    sort(report.findings, report.scripts);
+    return report;
+}
+
+} // namespace script_check

@@ -1,0 +1,172 @@
+// Rules for lines by themselves.
+
+#include "language/check/rules.h"
+#include "language/text/statement_form.h"
+#include "tgx/script/reader.h"
+#include "tgx/wnd/reserved.h"
+
+#include <algorithm>
+#include <set>
+
+namespace script_check {
+
+namespace {
+
+constexpr std::string_view controls[] = {"BUTTON",  "CHECKBOX", "RADIOBUTTON", "COMBOBOX",   "EDITBOX",
+                                         "LISTBOX", "KEYBOARD", "TABCONTROL",  "HSCROLLBAR", "VSCROLLBAR"};
+constexpr std::string_view clickable[] = {"BUTTON", "CHECKBOX", "RADIOBUTTON", "USERDEF"};
+// By these the toolkit looks for parts of a control, ignoring case.
+constexpr std::string_view parts[] = {"checkboxstate", "radiostate", "combomenu", "combonext", "comboprev"};
+
+template<std::size_t N>
+bool isOneOf(const std::string_view (&words)[N], std::string_view word)
+{
+    return std::find(std::begin(words), std::end(words), word) != std::end(words);
+}
+
+/// COLUMNS reads a word that has no width in front of it as the width 0.
+void checkWidths(const Script& script, int line, Findings& findings)
+{
+    const std::vector<script_text::Token>& tokens = script.line(line).tokens;
+    for (std::size_t i = 1; i < tokens.size(); ++i)
+        if (tokens[i].id != numberToken && (i == 1 || tokens[i - 1].id != numberToken))
+            findings.add("argument-kind", script, line, static_cast<int>(i),
+                         "this word has no width in front of it, and counts as a column of width 0");
+}
+
+void checkSizes(const Script& script, int line, std::string_view keyword, Findings& findings)
+{
+    const auto number = [&](int token) { return script.number(line, token); };
+    const auto add = [&](int token, const char* text) {
+        findings.add("zero-size", script, line, token, text);
+    };
+    const bool isBitmapStrip = keyword == "BITMAP" && script.tokenCount(line) > 10;
+    if (isOneOf(controls, keyword) && (number(4) <= 0 || number(5) <= 0)) {
+        add(number(4) <= 0 ? 4 : 5, "a control of this size cannot be hit");
+    } else if (keyword == "BORDER") {
+        if (number(3) <= 0)
+            add(3, "a border with pieces of this size is not drawn");
+        else if (number(2) <= 0)
+            add(2, "with this width the picture lies under the border's pieces");
+    } else if (isBitmapStrip || keyword == "BMPINFO") {
+        const int first = isBitmapStrip ? 7 : 1;
+        if (number(first + 3) <= 0)
+            add(first + 3, "a picture of so many frames is not shown; a still one has 1");
+        else if (number(first + 3) > 1 && (number(first) <= 0 || number(first + 1) <= 0))
+            add(number(first) <= 0 ? first : first + 1, "a strip of several frames needs the size of one");
+    } else if (keyword == "LISTLOOK" && number(1) == 0) {
+        add(1, "rows of height 0 count as 1; a negative height keeps the one that there is");
+    }
+    if (keyword.ends_with("SCROLLBAR") && !script.string(line, 6).empty() &&
+        (number(7) <= 0 || number(8) <= 0))
+        add(number(7) <= 0 ? 7 : 8, "a scroll bar's six frames need a size");
+}
+
+/// As parseFontStyle reads it, which passes over what it does not know.
+void checkStyle(const Script& script, int line, Findings& findings)
+{
+    static const std::vector<std::string_view> known{"bold", "italic", "shadow"};
+    const std::string style = folded(script.string(line, 2));
+    for (std::size_t start = 0; (start = style.find_first_not_of(" ,", start)) != style.npos;) {
+        const std::string word = style.substr(start, style.find_first_of(" ,", start) - start);
+        start += word.size();
+        if (std::find(known.begin(), known.end(), word) != known.end())
+            continue;
+        const bool isColour = word[0] == '#';
+        if (isColour && word.size() == 7 && word.find_first_not_of("0123456789abcdef", 1) == word.npos)
+            continue;
+        findings.add("font-style", script, line, 2,
+                     isColour ? inQuotes(word) + " is no colour; expected # and six hexadecimal digits"
+                              : inQuotes(word) +
+                                    " is no word of a style; expected bold, italic, shadow or a "
+                                    "colour such as #2b3038" +
+                                    findings.didYouMean(word, known));
+    }
+}
+
+void checkReserved(const Script& script, int line, const Statement& statement, Findings& findings)
+{
+    if (!namesItsWindow(statement))
+        return;
+    const std::string& id = script.string(line, 1);
+    const bool leaves = leavesScreen(id);
+    if ((leaves || closesPopup(id)) && !isOneOf(clickable, statement.keyword))
+        findings.add("reserved-id", script, line, 1,
+                     "a click on " + inQuotes(id) + (leaves ? " leaves the screen" : " closes the box") +
+                         ", and this is no button; for decoration write \"static\"");
+    else if (isOneOf(parts, folded(id)) && statement.keyword != std::string_view("USERDEF"))
+        findings.add("reserved-id", script, line, 1,
+                     "controls look for their parts by " + inQuotes(id) + "; give this window another id");
+}
+
+/// The text has it in one line, be it that of the dump.
+void reportUnfinished(const Script& script, Findings& findings)
+{
+    for (const script_text::Inclusion& in : script.text.inclusions)
+        for (int number = 1; number <= in.file->lineCount(); ++number) {
+            const std::string_view line = in.file->line(number);
+            const std::size_t start = std::min(line.find_first_not_of(" \t"), line.size());
+            if (line.substr(start).starts_with(script_text::unfinishedMark))
+                findings.add({script_text::Diagnostic::Error,
+                              {&in, number, {}},
+                              "the script ends inside a line, which the toolkit drops",
+                              "unfinished"});
+        }
+}
+
+} // namespace
+
+void checkLines(const Script& script, Findings& findings)
+{
+    for (int line = 0; line < script.lineCount(); ++line) {
+        const auto& tokens = script.line(line).tokens;
+        if (script.isCompiled || script.line(line).isAsItStands) // else the text has told them
+            for (script_text::LineFault& each : script_text::lineFaults(tokens))
+                findings.add(each.code, script, line, static_cast<int>(each.token), std::move(each.text));
+        if (script.isKeyword(line, "COLUMNS") && !script.line(line).isAsItStands)
+            checkWidths(script, line, findings);
+    }
+    if (script.isReported && !script.text.unfinished.empty())
+        reportUnfinished(script, findings);
+}
+
+void checkScreenNames(const std::vector<Script*>& scripts, Findings& findings)
+{
+    std::set<std::string> classes; // compared exactly, as a factory does
+    for (const Script* script : scripts)
+        for (int line = 0; line < script->lineCount(); ++line)
+            if (script->isKeyword(line, "USERDEF"))
+                classes.insert(script->string(line, script->tokenCount(line) > 6 ? 6 : 1));
+    for (const Script* script : scripts)
+        for (int line = 0; line < script->lineCount(); ++line)
+            if (const std::string& id = script->string(line, 1);
+                script->isKeyword(line, "SCREEN") && !id.empty() && classes.contains(id))
+                findings.add("class-name", *script, line, 1,
+                             "the game makes windows of the class " + inQuotes(id) +
+                                 ", and is asked for that class when this screen is opened");
+}
+
+bool makesControl(const Statement& statement)
+{
+    return isOneOf(controls, statement.keyword);
+}
+
+void checkArguments(const Script& script, Findings& findings)
+{
+    for (int line = 0; line < script.lineCount(); ++line) {
+        const Statement* statement = script.statement(line);
+        if (!statement)
+            continue;
+        checkSizes(script, line, statement->keyword, findings);
+        if (script.isKeyword(line, "ADDFONT"))
+            checkStyle(script, line, findings);
+        checkReserved(script, line, *statement, findings);
+        // ITEM alone is an empty row.
+        if (statement->kind == StatementKind::Attribute && script.tokenCount(line) == 1 &&
+            statement->counts.allow(1) && !script.isKeyword(line, "ITEM"))
+            findings.add("no-effect", script, line,
+                         std::string(statement->keyword) + " without arguments does nothing");
+    }
+}
+
+} // namespace script_check

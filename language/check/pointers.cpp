@@ -1,0 +1,29 @@
+#include "language/check/pointers.h"
+
+#include "language/check/rules.h"
+
+namespace script_check {
+
+PointerTargets::PointerTargets(const std::vector<Script*>& scripts, const ScriptSet& set)
+{
+    for (const Script* script : scripts)
+        for (int line = 0; line < script->lineCount(); ++line) {
+            if (!script->isKeyword(line, "POINTER"))
+                continue;
+            const std::string window = folded(script->string(line, 1));
+            const std::string& name = script->string(line, 2);
+            if (name.empty() || isResourceNumber(name))
+                anywhere.insert(window);
+            else if (const Script* shown = set.find(name))
+                named[shown].insert(window);
+        }
+}
+
+bool PointerTargets::contains(const Script& script, std::string_view window) const
+{
+    const std::string wanted = folded(window);
+    const auto found = named.find(&script);
+    return anywhere.contains(wanted) || (found != named.end() && found->second.contains(wanted));
+}
+
+} // namespace script_check

@@ -1,0 +1,134 @@
+// A radio group is a run of radio buttons without another window between: which of two runs are one that was
+// broken.
+
+#include "language/check/tree.h"
+#include "language/check/words.h"
+
+namespace script_check {
+
+namespace {
+
+/// A run of radio buttons, by their places among the children.
+struct Group {
+    int first, last;
+
+    int count() const { return last - first + 1; }
+};
+
+/// What stands in front of the last underscore, or of digits at the end.
+std::string_view stem(std::string_view id)
+{
+    const std::size_t underscore = id.rfind('_');
+    if (underscore != std::string_view::npos && underscore > 0)
+        return id.substr(0, underscore);
+    return id.substr(0, id.find_last_not_of("0123456789") + 1);
+}
+
+Box turned(const Box& box)
+{
+    return {box.y, box.x, box.h, box.w};
+}
+
+class GroupRules {
+public:
+    GroupRules(TreeCheck& treeCheck, AWnd& parentWnd) : check(treeCheck), parent(parentWnd) {}
+
+    void run()
+    {
+        std::vector<Group> groups;
+        for (int i = 0; i < parent.getWindowCount(); ++i) {
+            const AWnd* child = parent.getWndFromIndex(i, "");
+            if (!child || child->getWindowType() != AWnd::WND_RADIOBUTTON)
+                continue;
+            if (!groups.empty() && groups.back().last == i - 1)
+                groups.back().last = i;
+            else
+                groups.push_back({i, i});
+        }
+        bool isRest = false; // the run before is the rest of another one
+        for (std::size_t i = 1; i < groups.size(); ++i) {
+            const Group& a = groups[i - 1];
+            const Group& b = groups[i];
+            // One button alone is no choice.
+            const bool isAlone = (a.count() == 1 && !isRest) || b.count() == 1;
+            isRest = (isAlone || goesOn(a, b)) && !mayHoldMembers(a, b);
+            if (isRest)
+                report(a, b);
+        }
+    }
+
+private:
+    AWnd& child(int place) const { return *parent.getWndFromIndex(place, ""); }
+
+    void report(const Group& a, const Group& b)
+    {
+        const AWnd& between = child(a.last + 1);
+        const WndLines* lines = check.reading.linesOf(&between);
+        const std::string line =
+            lines && lines->made ? std::to_string(lines->made.script->numberOf(lines->made.line)) : "?";
+        check.add("radio-group", child(b.first),
+                  describe(child(b.first)) + " begins a group of its own: " + describe(child(a.last + 1)) +
+                      " of line " + line + " parts it from " + describe(child(a.last)));
+    }
+
+    /// What a window of the game's class is nobody knows.
+    bool mayHoldMembers(const Group& a, const Group& b) const
+    {
+        for (int place = a.last + 1; place < b.first; ++place)
+            if (check.reading.isOfGame(parent.getWndFromIndex(place, "")))
+                return true;
+        return false;
+    }
+
+    /// Two groups side by side, or under headings of their own, are no fault. The second half of one goes on
+    /// in the same column or row, at about the same distance or with the same stem in its ids.
+    bool goesOn(const Group& a, const Group& b) const
+    {
+        return goesOnAlong(a, b, [](const Box& box) { return box; }) ||
+               goesOnAlong(a, b, [](const Box& box) { return turned(box); });
+    }
+
+    /// Downwards, or to the right with all boxes turned.
+    template<class Turn>
+    bool goesOnAlong(const Group& a, const Group& b, Turn turn) const
+    {
+        const auto box = [&](int place) { return turn(boxOf(child(place))); };
+        const Box end = box(a.last);
+        const Box start = box(b.first);
+        if (start.x != end.x || start.y <= end.y)
+            return false;
+        for (int place = a.last + 1; place < b.first; ++place)
+            if (parts(place, end, box(place), start))
+                return false;
+        const auto isStep = [&](const Group& group) {
+            if (group.count() < 2)
+                return false;
+            const Box one = box(group.first);
+            const Box two = box(group.first + 1);
+            return one.x == two.x && two.y > one.y && (start.y - end.y) * 2 <= (two.y - one.y) * 3;
+        };
+        const std::string_view common = stem(child(a.last).getID().view());
+        return (common.size() > 1 && common == stem(child(b.first).getID().view())) || isStep(a) || isStep(b);
+    }
+
+    /// Whether the window between is there to part them: a heading of the second group, which reaches
+    /// further than the first one, or a frame around it.
+    bool parts(int place, const Box& end, const Box& between, const Box& start) const
+    {
+        const bool isText = !child(place).getText().IsEmpty();
+        const int middle = between.y + between.h / 2;
+        return (isText && middle > end.bottom()) || (between.holds(start) && !between.holds(end));
+    }
+
+    TreeCheck& check;
+    AWnd& parent;
+};
+
+} // namespace
+
+void checkRadioGroups(TreeCheck& check, AWnd& parent)
+{
+    GroupRules(check, parent).run();
+}
+
+} // namespace script_check

@@ -1,0 +1,459 @@
+// The toolkit reads the scripts, and its failures are explained.
+
+#include "language/check/run.h"
+
+#include "language/check/pictures.h"
+#include "language/check/rules.h"
+#include "language/check/words.h"
+#include "platform/framework/datadir.h"
+#include "platform/host/headless/headless_host.h"
+#include "platform/limits.h"
+#include "platform/system/clock.h"
+#include "tgx/base/swapped.h"
+#include "tgx/controls/listbox/listbox.h"
+
+#include <algorithm>
+
+namespace script_check {
+
+namespace {
+
+constexpr int pixelBits = 32;
+/// Windows of a library that are read one by one, and the least work that each may take.
+constexpr std::size_t mostReads = 2000;
+constexpr long long leastWork = 4'000'000;
+constexpr std::size_t mostMessages = 100; // that are kept between two lines
+
+std::string memoryName(const Script& script)
+{
+    return "UIG\\" + script.name;
+}
+
+/// Ids below a window, for a suggestion.
+void collectIds(AWnd& below, std::vector<std::string_view>& ids, std::size_t most)
+{
+    for (int i = 0; i < below.getWindowCount() && ids.size() < most; ++i) {
+        AWnd* child = below.getWndFromIndex(i, "");
+        if (!child)
+            continue;
+        if (!child->getID().IsEmpty())
+            ids.push_back(child->getID().view());
+        collectIds(*child, ids, most);
+    }
+}
+
+} // namespace
+
+/// Makes a plain window of each class of the game, and remembers which.
+class Reading::Window : public AMainWin, public ScriptObserver {
+public:
+    explicit Window(Reading& owner)
+        : AMainWin(owner.options.width, owner.options.height, pixelBits), reading(owner)
+    {
+        setScriptObserver(this);
+    }
+    ~Window() override { setScriptObserver(nullptr); }
+
+    AWnd* createNewWindow(const CString& id, int x, int y, int w, int h, const CString&) override
+    {
+        if (addsScreen)
+            return nullptr; // a screen of the game's class is a screen all the same
+        auto* wnd = new AWnd(AWnd::WND_PLAIN, id, x, y, w, h);
+        reading.ofGame.insert(wnd);
+        return wnd;
+    }
+    AScreen* addScreen(const CString& id, int x, int y, int w, int h) override
+    {
+        const Swapped adding(addsScreen, true);
+        return AMainWin::addScreen(id, x, y, w, h);
+    }
+    void lineExecuted(const ExecutedLine& line) override { reading.see(line); }
+    void allow(long maxLines, long long work)
+    {
+        scriptLines = maxLines;
+        scriptWork = work;
+    }
+
+private:
+    Reading& reading;
+    bool addsScreen = false;
+};
+
+Reading::Reading(const std::vector<Script*>& all, const ScriptSet& names, const Options& readingOptions,
+                 Findings& found)
+    : scripts(all), set(names), options(readingOptions), findings(found), main(names.find(mainScriptFile)),
+      hostBefore(displayhost::use(nullptr))
+{
+    for (const Script* script : scripts) {
+        hasAllScripts = hasAllScripts && !script->isBroken;
+        knowsAllFonts = knowsAllFonts && !script->isBroken && !script->mayAddMoreFonts;
+    }
+    auto host = std::make_unique<HeadlessHost>();
+    host->onMessage = [this](const CString& text) { hear(text); };
+    displayhost::use(std::move(host));
+    for (const Script* script : scripts)
+        setMemoryFile(memoryName(*script), script->bytes);
+    if (main)
+        mainResource = std::make_unique<EmbeddedResource>(
+            "TGXScript", mainScriptResource, reinterpret_cast<const unsigned char*>(main->bytes->data()),
+            main->bytes->size());
+    app = std::make_unique<AControlsApp>(); // without a program name: no settings are read or written
+    openWindow();
+}
+
+void Reading::openWindow()
+{
+    win.reset();
+    app->mainWin = nullptr; // windows ask for it while they are made
+    win = std::make_unique<Window>(*this);
+    app->mainWin = win.get();
+    unknownFonts = {nullptr};
+    for (int i = 0; i < options.fonts; ++i) {
+        const int index = win->addNewFont("", "", 1, 0); // what the game adds is not known; the call fails
+        unknownFonts.insert(win->getFont(index));
+    }
+    fontCount = win->getFontCount();
+    messages.clear();
+}
+
+Reading::~Reading()
+{
+    win.reset();
+    app.reset();
+    for (const Script* script : scripts)
+        setMemoryFile(memoryName(*script), nullptr);
+    displayhost::use(std::move(hostBefore));
+}
+
+AMainWin& Reading::window()
+{
+    return *win;
+}
+
+const WndLines* Reading::linesOf(const AWnd* wnd) const
+{
+    const auto found = lines.find(wnd);
+    return found == lines.end() ? nullptr : &found->second;
+}
+
+bool Reading::isNamedStop(const AWnd& wnd) const
+{
+    return isCutShort || namedStops.contains(&wnd) || laterStops.contains(folded(wnd.getID().view()));
+}
+
+bool Reading::isKnownFont(const bmpfont* font) const
+{
+    return !unknownFonts.contains(font);
+}
+
+void Reading::read(Script& script)
+{
+    if (isMainOfItsOwn(script))
+        openWindow();
+    else
+        win->recreateScreenList();
+    lines.clear();
+    ofGame.clear();
+    pointedTo.clear();
+    namedStops.clear();
+    laterStops.clear();
+    isCutShort = false;
+    // Reading down a script with subroutines fails at each of them: it is a library, out of which windows are
+    // read one at a time.
+    if (script.subroutines.empty())
+        readWhole(script);
+    else
+        readWindows(script);
+}
+
+/// Without fonts in the main script each script that adds some is one.
+bool Reading::isMainOfItsOwn(const Script& script) const
+{
+    return script.fontCount() > 0 && &script != main && !(main && main->fontCount() > 0);
+}
+
+void Reading::readWhole(Script& script)
+{
+    readOnce(script, "", options.work);
+}
+
+void Reading::readWindows(Script& script)
+{
+    if (&script == main || isMainOfItsOwn(script))
+        for (const LineRef& at : script.fontLines) {
+            win->addNewFont(CString(at.script->string(at.line, 1)), CString(at.script->string(at.line, 2)),
+                            at.script->number(at.line, 3), at.script->number(at.line, 4));
+            checkMessages(at, false);
+        }
+    std::unordered_set<std::string_view> names;
+    for (const int line : script.topWindows)
+        if (const std::string& name = script.string(line, 1);
+            !name.empty() && name != "static" && names.size() < mostReads)
+            names.insert(name);
+    const long long work = std::min(
+        options.work,
+        std::max(leastWork, options.work / static_cast<long long>(std::max<std::size_t>(names.size(), 1))));
+    for (const int line : script.topWindows)
+        if (names.erase(script.string(line, 1)) > 0 && !ranTooLong)
+            readOnce(script, script.string(line, 1), work);
+}
+
+void Reading::readOnce(Script& script, const std::string& toWindow, long long work)
+{
+    win->allow(options.lines, work);
+    messages.clear();
+    lastLine = {};
+    ranTooLong = false;
+    win->readScriptFile(CString(script.name), GetModuleHandleA(nullptr), noResource, CString(toWindow), 0);
+    if (ranTooLong && lastLine)
+        findings.add("budget", *lastLine.script, lastLine.line,
+                     "the read of " + (toWindow.empty() ? script.name : inQuotes(toWindow)) +
+                         " runs too long and is ended here");
+}
+
+void Reading::hear(const CString& message)
+{
+    if (message.view().ends_with(" runs too long"))
+        ranTooLong = true;
+    else if (messages.size() < mostMessages)
+        messages.push_back(message);
+}
+
+/// Nothing for a line of no script that is looked at. Streams say no folder: of scripts of one name it is the
+/// first that has such a line there.
+LineRef Reading::lineOf(const ExecutedLine& executed) const
+{
+    const auto find = [&](const Script* script) {
+        const int line = script->lineAt(executed.offset);
+        const Statement* statement = line < 0 ? nullptr : script->statement(line);
+        return statement && statement->id == executed.tokens[0].id &&
+                       script->tokenCount(line) == executed.count &&
+                       script->string(line, 1) == executed.tokens[1].text.view()
+                   ? LineRef{script, line}
+                   : LineRef{};
+    };
+    if (executed.script.IsEmpty())
+        return main ? find(main) : LineRef{};
+    for (const Script* script : set.ofFile(executed.script.view()))
+        if (const LineRef found = find(script))
+            return found;
+    return {};
+}
+
+void Reading::see(const ExecutedLine& executed)
+{
+    const LineRef at = lineOf(executed);
+    const Statement* statement = statementById(executed.tokens[0].id);
+    if (!at || !statement || executed.count < 1) {
+        messages.clear();
+        return;
+    }
+    lastLine = at;
+    const bool hasFailed = executed.depthChange <= lineFailed;
+    checkMessages(at, hasFailed);
+    AWnd* target = executed.current ? executed.current : win->getScreenList();
+    if (target && statement->kind == StatementKind::Attribute)
+        lines[target].attributes.push_back(at);
+    if (hasFailed)
+        explainFailure(executed, target, at, *statement);
+    else
+        note(executed, target, at, *statement);
+}
+
+void Reading::note(const ExecutedLine& executed, AWnd* target, LineRef at, const Statement& statement)
+{
+    const std::string_view keyword = statement.keyword;
+    if (executed.made) {
+        WndLines& entry = lines[executed.made];
+        if (statement.kind == StatementKind::Reference) {
+            pointedTo.insert(executed.made);
+            if (!entry.made)
+                entry.made = at;
+        } else {
+            entry = {at, at, at, {}};
+        }
+        return;
+    }
+    const bool isKnown = target && !isOfGame(target);
+    if (statement.kind != StatementKind::Attribute && statement.kind != StatementKind::Window)
+        return;
+    if (isKnown && !statement.target.fits(target->getWindowType())) {
+        findings.add("no-effect", *at.script, at.line,
+                     std::string(keyword) + " does nothing on " + describe(*target));
+        return;
+    }
+    if (!target)
+        return;
+    WndLines& entry = lines[target];
+    if (keyword == "TEXT") {
+        entry.text = at;
+    } else if (keyword == "BMPFILE") {
+        entry.bitmap = at;
+    } else if (keyword == "BORDER") {
+        entry.border = at;
+        if (isKnown && executed.count == 5 && target->getWindowType() != AWnd::WND_LISTBOX)
+            findings.add("no-effect", *at.script, at.line, 4,
+                         "the second bitmap of a BORDER is for list boxes; " + describe(*target) +
+                             " does not read it");
+    } else if (keyword == "COLUMNS" && isKnown && executed.count > 1 &&
+               static_cast<AListBox*>(target)->getItemCount() > 0) {
+        findings.add("late-columns", *at.script, at.line,
+                     describe(*target) + " has rows already; COLUMNS belongs in front of them");
+    }
+}
+
+void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef at,
+                             const Statement& statement)
+{
+    const std::string_view keyword = statement.keyword;
+    if (!statement.counts.allow(executed.count) || !statement.handler ||
+        executed.depth > deepestLevel(statement.kind) || !target)
+        return; // told by the rules for lines and blocks
+    const auto add = [&](const char* code, int token, std::string text) {
+        findings.add(code, *at.script, at.line, token, std::move(text));
+    };
+    if (statement.kind != StatementKind::Command && !statement.target.fits(target->getWindowType())) {
+        if (isOfGame(target))
+            isCutShort = isCutShort || at.script->place(at.line).subroutine != LinePlace::none;
+        else
+            add("wrong-window", 0,
+                std::string(keyword) + " acts on " + typesOf(statement.target) +
+                    (executed.current ? ", and " + (target->getID().IsEmpty() ? "this" : describe(*target)) +
+                                            " is " + typeOf(*target)
+                                      : ", and no window's block is around it"));
+    } else if (keyword == "FONT" || keyword == "LISTFONTS") {
+        for (int i = 1; i < executed.count && knowsAllFonts; ++i)
+            if (!win->getFont(executed.tokens[i].value))
+                add("no-font", i, noFont(executed.tokens[i].value, *win));
+    } else if (keyword == "TABORDER" || keyword == "TABLIST1" || keyword == "TABLIST2") {
+        explainMissingWindow(executed, *target, at);
+    } else if (keyword == "POINTER") {
+        explainPointer(at);
+    } else if (keyword == "GOTO") {
+        const Script* called = set.calledBy(*at.script, at.line);
+        const Subroutine* body = called ? called->subroutine(executed.tokens[1].text.view()) : nullptr;
+        // That there is none, or a ring, is told by the rules for calls.
+        if (body && !body->reachesRing)
+            add("budget", 1,
+                "subroutines call each other more than " + std::to_string(limits::subroutineDepth) +
+                    " deep here");
+    } else if (keyword == "RADIOBUTTON") {
+        add("budget", 0, "the radio group has too many members, or windows lie too deep in each other");
+    } else if (makesWindow(statement)) {
+        add("budget", 0, "windows lie too deep in each other, or are shown in too many places");
+    } else if (keyword == "ITEM") {
+        const int columns = static_cast<AListBox*>(target)->getColumnCount();
+        add("missing-column", std::min(executed.count - 1, columns + 1),
+            "this row has more cells than " + describe(*target) +
+                " had columns when its rows began: " + std::to_string(columns));
+    } else {
+        add("line-fails", 0, std::string(keyword) + " fails when it is read");
+    }
+}
+
+void Reading::explainMissingWindow(const ExecutedLine& executed, AWnd& target, LineRef at)
+{
+    const LinePlace& place = at.script->place(at.line);
+    // The line of the same block, further down, that makes the window; -1 for none.
+    const auto comesLater = [&](std::string_view name) {
+        for (int line = at.line + 1;
+             place.block >= 0 && line < at.script->lineCount() && at.script->place(line).depth >= place.depth;
+             ++line)
+            if (CString::equalNoCase(at.script->string(line, 1), name) && at.script->statement(line) &&
+                namesItsWindow(*at.script->statement(line)))
+                return line;
+        return -1;
+    };
+    std::vector<std::string_view> ids;
+    constexpr std::size_t mostIds = 2001;
+    collectIds(target, ids, mostIds);
+    const bool mayBeMade = holdsWindowOfGame(target) || !hasAllScripts || isCutShort;
+    for (int i = 1; i < executed.count; ++i) {
+        // The line lists nothing; what it names counts as listed all the same, for the rules about that.
+        if (const AWnd* named = target.getWnd(executed.tokens[i].text, 1)) {
+            namedStops.insert(named);
+            continue;
+        }
+        const std::string_view name = executed.tokens[i].text.view();
+        std::string text = "no window " + inQuotes(name) + " in " + describe(target) + " at this point";
+        if (const int later = comesLater(name); later >= 0) {
+            laterStops.insert(folded(name));
+            text += "; it comes in line " + std::to_string(at.script->numberOf(later));
+        } else if (mayBeMade) {
+            continue;
+        } else if (const std::string_view near = findings.nearest(name, ids); !near.empty()) {
+            text += didYouMean(near);
+            if (const AWnd* meant = target.getWnd(CString(std::string(near)), 1))
+                namedStops.insert(meant);
+        }
+        findings.add("missing-window", *at.script, at.line, i, text);
+    }
+}
+
+void Reading::explainPointer(LineRef at)
+{
+    const std::string& name = at.script->string(at.line, 1);
+    if (win->getWnd(CString(name), 1)) {
+        findings.add("pointer-inside", *at.script, at.line, 1,
+                     inQuotes(name) + " cannot be shown here: this is inside itself, or too deep");
+        return;
+    }
+    if (isCutShort)
+        return;
+    const bool namesScript = at.script->tokenCount(at.line) > 2;
+    const std::string& file = at.script->string(at.line, 2);
+    const Script* script = namesScript ? set.find(file) : main;
+    if (namesScript && (!script || script->isBroken))
+        return; // told, or not known
+    if (!namesScript && !main)
+        return; // it may stand in an embedded script
+    std::string text =
+        "no window " + inQuotes(name) + " exists here, nor at the top level of " + script->name;
+    for (const Script* each : scripts)
+        if (each != script)
+            for (const int line : each->topWindows)
+                if (each->string(line, 1) == name) {
+                    findings.add("missing-pointer", *at.script, at.line, 1,
+                                 text + "; " + each->name + " defines it: name that script");
+                    return;
+                }
+    findings.add("missing-pointer", *at.script, at.line, 1, std::move(text));
+}
+
+/// What the toolkit has said while it carried the line out.
+void Reading::checkMessages(LineRef at, bool hasFailed)
+{
+    const int count = win->getFontCount();
+    if (at.script->isKeyword(at.line, "ADDFONT") && !hasFailed) {
+        if (count == fontCount) {
+            findings.add("budget", *at.script, at.line,
+                         "the font table is full: it has " + std::to_string(limits::fonts) + " entries");
+        } else if (!messages.empty()) {
+            unknownFonts.insert(win->getFont(count - 1));
+            const int size = at.script->number(at.line, 3);
+            if (options.hasData)
+                findings.add("missing-font", *at.script, at.line, 1,
+                             "the font " + inQuotes(at.script->string(at.line, 1)) + " cannot be loaded" +
+                                 (size < 1 || size > limits::fontPixels
+                                      ? " at this size; 1 to " + std::to_string(limits::fontPixels) + " fit"
+                                      : "") +
+                                 "; the built-in one takes its place" +
+                                 otherFile(at.script->string(at.line, 1), findings));
+        }
+    }
+    fontCount = count;
+    messages.clear();
+}
+
+/// Itself or below: such a window may make windows of its own.
+bool Reading::holdsWindowOfGame(AWnd& wnd) const
+{
+    if (isOfGame(&wnd))
+        return true;
+    for (int i = 0; i < wnd.getWindowCount(); ++i)
+        if (AWnd* child = wnd.getWndFromIndex(i, ""); child && holdsWindowOfGame(*child))
+            return true;
+    return false;
+}
+
+} // namespace script_check

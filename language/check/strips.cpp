@@ -1,0 +1,141 @@
+// Strips against the pictures that they are cut from.
+
+#include "language/check/tree.h"
+#include "language/check/words.h"
+#include "tgx/controls/button.h"
+#include "tgx/wnd/border.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace script_check {
+
+namespace {
+
+/// Looks into buttons, which keep to themselves what their script has set.
+struct ButtonAccess : AButton {
+    static long long framesOf(const AButton& button)
+    {
+        const auto& frames = button.*(&ButtonAccess::stateFrames);
+        return std::accumulate(std::begin(frames), std::end(frames), 0LL,
+                               [](long long sum, int each) { return sum + std::max(each, 0); });
+    }
+};
+
+// In 64 bits: a script may give any 16-bit size and a button any number of frames.
+struct Frames {
+    long long width, height;
+    long long count; // that are shown, from the first on
+};
+
+/// The frame that lies last as it would lie in a picture large enough.
+struct Reach {
+    long long right, bottom;
+};
+
+/// A strip of more than two frames goes on in rows; a shorter one is a row alone.
+Reach reachOf(const Frames& frames, const Picture& picture)
+{
+    const long long step = frames.width + 1;
+    const long long perRow = picture.width > 2 * frames.width ? picture.width / step : 0;
+    if (perRow == 0)
+        return {step * (frames.count - 1) + frames.width, frames.height};
+    const long long rows = (frames.count - 1) / perRow;
+    return {0, rows * (frames.height + 1) + frames.height};
+}
+
+class StripRules {
+public:
+    explicit StripRules(TreeCheck& treeCheck) : check(treeCheck) {}
+
+    void look(AWnd& wnd)
+    {
+        const WndLines* lines = check.reading.linesOf(&wnd);
+        if (!lines || check.reading.isOfGame(&wnd))
+            return;
+        if (!wnd.getBmpFilename().IsEmpty() && lines->bitmap)
+            checkBitmap(wnd, lines->bitmap);
+        if (wnd.getBorder() && lines->border)
+            checkBorder(wnd, lines->border);
+    }
+
+private:
+    void checkBitmap(AWnd& wnd, LineRef at)
+    {
+        const Picture* picture = check.pictures.find(wnd.getBmpFilename().str());
+        if (!picture)
+            return;
+        // As the toolkit works them out when it loads the picture.
+        Frames frames{wnd.getFrameWidth(), wnd.getFrameHeight(), wnd.getFirstFrame() + wnd.getFrameCount()};
+        if (frames.width <= 0)
+            frames.width = std::min(wnd.getWndWidth(), picture->width);
+        if (frames.height <= 0)
+            frames.height = std::min(wnd.getWndHeight(), picture->height);
+
+        if (wnd.getWindowType() == AWnd::WND_SCROLLBAR) {
+            constexpr int scrollBarFrames = 6;
+            if (wnd.getFrameWidth() > 0 && wnd.getFrameHeight() > 0) // else that is told
+                compare(wnd, at, *picture, {frames.width, frames.height, scrollBarFrames}, OneRow);
+        } else if (wnd.getWindowType() == AWnd::WND_PROGRESSBAR) {
+            // The second frame, the empty bar, may be left out.
+            compare(wnd, at, *picture, {frames.width, frames.height, 1}, OneRow);
+        } else {
+            if (AButton::isButton(&wnd))
+                frames.count = ButtonAccess::framesOf(static_cast<AButton&>(wnd));
+            else if (frames.count > 1) // a BMPFRAME may begin behind the last one
+                frames.count = std::max(frames.count, wnd.getCurrentFrame() + 1LL);
+            if (frames.count > 1) // a still picture is shown as far as it goes
+                compare(wnd, at, *picture, frames, Rows);
+        }
+    }
+
+    enum Arrangement { OneRow, Rows };
+    void compare(AWnd& wnd, LineRef at, const Picture& picture, const Frames& frames, Arrangement arrangement)
+    {
+        if (frames.width <= 0 || frames.height <= 0)
+            return; // the toolkit shows nothing of such a frame
+        const long long step = frames.width + 1;
+        const Reach reach = arrangement == Rows
+                                ? reachOf(frames, picture)
+                                : Reach{step * (frames.count - 1) + frames.width, frames.height};
+        if (reach.right <= picture.width && reach.bottom <= picture.height)
+            return;
+        const std::string count = frames.count == 1 ? "the frame" : std::to_string(frames.count) + " frames";
+        check.findings.add(
+            "strip-too-small", *at.script, at.line, bitmapToken(at),
+            inQuotes(nameIn(at)) + " is " + size(picture.width, picture.height) + " pixels, too small for " +
+                count + " of " + size(frames.width, frames.height) + " that " + describe(wnd) +
+                " takes from it; a row of them is " + size(step * frames.count, frames.height));
+    }
+
+    void checkBorder(AWnd& wnd, LineRef at)
+    {
+        constexpr int pieces = 8;
+        const int piece = wnd.getBorder()->getPieceSize();
+        if (const Picture* picture = check.pictures.find(nameIn(at)))
+            compare(wnd, at, *picture, {piece, piece, pieces}, OneRow);
+    }
+
+    /// The bitmap that the line names, and its token.
+    static int bitmapToken(LineRef at)
+    {
+        int token = 1;
+        while (token < at.script->tokenCount(at.line) &&
+               argumentName(*at.script->statement(at.line), token) != "\"bitmap\"")
+            ++token;
+        return token;
+    }
+    static const std::string& nameIn(LineRef at) { return at.script->string(at.line, bitmapToken(at)); }
+
+    TreeCheck& check;
+};
+
+} // namespace
+
+void checkStrips(TreeCheck& check, AWnd& root)
+{
+    StripRules rules(check);
+    forEachBelow(root, [&](AWnd& wnd) { rules.look(wnd); });
+}
+
+} // namespace script_check

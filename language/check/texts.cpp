@@ -1,0 +1,192 @@
+// Texts against their boxes, measured as they are drawn.
+
+#include "language/check/tree.h"
+#include "language/check/words.h"
+#include "platform/media/bmpfont.h"
+#include "platform/media/encoding.h"
+#include "tgx/controls/combobox.h"
+#include "tgx/controls/listbox/cell.h"
+#include "tgx/wnd/textline.h"
+#include "tgx/wnd/wrap.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace script_check {
+
+namespace {
+
+bool isBlank(std::string_view text)
+{
+    return text.find_first_not_of(" \n") == std::string_view::npos;
+}
+
+/// What a text loses when it is broken into lines.
+struct WrapLoss {
+    std::string_view word; // too wide for a line: it is cut, and a letter goes at each cut
+    std::string_view rest; // behind the last line that has room
+};
+
+WrapLoss lossByWrapping(std::string_view text, const bmpfont& font, int width, int height)
+{
+    WrapLoss loss;
+    std::size_t end = 0; // of the line before
+    for (TextWrap wrapped(text, &font, width, height); wrapped.next();) {
+        const auto start = static_cast<std::size_t>(wrapped.getLineStart());
+        const std::string_view gap = text.substr(end, std::max(start, end) - end);
+        if (loss.word.empty() && end > 0 && !isBlank(gap) && gap != "\\n") {
+            const std::size_t first = text.find_last_of(" \n", end) + 1; // 0 behind npos
+            loss.word = text.substr(first, text.find_first_of(" \n", end) - first);
+        }
+        end = start + wrapped.line().size();
+    }
+    const std::string_view rest = text.substr(std::min(end, text.size()));
+    if (!isBlank(rest) && rest != "\\n")
+        loss.rest = rest.substr(rest.find_first_not_of(" \n"));
+    return loss;
+}
+
+/// What is wrong with the text in its box; "" when it fits.
+std::string misfit(const AWnd& wnd, std::string_view text, const bmpfont& font)
+{
+    const std::string inFont = " in font " + std::to_string(font.getIndex());
+    const int width = wnd.getWndWidth() - wnd.getTextOffsetX();
+    const int height = wnd.getWndHeight() - wnd.getTextOffsetY();
+    int length = 0;
+    if (wnd.getTextWrap()) {
+        const WrapLoss loss = lossByWrapping(text, font, width, height);
+        if (!loss.word.empty())
+            return "loses letters: " + inQuotes(loss.word) + " is " +
+                   std::to_string(font.stringLength(loss.word)) + " pixels wide" + inFont +
+                   ", and a line has " + std::to_string(width);
+        if (!loss.rest.empty())
+            return "has no room in " + size(width, height) + " pixels" + inFont + " from " +
+                   inQuotes(loss.rest) + " on";
+    } else if (cutToWidth(&font, text, width, length).size() < text.size()) {
+        return "is " + std::to_string(font.stringLength(text)) + " pixels wide" + inFont +
+               ", and its box has " + std::to_string(width);
+    }
+    if (font.charHeight > wnd.getWndHeight())
+        return "is " + std::to_string(font.charHeight) + " pixels high" + inFont + ", and its box has " +
+               std::to_string(wnd.getWndHeight());
+    return "";
+}
+
+void checkItems(TreeCheck& check, AComboBox& combo)
+{
+    ItemLines lines(check, combo, combo.getItemCount());
+    for (int i = 0; i < combo.getItemCount(); ++i) {
+        const CString text = combo.getItemText(i);
+        if (const std::string why = misfit(combo, text.view(), *combo.getFont()); !why.empty())
+            lines.add("text-clipped", i, 0,
+                      "the item " + inQuotes(text.view()) + " of " + describe(combo) + ' ' + why);
+    }
+}
+
+/// Looks into lists, which keep to themselves what their script has set.
+struct ListAccess : AListBox {
+    static const CArray<CString>& titlesOf(const AListBox& list) { return list.*(&ListAccess::titles); }
+    /// A title that is not centred runs on over columns to its right that have none.
+    static int roomOfTitle(const AListBox& list, int column, int length)
+    {
+        const bool isCentred = (list.*(&ListAccess::columnJustify)).GetAt(column) == TJ_CENTRE;
+        return std::abs(isCentred ? list.getColumnWidth(column)
+                                  : (list.*(&ListAccess::titleRoom))(column, length));
+    }
+};
+
+/// Which rows the game puts into the list's other fonts nobody knows: what is cut in the narrowest is cut in
+/// all of them. Null when one of them is not known.
+const bmpfont* narrowestFont(const TreeCheck& check, const AListBox& list, std::string_view text)
+{
+    const bmpfont* narrowest = list.getFont();
+    constexpr int rowFonts = 3;
+    for (int which = 1; which <= rowFonts; ++which) {
+        const bmpfont* font = list.getRowFont(which);
+        if (!font)
+            continue;
+        if (!check.reading.isKnownFont(font))
+            return nullptr;
+        if (font->stringLength(text) < narrowest->stringLength(text))
+            narrowest = font;
+    }
+    return narrowest;
+}
+
+void checkCells(TreeCheck& check, AListBox& list)
+{
+    ItemLines lines(check, list, list.getItemCount());
+    for (int row = 0; row < list.getItemCount(); ++row)
+        for (int column = 0; column < list.getColumnCount(); ++column) {
+            const CString stored = list.getItemText(row, column);
+            const std::string_view text = ListCell::decode(stored.view()).text;
+            const bmpfont* font = narrowestFont(check, list, text);
+            if (!font)
+                return;
+            const int width = font->stringLength(text);
+            if (width > std::abs(list.getColumnWidth(column)))
+                lines.add("text-clipped", row, column,
+                          "the text " + inQuotes(text) + " in row " + std::to_string(row) + " of " +
+                              describe(list) + " is " + std::to_string(width) + " pixels wide in font " +
+                              std::to_string(font->getIndex()) + ", and column " + std::to_string(column) +
+                              " has " + std::to_string(list.getColumnWidth(column)));
+        }
+}
+
+void checkTitles(TreeCheck& check, AListBox& list)
+{
+    const CArray<CString>& titles = ListAccess::titlesOf(list);
+    const bmpfont* font = list.getTitleFont() ? list.getTitleFont() : list.getFont();
+    if (titles.GetSize() == 0 || !check.reading.isKnownFont(font))
+        return;
+    const std::vector<LineRef> lines = check.linesOn(list, "TITLES");
+    for (int column = 0; column < std::min(titles.GetSize(), list.getColumnCount()); ++column) {
+        const std::string_view text = titles.GetAt(column).view();
+        const int width = font->stringLength(text);
+        const int room = ListAccess::roomOfTitle(list, column, width);
+        if (width <= room)
+            continue;
+        const auto at = std::find_if(lines.rbegin(), lines.rend(), [&](const LineRef& each) {
+            return each.script->tokenCount(each.line) > column + 1;
+        });
+        if (at != lines.rend())
+            check.findings.add("text-clipped", *at->script, at->line, column + 1,
+                               "the title " + inQuotes(text) + " of " + describe(list) + " is " +
+                                   std::to_string(width) + " pixels wide in font " +
+                                   std::to_string(font->getIndex()) + ", and column " +
+                                   std::to_string(column) + " has " + std::to_string(room));
+    }
+}
+
+void checkText(TreeCheck& check, AWnd& wnd, const WndLines& lines)
+{
+    const bmpfont* font = wnd.getFont();
+    // An edit box shows the part about the caret; raw text is not cut.
+    if (!check.reading.isKnownFont(font) || wnd.getTextRaw() || !lines.text ||
+        wnd.getWindowType() == AWnd::WND_EDITBOX || check.reading.isOfGame(&wnd))
+        return;
+    if (wnd.getWindowType() == AWnd::WND_LISTBOX) {
+        checkCells(check, static_cast<AListBox&>(wnd));
+        checkTitles(check, static_cast<AListBox&>(wnd));
+    } else if (wnd.getWindowType() == AWnd::WND_COMBOBOX && static_cast<AComboBox&>(wnd).getItemCount() > 0) {
+        checkItems(check, static_cast<AComboBox&>(wnd)); // its text is one of them
+    } else if (const std::string_view text = wnd.getText().view(); !text.empty()) {
+        const Script& script = *lines.text.script;
+        const int token = script.isKeyword(lines.text.line, "TEXT") ? 1 : 6;
+        if (const std::string why = misfit(wnd, text, *font); !why.empty())
+            check.findings.add("text-clipped", script, lines.text.line, token,
+                               "the text of " + describe(wnd) + ' ' + why);
+    }
+}
+
+} // namespace
+
+void checkTexts(TreeCheck& check, AWnd& root)
+{
+    forEachBelow(root, [&](AWnd& wnd) {
+        if (const WndLines* lines = check.reading.linesOf(&wnd))
+            checkText(check, wnd, *lines);
+    });
+}
+
+} // namespace script_check

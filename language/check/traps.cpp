@@ -1,0 +1,238 @@
+// Rules for what is right for the toolkit and looks wrong to a player.
+
+#include "language/check/tree.h"
+#include "language/check/words.h"
+#include "platform/media/bmpfont.h"
+#include "tgx/controls/button.h"
+#include "tgx/controls/combobox.h"
+#include "tgx/controls/listbox/floatingmenu.h"
+#include "tgx/wnd/border.h"
+#include "tgx/wnd/reserved.h"
+#include "tgx/wnd/window_cast.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+namespace script_check {
+
+namespace {
+
+/// Pixels that stay between the borders.
+int insideBorders(const AWnd& wnd, int size)
+{
+    return size - (wnd.getBorder() ? 2 * wnd.getBorder()->getBorderWidth() : 0);
+}
+
+// Lists.
+
+/// A row is drawn when at least a pixel is left below it, and takes clicks without that.
+void checkLastRow(TreeCheck& check, AListBox& list)
+{
+    const int room = insideBorders(list, list.getWndHeight());
+    const int rowHeight = std::max(list.getRowHeight(), 1);
+    const int rows = list.getItemCount();
+    if (room < rowHeight || room % rowHeight > list.getTextOffsetY() ||
+        (rows > 0 && rows < list.getItemsPerPage()))
+        return;
+    check.add("hidden-last-row", list,
+              describe(list) + " has " + std::to_string(room) + " pixels for rows of " +
+                  std::to_string(rowHeight) + ", and the last one that fits is not drawn; make it " +
+                  std::to_string(list.getTextOffsetY() + 1 - room % rowHeight) + " higher");
+}
+
+void checkColumnsFit(TreeCheck& check, AListBox& list)
+{
+    const int count = list.getColumnCount();
+    const std::vector<LineRef> lines = check.linesOn(list, "COLUMNS");
+    if (count == 0 || lines.empty())
+        return;
+    long long needed = 0;
+    for (int column = 0; column < count; ++column)
+        needed += list.getColumnGap() + std::abs(list.getColumnWidth(column));
+    const int room = insideBorders(list, list.getWndWidth()) - list.getTextOffsetX();
+    if (needed > room)
+        check.findings.add("wide-columns", *lines.back().script, lines.back().line,
+                           "the columns of " + describe(list) + " take " + std::to_string(needed) +
+                               " pixels with the gaps before them, and it has " + std::to_string(room));
+}
+
+// Combo boxes.
+
+/// A menu below the box is cut at the lower edge of the screen, and what is cut cannot be chosen.
+void checkMenuFits(TreeCheck& check, AComboBox& combo, const AWnd& top)
+{
+    if (!combo.getMenuBelow() || !combo.getMenuAllowed() || combo.getItemCount() == 0 ||
+        check.screenHeight <= 0 || top.getWindowType() != AWnd::WND_SCREEN)
+        return; // a popup is centred when it opens
+    const AListBox* menu = combo.getListBox("ComboMenu", 1);
+    const int rowHeight = menu ? menu->getRowHeight() : AFloatingMenu("", 0, 0, 1, 1).getRowHeight();
+    const int bottom = combo.posY(1) + combo.getWndHeight() + rowHeight * combo.getItemCount();
+    if (bottom > check.screenHeight)
+        check.add("menu-off-screen", combo,
+                  "the menu of " + describe(combo) + " ends at " + std::to_string(bottom) +
+                      ", below the screen of " + std::to_string(check.screenHeight) +
+                      " pixels, and its last items cannot be chosen; let it open above, without COMBOBELOW");
+}
+
+// Buttons.
+
+void checkDisabled(TreeCheck& check, AWnd& button)
+{
+    for (const LineRef& at : check.linesOn(button, "ENABLED"))
+        if (at.script->number(at.line, 1) % 2 == 0)
+            check.findings.add("no-effect", *at.script, at.line,
+                               describe(button) +
+                                   " enables itself when its screen opens; the game disables it with "
+                                   "setButtonState");
+}
+
+void checkStates(TreeCheck& check, AButton& button)
+{
+    AWnd* radioState = button.getWnd("RadioState", 1);
+    AWnd* boxState = button.getWnd("CheckboxState", 1);
+    if (radioState && boxState)
+        check.add("no-effect", *boxState,
+                  "the window \"RadioState\" of " + describe(button) +
+                      " carries its selection, and this state is left alone");
+}
+
+// Texts.
+
+void checkLineBreaks(TreeCheck& check, AWnd& wnd, const WndLines& lines)
+{
+    const std::string_view text = wnd.getText().view();
+    if (!lines.text || wnd.getTextWrap() || wnd.getTextRaw() || wnd.getWindowType() == AWnd::WND_EDITBOX ||
+        (text.find("\\n") == text.npos && text.find('\n') == text.npos))
+        return;
+    const Script& script = *lines.text.script;
+    check.findings.add("line-break", script, lines.text.line,
+                       script.isKeyword(lines.text.line, "TEXT") ? 1 : 6,
+                       "the text of " + describe(wnd) +
+                           " has a line break and stands on one line; let it wrap with TEXTWRAP 1");
+}
+
+void checkEditBoxHeight(TreeCheck& check, AWnd& wnd)
+{
+    const bmpfont* font = wnd.getFont();
+    if (wnd.getWindowType() == AWnd::WND_EDITBOX && check.reading.isKnownFont(font) &&
+        font->charHeight > wnd.getWndHeight())
+        check.add("text-clipped", wnd,
+                  "what is typed into " + describe(wnd) + " is " + std::to_string(font->charHeight) +
+                      " pixels high in font " + std::to_string(font->getIndex()) + ", and its box has " +
+                      std::to_string(wnd.getWndHeight()));
+}
+
+// Tab controls.
+
+void checkHiddenPages(TreeCheck& check, AWnd& tabs)
+{
+    int pages = 0;
+    for (int i = 0; i < tabs.getWindowCount(); ++i) {
+        const AWnd* child = tabs.getWndFromIndex(i, "");
+        if (!child || AButton::isButton(child))
+            continue;
+        if (check.reading.isOfGame(child) || child->isVisible(0))
+            return;
+        ++pages;
+    }
+    if (pages > 0)
+        check.add("tab-pages", tabs,
+                  "all pages of " + describe(tabs) +
+                      " are hidden, so that none shows when it opens; leave the first one visible");
+}
+
+// Screens and boxes.
+
+/// Whether something in it takes clicks that the game may act on.
+bool hasClickable(TreeCheck& check, AWnd& top)
+{
+    bool found = check.reading.isOfGame(&top);
+    forEachBelow(top, [&](AWnd& wnd) { found = found || isControl(wnd) || check.reading.isOfGame(&wnd); });
+    return found;
+}
+
+/// canLeaveOthers: a screen before it has something to click, so clicks are what leads on in this interface.
+void checkScreen(TreeCheck& check, AWnd& screen, bool isFirst, bool& canLeaveOthers)
+{
+    if (screen.getID().IsEmpty())
+        check.add("unnamed-screen", screen,
+                  isFirst ? "the first screen opens without a name too, but nothing can come back to it"
+                          : "nothing can open a screen without a name");
+    if (check.reading.lacksLines() || check.reading.isOfGame(&screen) || screen.getWindowCount() == 0)
+        return;
+    if (hasClickable(check, screen))
+        canLeaveOthers = true;
+    else if (canLeaveOthers)
+        check.add("no-way-out", screen,
+                  "nothing in " + describe(screen) +
+                      " can be clicked; a button TGX_BACK leads back to the screen before");
+}
+
+/// The boxes that messageBox and queryBox open.
+void checkBox(TreeCheck& check, AWnd& box)
+{
+    if (check.reading.lacksLines() || check.reading.isOfGame(&box) ||
+        (!CString::equalNoCase(box.getID().view(), "MESSAGEBOX") &&
+         !CString::equalNoCase(box.getID().view(), "QUERYBOX")))
+        return;
+    std::vector<std::string_view> ids;
+    bool closes = false;
+    forEachBelow(box, [&](AWnd& wnd) {
+        ids.push_back(wnd.getID().view());
+        closes = closes || check.reading.isOfGame(&wnd) || closesPopup(wnd.getID().view());
+    });
+    if (!closes)
+        check.add("stuck-box", box,
+                  "no button of " + describe(box) +
+                      " closes it; TGX_OK, TGX_CANCEL, TGX_YES, TGX_NO and TGX_CLOSE do");
+    for (const char* part : {"MESSAGEBOXTITLE", "MESSAGEBOXTEXT"})
+        if (!box.getWnd(part, 1))
+            check.add("box-part", box,
+                      describe(box) + " has no window " + inQuotes(part) + ", so that text does not show" +
+                          check.findings.didYouMean(part, ids));
+}
+
+void checkWindow(TreeCheck& check, AWnd& wnd, const AWnd& top)
+{
+    const WndLines* lines = check.reading.linesOf(&wnd);
+    if (!lines || check.reading.isOfGame(&wnd))
+        return;
+    const AWnd* parent = wnd.getParent();
+    auto* list = windowAs<AListBox>(&wnd);
+    if (list && !(parent && parent->getWindowType() == AWnd::WND_COMBOBOX)) {
+        checkLastRow(check, *list);
+        checkColumnsFit(check, *list);
+    }
+    if (auto* combo = windowAs<AComboBox>(&wnd)) {
+        checkMenuFits(check, *combo, top);
+    } else if (auto* button = windowAs<AButton>(&wnd); button && !isPart(check, wnd)) {
+        checkDisabled(check, wnd);
+        checkStates(check, *button);
+    }
+    if (wnd.getWindowType() == AWnd::WND_TABCONTROL)
+        checkHiddenPages(check, wnd);
+    checkLineBreaks(check, wnd, *lines);
+    checkEditBoxHeight(check, wnd);
+}
+
+} // namespace
+
+void checkTraps(TreeCheck& check, AWnd& root)
+{
+    bool isFirst = true;
+    bool canLeaveOthers = false;
+    for (int i = 0; i < root.getWindowCount(); ++i) {
+        AWnd* top = root.getWndFromIndex(i, "");
+        if (!top)
+            continue;
+        if (top->getWindowType() == AWnd::WND_SCREEN)
+            checkScreen(check, *top, std::exchange(isFirst, false), canLeaveOthers);
+        else
+            checkBox(check, *top);
+        checkWindow(check, *top, *top);
+        forEachBelow(*top, [&](AWnd& wnd) { checkWindow(check, wnd, *top); });
+    }
+}
+
+} // namespace script_check

@@ -1,0 +1,59 @@
+// Rules for what a line says and nothing reads.
+
+#include "language/check/rules.h"
+
+#include <algorithm>
+
+namespace script_check {
+
+namespace {
+
+/// Arguments that the form names; -1 where the last one may come again and again.
+int argumentsRead(const Statement& statement)
+{
+    const std::string_view form = statement.form;
+    if (form.ends_with("..."))
+        return -1;
+    return form.empty() ? 0 : static_cast<int>(std::count(form.begin(), form.end(), ' ')) + 1;
+}
+
+/// Of statements that take any number of arguments and read the first of them.
+void checkRest(const Script& script, int line, const Statement& statement, Findings& findings)
+{
+    const int read = argumentsRead(statement);
+    if (read >= 0 && statement.counts.allow(script.tokenCount(line)) && script.tokenCount(line) > read + 1)
+        findings.add("no-effect", script, line, read + 1,
+                     std::string(statement.keyword) + " reads " + std::to_string(read) +
+                         (read == 1 ? " argument" : " arguments") + "; what stands from here on is not read");
+}
+
+} // namespace
+
+void checkUnread(const Script& script, Findings& findings)
+{
+    constexpr int usualMode = -1;
+    constexpr int lastMode = 3;
+    const bool isLibrary = !script.subroutines.empty() && !isMain(script);
+    for (int line = 0; line < script.lineCount(); ++line) {
+        const Statement* statement = script.statement(line);
+        if (!statement || script.line(line).isAsItStands)
+            continue;
+        checkRest(script, line, *statement, findings);
+        const std::string_view keyword = statement->keyword;
+        const LinePlace& place = script.place(line);
+        if (keyword == "BMPBLITMODE" &&
+            (script.number(line, 1) < usualMode || script.number(line, 1) > lastMode))
+            findings.add("no-effect", script, line, 1,
+                         "there is no mode " + std::to_string(script.number(line, 1)) +
+                             "; 0 is normal, 1 opaque, 2 half, 3 additive");
+        else if (keyword == "BORDER" && script.tokenCount(line) > 1 && script.string(line, 1).empty())
+            findings.add("missing-bitmap", script, line, 1,
+                         "a border is made of a picture, and this names none");
+        else if (keyword == "FONT" && isLibrary && place.depth == 0 && place.subroutine == LinePlace::none)
+            findings.add("no-effect", script, line,
+                         "out of a script with subroutines single windows are read, and this line in none of "
+                         "them; FONT stands in a window's block here");
+    }
+}
+
+} // namespace script_check

@@ -1,0 +1,138 @@
+// Bytes to text.
+
+#include "language/text/print.h"
+
+#include "language/text/parsed_script.h"
+#include "language/text/statement_form.h"
+#include "platform/media/code_page.h"
+#include "platform/media/encoding.h"
+#include "tgx/script/reader.h"
+
+#include <algorithm>
+
+namespace script_text {
+
+namespace {
+
+constexpr char hexDigits[] = "0123456789ABCDEF";
+
+/// Whether it can be seen, and stands in a string as it is.
+bool isPlain(char c)
+{
+    const auto byte = static_cast<unsigned char>(c);
+    const bool isUnseen = byte < 0x20 || byte == 0x7F || byte == 0xA0 || byte == 0xAD;
+    return !isUnseen && unicodeOf(byte) != 0;
+}
+
+std::string quoted(std::string_view text)
+{
+    std::string out = "\"";
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto c = static_cast<unsigned char>(text[i]);
+        if (c == '"') {
+            out += "\\\"";
+        } else if (c == '\\') {
+            // Only where what follows would make an escape of it; file names stay as they are.
+            const char next = i + 1 < text.size() ? text[i + 1] : '"';
+            out += next == '"' || next == '\\' || next == 'x' || !isPlain(next) ? "\\\\" : "\\";
+        } else if (!isPlain(text[i])) {
+            out += {'\\', 'x', hexDigits[c >> 4], hexDigits[c & 15]};
+        } else {
+            out += utf8From1252(text.substr(i, 1));
+        }
+    }
+    return out += '"';
+}
+
+/// Collects a line's tokens.
+struct LineReader {
+    std::vector<Token> tokens;
+
+    void number(short value) { tokens.push_back({numberToken, value, {}, {}}); }
+    void string(std::string_view text) { tokens.push_back({stringToken, 0, std::string(text), {}}); }
+    void keyword(unsigned char id) { tokens.push_back({id, 0, {}, {}}); }
+
+    bool beginsWith(int id) const { return !tokens.empty() && tokens[0].id == id; }
+};
+
+std::string wordFor(const Token& token)
+{
+    if (token.id == numberToken)
+        return std::to_string(token.value);
+    if (token.id == stringToken)
+        return quoted(token.text);
+    const Statement* statement = statementById(token.id);
+    return statement ? statement->keyword : asItStands + std::to_string(token.id);
+}
+
+std::string lineOf(const std::vector<Token>& tokens)
+{
+    if (tokens.empty())
+        return std::string(emptyLine);
+    std::string out = wordFor(tokens[0]);
+    for (std::size_t i = 1; i < tokens.size(); ++i)
+        out += ' ' + wordFor(tokens[i]);
+    if (out[0] != asItStands && !lineFaults(tokens).empty())
+        out = std::string{asItStands, ' '} + out;
+    return out;
+}
+
+} // namespace
+
+std::string print(std::string_view bytes)
+{
+    std::string out;
+    int depth = 0;
+    const char* pos = bytes.data();
+    const char* const end = pos + bytes.size();
+    while (pos != end) {
+        LineReader line;
+        const char* next = scanLine(pos, end, line);
+        if (!next)
+            break;
+        pos = next;
+        if (line.beginsWith(keyword::end))
+            depth = std::max(depth - 1, 0);
+        // Deeper than statements can stand, more indentation only makes the text grow with the square of its
+        // lines.
+        out.append(static_cast<std::size_t>(4 * std::min(depth, wndStackSize)), ' ');
+        out += lineOf(line.tokens) + '\n';
+        if (line.beginsWith(keyword::begin))
+            ++depth;
+    }
+    if (pos == end)
+        return out;
+    out += unfinishedMark;
+    for (; pos != end; ++pos) {
+        const auto byte = static_cast<unsigned char>(*pos);
+        out += {' ', hexDigits[byte >> 4], hexDigits[byte & 15]};
+    }
+    return out += '\n';
+}
+
+const char* const notation = R"(The text form, in UTF-8:
+  One statement a line: a keyword, then its arguments, divided by blanks.
+    SCREEN "MENU" 0 0 640 480 "menu.bmp"
+    BEGIN
+        TEXTWND "TITLE" 10 10 300 40 "Harbour"   # a comment
+        BEGIN
+            JUSTIFY CENTRE
+        END
+    END
+  "text"       a string of characters that code page 1252 has. In it \" is a quotation
+               mark, \\ a backslash and \xE9 the byte with that hexadecimal value; any
+               other backslash stands for itself, so that file names are written as they
+               are: "uig\bar.bmp"
+  -12, 0x1F    a number, -32768 to 32767 or 0x0 to 0xFFFF
+  LEFT CENTRE RIGHT   words that JUSTIFY and COLUMNS take
+  # ...        a comment, to the end of the line; empty lines do nothing
+  DEFINE NAME value   from here on NAME, as an argument, is that number or string
+  INCLUDE "file"      the lines of that file stand here; it is sought from the folder of
+                      the file that names it
+What only a dump of an unusual script needs:
+  @ WINDOW 1   a line with arguments that the toolkit will refuse, built as it stands
+  @65          a keyword byte by its number
+  EMPTY        a line without a token
+  #! unfinished: 71 04   the bytes of a last line that has no end; they come last)";
+
+} // namespace script_text

@@ -1,0 +1,59 @@
+#include "language/text/text_files.h"
+
+#include "platform/framework/datadir.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace script_text {
+
+namespace {
+
+/// As short as a message can name it from the working directory.
+std::string shortest(const fs::path& path)
+{
+    std::error_code failure;
+    const fs::path near = fs::proximate(path, failure);
+    return failure || near.begin() == near.end() || *near.begin() == ".." ? path.string() : near.string();
+}
+
+} // namespace
+
+std::string lowered(std::string_view text)
+{
+    std::string result(text);
+    for (char& c : result)
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c + ('a' - 'A'));
+    return result;
+}
+
+std::vector<std::string> filesIn(const std::string& folder, std::string_view ending)
+{
+    std::vector<std::string> files;
+    std::error_code failure;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder, failure))
+        if (lowered(entry.path().extension().string()) == ending && entry.is_regular_file(failure))
+            files.push_back(shortest(entry.path().lexically_normal()));
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+std::string scriptFolder()
+{
+    std::error_code failure;
+    for (const std::string& folder : dataDirectories())
+        for (const fs::directory_entry& entry : fs::directory_iterator(folder, failure))
+            if (lowered(entry.path().filename().string()) == "uig" && entry.is_directory(failure))
+                return entry.path().string();
+    return "";
+}
+
+std::string compiledName(const std::string& textFile)
+{
+    return fs::path(textFile).stem().string() + ".tgx";
+}
+
+} // namespace script_text

@@ -1,0 +1,43 @@
+#include "platform/display/message_text.h"
+
+#include <algorithm>
+#include <cstdio>
+
+std::string oneLine(std::string_view message)
+{
+    std::string line;
+    for (char c : message) {
+        if (c == '\n') {
+            line += "\\n";
+        } else if (c == '\t') {
+            line += "\\t";
+        } else if (c >= 0x20 && c <= 0x7E) {
+            line += c;
+        } else {
+            char escaped[8];
+            std::snprintf(escaped, sizeof escaped, "\\u%04x",
+                          static_cast<unsigned>(static_cast<unsigned char>(c)));
+            line += escaped;
+        }
+    }
+    return line;
+}
+
+void printMessage(std::string_view message)
+{
+    std::fprintf(stderr, "message: %s\n", oneLine(message).c_str());
+}
+
+std::string boxText(const std::vector<std::string>& messages)
+{
+    constexpr std::size_t listedAtMost = 20;
+    constexpr std::size_t charactersAtMost = 200; // of each
+    std::string text;
+    const std::size_t listed = std::min(messages.size(), listedAtMost);
+    for (std::size_t i = 0; i < listed; ++i)
+        text += (i ? "\n" : "") + messages[i].substr(0, charactersAtMost) +
+                (messages[i].size() > charactersAtMost ? "..." : "");
+    if (messages.size() > listed)
+        text += "\nand " + std::to_string(messages.size() - listed) + " more";
+    return text;
+}

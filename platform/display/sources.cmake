@@ -1,5 +1,0 @@
-# The loops over pixels and commands are written for a compiler that inlines them and turns plain ones into vector code.
-set_source_files_properties(
-  display/blit_rows.cpp display/command_box.cpp display/damage.cpp display/paint_blit.cpp display/paint_text.cpp
-  display/rasteriser.cpp display/text_layout.cpp
-  PROPERTIES COMPILE_OPTIONS "$<$<NOT:$<CONFIG:Debug>>:-O3>")

@@ -1,0 +1,257 @@
+#include "platform/framework/datadir.h"
+
+#include "platform/system/out_of_memory.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <ctime>
+#include <dirent.h>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <sys/stat.h>
+#include <unordered_map>
+#include <vector>
+
+namespace {
+
+/// Empty where the system does not tell.
+std::string executableFolder()
+{
+    std::error_code failure;
+    return std::filesystem::read_symlink("/proc/self/exe", failure).parent_path().string();
+}
+
+/// Where files are looked for as long as no data directory is set.
+std::vector<std::string> defaultRoots()
+{
+    std::vector<std::string> folders{"."};
+    if (std::string beside = executableFolder(); !beside.empty())
+        folders.push_back(std::move(beside));
+    return folders;
+}
+
+std::vector<std::string>& roots()
+{
+    static auto& folders = *new std::vector<std::string>(defaultRoots());
+    return folders;
+}
+
+std::string lowered(std::string_view name)
+{
+    std::string result(name);
+    for (char& c : result) {
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c + ('a' - 'A'));
+    }
+    return result;
+}
+
+bool hasDriveLetter(std::string_view name)
+{
+    return name.size() >= 2 && name[1] == ':' &&
+           ((name[0] >= 'A' && name[0] <= 'Z') || (name[0] >= 'a' && name[0] <= 'z'));
+}
+
+/// The components of a name that stays below the data directory; nothing for one that does not.
+std::optional<std::vector<std::string>> splitSafely(std::string_view name)
+{
+    if (name.empty() || name.find('\0') != std::string_view::npos || hasDriveLetter(name))
+        return std::nullopt;
+    if (name.front() == '/' || name.front() == '\\')
+        return std::nullopt;
+    std::vector<std::string> components;
+    while (!name.empty()) {
+        const std::size_t slash = name.find_first_of("/\\");
+        const std::string_view component = name.substr(0, slash);
+        name.remove_prefix(slash == std::string_view::npos ? name.size() : slash + 1);
+        if (component == "..")
+            return std::nullopt;
+        if (!component.empty() && component != ".")
+            components.emplace_back(component);
+    }
+    if (components.empty())
+        return std::nullopt;
+    return components;
+}
+
+/// Names of one folder by their lower-case form. Of names that differ only in case, the first in byte order.
+struct Listing {
+    dev_t device = 0;
+    ino_t inode = 0;
+    timespec changed = {};
+    std::unordered_map<std::string, std::string> names;
+
+    bool isOf(const struct stat& status) const
+    {
+        return device == status.st_dev && inode == status.st_ino && changed.tv_sec == status.st_mtim.tv_sec &&
+               changed.tv_nsec == status.st_mtim.tv_nsec;
+    }
+};
+
+/// A folder that changed this moment can change again under the same time stamp: its listing is used once
+/// only.
+bool isSettled(const timespec& changed)
+{
+    timespec now;
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    return std::difftime(now.tv_sec, changed.tv_sec) >= 2;
+}
+
+/// Listings, kept as long as their folder stays as it was: a name in another case, or of a missing file,
+/// costs no read of the folder each time.
+std::shared_ptr<const Listing> listingOf(const std::string& folder)
+{
+    static auto& kept = *new std::map<std::string, std::shared_ptr<const Listing>>;
+    constexpr std::size_t keptAtMost = 256; // folders; names from a script choose them
+
+    struct stat status;
+    if (::stat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode))
+        return nullptr;
+    if (const auto found = kept.find(folder); found != kept.end()) {
+        if (found->second->isOf(status))
+            return found->second;
+        kept.erase(found);
+    }
+    const AllocationWatch memory;
+    DIR* directory = ::opendir(folder.c_str());
+    memory.check();
+    if (!directory)
+        return nullptr;
+    auto listing = std::make_shared<Listing>();
+    listing->device = status.st_dev;
+    listing->inode = status.st_ino;
+    listing->changed = status.st_mtim;
+    while (const dirent* entry = ::readdir(directory)) {
+        const auto [known, isNew] = listing->names.try_emplace(lowered(entry->d_name), entry->d_name);
+        if (!isNew && entry->d_name < known->second)
+            known->second = entry->d_name;
+    }
+    ::closedir(directory);
+    if (isSettled(status.st_mtim)) {
+        if (kept.size() >= keptAtMost)
+            kept.clear();
+        kept.emplace(folder, listing);
+    }
+    return listing;
+}
+
+/// The path with every link resolved, empty when it leads nowhere.
+std::string canonical(const std::string& path)
+{
+    const AllocationWatch memory;
+    const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr), &std::free);
+    memory.check();
+    return resolved ? resolved.get() : "";
+}
+
+bool isBelow(const std::string& path, const std::string& folder)
+{
+    return folder == "/" || (path.size() > folder.size() && path.compare(0, folder.size(), folder) == 0 &&
+                             path[folder.size()] == '/');
+}
+
+/// Path of a regular file below root.
+std::optional<std::string> findBelow(const std::string& root, const std::vector<std::string>& components)
+{
+    std::string path = root;
+    bool hasLink = false; // without one, and without "..", the path cannot lead out
+    struct stat status = {};
+    for (const std::string& component : components) {
+        std::string next = path + '/' + component;
+        if (::lstat(next.c_str(), &status) != 0) {
+            const std::shared_ptr<const Listing> listing = listingOf(path);
+            if (!listing)
+                return std::nullopt;
+            const auto match = listing->names.find(lowered(component));
+            if (match == listing->names.end())
+                return std::nullopt;
+            next = path + '/' + match->second;
+            if (::lstat(next.c_str(), &status) != 0)
+                return std::nullopt;
+        }
+        // The folder of a link is listed only where the link stays inside: what lies outside is not even
+        // looked at.
+        if (S_ISLNK(status.st_mode)) {
+            hasLink = true;
+            if (!isBelow(canonical(next), canonical(root)) || ::stat(next.c_str(), &status) != 0)
+                return std::nullopt;
+        }
+        path = std::move(next);
+    }
+    if (!S_ISREG(status.st_mode))
+        return std::nullopt;
+    return hasLink ? canonical(path) : path;
+}
+
+std::map<std::string, std::shared_ptr<const std::string>>& memoryFiles()
+{
+    static auto& files = *new std::map<std::string, std::shared_ptr<const std::string>>;
+    return files;
+}
+
+/// The one form of all names that mean the same file in memory; "" for a refused one.
+std::string memoryKey(std::string_view name)
+{
+    std::string key;
+    if (const std::optional<std::vector<std::string>> components = splitSafely(name))
+        for (const std::string& component : *components)
+            key += '/' + lowered(component);
+    return key;
+}
+
+} // namespace
+
+void setDataDirectory(const std::string& path)
+{
+    roots() = path.empty() ? defaultRoots() : std::vector<std::string>{path};
+}
+
+const std::string& dataDirectory()
+{
+    return roots().front();
+}
+
+const std::vector<std::string>& dataDirectories()
+{
+    return roots();
+}
+
+OtherDataDirectory::OtherDataDirectory(const std::string& path) : before(roots())
+{
+    setDataDirectory(path);
+}
+
+OtherDataDirectory::~OtherDataDirectory()
+{
+    roots() = std::move(before);
+}
+
+std::optional<std::string> findDataFile(std::string_view name)
+{
+    if (const std::optional<std::vector<std::string>> components = splitSafely(name))
+        for (const std::string& root : roots())
+            if (std::optional<std::string> found = findBelow(root, *components))
+                return found;
+    return std::nullopt;
+}
+
+bool setMemoryFile(std::string_view name, std::shared_ptr<const std::string> bytes)
+{
+    std::string key = memoryKey(name);
+    if (key.empty())
+        return false;
+    if (bytes)
+        memoryFiles()[std::move(key)] = std::move(bytes);
+    else
+        memoryFiles().erase(key);
+    return true;
+}
+
+std::shared_ptr<const std::string> findMemoryFile(std::string_view name)
+{
+    if (memoryFiles().empty())
+        return nullptr;
+    const auto found = memoryFiles().find(memoryKey(name));
+    return found == memoryFiles().end() ? nullptr : found->second;
+}

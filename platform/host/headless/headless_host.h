@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/display/host.h"
+
+#include <functional>
+
+/// No window and no clock of its own: whoever holds it runs the ticks and frames. Messages go to onMessage,
+/// or to stderr as "message: TEXT" without one.
+class TGX_PLATFORM_API HeadlessHost : public displayhost {
+public:
+    bool open(ddwin& window) override;
+    void close(ddwin& window) override;
+    void show(const Image& screen, std::span<const tagRECT> changed) override;
+    void pump(ddwin& window) override;
+    void setCursor(CursorShape shape) override;
+    void movePointer(int x, int y) override;
+    void showMessage(const CString& text) override;
+    void waitForWork(int& ticks, int& frames) override;
+
+    CursorShape cursor = CursorShape::Normal;
+    std::function<void(const CString&)> onMessage;
+};

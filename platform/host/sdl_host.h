@@ -1,8 +1,0 @@
-#pragma once
-
-#include "platform/host/displayhost.h"
-
-#include <memory>
-
-/// The host of a program that chooses none: a window of the desktop.
-std::unique_ptr<displayhost> makeSdlHost();

@@ -1,0 +1,444 @@
+// What belongs together: panels and pointers, keys, tabs and pages, radio groups, lists and their rows; and
+// what a line says to nobody.
+
+#include "tests/unit/language/check_fixture.h"
+
+namespace {
+
+/// Each in a.tgs, where no other file is named. Nothing is to be said against them.
+const struct {
+    const char* name;
+    const char* text;
+} rightScripts[] = {
+    {"a panel of its own script, with its stops in the screen that shows it", R"(SCREEN "S" 0 0 640 480 ""
+BEGIN
+  POINTER "PANEL" "panel.tgx"
+  TABORDER "GO"
+END
+== panel.tgs
+WINDOW "PANEL" 0 0 90 90
+BEGIN
+  BUTTON "GO" 0 0 80 24 ""
+END)"},
+    {"a panel that may be shown out of any script", R"(SCREEN "S" 0 0 640 480 ""
+BEGIN
+  POINTER "PANEL" "150"
+END
+== panel.tgs
+WINDOW "PANEL" 0 0 90 90
+BEGIN
+  BUTTON "GO" 0 0 80 24 ""
+END)"},
+    {"tabs or pages of the game's classes", R"(WINDOW "A" 0 0 200 200
+BEGIN
+  TABCONTROL "T" 0 0 200 90
+  BEGIN
+    USERDEF "TAB1" 0 0 50 20 "Tab"
+    USERDEF "TAB2" 50 0 50 20 "Tab"
+    WINDOW "PAGE1" 0 20 200 70
+    WINDOW "PAGE2" 0 20 200 70
+  END
+  TABCONTROL "U" 0 90 200 90
+  BEGIN
+    RADIOBUTTON "TAB3" 0 0 50 20 ""
+    USERDEF "PAGE3" 0 20 200 70 "Map"
+  END
+  TABORDER "TAB3"
+END)"},
+    {"two groups whose ids have one stem, in two columns", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  RADIOBUTTON "RADIO1" 10 0 90 20 ""
+  RADIOBUTTON "RADIO2" 10 20 90 20 ""
+  TEXTWND "static" 300 0 50 20 "Sound"
+  RADIOBUTTON "RADIO3" 300 20 90 20 ""
+  RADIOBUTTON "RADIO4" 300 40 90 20 ""
+  TABORDER "RADIO1" "RADIO3"
+END)"},
+    {"two groups in two columns without a heading", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  RADIOBUTTON "OPT_EASY" 10 0 90 20 ""
+  RADIOBUTTON "OPT_HARD" 10 20 90 20 ""
+  BITMAP "static" 150 0 9 9 ""
+  RADIOBUTTON "OPT_ON" 300 0 90 20 ""
+  RADIOBUTTON "OPT_OFF" 300 20 90 20 ""
+  TABORDER "OPT_EASY" "OPT_ON"
+END)"},
+    {"two groups in one column, with their headings on the left", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  TEXTWND "static" 0 0 80 20 "Level"
+  RADIOBUTTON "EASY" 100 0 90 20 ""
+  RADIOBUTTON "HARD" 100 20 90 20 ""
+  TEXTWND "static" 0 40 80 20 "Sound"
+  RADIOBUTTON "ON" 100 40 90 20 ""
+  RADIOBUTTON "OFF" 100 60 90 20 ""
+  TABORDER "EASY" "ON"
+END)"},
+    {"two groups in one row, the second in a frame", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  RADIOBUTTON "EASY" 0 0 90 20 ""
+  RADIOBUTTON "HARD" 100 0 90 20 ""
+  WINDOW "static" 195 0 200 20
+  BEGIN
+    ENABLED 0
+  END
+  RADIOBUTTON "ON" 200 0 90 20 ""
+  RADIOBUTTON "OFF" 300 0 90 20 ""
+  TABORDER "EASY" "ON"
+END)"},
+    {"two radio buttons of the script about one of the game's", R"(WINDOW "A" 0 0 90 90
+BEGIN
+  RADIOBUTTON "A1" 0 0 90 20 ""
+  USERDEF "A2" 0 20 90 20 "Choice"
+  RADIOBUTTON "A3" 0 40 90 20 ""
+  TABORDER "A1" "A3"
+END)"},
+    {"keys that go to a combo box, and to the radio buttons that show", R"(WINDOW "A" 0 0 90 90
+BEGIN
+  COMBOBOX "B" 0 0 90 20 ""
+  RADIOBUTTON "C1" 0 20 40 20 ""
+  RADIOBUTTON "C2" 0 40 40 20 ""
+  BITMAP "static" 0 60 9 9 ""
+  RADIOBUTTON "D1" 50 20 40 20 ""
+  RADIOBUTTON "D2" 50 40 40 20 ""
+  TABLIST1 "B"
+  TABLIST2 "C1" "D1"
+END)"},
+    {"a hidden window with stops of its own, which the game may open as a popup", R"(SCREEN "S" 0 0 640 480 ""
+BEGIN
+  BUTTON "ASK" 0 0 80 24 ""
+  WINDOW "BOX" 200 100 200 90
+  BEGIN
+    VISIBLE 0
+    BUTTON "SURE" 0 0 80 24 ""
+    TABORDER "SURE"
+  END
+  TABORDER "ASK"
+END)"},
+    {"titles that run on over columns without one", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  LISTBOX "L" 0 0 200 90
+  BEGIN
+    COLUMNS 20 60 30 CENTRE
+    TITLES "a long text" "" "short"
+  END
+  TABORDER "L"
+END)"},
+    {"words that wrap at blanks and at marks", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  TEXTWND "B" 0 0 60 90 "a text of\nshort  words"
+  BEGIN
+    TEXTWRAP 1
+  END
+END)"},
+    {"icons whose files the game adds", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  LISTBOX "L" 0 0 200 90
+  BEGIN
+    ITEM "ICON7F12"
+  END
+  TABORDER "L"
+END)"},
+    {"all arguments that there are", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  LISTBOX "L" 0 0 400 90
+  BEGIN
+    LISTLOOK 20 1 1
+    LISTOPTIONS 1 1
+    LISTFONTS 0 0 0 0
+    COLUMNS 9 9 9 9 9 9 9 9 9 9 LEFT 9 9 9 9 9 9 9 9 9 9 CENTRE
+    LISTFIXEDCOLUMNS 0 19
+    BMPBLITMODE -1
+  END
+  COMBOBOX "C" 200 0 90 20 ""
+  BEGIN
+    COMBOMENU 0 0 90 90 ""
+    ITEM "a"
+  END
+  GRAPH "G" 200 20 90 20
+  BEGIN
+    GRAPHINFO "" "" 1 2 3 4 5
+  END
+  TABORDER "L" "C"
+END)"},
+    {"a FONT at the top of the main script", R"(FONT 0
+WINDOW "A" 0 0 90 90
+BEGIN
+  GOTO "S" "parts.tgx"
+END
+== parts.tgs
+SUBROUTINE "S"
+BEGIN
+  FONT 0
+END)"},
+};
+
+TEST_F(Check, SaysNothingAgainstControlsThatAreRight)
+{
+    for (const auto& row : rightScripts) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(found(row.text), "");
+    }
+}
+
+const CheckRow wrongScripts[] = {
+    {"a panel of that name in another script than the POINTER names", R"(SCREEN "S" 0 0 640 480 ""
+BEGIN
+  POINTER "PANEL" "panel.tgx"
+  TABORDER "GO"
+END
+== other.tgs
+WINDOW "PANEL" 0 0 90 90
+BEGIN
+  BUTTON "GO" 0 0 80 24 ""
+END
+== panel.tgs
+WINDOW "PANEL" 0 0 90 90
+BEGIN
+  BUTTON "GO" 0 0 80 24 ""
+END)",
+     "other.tgs:1:1: warning: no key reaches the control in \"PANEL\", \"GO\"; name them in a TABORDER at "
+     "the "
+     "end of its block [unreachable]\n"},
+    {"tab orders of windows inside, and keys that go nowhere", R"(SCREEN "S" 0 0 640 480 ""
+BEGIN
+  WINDOW "INNER" 0 0 200 90
+  BEGIN
+    BUTTON "A" 0 0 80 24 ""
+    BUTTON "B" 0 24 80 24 ""
+    TABORDER "A" "B"
+  END
+  BUTTON "C" 300 0 80 24 ""
+  COMBOBOX "D" 300 24 80 24 ""
+  RADIOBUTTON "E" 300 48 80 24 ""
+  TABORDER "A"
+  TABLIST1 "C" "E"
+  TABLIST2 "D" "C"
+END)",
+     "a.tgs:6:5: warning: no key reaches \"B\": it stands in the TABORDER of \"INNER\", and Tab walks that "
+     "of "
+     "\"S\" alone [unreachable]\n"
+     "a.tgs:9:3: warning: no key reaches \"C\": no TABORDER of \"S\" names it [unreachable]\n"
+     "a.tgs:11:3: warning: no key reaches \"E\": no TABORDER of \"S\" names it [unreachable]\n"
+     "a.tgs:13:12: warning: Insert and Delete go to no list that begins with a button: a combo box or a "
+     "radio "
+     "button stands first [no-effect]\n"},
+    {"buttons among the tabs, and more pages than the game's tabs can make up for", R"(WINDOW "A" 0 0 200 200
+BEGIN
+  TABCONTROL "T" 0 0 200 90
+  BEGIN
+    RADIOBUTTON "T1" 0 0 50 20 ""
+    RADIOBUTTON "T2" 50 0 50 20 ""
+    BUTTON "T3" 100 0 50 20 ""
+    WINDOW "P1" 0 20 200 70
+    WINDOW "P2" 0 20 200 70
+    WINDOW "P3" 0 20 200 70
+  END
+  TABCONTROL "U" 0 90 200 90
+  BEGIN
+    USERDEF "T4" 0 0 50 20 "Tab"
+    WINDOW "P4" 0 20 200 70
+    WINDOW "P5" 0 20 200 70
+  END
+  TABORDER "T1" "T3"
+END)",
+     "a.tgs:7:5: error: \"T3\" stands among the tabs of \"T\" and is none of their group: a click on it "
+     "turns the pages too, and none is its own. Tabs are radio buttons; other buttons stand in a page "
+     "[tab-pages]\n"
+     "a.tgs:12:3: error: \"U\" has 0 tabs and 2 pages [tab-pages]\n"},
+    {"a group that goes on in its column at another step, and one with a note beside it",
+     R"(WINDOW "A" 0 0 400 90
+BEGIN
+  RADIOBUTTON "RED" 0 0 90 20 ""
+  RADIOBUTTON "BLUE" 0 20 90 20 ""
+  BITMAP "static" 100 0 9 9 ""
+  RADIOBUTTON "GREEN" 0 45 90 20 ""
+  RADIOBUTTON "BLACK" 0 65 90 20 ""
+  WINDOW "static" 150 0 9 9
+  RADIOBUTTON "P_1" 200 0 60 20 ""
+  RADIOBUTTON "P_2" 260 0 60 20 ""
+  TEXTWND "static" 260 20 60 20 "usual"
+  RADIOBUTTON "P_3" 340 0 20 20 ""
+  RADIOBUTTON "P_4" 380 0 20 20 ""
+  TABORDER "RED" "GREEN" "P_1" "P_3"
+END)",
+     "a.tgs:6:3: warning: \"GREEN\" begins a group of its own: the plain window of line 5 parts it from "
+     "\"BLUE\" [radio-group]\n"
+     "a.tgs:12:3: warning: \"P_3\" begins a group of its own: the plain window of line 11 parts it from "
+     "\"P_2\" "
+     "[radio-group]\n"},
+    {"each row, title and item that is cut", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  LISTBOX "L" 0 0 200 90
+  BEGIN
+    LISTLOOK 15
+    LISTFONTS 0 0 0 0
+    COLUMNS 40 40 CENTRE
+    TITLES "a title that is long" "another title"
+    ITEM "a long text" "short"
+    # tgx: allow text-clipped
+    ITEM "a long text" "short"
+    ITEM "short" "a long text"
+  END
+  COMBOBOX "C" 200 0 40 20 "short"
+  BEGIN
+    ITEM "a long item"
+    ITEM "another item"
+  END
+  TABORDER "L" "C"
+END)",
+     "a.tgs:8:12: warning: the title \"a title that is long\" of \"L\" is 87 pixels wide in font 0, and "
+     "column 0 has 40 [text-clipped]\n"
+     "a.tgs:8:35: warning: the title \"another title\" of \"L\" is 60 pixels wide in font 0, and column 1 "
+     "has 40 [text-clipped]\n"
+     "a.tgs:9:10: warning: the text \"a long text\" in row 0 of \"L\" is 54 pixels wide in font 0, and "
+     "column 0 has 40 [text-clipped]\n"
+     "a.tgs:12:18: warning: the text \"a long text\" in row 2 of \"L\" is 54 pixels wide in font 0, and "
+     "column 1 has 40 [text-clipped]\n"
+     "a.tgs:16:10: warning: the item \"a long item\" of \"C\" is 54 pixels wide in font 0, and its box has "
+     "40 [text-clipped]\n"
+     "a.tgs:17:10: warning: the item \"another item\" of \"C\" is 62 pixels wide in font 0, and its box has "
+     "40 [text-clipped]\n"},
+    {"a text in a font that the game may put into any row", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  LISTBOX "L" 0 0 200 90
+  BEGIN
+    LISTFONTS 1
+    COLUMNS 20
+    ITEM "a long text"
+  END
+  TABORDER "L"
+END
+== script.tgs
+ADDFONT "none.ttf" "" 12)",
+     "script.tgs:1:9: error: the font \"none.ttf\" cannot be loaded; the built-in one takes its place "
+     "[missing-font]\n"},
+    {"words that lose letters, and wrapped lines in a low box", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  TEXTWND "B" 0 0 40 90 "so Unbelievablyincomprehensible"
+  BEGIN
+    TEXTWRAP 1
+  END
+  TEXTWND "C" 200 0 40 8 "low"
+  BEGIN
+    TEXTWRAP 1
+  END
+END)",
+     "a.tgs:3:25: warning: the text of \"B\" loses letters: \"Unbelievablyincomprehensible\" is 143 pixels "
+     "wide in font 0, and a line has 40 [text-clipped]\n"
+     "a.tgs:7:26: warning: the text of \"C\" is 13 pixels high in font 0, and its box has 8 "
+     "[text-clipped]\n"},
+    {"cells that are icons and do not look it", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  LISTBOX "L" 0 0 200 90
+  BEGIN
+    COLUMNS 40 40 40
+    ITEM "ICONIC" "Iconic" "ICON0F"
+    ITEM "ICON" "ICON1F2" "ICON1 F2"
+  END
+  TABORDER "L"
+END)",
+     "a.tgs:6:10: error: \"ICONIC\" is read as an icon, for it begins with ICON; expected a number behind "
+     "that, as in ICON0 or ICON0F2 [missing-icon]\n"
+     "a.tgs:6:28: error: \"ICON0F\" is read as an icon, for it begins with ICON; expected a number behind "
+     "that, as in ICON0 or ICON0F2 [missing-icon]\n"
+     "a.tgs:7:10: error: \"ICON\" is read as an icon, for it begins with ICON; expected a number behind "
+     "that, as in ICON0 or ICON0F2 [missing-icon]\n"
+     "a.tgs:7:27: error: \"ICON1 F2\" is read as an icon, for it begins with ICON; expected a number behind "
+     "that, as in ICON0 or ICON0F2 [missing-icon]\n"},
+    {"rows that need a scroll bar, whose picture is not there", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  LISTBOX "L" 0 0 200 42
+  BEGIN
+    LISTLOOK 20
+    ITEM "a"
+    ITEM "b"
+    ITEM "c"
+  END
+  TABORDER "L"
+END)",
+     "a.tgs:3:3: error: \"L\" has more rows than its box and makes a scroll bar: no picture "
+     "\"uig\\scroll1.bmp\" in the data directory [missing-bitmap]\n"},
+    {"arguments that nothing reads", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  LISTBOX "L" 0 0 400 90
+  BEGIN
+    LISTLOOK 20 1 1 1
+    LISTOPTIONS 1 1 1
+    LISTFONTS 0 0 0 0 0
+    COLUMNS 9 9 9 9 9 9 9 9 9 9 LEFT 9 9 9 9 9 9 9 9 9
+    COLUMNS 9 9 9
+    TITLES "a"
+    LISTFIXEDCOLUMNS 19 20 -1
+    BMPBLITMODE 77
+  END
+  LISTBOX "M" 200 0 90 20
+  BEGIN
+    COLUMNS 40
+    TITLES "a" "b" "c"
+  END
+  COMBOBOX "C" 200 20 90 20 ""
+  BEGIN
+    ITEM "a" "b"
+  END
+  GRAPH "G" 200 40 90 20
+  BEGIN
+    GRAPHINFO "" "" 1 2 3 4 5 6
+  END
+  COMBOMENU 0 0 90 20 ""
+  GOTO "S" "parts.tgx" "x"
+  TABORDER "L" "M" "C"
+END
+== parts.tgs
+FONT 0
+SUBROUTINE "S"
+BEGIN
+  BORDER "" 4 8
+END)",
+     "a.tgs:5:21: warning: LISTLOOK reads 3 arguments; what stands from here on is not read [no-effect]\n"
+     "a.tgs:6:21: warning: LISTOPTIONS reads 2 arguments; what stands from here on is not read [no-effect]\n"
+     "a.tgs:7:23: warning: LISTFONTS reads 4 arguments; what stands from here on is not read [no-effect]\n"
+     "a.tgs:9:15: warning: a list has at most 20 columns; those from here on are left out [no-effect]\n"
+     "a.tgs:11:25: warning: \"L\" has 20 columns, counted from 0; there is no column 20 [no-effect]\n"
+     "a.tgs:11:28: warning: \"L\" has 20 columns, counted from 0; there is no column -1 [no-effect]\n"
+     "a.tgs:12:17: warning: there is no mode 77; 0 is normal, 1 opaque, 2 half, 3 additive [no-effect]\n"
+     "a.tgs:17:16: warning: \"M\" has 1 column; a title behind the last one is not shown [no-effect]\n"
+     "a.tgs:21:14: warning: an item of a combo box is one text; what stands behind it is not read "
+     "[no-effect]\n"
+     "a.tgs:25:31: warning: GRAPHINFO reads 7 arguments; what stands from here on is not read [no-effect]\n"
+     "a.tgs:27:3: warning: no combo box is around this menu, so nothing opens it [no-effect]\n"
+     "a.tgs:28:24: warning: GOTO reads 2 arguments; what stands from here on is not read [no-effect]\n"
+     "parts.tgs:1:1: warning: out of a script with subroutines single windows are read, and this line in "
+     "none of them; FONT stands in a window's block here [no-effect]\n"
+     "parts.tgs:4:10: error: a border is made of a picture, and this names none [missing-bitmap]\n"},
+    {"frames of extreme sizes", R"(CHECKBOX "B" 0 0 90 9 ""
+BEGIN
+  CHECKBOXSTATE 0 0 -1 -1 "three.bmp"
+END
+BITMAP "C" 0 0 9 9 "three.bmp" 32767 10 0 32767)",
+     "a.tgs:5:20: error: \"three.bmp\" is 63 x 10 pixels, too small for 32767 frames of 32767 x 10 that "
+     "\"C\" "
+     "takes from it; a row of them is 1073709056 x 10 [strip-too-small]\n"},
+    {"a strip that begins behind its last frame", R"(WINDOW "A" 0 0 400 90
+BEGIN
+  BITMAP "B" 0 0 20 10 "three.bmp" 20 10 0 3
+  BEGIN
+    BMPFRAME 7
+  END
+  BITMAP "C" 0 20 20 10 "three.bmp" 20 10 0 3
+  BEGIN
+    BMPFRAME 2
+  END
+END)",
+     "a.tgs:3:24: error: \"three.bmp\" is 63 x 10 pixels, too small for 8 frames of 20 x 10 that \"B\" takes "
+     "from it; a row of them is 168 x 10 [strip-too-small]\n"},
+};
+
+TEST_F(Check, TellsWhatIsWrongWithControlsAndLists)
+{
+    for (const CheckRow& row : wrongScripts) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(found(row.text), row.findings);
+    }
+}
+
+} // namespace

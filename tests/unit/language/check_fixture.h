@@ -1,0 +1,90 @@
+#pragma once
+
+#include "language/check/check.h"
+#include "tests/unit/language/sources.h"
+#include "tests/unit/support/tgx_test.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// Divides a text into files at lines such as "== parts.tgs"; "== [parts.tgs]" is one that is only there for
+/// the others.
+inline Sources divided(std::string text, const std::string& firstName)
+{
+    Sources out;
+    std::string name = firstName;
+    while (true) {
+        const std::size_t mark = text.starts_with("== ") ? 0 : text.find("\n== ");
+        const std::size_t end = mark == 0 ? 0 : mark == std::string::npos ? mark : mark + 1;
+        if (end != 0)
+            out.files[name] = text.substr(0, end);
+        if (mark == std::string::npos)
+            return out;
+        const std::size_t lineEnd = text.find('\n', end);
+        name = text.substr(end + 3, lineEnd - end - 3);
+        text.erase(0, lineEnd + 1);
+    }
+}
+
+/// Pictures of known sizes in a data directory: wide.bmp 400 x 300, one.bmp 20 x 10, and the strip three.bmp,
+/// frames of 20 x 10.
+class Check : public TgxTest {
+protected:
+    Check()
+    {
+        bitmap("wide.bmp", 400, 300);
+        bitmap("one.bmp", 20, 10);
+        bitmap("three.bmp", 63, 10); // a pixel lies behind the last frame too
+        strip("eight.bmp", 8, 8, 8);
+        write("text.png", "no picture");
+        options.dataDirectory = data.string();
+    }
+
+    script_check::CheckReport run(const Sources& sources)
+    {
+        std::vector<script_check::ScriptFile> files;
+        for (const auto& [name, text] : sources.files) {
+            const bool isReported = !name.starts_with('[');
+            const std::string path = isReported ? name : name.substr(1, name.size() - 2);
+            std::string runtimeName = path.substr(0, path.rfind('.')) + ".tgx";
+            std::replace(runtimeName.begin(), runtimeName.end(), '/', '\\');
+            if (!path.ends_with(".inc"))
+                files.push_back({path, text, path.ends_with(".tgx"), isReported, runtimeName});
+        }
+        return script_check::check(
+            files,
+            [&](const std::string& path, std::string& reason) {
+                const auto found = sources.files.find(path);
+                reason = "there is none";
+                return found == sources.files.end() ? std::optional<std::string>() : found->second;
+            },
+            options);
+    }
+    std::string found(const std::string& text, const std::string& firstName = "a.tgs")
+    {
+        const script_check::CheckReport report = run(divided(text, firstName));
+        std::string headlines;
+        for (const auto& each : report.findings)
+            headlines += headline(each) + " [" + each.code + "]\n";
+        return headlines;
+    }
+
+    script_check::CheckOptions options;
+};
+
+/// A row of a table: scripts, and what is found in them, each headline with its code in brackets.
+struct CheckRow {
+    const char* name;
+    std::string text;
+    std::string findings;
+};
+
+inline std::string repeated(int times, const std::string& text)
+{
+    std::string out;
+    for (int i = 0; i < times; ++i)
+        out += text;
+    return out;
+}

@@ -1,0 +1,239 @@
+// Scripts that are right, and look as if they were not.
+
+#include "tests/unit/language/check_fixture.h"
+
+namespace {
+
+/// Each in a.tgs, where no other file is named.
+const struct {
+    const char* name;
+    const char* text;
+} rightScripts[] = {
+    {"a FONT for the windows behind it",
+     R"(WINDOW "A" 0 0 90 90
+BEGIN
+  TEXTWND "B" 0 0 90 20 "b"
+  FONT 0
+  TEXTWND "C" 0 0 90 20 "b"
+  FONT 0
+  GOTO "LABELS"
+  BUTTON "TGX_OK" 0 60 20 20 ""
+  EASYCLOSE 1
+  TABORDER "TGX_OK"
+END
+SUBROUTINE "LABELS"
+TEXTWND "static" 0 40 90 20 "c")"},
+    {"fonts that come by subroutines, and a main script that is only there for the others",
+     R"(WINDOW "A" 0 0 90 90
+BEGIN
+  FONT 2
+END
+== common.tgs
+WINDOW "B" 0 0 90 90
+BEGIN
+  LISTBOX "L" 0 0 90 90
+  BEGIN
+    LISTFONTS 0 2
+  END
+  TABORDER "L"
+END
+== [script.tgs]
+GOTO "FONTS" "parts.tgx"
+GOTO "SMALL" "parts.tgx"
+== parts.tgs
+SUBROUTINE "FONTS"
+BEGIN
+  GOTO "LARGE"
+END
+SUBROUTINE "LARGE"
+# tgx: allow missing-font
+ADDFONT "" "" 12
+SUBROUTINE "SMALL"
+BEGIN
+  # tgx: allow missing-font
+  ADDFONT "" "" 9
+END)"},
+    {"fonts of a main script that has subroutines too, though it is none of the game",
+     R"(# tgx: allow missing-font
+ADDFONT "" "" 12
+WINDOW "A" 0 0 90 90
+BEGIN
+  FONT 1
+  GOTO "S"
+END
+SUBROUTINE "S"
+TEXTRAW 1)"},
+    {"fonts that an embedded script may add",
+     R"(GOTO "FONTS" "150"
+WINDOW "A" 0 0 90 90
+BEGIN
+  FONT 3
+END)"},
+    {"a subroutine that may be run as one of an embedded script",
+     R"(WINDOW "A" 0 0 90 90
+BEGIN
+  GOTO "PANEL" "150"
+END
+== parts.tgs
+SUBROUTINE "PANEL"
+TEXTRAW 1)"},
+    {"scripts in folders of their own, one of them of the same name",
+     R"(WINDOW "A" 0 0 90 90
+BEGIN
+  GOTO "S" "sub\a.tgx"
+  POINTER "MAP" "SUB/maps.tgx"
+END
+== sub/a.tgs
+SUBROUTINE "S"
+BEGIN
+  FONT 0
+  TEXTRAW 1
+END
+== sub/maps.tgs
+WINDOW "MAP" 0 0 90 90
+BEGIN
+END)"},
+    {"what a class of the game may make, and where its parts lie",
+     R"(SCREEN "A" 0 0 640 480 ""
+BEGIN
+  USERDEF "MAP" 0 0 0 0 "Map"
+  BEGIN
+    BUTTON "TOWN1" 500 0 200 20 ""
+    WINDOW "P" 900 0 90 90
+    BEGIN
+      TEXTWND "T" 0 0 90 24 "text"
+    END
+  END
+  USERDEF "ComboMenu" 0 40 90 90 "Menu"
+  TABORDER "TOWN1" "TOWN2"
+END)"},
+    {"a list of the game's own class, which a subroutine fills",
+     R"(SCREEN "A" 0 0 640 480 ""
+BEGIN
+  USERDEF "U" 0 0 90 90 "MyList"
+  BEGIN
+    GOTO "LOOK" "p.tgx"
+  END
+  TABORDER "Y"
+END
+SCREEN "B" 0 0 640 480 ""
+BEGIN
+  BUTTON "Z" 0 100 90 20 ""
+  GOTO "REST" "p.tgx"
+  POINTER "MAP"
+END
+== p.tgs
+SUBROUTINE "LOOK"
+BEGIN
+  LISTLOOK 3
+  BUTTON "Y" 0 0 20 20 ""
+END
+SUBROUTINE "REST"
+BEGIN
+  USERDEF "V" 0 0 90 90 "MyList"
+  BEGIN
+    LISTLOOK 3
+  END
+  WINDOW "MAP" 0 200 90 90
+  TABORDER "Z"
+END
+== script.tgs
+FONT 0)"},
+    {"a panel that waits outside to be shown",
+     R"(SCREEN "A" 0 0 640 480 ""
+BEGIN
+  WINDOW "P" 640 0 200 480
+  BEGIN
+    VISIBLE 0
+    BUTTON "B" 10 10 90 20 ""
+  END
+  TABORDER "B"
+END)"},
+    {"a screen that is larger than the first one",
+     R"(SCREEN "A" 0 0 320 200 ""
+SCREEN "B" 0 0 640 480 "")"},
+    {"lines that leave something of the ones before",
+     R"(WINDOW "A" 0 0 200 200
+BEGIN
+  LISTBOX "L" 0 0 90 90
+  BEGIN
+    BORDER "eight.bmp" 4 8 "eight.bmp"
+    BORDER "eight.bmp" 2 8
+    WNDPOS 0 0 90 24
+    WNDPOS 40 40 -1 -1
+  END
+  TABORDER "L"
+END)"},
+    {"a strip that is not stretched over its box",
+     R"(WINDOW "A" 0 0 100 100
+BEGIN
+  TEXTWND "T" 40 40 40 20 "text"
+  BITMAP "static" 0 0 100 100 "wide.bmp" 20 10 1 4
+  BEGIN
+    BMPSTRETCH 0
+  END
+END)"},
+    {"a body of one line, and a window of the top level behind it",
+     R"(SUBROUTINE "S"
+TEXTRAW 1
+WINDOW "A" 0 0 90 90
+BEGIN
+  GOTO "S"
+END)"},
+    {"windows without blocks where all is read",
+     R"(WINDOW "A" 0 0 90 90
+WINDOW "B" 0 0 90 90
+BEGIN
+END)"},
+    {"an allowance for what only another script finds in an included file",
+     R"(INCLUDE "d.inc"
+WINDOW "W" 0 0 90 90
+BEGIN
+  TEXTWND "T" 0 0 90 NARROW ""
+END
+== d.inc
+DEFINE NARROW 20
+WINDOW "D" 0 0 90 90
+BEGIN
+  # tgx: allow no-font
+  FONT 0
+END
+== [b.tgs]
+INCLUDE "d.inc")"},
+    {"an allowance in a subroutine that scripts run which are not looked at",
+     R"(SUBROUTINE "S"
+BEGIN
+  # tgx: allow wrong-window
+  TEXTRAW 1
+END
+== [b.tgs]
+WINDOW "W" 0 0 90 90
+BEGIN
+  GOTO "S" "a.tgx"
+END)"},
+    {"an allowance for files that are not looked for",
+     R"(# tgx: allow unused-file
+FONT 0)"},
+};
+
+TEST_F(Check, FindsNothingInRightScripts)
+{
+    for (const auto& row : rightScripts) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(found(row.text), "");
+    }
+}
+
+TEST_F(Check, DoesNotAskForAllowancesWhereRulesHaveNotRun)
+{
+    const std::string text = "# tgx: allow text-clipped\nWINDOW \"A\" 0 0 90 90\nBEGIN\nEND";
+    EXPECT_EQ(found(text),
+              "a.tgs:1:14: warning: nothing to allow: the line behind has no finding text-clipped "
+              "[unused-allowance]\n");
+    EXPECT_EQ(found(text + "\nWINDOW \"B\" 0 0 90 90\nBEGIN"),
+              "a.tgs:6:1: error: no END closes this block [begin-without-end]\n");
+    options.dataDirectory.clear(); // fonts of files are not known
+    EXPECT_EQ(found(text), "");
+}
+
+} // namespace

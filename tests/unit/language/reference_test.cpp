@@ -1,0 +1,83 @@
+#include "language/reference/reference.h"
+
+#include "language/check/codes.h"
+#include "language/reference/meanings.h"
+#include "tgx/script/vocabulary.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <sstream>
+#include <string>
+
+namespace {
+
+TEST(Reference, TellsOfEveryStatementOnce)
+{
+    for (const Statement& row : vocabulary()) {
+        const script_text::Meaning* meaning = script_text::meaningOf(row.id);
+        EXPECT_TRUE(meaning && *meaning->text)
+            << row.keyword << " has no line in language/reference/meanings.cpp";
+    }
+    std::set<int> told;
+    for (const script_text::Meaning& row : script_text::meanings()) {
+        EXPECT_TRUE(statementById(row.id)) << row.id << " is no statement: " << row.text;
+        EXPECT_TRUE(told.insert(row.id).second) << row.id << " has a second line: " << row.text;
+    }
+}
+
+std::string readFile(const std::string& name)
+{
+    std::ifstream file(std::string(TGX_SOURCE_DIR "/") + name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+bool hasWord(const std::string& text, const std::string& word)
+{
+    std::istringstream words(text);
+    return std::find(std::istream_iterator<std::string>(words), {}, word) !=
+           std::istream_iterator<std::string>();
+}
+
+TEST(Reference, ExamplesShowTheirStatement)
+{
+    for (const Statement& row : vocabulary()) {
+        const script_text::Meaning* meaning = script_text::meaningOf(row.id);
+        if (!meaning || !meaning->example) {
+            EXPECT_FALSE(script_text::makesWindow(row))
+                << row.keyword << " makes a window and has no example";
+            continue;
+        }
+        const std::string name = meaning->example, folder = "examples/controls/";
+        EXPECT_TRUE(readFile(folder + name + ".png").starts_with("\x89PNG"))
+            << row.keyword << ": no picture " << folder << name << ".png";
+        // What an example calls by GOTO stands in the script of the shared parts.
+        const bool isCalled = row.kind == StatementKind::Definition;
+        const std::string script = folder + (isCalled ? "parts" : name) + ".tgs";
+        EXPECT_TRUE(hasWord(readFile(script), row.keyword)) << script << " does not use " << row.keyword;
+    }
+}
+
+TEST(Reference, DocumentsAreUpToDate)
+{
+    const struct {
+        const char* file;
+        std::string text;
+    } rows[] = {
+        {"docs/script-reference.md", script_text::referenceDocument()},
+        {"docs/check-reference.md", script_check::referenceDocument()},
+        {"editors/vim/syntax/tgs.vim", script_text::vimSyntax()},
+        {"editors/textmate/tgs.tmLanguage.json", script_text::textMateGrammar()},
+    };
+    for (const auto& row : rows) {
+        const std::string kept = readFile(row.file);
+        // Not EXPECT_EQ: the whole documents would be printed.
+        EXPECT_TRUE(kept == row.text) << row.file << " is out of date; write it anew with\n"
+                                      << "    cmake --build build/release --target script_reference";
+    }
+}
+
+} // namespace

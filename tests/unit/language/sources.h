@@ -1,0 +1,41 @@
+#pragma once
+
+#include "language/text/emit.h"
+#include "language/text/parsed_script.h"
+
+#include <map>
+#include <string>
+
+/// Scripts in text form that stand in the test itself.
+struct Sources {
+    std::map<std::string, std::string> files;
+
+    script_text::ParsedScript parse(const std::string& name) const
+    {
+        return script_text::parse(name, files.at(name), [this](const std::string& path, std::string& reason) {
+            const auto found = files.find(path);
+            reason = "there is none";
+            return found == files.end() ? std::optional<std::string>() : found->second;
+        });
+    }
+};
+
+inline script_text::ParsedScript parse(const std::string& text)
+{
+    return Sources{{{"a.tgs", text}}}.parse("a.tgs");
+}
+
+/// The first lines of all messages.
+inline std::string headlines(const script_text::ParsedScript& script)
+{
+    std::string out;
+    for (const auto& each : script.diagnostics)
+        out += headline(each) + '\n';
+    return out;
+}
+
+/// The compiled script, or what is wrong with it.
+inline std::string build(const script_text::ParsedScript& script)
+{
+    return script.hasErrors() ? headlines(script) : emit(script).bytes;
+}
