@@ -2,6 +2,7 @@
 
 #include "platform/display/display_list.h"
 #include "platform/media/box.h"
+#include "platform/media/text_layout.h"
 
 /// A blit with its sizes sorted out: an unstretched one has the source's size.
 struct BlitSource {
@@ -20,8 +21,14 @@ inline BlitSource sourceOf(const DrawCommand& blit)
 }
 
 /// Screen pixels that a Blit, BlitRow, FillRect, Rectangle or Line may paint, inside clip; empty for all
-/// others. For a text, layoutText knows.
+/// others. For a text, layoutText answers that.
 Box paintedBox(const DrawCommand& command, const Box& clip);
+
+/// The text of a TextOut.
+inline tgx::TextRun textRunOf(const DrawCommand& text)
+{
+    return {text.font, text.x, text.y, text.scale, text.mode == 1, (text.flags & 1) != 0};
+}
 
 /// Whether the command hides all that lies under its paintedBox.
 bool coversAll(const DrawCommand& command);

@@ -63,7 +63,7 @@ void Damage::fold(const DisplayList& list, const DrawCommand& command, std::vect
     Box box;
     if (command.op == DrawOp::TextOut) {
         placed.clear();
-        box = layoutText(command, list.text(command), screenBox, placed);
+        box = tgx::layoutText(textRunOf(command), list.text(command), screenBox, placed);
     } else {
         box = paintedBox(command, screenBox);
     }

@@ -54,5 +54,5 @@ private:
     Box bounds;
     std::vector<std::uint64_t> hashesBefore;
     std::vector<std::uint64_t> hashesNow;
-    std::vector<PlacedGlyph> placed; // of the text being looked at
+    std::vector<tgx::PlacedGlyph> placed; // of the text being looked at
 };

@@ -1,23 +1,27 @@
 #include "platform/display/blit_rows.h"
+#include "platform/display/command_box.h"
 #include "platform/display/painters.h"
 #include "platform/media/int_math.h"
 
+using tgx::PlacedGlyph;
+using tgx::TextRun;
+
 namespace {
 
-void paintScaledGlyph(Image& screen, const DrawCommand& command, const PlacedGlyph& placed, const Box& clip)
+void paintScaledGlyph(Image& screen, const TextRun& run, const PlacedGlyph& placed, const Box& clip)
 {
-    const Box box = scaledGlyphBox(command, placed, clip);
+    const Box box = scaledGlyphBox(run, placed, clip);
     const Glyph& glyph = *placed.glyph;
     const auto fontPixel = [&](std::int64_t pixel) {
-        return static_cast<int>(floorDiv<std::int64_t>(pixel * ZnFixed::one, command.scale));
+        return static_cast<int>(floorDiv<std::int64_t>(pixel * ZnFixed::one, run.scale));
     };
     for (int y = box.y0; y < box.y1; y++) {
         const std::uint32_t* from =
             glyph.pixels.data() +
-            static_cast<std::ptrdiff_t>(fontPixel(std::int64_t(y) - command.y) - placed.y) * glyph.stride;
+            static_cast<std::ptrdiff_t>(fontPixel(std::int64_t(y) - run.y) - placed.y) * glyph.stride;
         std::uint32_t* to = screen.row(y);
         for (int x = box.x0; x < box.x1; x++)
-            layPixels({to + x, 0, from + fontPixel(std::int64_t(x) - command.x) - placed.x, 0, 1, 1});
+            layPixels({to + x, 0, from + fontPixel(std::int64_t(x) - run.x) - placed.x, 0, 1, 1});
     }
 }
 
@@ -26,10 +30,10 @@ void paintScaledGlyph(Image& screen, const DrawCommand& command, const PlacedGly
 void paintText(Image& screen, const DrawCommand& command, std::span<const PlacedGlyph> glyphs,
                const Box& clip)
 {
-    const bool scaled = isScaledText(command);
+    const TextRun run = textRunOf(command);
     for (const PlacedGlyph& placed : glyphs) {
-        if (scaled) {
-            paintScaledGlyph(screen, command, placed, clip);
+        if (run.isScaled()) {
+            paintScaledGlyph(screen, run, placed, clip);
             continue;
         }
         const Glyph& glyph = *placed.glyph;

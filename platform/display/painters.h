@@ -22,5 +22,5 @@ void paintFill(Image& screen, const DrawCommand& command, const Box& clip);
 void paintOutline(Image& screen, const DrawCommand& command, const Box& clip);
 void paintLine(Image& screen, const DrawCommand& command, const Box& clip);
 /// glyphs is what layoutText has placed for the command.
-void paintText(Image& screen, const DrawCommand& command, std::span<const PlacedGlyph> glyphs,
+void paintText(Image& screen, const DrawCommand& command, std::span<const tgx::PlacedGlyph> glyphs,
                const Box& clip);

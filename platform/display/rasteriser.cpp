@@ -49,7 +49,7 @@ void Rasteriser::gather(const DisplayList& list, PaintedRange range, const Damag
             continue;
         const auto glyphFirst = static_cast<std::uint32_t>(placed.size());
         const Box box = command.op == DrawOp::TextOut
-                            ? layoutText(command, list.text(command), damage.box(), placed)
+                            ? tgx::layoutText(textRunOf(command), list.text(command), damage.box(), placed)
                             : paintedBox(command, damage.box());
         if (!box.isEmpty())
             items.push_back({&command, box, glyphFirst, static_cast<std::uint32_t>(placed.size())});

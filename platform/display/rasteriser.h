@@ -40,7 +40,7 @@ private:
 
     // Kept from frame to frame for their storage.
     std::vector<Item> items;
-    std::vector<PlacedGlyph> placed;
+    std::vector<tgx::PlacedGlyph> placed;
     std::vector<std::int32_t> starts; // by tile: the last item that covers it whole, or -1
     std::vector<std::int32_t> runOf;  // by tile, -1 for an undamaged one
     std::vector<Run> runs;

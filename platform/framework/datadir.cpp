@@ -1,6 +1,6 @@
 #include "platform/framework/datadir.h"
 
-#include "platform/system/out_of_memory.h"
+#include "platform/framework/out_of_memory.h"
 
 #include <chrono>
 #include <cstdlib>

@@ -1,9 +1,9 @@
 #include "platform/media/font_file.h"
 
 #include "platform/framework/cfile.h"
+#include "platform/framework/out_of_memory.h"
 #include "platform/limits.h"
 #include "platform/media/code_page.h"
-#include "platform/system/out_of_memory.h"
 
 #include <SDL_ttf.h>
 

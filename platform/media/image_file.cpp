@@ -1,10 +1,10 @@
 #include "platform/media/image_file.h"
 
 #include "platform/framework/cfile.h"
+#include "platform/framework/out_of_memory.h"
 #include "platform/limits.h"
 #include "platform/media/bmp_decoder.h"
 #include "platform/media/picture_header.h"
-#include "platform/system/out_of_memory.h"
 #include "platform/system/whole_file.h"
 
 #include <SDL.h>

@@ -3,9 +3,14 @@
 #include "platform/limits.h"
 #include "platform/media/int_math.h"
 
+#include <algorithm>
+#include <climits>
+
+namespace tgx {
+
 namespace {
 
-// Pixels of a character lie this near to its pen position; loading a font sees to that.
+// Pixels of a character are no further than this from its pen position; loading a font sees to that.
 constexpr std::int64_t glyphReach = 4 * limits::fontPixels;
 
 // Characters of one text that are drawn. Only a font whose characters do not move the pen puts more of them
@@ -17,10 +22,9 @@ struct Line {
     std::size_t lengthWithBreak;
 };
 
-// A raw text breaks at a line feed and at the mark backslash, n.
-Line firstLine(std::string_view text, bool raw)
+Line firstLine(std::string_view text, bool breaksLines)
 {
-    if (!raw)
+    if (!breaksLines)
         return {text, text.size()};
     for (std::size_t i = 0; i < text.size(); i++) {
         if (text[i] == '\n')
@@ -31,88 +35,104 @@ Line firstLine(std::string_view text, bool raw)
     return {text, text.size()};
 }
 
-} // namespace
+/// The part of a text's plane, in font pixels from the text's corner, that can show inside clip.
+struct Reach {
+    std::int64_t left, top, right, bottom;
 
-bool isScaledText(const DrawCommand& command)
+    Reach(const TextRun& run, const Box& clip)
+        : left(toFont(run, std::int64_t(clip.x0) - run.x) - glyphReach),
+          top(toFont(run, std::int64_t(clip.y0) - run.y) - glyphReach),
+          right(toFont(run, std::int64_t(clip.x1) - run.x) + glyphReach),
+          bottom(toFont(run, std::int64_t(clip.y1) - run.y) + glyphReach)
+    {}
+
+private:
+    static std::int64_t toFont(const TextRun& run, std::int64_t pixels)
+    {
+        if (!run.isScaled())
+            return pixels;
+        constexpr std::int64_t far = 1 << 30; // what is further out would not fit a placed glyph
+        return std::clamp(floorDiv<std::int64_t>(pixels * ZnFixed::one, run.scale), -far, far);
+    }
+};
+
+int revealedUpTo(const TextRun& run, std::string_view line, const Box& clip)
 {
-    return command.mode != 1 && command.scale != ZnFixed::one;
+    if (!run.isRevealed || run.scale >= ZnFixed::one)
+        return INT_MAX;
+    std::int64_t width = 0;
+    for (unsigned char character : line)
+        width += run.font->advance(character);
+    return clipped(0, 0, run.x + ((width * run.scale) >> 12), 1, clip).x1;
 }
 
-Box scaledGlyphBox(const DrawCommand& command, const PlacedGlyph& placed, const Box& clip)
+/// Places the characters of a line that begins lineY font pixels below the text's corner, and widens painted
+/// by them. Returns false when mostPlaced are placed and there is another one.
+bool placeLine(const TextRun& run, std::string_view line, std::int64_t lineY, const Reach& reach,
+               const Box& clip, std::size_t mostPlaced, std::vector<PlacedGlyph>& placed, Box& painted)
+{
+    const bmpfont& font = *run.font;
+    const bool isScaled = run.isScaled();
+    const int clipRight = revealedUpTo(run, line, clip);
+    std::int64_t pen = 0;
+    for (unsigned char character : line) {
+        if (pen > reach.right)
+            break;
+        const Glyph& glyph = font.glyph(character);
+        const std::int64_t start = pen;
+        pen += font.advance(character);
+        if (glyph.pixels.empty() || start < reach.left)
+            continue;
+        PlacedGlyph place{static_cast<int>(start) + glyph.left, static_cast<int>(lineY) + glyph.top,
+                          clipRight, &glyph};
+        Box box;
+        if (isScaled) {
+            box = scaledGlyphBox(run, place, clip);
+        } else {
+            place.x += run.x; // near the clip, so it fits
+            place.y += run.y;
+            box = intersection(
+                {place.x, place.y, std::min(place.x + glyph.width, clipRight), place.y + glyph.height}, clip);
+        }
+        if (box.isEmpty())
+            continue;
+        if (placed.size() >= mostPlaced)
+            return false;
+        placed.push_back(place);
+        painted = hull(painted, box);
+    }
+    return true;
+}
+
+} // namespace
+
+Box scaledGlyphBox(const TextRun& run, const PlacedGlyph& placed, const Box& clip)
 {
     // Target pixel t shows font pixel floor(t / scale), so font pixel u begins at ceil(u * scale).
     const auto edge = [&](std::int64_t fontPixel) {
-        return ceilDiv<std::int64_t>(fontPixel * command.scale, ZnFixed::one);
+        return ceilDiv<std::int64_t>(fontPixel * run.scale, ZnFixed::one);
     };
     const Glyph& glyph = *placed.glyph;
-    return clipped(command.x + edge(placed.x), command.y + edge(placed.y),
-                   command.x + edge(placed.x + glyph.width), command.y + edge(placed.y + glyph.height), clip);
+    return clipped(run.x + edge(placed.x), run.y + edge(placed.y), run.x + edge(placed.x + glyph.width),
+                   run.y + edge(placed.y + glyph.height), clip);
 }
 
-Box layoutText(const DrawCommand& command, std::string_view text, const Box& clip,
-               std::vector<PlacedGlyph>& placed)
+Box layoutText(const TextRun& run, std::string_view text, const Box& clip, std::vector<PlacedGlyph>& placed)
 {
-    const bmpfont* font = command.font;
-    if (!font || command.scale <= 0 || clip.isEmpty())
+    if (!run.font || run.scale <= 0 || clip.isEmpty())
         return {};
-    const bool scaled = isScaledText(command);
-    // A line, in font pixels from the text's corner, and the part of that plane which the clip shows.
-    const auto toFont = [&](std::int64_t pixels) {
-        if (!scaled)
-            return pixels;
-        constexpr std::int64_t far = 1 << 30; // what lies further out would not fit a placed glyph
-        return std::clamp(floorDiv<std::int64_t>(pixels * ZnFixed::one, command.scale), -far, far);
-    };
-    const std::int64_t left = toFont(std::int64_t(clip.x0) - command.x) - glyphReach;
-    const std::int64_t right = toFont(std::int64_t(clip.x1) - command.x) + glyphReach;
-    const std::int64_t top = toFont(std::int64_t(clip.y0) - command.y) - glyphReach;
-    const std::int64_t bottom = toFont(std::int64_t(clip.y1) - command.y) + glyphReach;
-
-    const std::size_t first = placed.size();
+    const Reach reach(run, clip);
+    const std::size_t mostPlaced = placed.size() + glyphsPerText;
     Box painted;
-    std::int64_t lineY = 0;
-    while (!text.empty() && lineY <= bottom) {
-        const Line line = firstLine(text, command.flags & 1);
+    for (std::int64_t lineY = 0; !text.empty() && lineY <= reach.bottom;
+         lineY += std::max<int>(run.font->lineHeight, 1)) {
+        const Line line = firstLine(text, run.breaksLines);
         text.remove_prefix(line.lengthWithBreak);
-        const std::int64_t thisLine = lineY;
-        lineY += std::max<int>(font->lineHeight, 1);
-        if (thisLine < top)
-            continue;
-        int clipRight = INT_MAX;
-        if (command.mode == 1 && command.scale < ZnFixed::one) {
-            std::int64_t width = 0;
-            for (unsigned char character : line.characters)
-                width += font->advance(character);
-            clipRight = clipped(0, 0, command.x + ((width * command.scale) >> 12), 1, clip).x1;
-        }
-        std::int64_t pen = 0;
-        for (unsigned char character : line.characters) {
-            if (pen > right)
-                break;
-            const Glyph& glyph = font->glyph(character);
-            const std::int64_t start = pen;
-            pen += font->advance(character);
-            if (glyph.pixels.empty() || start < left)
-                continue;
-            PlacedGlyph place{static_cast<int>(start) + glyph.left, static_cast<int>(thisLine) + glyph.top,
-                              clipRight, &glyph};
-            Box box;
-            if (scaled) {
-                box = scaledGlyphBox(command, place, clip);
-            } else {
-                place.x += command.x; // near the clip, so it fits
-                place.y += command.y;
-                box = intersection(
-                    {place.x, place.y, std::min(place.x + glyph.width, clipRight), place.y + glyph.height},
-                    clip);
-            }
-            if (box.isEmpty())
-                continue;
-            if (placed.size() - first >= glyphsPerText)
-                return painted;
-            placed.push_back(place);
-            painted = hull(painted, box);
-        }
+        if (lineY >= reach.top &&
+            !placeLine(run, line.characters, lineY, reach, clip, mostPlaced, placed, painted))
+            break;
     }
     return painted;
 }
+
+} // namespace tgx

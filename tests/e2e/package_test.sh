@@ -86,7 +86,7 @@ target_link_libraries(watched PRIVATE tgx::devtools)
 CMAKE
     cat >"$work/watched/main.cpp" <<'MAIN'
 #include "devtools/devtools.h"
-#include "platform/host/headless_host.h"
+#include "platform/host/headless/headless_host.h"
 #include "tgx/frame/mainwin.h"
 
 int main()

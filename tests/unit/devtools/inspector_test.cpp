@@ -347,12 +347,13 @@ TEST(InspectorTexts, CostAndKeys)
               (Texts{"frame\t1.23 ms, 20.56 on average", "drawn\t1,093 commands",
                      "changed\t45,678 pixels, 14.9 %"}));
     EXPECT_EQ(textsOf(describeCost({}, 0)).back(), "changed\t0 pixels, 0.0 %");
-    EXPECT_EQ(describeKeys({}), "F12 inspector \xB7 F11 whole screen \xB7 F10 picture \xB7 F9 record");
+    EXPECT_EQ(describeKeys({}),
+              "F12 inspector \xB7 F11 whole screen \xB7 F10 picture \xB7 F9 record \xB7 F8 screens");
     DevToolsOptions keys;
     keys.inspectorKey = 'I';
     keys.fullScreenKey = 0;
     keys.recorderKey = VK_INSERT;
-    EXPECT_EQ(describeKeys(keys), "I inspector \xB7 F10 picture \xB7 key 45 record");
+    EXPECT_EQ(describeKeys(keys), "I inspector \xB7 F10 picture \xB7 key 45 record \xB7 F8 screens");
 }
 
 } // namespace
