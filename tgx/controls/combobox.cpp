@@ -1,7 +1,7 @@
 #include "tgx/controls/combobox.h"
 
 #include "tgx/base/fixed.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/stage.h"
 #include "tgx/wnd/window_cast.h"
 
 #include <algorithm>
@@ -92,10 +92,10 @@ int AComboBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, 
     if (items.GetSize() < 2)
         return 0;
 
-    const AMainWin* main = getMainWin();
-    if (onPrev || main->keyCode == VK_UP || main->keyDown[VK_HOME] || main->keyDown[VK_INSERT]) {
+    const tgx::Stage* stage = tgx::stage();
+    if (onPrev || stage->keyCode == VK_UP || stage->keyDown[VK_HOME] || stage->keyDown[VK_INSERT]) {
         step(-1, buttons.prev);
-    } else if (onNext || main->keyCode == VK_DOWN || main->keyDown[VK_END] || main->keyDown[VK_DELETE]) {
+    } else if (onNext || stage->keyCode == VK_DOWN || stage->keyDown[VK_END] || stage->keyDown[VK_DELETE]) {
         step(1, buttons.next);
     } else {
         buttons.setState(BS_NORMAL);
@@ -120,7 +120,7 @@ void AComboBox::step(int direction, AButton* pressed)
 
 void AComboBox::tellOfChoice()
 {
-    if (AWnd* active = getMainWin()->getMouseCaptureWnd(0))
+    if (AWnd* active = tgx::stage()->getMouseCaptureWnd(0))
         active->update();
 }
 
@@ -129,7 +129,7 @@ AListBox* AComboBox::getOrMakeMenu()
 {
     if (AWnd* menu = getWnd("ComboMenu", 1))
         return windowAs<AListBox>(menu);
-    auto* made = new AFloatingMenu("ComboMenu", 0, 0, width(), getMainWin()->screenHeight);
+    auto* made = new AFloatingMenu("ComboMenu", 0, 0, width(), tgx::stage()->screenHeight);
     addChildWindow(made);
     return made;
 }
@@ -137,7 +137,7 @@ AListBox* AComboBox::getOrMakeMenu()
 /// The menu stays a child of the box: closing it only hides it, and it serves the next time too.
 void AComboBox::openMenu()
 {
-    AMainWin* main = getMainWin();
+    tgx::Stage* stage = tgx::stage();
     AListBox* menu = getOrMakeMenu();
     if (!menu)
         return;
@@ -148,10 +148,10 @@ void AComboBox::openMenu()
     placeMenu(*menu);
     menu->setVisible(1);
     menu->setEasyClose(1);
-    main->setPopupWnd(menu, this, 0);
+    stage->setPopupWnd(menu, this, 0);
     // No move is to be seen at once.
-    main->prevMouseX = main->mouseX;
-    main->prevMouseY = main->mouseY;
+    stage->prevMouseX = stage->mouseX;
+    stage->prevMouseY = stage->mouseY;
     menu->setSelectedItem(selectedItem);
     menu->setHotItem(selectedItem);
 }
@@ -160,7 +160,7 @@ void AComboBox::openMenu()
 void AComboBox::placeMenu(AListBox& menu)
 {
     constexpr int edge = 10; // pixels
-    const int screenHeight = getMainWin()->screenHeight;
+    const int screenHeight = tgx::stage()->screenHeight;
     const long long rows = static_cast<long long>(menu.getRowHeight()) * items.GetSize() + 1;
     int h = static_cast<int>(std::min<long long>(rows, INT_MAX / 2)); // cut to 16 bits where it is stored
     if (menuBelow && menu.posY(0) + h > screenHeight)
@@ -178,7 +178,7 @@ int AComboBox::handlePopupAction(const CString& about, AWnd* wnd, int x, int y, 
     AWnd::handlePopupAction(about, wnd, x, y, action);
     if (!self || action != MA_LBUTTONUP)
         return 0;
-    AMainWin* main = getMainWin();
+    tgx::Stage* stage = tgx::stage();
     auto* menu = windowAs<AListBox>(getPopupWnd());
     if (!menu)
         return 0;
@@ -190,7 +190,7 @@ int AComboBox::handlePopupAction(const CString& about, AWnd* wnd, int x, int y, 
         windowText = menu->getItemText(chosen, 0);
     }
     menu->setVisible(0);
-    main->deletePopupWnd();
+    stage->deletePopupWnd();
     setButtonState(BS_NORMAL);
     if (isChoice)
         tellOfChoice();
@@ -204,7 +204,7 @@ void AComboBox::draw(int frameStep)
         return;
     // A menu that is no longer in front does not stay on the screen.
     AWnd* menu = getWnd("ComboMenu", 1);
-    if (menu && menu->isVisible(1) && menu != getMainWin()->getMouseCaptureWnd(0))
+    if (menu && menu->isVisible(1) && menu != tgx::stage()->getMouseCaptureWnd(0))
         menu->setVisible(0);
     // Once more: during the opening run the button hides its text.
     textOut(left() + textOffsetX, top() + textOffsetY, width() - textOffsetX, height() - textOffsetY,

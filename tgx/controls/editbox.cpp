@@ -1,7 +1,8 @@
 #include "tgx/controls/editbox.h"
 
 #include "tgx/base/fixed.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/screen.h"
+#include "tgx/wnd/stage.h"
 #include "tgx/wnd/textline.h"
 #include "tgx/wnd/wrap.h"
 
@@ -56,7 +57,7 @@ AEditBox::AEditBox(const CString& name, int x, int y, int width, int height)
 
 bool AEditBox::isTypedIn() const
 {
-    return getMainWin()->getMouseCaptureWnd(0) == this;
+    return tgx::stage()->getMouseCaptureWnd(0) == this;
 }
 
 void AEditBox::setWindowText(const CString& text)
@@ -68,8 +69,8 @@ void AEditBox::setWindowText(const CString& text)
 
 int AEditBox::handleLostFocus()
 {
-    AMainWin* main = getMainWin();
-    main->setCursor(main->normalCursor);
+    tgx::Stage* stage = tgx::stage();
+    stage->setCursor(stage->normalCursor);
     return 1;
 }
 
@@ -118,11 +119,11 @@ int AEditBox::handleKeyInput(char key)
 
 void AEditBox::typeCharacter()
 {
-    AMainWin* main = getMainWin();
+    tgx::Stage* stage = tgx::stage();
     // A box of one line takes no more than it can show, counted before the character.
-    if (!textWrap && main->getStringLength(windowText, font) >= width() - 2 * textOffsetX)
+    if (!textWrap && stage->getStringLength(windowText, font) >= width() - 2 * textOffsetX)
         return;
-    const char character = main->keyChar;
+    const char character = stage->keyChar;
     if (!isAccepted(static_cast<unsigned char>(character)))
         return;
     const auto isFull = [this] { return maxLength != -1 && windowText.GetLength() >= maxLength; };
@@ -134,7 +135,7 @@ void AEditBox::typeCharacter()
         windowText.MakeUpper();
     ++cursorPos;
     if (isFull() && fullWnd)
-        main->setMousePosOnWnd(fullWnd, 0);
+        stage->setMousePosOnWnd(fullWnd, 0);
 }
 
 int AEditBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
@@ -146,7 +147,7 @@ int AEditBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E
     if (!isTypedIn()) {
         if (pointInside(x, y)) {
             cursorPos = to16(windowText.GetLength());
-            getMainWin()->setMouseCaptureWnd(this);
+            tgx::stage()->setMouseCaptureWnd(this);
         }
         return 0;
     }
@@ -156,9 +157,9 @@ int AEditBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E
 
 void AEditBox::endTyping()
 {
-    AMainWin* main = getMainWin();
+    tgx::Stage* stage = tgx::stage();
     cursorPos = to16(windowText.GetLength());
-    main->setMouseCaptureWnd(nullptr);
+    stage->setMouseCaptureWnd(nullptr);
     // Boxes whose leave and enter windows lead to each other come to rest.
     if (atEndOfTyping)
         return;
@@ -173,30 +174,30 @@ void AEditBox::endTyping()
 /// Reaches and presses the leave window, then the one to enter.
 void AEditBox::goOn()
 {
-    AMainWin* main = getMainWin();
+    tgx::Stage* stage = tgx::stage();
     const WndRef self = this;
-    const auto press = [main](AWnd* wnd) {
-        AScreen* screen = main->getActiveScreen();
+    const auto press = [stage](AWnd* wnd) {
+        AScreen* screen = stage->getActiveScreen();
         if (!wnd || !screen || wnd->getWindowType() != WND_BUTTON)
             return;
         const CString name = wnd->getID();
-        screen->handleMouseAction(name, wnd, main->mouseX, main->mouseY, MA_LBUTTONUP);
+        screen->handleMouseAction(name, wnd, stage->mouseX, stage->mouseY, MA_LBUTTONUP);
     };
     if (const WndRef leaving = leaveWnd.get()) {
-        main->setMousePosOnWnd(leaving, 0);
+        stage->setMousePosOnWnd(leaving, 0);
         press(leaving);
         if (!self)
             return;
     }
     if (!onEnterWnd)
-        if (AWnd* active = main->getActiveWnd())
+        if (AWnd* active = stage->getActiveWnd())
             onEnterWnd = active->getWnd("EDITBOX_ONENTER", 1);
     const WndRef entering = onEnterWnd.get();
     if (!entering)
         return;
     if (entering == this)
         setWindowText(CString());
-    main->setMousePosOnWnd(entering, 0);
+    stage->setMousePosOnWnd(entering, 0);
     press(entering);
 }
 
@@ -210,7 +211,7 @@ void AEditBox::draw(int frameStep)
     if (!isVisible(1))
         return;
     RECT box{left(), top(), right(), bottom()};
-    getMainWin()->adddirtyrect(box); // the caret changes without the window moving
+    tgx::stage()->adddirtyrect(box); // the caret changes without the window moving
     if (isTypedIn())
         drawCaret();
 }
@@ -222,12 +223,12 @@ void AEditBox::drawCaret()
     if (frameTimer >= frameDelay / 2)
         return;
 
-    AMainWin* main = getMainWin();
+    tgx::Stage* stage = tgx::stage();
     const int x = left() + textOffsetX;
     const int y = top() + textOffsetY;
     int lineWidth = width();
     if (textWrap)
-        lineWidth -= main->getStringLength("wwwwww", font);
+        lineWidth -= stage->getStringLength("wwwwww", font);
     int caretX = -1;
     int caretY = -1;
     if (textWrap && !windowText.IsEmpty())
@@ -237,7 +238,7 @@ void AEditBox::drawCaret()
     if (caretX < 0 || caretY < 0)
         return;
     const int lineHeight = font ? font->lineHeight : 0;
-    main->rectangle(caretX, caretY, caretX + caretWidth, caretY + lineHeight, main->getcol(caretColour));
+    stage->rectangle(caretX, caretY, caretX + caretWidth, caretY + lineHeight, stage->getcol(caretColour));
 }
 
 void AEditBox::caretInLine(int x, int y, int lineWidth, int& caretX, int& caretY) const
@@ -258,7 +259,7 @@ void AEditBox::caretInLines(int x, int y, int lineWidth, int& caretX, int& caret
     }
     if (wrapped.getSeenLine() < 0)
         return;
-    const int whole = getMainWin()->getStringLength(windowText, font);
+    const int whole = tgx::stage()->getStringLength(windowText, font);
     const int lineHeight = font ? font->lineHeight : 0;
     caretX = leftEdge(textJustify, x, lineWidth, whole) + wrapped.getSeenWidth();
     caretY = static_cast<int>(

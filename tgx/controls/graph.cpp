@@ -2,7 +2,7 @@
 
 #include "tgx/base/fixed.h"
 #include "tgx/base/numtext.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/stage.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -137,9 +137,9 @@ void AGraph::draw(int frameStep)
     // Taken before the base moves the window on: the border and the plot are drawn in one place.
     const Plot plot = getPlot();
     AWnd::draw(frameStep);
-    AMainWin* main = getMainWin();
+    tgx::Stage* stage = tgx::stage();
     RECT box{plot.left, plot.top, plot.right, plot.bottom};
-    main->adddirtyrect(box);
+    stage->adddirtyrect(box);
     if (!isVisible(1))
         return;
 
@@ -155,9 +155,9 @@ void AGraph::draw(int frameStep)
     }
     grow(frameStep);
 
-    const unsigned long axes = main->getcol(axisColour);
-    main->rectangle(plot.left - 1, plot.top, plot.left, plot.bottom, axes);
-    main->rectangle(plot.left - 1, plot.bottom, plot.right, plot.bottom + 1, axes);
+    const unsigned long axes = stage->getcol(axisColour);
+    stage->rectangle(plot.left - 1, plot.top, plot.left, plot.bottom, axes);
+    stage->rectangle(plot.left - 1, plot.bottom, plot.right, plot.bottom + 1, axes);
 }
 
 void AGraph::grow(int frameStep)
@@ -171,29 +171,29 @@ void AGraph::grow(int frameStep)
 /// Grid lines and numbers of the values. 0 has a number, and the axis for its line.
 void AGraph::drawValueAxis(const Plot& plot)
 {
-    AMainWin* main = getMainWin();
-    const unsigned long grid = main->getcol(gridColour);
+    tgx::Stage* stage = tgx::stage();
+    const unsigned long grid = stage->getcol(gridColour);
     for (int value = 0; value <= yRange; ++value) {
         const int y = plot.y(value);
         if (value > 0 && isMultiple(value, yGridEvery))
-            main->rectangle(plot.left, y, plot.right, y + 1, grid);
+            stage->rectangle(plot.left, y, plot.right, y + 1, grid);
         if (isMultiple(value, yLabelEvery)) {
             const CString number = intToString(value, 0, 0);
-            const int length = main->getStringLength(number, font);
-            main->textout(plot.left - length - labelGap, y - plot.charHeight / 2, number, font, nullptr, 0,
-                          ZnFixed::fromInt(1), 1);
+            const int length = stage->getStringLength(number, font);
+            stage->textout(plot.left - length - labelGap, y - plot.charHeight / 2, number, font, nullptr, 0,
+                           ZnFixed::fromInt(1), 1);
         }
     }
 }
 
 void AGraph::drawPositionAxis(const Plot& plot)
 {
-    AMainWin* main = getMainWin();
-    const unsigned long grid = main->getcol(gridColour);
+    tgx::Stage* stage = tgx::stage();
+    const unsigned long grid = stage->getcol(gridColour);
     for (int position = 0; position <= xRange; ++position) {
         const int x = plot.x(position);
         if (position > 0 && isMultiple(position, xGridEvery))
-            main->rectangle(x, plot.top, x + 1, plot.bottom, grid);
+            stage->rectangle(x, plot.top, x + 1, plot.bottom, grid);
         if (isMultiple(position, xLabelEvery))
             drawPositionNumber(plot, position);
     }
@@ -202,16 +202,16 @@ void AGraph::drawPositionAxis(const Plot& plot)
 /// Under a bar's right edge, so that the first position has none; or under the point of a line.
 void AGraph::drawPositionNumber(const Plot& plot, int position)
 {
-    AMainWin* main = getMainWin();
+    tgx::Stage* stage = tgx::stage();
     const CString number = intToString(firstXLabel + position, 0, 0);
-    const int length = main->getStringLength(number, font);
+    const int length = stage->getStringLength(number, font);
     const int x = plot.x(position);
     const int y = plot.bottom + labelGap;
     if (style == Bars && position > 0)
         textOut(x - length, y, length, plot.lineHeight, number, TJ_CENTRE, 0, ZnFixed::fromInt(1), 0,
                 nullptr);
     else if (style == Lines)
-        main->textout(x - length / 2, y, number, font, nullptr, 0, ZnFixed::fromInt(1), 1);
+        stage->textout(x - length / 2, y, number, font, nullptr, 0, ZnFixed::fromInt(1), 1);
 }
 
 void AGraph::drawBar(const Plot& plot, int series, int index)
@@ -227,9 +227,9 @@ void AGraph::drawBar(const Plot& plot, int series, int index)
 
     // A negative value has no bar, not even an empty one while it grows.
     if (barTop < plot.bottom)
-        getMainWin()->fillrect(x + 1, barTop, x2, plot.bottom, colour); // a gap of one pixel at the left
+        tgx::stage()->fillrect(x + 1, barTop, x2, plot.bottom, colour); // a gap of one pixel at the left
     else if (barTop == plot.bottom && value >= 0 && showEmptyBars)
-        getMainWin()->fillrect(x, plot.bottom - 1, x2, plot.bottom, colour);
+        tgx::stage()->fillrect(x, plot.bottom - 1, x2, plot.bottom, colour);
     if (index < seriesLabels[series].GetSize())
         drawLabel(plot, seriesLabels[series][index], x, barTop);
 }
@@ -250,13 +250,13 @@ void AGraph::drawLine(const Plot& plot, int series, int index)
 
     if (index >= seriesLabels[series].GetSize())
         return;
-    AMainWin* main = getMainWin();
+    tgx::Stage* stage = tgx::stage();
     const CString& label = seriesLabels[series][index];
     const int half = plot.charHeight / 2;
     if (label == "|")
-        main->fillrect(x2, y - half, x2 + markWidth, y + half, main->getcol(barMarkColour));
+        stage->fillrect(x2, y - half, x2 + markWidth, y + half, stage->getcol(barMarkColour));
     else if (label == "^")
-        main->fillrect(x2, y - half, x2 + markWidth, y + half, main->getcol(arrowMarkColour));
+        stage->fillrect(x2, y - half, x2 + markWidth, y + half, stage->getcol(arrowMarkColour));
     else
         drawLabel(plot, label, x, y);
 }
@@ -264,7 +264,7 @@ void AGraph::drawLine(const Plot& plot, int series, int index)
 /// While the back buffer gives no device context, the segment is left out.
 void AGraph::drawSegment(int fromX, int fromY, int toX, int toY, unsigned colour)
 {
-    IDirectDrawSurface* buffer = getMainWin()->getBackBuffer();
+    IDirectDrawSurface* buffer = tgx::stage()->getBackBuffer();
     HDC context = nullptr;
     if (buffer->GetDC(&context) != 0)
         return;

@@ -1,7 +1,7 @@
 #include "tgx/controls/keyboard.h"
 
 #include "tgx/base/fixed.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/stage.h"
 
 AKeyboard::AKeyboard(const CString& name, int x, int y, int width, int height)
     : AListBox(name, x, y, width, height)
@@ -16,8 +16,8 @@ void AKeyboard::initialise(AWnd* target, AWnd* echo, int most)
     maxChars = to16(most);
     isInitialised = true;
     showInEcho();
-    AMainWin* main = getMainWin();
-    main->setMousePos(main->mouseX, main->mouseY, 1); // the next tick sees no movement
+    tgx::Stage* stage = tgx::stage();
+    stage->setMousePos(stage->mouseX, stage->mouseY, 1); // the next tick sees no movement
     setHotItem(getItemCount() - 1);
     setHotColumn(getColumnCount() - 1);
 }
@@ -47,7 +47,7 @@ int AKeyboard::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, 
 void AKeyboard::press(const CString& key)
 {
     if (key == "OK")
-        getMainWin()->deletePopupWnd();
+        tgx::stage()->deletePopupWnd();
     else if (!targetWnd)
         return;
     else if (key == "<")

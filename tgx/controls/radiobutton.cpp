@@ -1,8 +1,6 @@
 #include "tgx/controls/radiobutton.h"
 
-#include "tgx/controls/tabcontrol.h"
-#include "tgx/frame/mainwin.h"
-#include "tgx/wnd/window_cast.h"
+#include "tgx/wnd/stage.h"
 
 ARadioButton::ARadioButton(const CString& name, int x, int y, int width, int height)
     : AButton(name, x, y, width, height, WND_RADIOBUTTON)
@@ -114,11 +112,11 @@ int ARadioButton::handleMouseAction(const CString& about, AWnd* wnd, int x, int 
         return 0;
 
     if (action == MA_KEY) {
-        const int key = getMainWin()->keyCode;
+        const int key = tgx::stage()->keyCode;
         const bool back = key == VK_HOME || key == VK_INSERT;
         if (back || key == VK_END || key == VK_DELETE) {
             selectNextButton(back);
-            tellOfChoice(); // which may delete this button
+            notifyOfChoice(); // which may delete this button
         }
         return 0;
     }
@@ -131,11 +129,10 @@ int ARadioButton::handleMouseAction(const CString& about, AWnd* wnd, int x, int 
     return 0;
 }
 
-void ARadioButton::tellOfChoice()
+void ARadioButton::notifyOfChoice()
 {
-    AWnd* holder = getParent();
-    if (auto* tabs = windowAs<ATabControl>(holder))
-        tabs->setActiveWnd(getSelectedButton(), 1);
-    else if (AWnd* active = getMainWin()->getActiveWnd())
+    if (auto* holder = dynamic_cast<tgx::RadioGroupParent*>(getParent()))
+        holder->radioButtonChosen(getSelectedButton());
+    else if (AWnd* active = tgx::stage()->getActiveWnd())
         active->update();
 }

@@ -2,6 +2,20 @@
 
 #include "tgx/controls/button.h"
 
+namespace tgx {
+
+/// A parent of radio buttons that reacts by itself when a key has chosen one of them, as a tab control does.
+class TGX_API RadioGroupParent {
+public:
+    /// selected may be null.
+    virtual void radioButtonChosen(AButton* selected) = 0;
+
+protected:
+    ~RadioGroupParent() = default;
+};
+
+} // namespace tgx
+
 /// A button that knows the others of its group: selecting one clears the others. A script makes a group of
 /// adjacent RADIOBUTTON lines; each member lists itself first, then the others. They are also the tabs of an
 /// ATabControl.
@@ -39,5 +53,5 @@ protected:
     WndList linkedButtons;
 
 private:
-    void tellOfChoice();
+    void notifyOfChoice();
 };

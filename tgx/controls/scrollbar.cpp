@@ -2,7 +2,7 @@
 
 #include "platform/display/surface.h"
 #include "tgx/controls/listbox/listbox.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/stage.h"
 #include "tgx/wnd/window_cast.h"
 
 #include <algorithm>
@@ -77,7 +77,7 @@ int AScrollBar::handleMouseAction(const CString&, AWnd*, int x, int y, E_MOUSEAC
     nextPressed = 0;
     switch (action) {
     case MA_LBUTTONDOWN: // on every tick of the hold: dragging and repeating rest on that
-        getMainWin()->setMouseCaptureWnd(this);
+        tgx::stage()->setMouseCaptureWnd(this);
         press(getMouseWndPos(x, y));
         settle();
         break;
@@ -97,9 +97,9 @@ int AScrollBar::handleMouseAction(const CString&, AWnd*, int x, int y, E_MOUSEAC
 void AScrollBar::release()
 {
     leverHeld = 0;
-    AMainWin* main = getMainWin();
-    if (main->getMouseCaptureWnd(0) == this)
-        main->setMouseCaptureWnd(nullptr);
+    tgx::Stage* stage = tgx::stage();
+    if (stage->getMouseCaptureWnd(0) == this)
+        stage->setMouseCaptureWnd(nullptr);
 }
 
 void AScrollBar::press(int pos)
@@ -112,7 +112,7 @@ void AScrollBar::press(int pos)
         percentage = ZnFixed::fromInt(std::clamp(getPercentageFromWndPos(pos), 0, 100));
         return;
     }
-    if (!getMainWin()->isMouseDownInterval(-1))
+    if (!tgx::stage()->isMouseDownInterval(-1))
         return;
     if (pos < getFrameSize()) {
         prevPressed = 1;
@@ -149,7 +149,7 @@ void AScrollBar::outlineLever(int lever)
     const int start = lever - size / 2;
     const int x = left() + (horizontal ? start : 0);
     const int y = top() + (horizontal ? 0 : start);
-    getMainWin()->rectangle(x, y, x + (horizontal ? size : getScrollWide()),
+    tgx::stage()->rectangle(x, y, x + (horizontal ? size : getScrollWide()),
                             y + (horizontal ? getScrollWide() : size), outlineColour);
 }
 

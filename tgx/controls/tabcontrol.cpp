@@ -1,9 +1,9 @@
 #include "tgx/controls/tabcontrol.h"
 
 #include "tgx/base/fixed.h"
-#include "tgx/controls/radiobutton.h"
-#include "tgx/frame/mainwin.h"
 #include "tgx/wnd/child_walk.h"
+#include "tgx/wnd/screen.h"
+#include "tgx/wnd/stage.h"
 #include "tgx/wnd/window_cast.h"
 
 ATabControl::ATabControl(const CString& name, int x, int y, int width, int height)
@@ -62,9 +62,9 @@ void ATabControl::setActiveWnd(AButton* tab, int interactive)
 {
     if (!tab)
         return;
-    AMainWin* main = getMainWin();
-    AScreen* screen = main->getActiveScreen();
-    const WndRef under = screen ? screen->getWndAtPos(main->mouseX, main->mouseY, 1) : nullptr;
+    tgx::Stage* stage = tgx::stage();
+    AScreen* screen = stage->getActiveScreen();
+    const WndRef under = screen ? screen->getWndAtPos(stage->mouseX, stage->mouseY, 1) : nullptr;
     if (auto* radio = windowAs<ARadioButton>(tab))
         radio->setSelectedButton(tab);
 
@@ -79,7 +79,7 @@ void ATabControl::setActiveWnd(AButton* tab, int interactive)
     const WndRef shown = screen;
     screen->update();
     if (shown && (!under || !under->isEnabled()))
-        main->setMousePosOnNextTabStop(shown, under, 0, 0);
+        stage->setMousePosOnNextTabStop(shown, under, 0, 0);
 }
 
 int ATabControl::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)

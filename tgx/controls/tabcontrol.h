@@ -1,13 +1,11 @@
 #pragma once
 
-#include "tgx/wnd/wnd.h"
-
-class AButton;
+#include "tgx/controls/radiobutton.h"
 
 /// Shows one page out of several. Its children are the tabs, buttons in one radio group, and the pages, any
 /// other windows, in the same order and number: the page of the tab at child i is child i + tabCount, or i -
 /// tabCount where the pages come first.
-class TGX_API ATabControl : public AWnd {
+class TGX_API ATabControl : public AWnd, public tgx::RadioGroupParent {
 public:
     ATabControl(const CString& id, int x, int y, int width, int height);
 
@@ -29,6 +27,7 @@ protected:
     short tabCount = 0;
 
 private:
+    void radioButtonChosen(AButton* selected) override { setActiveWnd(selected, 1); }
     static bool isTab(const AWnd* wnd);
     static AButton* tabAmong(AWnd* wnd);
     AWnd* pageOf(const AWnd& tab) const;

@@ -50,3 +50,8 @@ int AControlsApp::Run()
 {
     return mainWin ? runMainLoop(*mainWin, [this] { mainWin->onCloseRequest(); }) : 1;
 }
+
+tgx::Stage* tgx::stage()
+{
+    return getMainWin();
+}

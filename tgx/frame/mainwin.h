@@ -8,6 +8,7 @@
 #include "tgx/frame/governor.h"
 #include "tgx/script/token.h"
 #include "tgx/wnd/screenlist.h"
+#include "tgx/wnd/stage.h"
 
 #include <memory>
 
@@ -17,7 +18,7 @@ class ScriptRun;
 /// The game's main window: root of the window tree, frame loop, screens and popups, input, and the interface
 /// script. The game derives from it and replaces startup (to read its main script), drawscreen,
 /// OnMouseAction, OnKeyInput, createNewWindow, readScriptFile, addScreen or doChangeScreenSpecial.
-class TGX_API AMainWin : public ddwin {
+class TGX_API AMainWin : public tgx::Stage {
 public:
     /// Reads the settings. width and height in pixels; bitDepth counts where none is stored.
     AMainWin(int width, int height, int bitDepth);
@@ -64,10 +65,10 @@ public:
     void waitForNextDraw() { nextDrawCount = 1; }
     /// 1 on the fourth call behind waitForNextDraw.
     int nextDrawDone();
-    AScreenList* getScreenList() const { return screenList.get(); }
-    AScreen* getActiveScreen() const { return screenList ? screenList->getActiveScreen() : nullptr; }
+    AScreenList* getScreenList() const override { return screenList.get(); }
+    AScreen* getActiveScreen() const override { return screenList ? screenList->getActiveScreen() : nullptr; }
     /// The front popup, else the active screen.
-    AWnd* getActiveWnd() const;
+    AWnd* getActiveWnd() const override;
     AWnd* getWnd(const CString& name, int recursive);
     AWnd* getWndFromIndex(int index);
     int getFrameStep() const { return frameStep; }
@@ -79,7 +80,8 @@ public:
     /// Asks for a change, carried out behind the fifth frame from now. closeCurrent: the present screen is
     /// closed for good, otherwise the new one can go back to it. Null. While a change waits, that one is
     /// carried out at once instead, and its screen is the answer.
-    AScreen* changeScreen(const CString& name, int closeCurrent, unsigned resource, const CString& file);
+    AScreen* changeScreen(const CString& name, int closeCurrent, unsigned resource,
+                          const CString& file) override;
     /// Closes every open screen but the active one; they stay in the tree. 0.
     int closeAllScreensExceptCurrent();
     const CString& getPendingScreen() const { return pendingScreen; }
@@ -91,20 +93,20 @@ public:
     /// Ticks that the pointer has stayed on getCurFocusWnd.
     int getFocusWndHotTime() const { return focusWndHotTime; }
     /// Entry of the capture stack, else of the popups, else the active screen. 0 is where the next tick goes.
-    AWnd* getMouseCaptureWnd(int index) const;
+    AWnd* getMouseCaptureWnd(int index) const override;
     int getMouseCaptureWndCount() const { return mouseCaptureWnds.GetSize(); }
     /// Puts wnd on top of the stack; null takes the top away.
-    void setMouseCaptureWnd(AWnd* wnd);
+    void setMouseCaptureWnd(AWnd* wnd) override;
     /// Repeat of a held button: 1 on the first tick, and from 3 times interval on at each multiple of it. -1:
     /// 10 ticks; 0 or less otherwise: 1.
-    int isMouseDownInterval(int interval) const;
+    int isMouseDownInterval(int interval) const override;
     /// With jump the previous position goes along.
-    void setMousePos(int x, int y, int jump);
+    void setMousePos(int x, int y, int jump) override;
     /// Puts the pointer on the middle of wnd. 0 for a list without a row that can take it, else 1, also for
     /// null.
-    int setMousePosOnWnd(AWnd* wnd, int jump);
+    int setMousePosOnWnd(AWnd* wnd, int jump) override;
     /// Puts the pointer on the next tab stop of root behind from. 1, or 0 when none could take it.
-    int setMousePosOnNextTabStop(AWnd* root, AWnd* from, int backwards, int jump);
+    int setMousePosOnNextTabStop(AWnd* root, AWnd* from, int backwards, int jump) override;
     int getKeepListSelection() const { return keepListSelection; }
     void setKeepListSelection(int set) { keepListSelection = set; }
 
@@ -114,14 +116,14 @@ public:
     /// returns it. Null closes the front popup. The popup gets startup(), and no initialise(). One that has a
     /// movement is closed at once all the same, without waiting for it; see AWnd::draw for one that slides
     /// away.
-    AWnd* setPopupWnd(AWnd* popup, AWnd* parent, int centre);
+    AWnd* setPopupWnd(AWnd* popup, AWnd* parent, int centre) override;
     /// Finds the window or reads it, and opens it centred.
     AWnd* setPopupWnd(const CString& name, AWnd* parent, unsigned resource, const CString& file);
     /// Closes the front popup and marks it for deletion.
-    void deletePopupWnd();
+    void deletePopupWnd() override;
     /// Null behind the end; a negative index raises the invalid-argument exception.
-    AWnd* getPopupWnd(int index) const;
-    int getPopupWndCount() const { return popupWnds.GetSize(); }
+    AWnd* getPopupWnd(int index) const override;
+    int getPopupWndCount() const override { return popupWnds.GetSize(); }
     /// Exact.
     int isInPopupList(const CString& id) const;
     /// Opens the box "MESSAGEBOX" of "common.tgx". An id of "messageBox" is made unique. 1, or 0 when there
@@ -193,6 +195,7 @@ private:
     void showBackdropOf(const AScreen& screen);
     void completeExit();
     void loseFocus();
+    void dropLostInput();
     AWnd* inputTarget() const;
     AWnd* alive(AWnd* wnd) const;
     AWnd::E_MOUSEACTION chooseAction(AWnd* target);

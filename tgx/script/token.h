@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/framework/cstring.h"
+#include "tgx/base/script_names.h"
 
 /// One token of a script line. Behind a line's last token all entries read as id 0, empty text, value 0.
 struct TOKEN_INFO {
@@ -15,9 +16,3 @@ constexpr int maxLineTokens = 30;
 constexpr int wndStackSize = 20;
 /// What processLine gives for a statement that failed.
 constexpr int lineFailed = -9999;
-/// The script that screens and popups are read from when nothing else is said, and its resource.
-constexpr const char* mainScriptFile = "script.tgx";
-constexpr unsigned mainScriptResource = 141;
-/// The script of the dimming window and of the message boxes; it has no resource.
-constexpr const char* commonScriptFile = "common.tgx";
-constexpr unsigned noResource = ~0u;

@@ -1,7 +1,7 @@
 #include "platform/display/msgbox.h"
 #include "platform/display/surface.h"
 #include "tgx/base/fixed.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/stage.h"
 #include "tgx/wnd/wnd.h"
 
 #include <algorithm>
@@ -20,9 +20,9 @@ void AWnd::setBmp(surface* newBmp)
 {
     if (newBmp == bmp)
         return;
-    AMainWin* main = getMainWin();
-    if (bmp && main)
-        main->deleteSurface(bmp);
+    tgx::Stage* stage = tgx::stage();
+    if (bmp && stage)
+        stage->deleteSurface(bmp);
     bmp = newBmp;
     if (!bmp)
         return;
@@ -41,12 +41,12 @@ void AWnd::setBmp(const CString& name)
         return;
     const CString wanted = name; // it may be this window's own name, which loading changes
     bmpFilename = wanted;
-    AMainWin* main = getMainWin();
-    if (!main)
+    tgx::Stage* stage = tgx::stage();
+    if (!stage)
         return; // startup loads it
 
     if (!bmp || wanted != bmp->filename)
-        setBmp(main->createsprite(wanted, -1, -1, -1));
+        setBmp(stage->createsprite(wanted, -1, -1, -1));
     if (!bmp)
         MsgBox("cannot load %s", static_cast<const char*>(wanted));
 }
@@ -55,8 +55,8 @@ void AWnd::deleteBmp()
 {
     if (!bmp || isPointer())
         return;
-    if (AMainWin* main = getMainWin())
-        main->deleteSurface(bmp);
+    if (tgx::Stage* stage = tgx::stage())
+        stage->deleteSurface(bmp);
     bmp = nullptr;
 }
 
@@ -121,27 +121,27 @@ void AWnd::getStartPosForFrame(int frame, surface* strip, int width, int height,
 
 void AWnd::createBkgnd(surface* source, int darken)
 {
-    AMainWin* main = getMainWin();
-    if (!main)
+    tgx::Stage* stage = tgx::stage();
+    if (!stage)
         return;
-    bkgnd = main->createBkgndSection(source, left(), top(), width(), height(), bkgnd);
+    bkgnd = stage->createBkgndSection(source, left(), top(), width(), height(), bkgnd);
     if (darken)
         darkenRect(0, 0, width(), height());
 }
 
 void AWnd::deleteBkgnd()
 {
-    AMainWin* main = getMainWin();
-    if (bkgnd && main)
-        main->deleteSurface(bkgnd);
+    tgx::Stage* stage = tgx::stage();
+    if (bkgnd && stage)
+        stage->deleteSurface(bkgnd);
     bkgnd = nullptr;
 }
 
 void AWnd::renewBkgnds()
 {
-    AMainWin* main = getMainWin();
-    if (bkgnd && main)
-        createBkgnd(main->getBackdrop(), 0);
+    tgx::Stage* stage = tgx::stage();
+    if (bkgnd && stage)
+        createBkgnd(stage->getBackdrop(), 0);
     for (int i = 0; i < children.GetSize(); ++i)
         if (AWnd* next = child(i))
             next->renewBkgnds();
@@ -149,10 +149,10 @@ void AWnd::renewBkgnds()
 
 int AWnd::darkenRect(int fromX, int fromY, int toX, int toY)
 {
-    AMainWin* main = getMainWin();
-    if (!bkgnd || !main)
+    tgx::Stage* stage = tgx::stage();
+    if (!bkgnd || !stage)
         return 0;
-    const unsigned long black = main->getcol(0);
+    const unsigned long black = stage->getcol(0);
     const int startX = std::max(fromX, 0);
     const int startY = std::max(fromY, 0);
     const int endX = std::min(toX, int(bkgnd->width));

@@ -2,7 +2,7 @@
 
 #include "platform/display/msgbox.h"
 #include "platform/display/surface.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/stage.h"
 #include "tgx/wnd/wnd.h"
 
 #include <algorithm>
@@ -48,8 +48,8 @@ void ABorder::draw(int x, int y, int width, int height)
 std::unique_ptr<ABorder> ABorder::load(const CString& file, int borderWidth, int pieceSize)
 {
     surface* strip = nullptr;
-    if (AMainWin* main = getMainWin())
-        strip = main->createsprite(file, -1, -1, -1);
+    if (tgx::Stage* stage = tgx::stage())
+        strip = stage->createsprite(file, -1, -1, -1);
     if (!strip)
         MsgBox("cannot load %s", static_cast<const char*>(file));
     return std::make_unique<ABorder>(strip, borderWidth, pieceSize);

@@ -1,8 +1,8 @@
 #include "platform/display/surface.h"
 #include "tgx/base/fixed.h"
-#include "tgx/frame/mainwin.h"
 #include "tgx/wnd/border.h"
 #include "tgx/wnd/child_walk.h"
+#include "tgx/wnd/stage.h"
 #include "tgx/wnd/wnd.h"
 
 #include <algorithm>
@@ -66,11 +66,11 @@ void AWnd::draw(int frameStep)
             return;
     }
 
-    if (AMainWin* main = getMainWin(); main && main->getPopupWndCount() > 0) {
+    if (tgx::Stage* stage = tgx::stage(); stage && stage->getPopupWndCount() > 0) {
         // A popup that has slid away is closed by the window that opened it.
         const AWnd* popup = getPopupWnd();
         if (popup && popup->hasWndAnimData() && popup->isWndAnimFinished())
-            main->deletePopupWnd();
+            stage->deletePopupWnd();
     }
     if (frameStep != 0 && anim && !anim->updatePos(frameStep) && anim->getDeleteWhenDone()) {
         anim.reset();
@@ -138,13 +138,13 @@ void AWnd::paintBitmap(int atLeft, int atTop)
 /// Tiles that lie wholly off the screen are left out, and cost nothing.
 void AWnd::paintTiles(int srcX, int srcY, int x, int y, int w, int h)
 {
-    const AMainWin* main = getMainWin();
-    if (!main || bmp->width <= 0 || bmp->height <= 0)
+    const tgx::Stage* stage = tgx::stage();
+    if (!stage || bmp->width <= 0 || bmp->height <= 0)
         return;
     const int tileW = std::min({int(frameWidth), w, int(bmp->width)});
     const int tileH = std::min({int(frameHeight), h, int(bmp->height)});
-    const Steps columns = stepsOnScreen(x, w, bmp->width, tileW, main->screenWidth);
-    const Steps rows = stepsOnScreen(y, h, bmp->height, tileH, main->screenHeight);
+    const Steps columns = stepsOnScreen(x, w, bmp->width, tileW, stage->screenWidth);
+    const Steps rows = stepsOnScreen(y, h, bmp->height, tileH, stage->screenHeight);
     for (int row = rows.first; row < rows.end; ++row) {
         const int toY = y + row * bmp->height;
         for (int column = columns.first; column < columns.end; ++column) {

@@ -1,7 +1,7 @@
 #include "tgx/base/swapped.h"
-#include "tgx/frame/mainwin.h"
 #include "tgx/wnd/child_walk.h"
 #include "tgx/wnd/reserved.h"
+#include "tgx/wnd/stage.h"
 #include "tgx/wnd/wnd.h"
 
 #include <algorithm>
@@ -52,12 +52,12 @@ void AWnd::startup()
 {
     if (anim)
         anim->reset();
-    AMainWin* main = getMainWin();
+    tgx::Stage* stage = tgx::stage();
     // A window made before the main window was there has no font yet.
-    if (!font && main)
-        font = parent && parent->font ? parent->font : main->getFont(0);
-    if (bkgnd && main)
-        createBkgnd(main->getBackdrop(), 0);
+    if (!font && stage)
+        font = parent && parent->font ? parent->font : stage->getFont(0);
+    if (bkgnd && stage)
+        createBkgnd(stage->getBackdrop(), 0);
     setBmp(bmpFilename);
     for (ChildWalk walk(children); walk.mayGoOn();)
         if (AWnd* next = walk.next())
@@ -100,8 +100,8 @@ int AWnd::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOU
 
     const ActionRefs handling(this, wnd);
     int result = 0;
-    const AMainWin* main = getMainWin();
-    const bool esc = main && main->keyCode == VK_ESCAPE;
+    const tgx::Stage* stage = tgx::stage();
+    const bool esc = stage && stage->keyCode == VK_ESCAPE;
     if (action != MA_KEY && !esc) {
         if (children.GetSize() > 0)
             if (AWnd* hit = getWndAtPos(x, y, 0))
@@ -111,7 +111,7 @@ int AWnd::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOU
             if (AWnd* next = walk.next())
                 next->handleMouseAction(about, wnd, x, y, action);
         // Asked again: a handler may have taken the key, or changed it.
-        if (handling.isHandlerAlive() && main && main->keyCode == VK_ESCAPE)
+        if (handling.isHandlerAlive() && stage && stage->keyCode == VK_ESCAPE)
             putPointerOnCancel();
     }
 
@@ -132,7 +132,7 @@ void AWnd::putPointerOnCancel()
     if (!target || !target->isEnabled())
         return;
     const Swapped<bool> running(escSearchRuns, true);
-    getMainWin()->setMousePosOnWnd(target, 0);
+    tgx::stage()->setMousePosOnWnd(target, 0);
 }
 
 int AWnd::handleKeyInput(char key)
@@ -150,13 +150,13 @@ int AWnd::handlePopupAction(const CString& about, AWnd* wnd, int x, int y, E_MOU
     if (AWnd* holder = getParent())
         holder->handlePopupAction(about, wnd, x, y, action);
     if (self && action == MA_LBUTTONUP && closesPopup(about.view()) && getPopupWnd())
-        getMainWin()->deletePopupWnd();
+        tgx::stage()->deletePopupWnd();
     return 0;
 }
 
 AWnd* AWnd::getPopupWnd() const
 {
-    const AMainWin* main = getMainWin();
-    AWnd* front = main && main->getPopupWndCount() > 0 ? main->getPopupWnd(0) : nullptr;
+    const tgx::Stage* stage = tgx::stage();
+    AWnd* front = stage && stage->getPopupWndCount() > 0 ? stage->getPopupWnd(0) : nullptr;
     return front && front->getParent() == this ? front : nullptr;
 }

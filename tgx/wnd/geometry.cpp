@@ -1,5 +1,5 @@
 #include "tgx/base/fixed.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/stage.h"
 #include "tgx/wnd/wnd.h"
 
 namespace {
@@ -93,13 +93,13 @@ void AWnd::setWndPosCentred(int horizontal, int vertical, int inParent)
         if (vertical)
             y = (holder->height() - height()) / 2;
     } else {
-        const AMainWin* main = getMainWin();
-        if (!main)
+        const tgx::Stage* stage = tgx::stage();
+        if (!stage)
             return;
         if (horizontal)
-            x = (main->screenWidth - width()) / 2 - (holder ? holder->posX(0) : 0);
+            x = (stage->screenWidth - width()) / 2 - (holder ? holder->posX(0) : 0);
         if (vertical)
-            y = (main->screenHeight - height()) / 2 - (holder ? holder->posY(0) : 0);
+            y = (stage->screenHeight - height()) / 2 - (holder ? holder->posY(0) : 0);
     }
     setWndPos(x, y, -1, -1);
 }

@@ -1,8 +1,8 @@
 #include "tgx/wnd/screen.h"
 
-#include "tgx/controls/listbox/listbox.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/base/script_names.h"
 #include "tgx/wnd/reserved.h"
+#include "tgx/wnd/stage.h"
 
 AScreen::AScreen(const CString& name, int x, int y, int width, int height)
     : AWnd(WND_SCREEN, name, x, y, width, height)
@@ -16,32 +16,32 @@ void AScreen::draw(int frameStep)
 void AScreen::initialise()
 {
     open = 1;
-    AMainWin* main = getMainWin();
-    main->setCursor(main->normalCursor);
-    RECT whole{0, 0, main->screenWidth, main->screenHeight};
-    main->adddirtyrect(whole);
+    tgx::Stage* stage = tgx::stage();
+    stage->setCursor(stage->normalCursor);
+    RECT whole{0, 0, stage->screenWidth, stage->screenHeight};
+    stage->adddirtyrect(whole);
     AWnd::initialise();
-    main->setMousePosOnNextTabStop(this, nullptr, 0, 0);
+    stage->setMousePosOnNextTabStop(this, nullptr, 0, 0);
 }
 
 void AScreen::startup()
 {
     AWnd::startup();
     deselectAllListBoxes(nullptr);
-    getMainWin()->flushMessages();
+    tgx::stage()->flushMessages();
 }
 
 void AScreen::returned()
 {
     AWnd::returned();
     deselectAllListBoxes(nullptr);
-    getMainWin()->setMousePos(savedMouseX, savedMouseY, 0);
+    tgx::stage()->setMousePos(savedMouseX, savedMouseY, 0);
 }
 
 void AScreen::close()
 {
-    const AMainWin* main = getMainWin();
-    setSavedMousePos(main->mouseX, main->mouseY);
+    const tgx::Stage* stage = tgx::stage();
+    setSavedMousePos(stage->mouseX, stage->mouseY);
     open = 0;
     AWnd::close();
 }
@@ -51,7 +51,7 @@ void AScreen::exitScreen()
     if (caller.IsEmpty())
         return;
     // A change that waited is carried out here; its screen is then ours to open.
-    AScreen* reached = getMainWin()->changeScreen(caller, 1, mainScriptResource, mainScriptFile);
+    AScreen* reached = tgx::stage()->changeScreen(caller, 1, mainScriptResource, mainScriptFile);
     if (reached && !reached->isOpen())
         reached->initialise();
 }
@@ -79,12 +79,4 @@ int AScreen::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_
         return 0;
     exitScreen();
     return 1;
-}
-
-/// Those that lie directly on the screen, not those deeper down.
-void AScreen::deselectOwnListBoxes()
-{
-    for (AWnd* child : children)
-        if (child)
-            AListBox::deselect(*child);
 }

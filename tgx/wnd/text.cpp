@@ -1,6 +1,6 @@
 #include "tgx/base/fixed.h"
 #include "tgx/base/numtext.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/stage.h"
 #include "tgx/wnd/textline.h"
 #include "tgx/wnd/wrap.h"
 
@@ -29,11 +29,11 @@ void AWnd::setTextOffset(int x, int y)
 void AWnd::textOut(int x, int y, int width, int height, const CString& text, E_TEXTJUSTIFY justify, int wrap,
                    ZnFixed scale, int mode, IDirectDrawSurface* dest)
 {
-    AMainWin* main = getMainWin();
-    if (!main)
+    tgx::Stage* stage = tgx::stage();
+    if (!stage)
         return;
     if (textRaw) {
-        main->textout(x, y, text, font, dest, 1, atFullSize, 1);
+        stage->textout(x, y, text, font, dest, 1, atFullSize, 1);
         return;
     }
 
@@ -45,17 +45,17 @@ void AWnd::textOut(int x, int y, int width, int height, const CString& text, E_T
         const int charHeight = font ? font->charHeight : 0;
         const int at = textCentreV ? y + (height - charHeight) / 2 : y;
         if (fits.size() == text.view().size()) {
-            main->textout(leftEdge(justify, x, width, length), at, text, font, dest, 0, scale, mode);
+            stage->textout(leftEdge(justify, x, width, length), at, text, font, dest, 0, scale, mode);
         } else {
             line = fits;
-            main->textout(leftEdge(justify, x, width, length), at, line.c_str(), font, dest, 0, scale, mode);
+            stage->textout(leftEdge(justify, x, width, length), at, line.c_str(), font, dest, 0, scale, mode);
         }
         return;
     }
 
     for (TextWrap wrapped(text.view(), font, width, height); wrapped.next();) {
         line = wrapped.line();
-        main->textout(leftEdge(justify, x, width, wrapped.length()), wrapped.topFrom(y), line.c_str(), font,
-                      dest, 0, atFullSize, 1);
+        stage->textout(leftEdge(justify, x, width, wrapped.length()), wrapped.topFrom(y), line.c_str(), font,
+                       dest, 0, atFullSize, 1);
     }
 }

@@ -1,13 +1,11 @@
 #include "platform/display/ddwin.h"
 #include "tgx/base/fixed.h"
-#include "tgx/controls/button.h"
-#include "tgx/controls/listbox/listbox.h"
-#include "tgx/frame/mainwin.h"
 #include "tgx/wnd/border.h"
 #include "tgx/wnd/child_walk.h"
 #include "tgx/wnd/links.h"
+#include "tgx/wnd/screenlist.h"
+#include "tgx/wnd/stage.h"
 #include "tgx/wnd/tabstops.h"
-#include "tgx/wnd/window_cast.h"
 #include "tgx/wnd/wnd.h"
 
 #include <algorithm>
@@ -16,8 +14,8 @@ namespace {
 
 bmpfont* defaultFont()
 {
-    AMainWin* main = getMainWin();
-    return main ? main->getFont(0) : nullptr;
+    tgx::Stage* stage = tgx::stage();
+    return stage ? stage->getFont(0) : nullptr;
 }
 
 /// Whether wnd is holder or has it among its parents.
@@ -84,9 +82,9 @@ AWnd::~AWnd()
     }
     if (owner)
         owner->unlist(this);
-    if (AMainWin* main = getMainWin()) {
-        main->letGo(bmp);
-        main->deleteSurface(bkgnd);
+    if (tgx::Stage* stage = tgx::stage()) {
+        stage->letGo(bmp);
+        stage->deleteSurface(bkgnd);
     }
     while (refs)
         refs->detach();
@@ -115,8 +113,8 @@ void AWnd::unlist(AWnd* listed)
             ChildWalk::removed(children, i);
         }
     // Below the root they keep their numbers: it remembers the active screen's.
-    const AMainWin* main = getMainWin();
-    if (main && main->getScreenList() == this)
+    const tgx::Stage* stage = tgx::stage();
+    if (stage && stage->getScreenList() == this)
         return;
     for (int i = 0; i < children.GetSize(); ++i)
         if (child(i) && child(i)->parent == this)
@@ -132,7 +130,7 @@ void AWnd::inheritFont()
 
 AWnd* AWnd::addChildWindow(AWnd* added)
 {
-    if (isInside(this, added) || isListedBelow(this, added))
+    if (!added || isInside(this, added) || isListedBelow(this, added))
         return nullptr;
     if (added->owner == this || (added->links && added->links->holders.contains(this)))
         added->getLinks().listedTwice = true;
@@ -171,7 +169,8 @@ AWnd* AWnd::releaseChildWindow(AWnd* released)
 
 void AWnd::setParentAndIndex(AWnd* newParent, int index)
 {
-    if (isInside(newParent, this))
+    // A window that is its own parent counts as one without a parent.
+    if (newParent != this && isInside(newParent, this))
         return;
     parent = newParent;
     windowIndex = to16(index);
@@ -205,8 +204,8 @@ void AWnd::setID(const CString& newId)
 
 int AWnd::isPointer() const
 {
-    const AMainWin* main = getMainWin();
-    const AWnd* root = main ? main->getScreenList() : nullptr;
+    const tgx::Stage* stage = tgx::stage();
+    const AWnd* root = stage ? stage->getScreenList() : nullptr;
     for (const AWnd* wnd = this; wnd && wnd != root; wnd = wnd->owner)
         if (wnd->pointerCount > 0)
             return 1;
@@ -226,16 +225,6 @@ AWnd* AWnd::getWnd(const CString& name, int recursive)
                 return deeper;
     }
     return nullptr;
-}
-
-AButton* AWnd::getButton(const CString& name, int recursive)
-{
-    return windowAs<AButton>(getWnd(name, recursive));
-}
-
-AListBox* AWnd::getListBox(const CString& name, int recursive)
-{
-    return windowAs<AListBox>(getWnd(name, recursive));
 }
 
 AWnd* AWnd::getWndFromIndex(int index, const CString& parentId)
@@ -284,17 +273,6 @@ void AWnd::showAllControls(int show)
     for (AWnd* control : children)
         if (control)
             control->setVisible(show);
-}
-
-void AWnd::deselectAllListBoxes(AWnd* except)
-{
-    for (AWnd* wnd : children) {
-        if (!wnd)
-            continue;
-        if (wnd != except)
-            AListBox::deselect(*wnd);
-        wnd->deselectAllListBoxes(except);
-    }
 }
 
 void AWnd::setSavedMousePos(int x, int y)

@@ -4,7 +4,7 @@
 #include "tgx/controls/listbox/cell.h"
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/controls/scrollbar.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/stage.h"
 
 #include <algorithm>
 #include <climits>
@@ -32,8 +32,8 @@ int revealTick = 0; // frames since rows last came, of all lists together
 
 void fill(int x1, int y1, int x2, int y2, unsigned long colour)
 {
-    AMainWin* main = getMainWin();
-    main->fillrect(x1, y1, x2, y2, main->getcol(colour));
+    tgx::Stage* stage = tgx::stage();
+    stage->fillrect(x1, y1, x2, y2, stage->getcol(colour));
 }
 
 } // namespace
@@ -51,12 +51,12 @@ void AListBox::draw(int frameStep)
 {
     if (!isVisible(1))
         return;
-    AMainWin* main = getMainWin();
+    tgx::Stage* stage = tgx::stage();
     AWnd::draw(frameStep);
-    if (hotBorder && pointInside(main->mouseX, main->mouseY))
+    if (hotBorder && pointInside(stage->mouseX, stage->mouseY))
         hotBorder->draw(left(), top(), width(), height());
     RECT area{left(), top(), right(), bottom()};
-    main->adddirtyrect(area);
+    stage->adddirtyrect(area);
 
     if (frameStep != 0) {
         reveal(frameStep);
@@ -163,11 +163,11 @@ void AListBox::drawRowHighlights(int item, int y)
             fill(start, y, end, y + rowStep(), selectedColour);
     }
     if (item == hotItem) {
-        AMainWin* main = getMainWin();
+        tgx::Stage* stage = tgx::stage();
         if (hotRowSurface)
             drawPicture(hotRowSurface, start, y, end - start);
         else
-            main->rectangle(start, y, end, y + rowStep(), main->getcol(hotColour));
+            stage->rectangle(start, y, end, y + rowStep(), stage->getcol(hotColour));
     }
 }
 
@@ -184,11 +184,11 @@ void AListBox::drawCellHighlights(int item, int column, int x, int y)
             fill(x, y, x + cellWidth, y + rowStep(), selectedColour);
     }
     if (item == hotItem && column == hotColumn) {
-        AMainWin* main = getMainWin();
+        tgx::Stage* stage = tgx::stage();
         if (hotRowSurface)
             drawPicture(hotRowSurface, start, y, whole);
         else
-            main->rectangle(start, y, start + whole, y + rowStep(), main->getcol(hotColour));
+            stage->rectangle(start, y, start + whole, y + rowStep(), stage->getcol(hotColour));
     }
 }
 

@@ -1,6 +1,6 @@
 #include "tgx/controls/listbox/floatingmenu.h"
 
-#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/stage.h"
 
 namespace {
 
@@ -28,14 +28,14 @@ int AFloatingMenu::handleMouseAction(const CString& about, AWnd* wnd, int x, int
 void AFloatingMenu::draw(int frameStep)
 {
     if (isVisible(1)) {
-        AMainWin* main = getMainWin();
-        const unsigned long ground = main->getcol(groundColour);
-        const unsigned long shadow = main->getcol(shadowColour);
-        main->fillrect(left(), top(), right(), bottom(), ground);
-        main->fillrect(left(), top(), right(), top() + 1, ground);
-        main->fillrect(left(), top(), left() + 1, bottom(), ground);
-        main->fillrect(left(), bottom() - 1, right(), bottom(), shadow);
-        main->fillrect(right() - 1, top(), right(), bottom(), shadow);
+        tgx::Stage* stage = tgx::stage();
+        const unsigned long ground = stage->getcol(groundColour);
+        const unsigned long shadow = stage->getcol(shadowColour);
+        stage->fillrect(left(), top(), right(), bottom(), ground);
+        stage->fillrect(left(), top(), right(), top() + 1, ground);
+        stage->fillrect(left(), top(), left() + 1, bottom(), ground);
+        stage->fillrect(left(), bottom() - 1, right(), bottom(), shadow);
+        stage->fillrect(right() - 1, top(), right(), bottom(), shadow);
     }
     AListBox::draw(frameStep);
 }

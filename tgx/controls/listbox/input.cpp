@@ -1,7 +1,7 @@
 #include "tgx/base/fixed.h"
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/controls/scrollbar.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/stage.h"
 
 #include <cstdlib>
 
@@ -38,7 +38,7 @@ int AListBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E
         followPointer(x, y);
         break;
     case MA_KEY:
-        followKey(getMainWin()->keyCode);
+        followKey(tgx::stage()->keyCode);
         break;
     default:
         break;
@@ -91,8 +91,8 @@ void AListBox::followWheel(int direction)
 /// A hot row that keys have set stays until the pointer really moves.
 void AListBox::followPointer(int x, int y)
 {
-    const AMainWin* main = getMainWin();
-    if (main->mouseX == main->prevMouseX && main->mouseY == main->prevMouseY)
+    const tgx::Stage* stage = tgx::stage();
+    if (stage->mouseX == stage->prevMouseX && stage->mouseY == stage->prevMouseY)
         return;
     holdPointer();
 
@@ -118,9 +118,9 @@ void AListBox::followPointer(int x, int y)
 /// The next idle tick sees no movement.
 void AListBox::holdPointer()
 {
-    AMainWin* main = getMainWin();
-    main->prevMouseX = main->mouseX;
-    main->prevMouseY = main->mouseY;
+    tgx::Stage* stage = tgx::stage();
+    stage->prevMouseX = stage->mouseX;
+    stage->prevMouseY = stage->mouseY;
 }
 
 void AListBox::followKey(int key)

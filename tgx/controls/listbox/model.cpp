@@ -5,7 +5,7 @@
 #include "tgx/controls/listbox/cell.h"
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/controls/scrollbar.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/stage.h"
 #include "tgx/wnd/window_cast.h"
 
 #include <algorithm>
@@ -77,11 +77,11 @@ bool AListBox::contains(const CArray<short>& numbers, int wanted)
 void AListBox::startup()
 {
     AWnd::startup();
-    AMainWin* main = getMainWin();
-    const auto load = [main](SurfaceRef& picture, const CString& file) {
+    tgx::Stage* stage = tgx::stage();
+    const auto load = [stage](SurfaceRef& picture, const CString& file) {
         if (picture || file.IsEmpty())
             return;
-        picture = main->createsprite(file, -1, -1, -1);
+        picture = stage->createsprite(file, -1, -1, -1);
         if (!picture)
             MsgBox("cannot load %s", static_cast<const char*>(file));
     };
@@ -89,7 +89,7 @@ void AListBox::startup()
     load(hotRowSurface, hotRowBmpFile);
     load(titleSurface, titleBmpFile);
     for (; loadedIconFiles < iconFiles.GetSize(); ++loadedIconFiles)
-        icons.Add(main->createsprite(iconFiles[loadedIconFiles], -1, -1, -1));
+        icons.Add(stage->createsprite(iconFiles[loadedIconFiles], -1, -1, -1));
     revealedItems = 0;
 }
 
@@ -116,7 +116,7 @@ void AListBox::addColumn(int width, E_TEXTJUSTIFY justify)
 
 void AListBox::addColumn(const CString& text, E_TEXTJUSTIFY justify)
 {
-    addColumn(getMainWin()->getStringLength(text, font), justify);
+    addColumn(tgx::stage()->getStringLength(text, font), justify);
 }
 
 int AListBox::setTitle(int column, const CString& text)
@@ -247,7 +247,7 @@ int AListBox::setItemDataWithIconPercentage(int item, int column, int icon, int 
 int AListBox::setItemDataWithWrap(int item, int column, const CString& text)
 {
     const int width = columnWidths[column];
-    if (getMainWin()->getStringLength(text, font) <= width) {
+    if (tgx::stage()->getStringLength(text, font) <= width) {
         setItemData(item, column, text);
         return 1;
     }
