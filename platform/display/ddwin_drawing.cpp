@@ -135,7 +135,7 @@ surface* ddwin::createsprite(const char* name, int, int, long)
     if (!image)
         return nullptr;
     surface* sprite = canvas->surfaces.make(this);
-    sprite->setImage(std::move(image), name);
+    sprite->takeFile(std::move(image), name);
     return sprite;
 }
 

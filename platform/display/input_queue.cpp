@@ -257,6 +257,18 @@ void InputQueue::dropFrom(std::size_t first)
     events.resize(std::min(kept, events.size()));
 }
 
+void InputQueue::dropAll(ddwin& window)
+{
+    for (MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
+        const auto index = static_cast<std::size_t>(button);
+        if (!fieldsOf(window, button).down && !doubleClicked.test(index))
+            continue;
+        apply(window, {.kind = Kind::Cancel, .button = button});
+        droppedPresses.set(index);
+    }
+    dropFrom(0);
+}
+
 void InputQueue::dropMovesAtHead()
 {
     const auto end = std::find_if(events.begin(), events.end(), isTransition);

@@ -94,6 +94,9 @@ public:
     /// by now. A button that was held before them is cancelled, and one that went down with them stays up,
     /// also when its release comes later.
     void dropFrom(std::size_t first);
+    /// Drops all of them in this way, and cancels the buttons that window holds down by what it has taken
+    /// already: their releases are dropped too.
+    void dropAll(ddwin& window);
 
 private:
     static bool isMove(const Event& event) { return event.kind == Kind::Move; }

@@ -21,7 +21,7 @@ surface::surface(ddwin* newOwner) : owner(newOwner)
 
 surface::surface(const surface& other)
     : width(other.width), height(other.height), owner(other.owner), image(other.image), name(other.name),
-      isDropped(other.isDropped)
+      isOfFile(other.isOfFile), isDropped(other.isDropped)
 {
     filename = name.GetBuffer();
 }
@@ -33,6 +33,7 @@ surface& surface::operator=(const surface& other)
     owner = other.owner;
     image = other.image;
     name = other.name;
+    isOfFile = other.isOfFile;
     isDropped = other.isDropped;
     filename = name.GetBuffer();
     return *this;
@@ -55,7 +56,7 @@ void surface::loadDropped()
     isDropped = false; // one that fails is reported once
     const CString file = name;
     if (ImageRef again = owner->canvas->surfaces.load(file.view()))
-        setImage(std::move(again), file);
+        takeFile(std::move(again), file);
     else
         MsgBox("cannot load %s", static_cast<const char*>(file));
 }
@@ -67,13 +68,14 @@ int surface::reload()
     ImageRef fresh = owner ? owner->canvas->surfaces.loadAnew(name.view()) : loadImageFile(name.view());
     if (!fresh)
         return 0;
-    setImage(std::move(fresh), CString(name));
+    takeFile(std::move(fresh), CString(name));
     return 1;
 }
 
 void surface::setImage(ImageRef newImage, const CString& newName)
 {
     image = std::move(newImage);
+    isOfFile = false;
     isDropped = false;
     width = image ? static_cast<short>(std::min<int>(image->width, INT16_MAX)) : 0;
     height = image ? static_cast<short>(std::min<int>(image->height, INT16_MAX)) : 0;
@@ -81,6 +83,12 @@ void surface::setImage(ImageRef newImage, const CString& newName)
     filename = name.GetBuffer();
     if (image && image->name.empty())
         image->name = name.str();
+}
+
+void surface::takeFile(ImageRef pixels, const CString& file)
+{
+    setImage(std::move(pixels), file);
+    isOfFile = true;
 }
 
 /// A command of this bitmap's pixels, as they are now. Only with an owner.

@@ -54,7 +54,8 @@ public:
 
     /// Pixels, shared; null while there are none. Loads those that were dropped.
     const ImageRef& getImage();
-    /// Takes the pixels, with width and height, and names the surface and an image without a name.
+    /// Takes the pixels, with width and height, and names the surface and an image without a name. The pixels
+    /// are the game's from now on: they are not dropped.
     void setImage(ImageRef newImage, const CString& name);
 
 protected:
@@ -63,6 +64,7 @@ protected:
     CString name; // what filename points into
 
 private:
+    friend class ddwin;
     friend class SurfaceRef;
     friend class SurfaceStore;
     DrawCommand& record(DrawOp op);
@@ -74,7 +76,10 @@ private:
             loadDropped();
     }
     void loadDropped();
+    /// Takes the pixels of the file of that name.
+    void takeFile(ImageRef pixels, const CString& file);
 
     SurfaceRef* refs = nullptr; // first of those that point here
+    bool isOfFile = false;      // image holds what the file of that name does
     bool isDropped = false;     // the pixels: they are loaded again when they are used
 };

@@ -92,7 +92,7 @@ void SurfaceStore::reloadAll()
 
 void SurfaceStore::letGo(surface* wanted)
 {
-    if (owns(wanted) && *wanted->filename)
+    if (owns(wanted) && wanted->isOfFile)
         unused.insert(wanted);
 }
 
@@ -101,7 +101,7 @@ void SurfaceStore::makeRoom()
     fresh.clear();
     for (surface* each : unused) {
         // Shown again meanwhile, or written to, so that the file holds something else.
-        if (each->refs || !each->image || each->image->version != 0)
+        if (each->refs || !each->image || !each->isOfFile || each->image->version != 0)
             continue;
         each->image.reset();
         each->isDropped = true;

@@ -38,8 +38,7 @@ void AMainWin::OnMouseAction()
         mouseDownWnd = nullptr; // what was pressed goes back to rest with the moves that now reach it
     if (nextDrawCount > 0 || !pendingScreen.IsEmpty()) {
         flushMessages();
-        if (displayhost::current().dropsLostInput())
-            displayhost::current().input().dropFrom(0);
+        dropLostInput();
         ddwin::OnMouseAction();
         return;
     }
@@ -81,6 +80,17 @@ void AMainWin::OnMouseAction()
         keyCode2 = 0;
     }
     ddwin::OnMouseAction();
+}
+
+/// A person means input for what is shown: what comes before a change and during a load is not for the new
+/// screen.
+void AMainWin::dropLostInput()
+{
+    displayhost& host = displayhost::current();
+    if (!host.dropsLostInput())
+        return;
+    host.pump(*this);
+    host.input().dropAll(*this);
 }
 
 void AMainWin::OnKeyInput() {}

@@ -47,6 +47,9 @@ AMainWin::~AMainWin()
 {
     ownedBuffer.reset();
     screenList.reset();
+    if (pApp && pApp->mainWin == this)
+        pApp->mainWin =
+            nullptr; // windows that the game took out of the tree ask for it when they are deleted
     writeSetting("FullScreen", fullScreen);
     writeSetting("TopMost", topMost);
     writeSetting("BitDepth", bitDepth);
@@ -120,11 +123,12 @@ void AMainWin::countTowardsChange()
         return;
     nextDrawCount = 0;
     const CString name = pendingScreen;
-    if (doChangeScreenSpecial(name))
-        return; // the game has taken the change over
-    AScreen* next = doChangeScreen();
-    if (next && !next->isOpen())
-        next->initialise();
+    if (!doChangeScreenSpecial(name)) { // or else the game has taken the change over
+        AScreen* next = doChangeScreen();
+        if (next && !next->isOpen())
+            next->initialise();
+    }
+    dropLostInput(); // that came during the load
 }
 
 /// Called from handlers, inside the tree: nothing is deleted under them, however often they ask.

@@ -197,10 +197,6 @@ int AMainWin::closeAllScreensExceptCurrent()
     mouseDownWnd = nullptr;
     if (!screenList)
         return 0;
-    for (int i = 0; i < screenList->getWindowCount(); ++i) {
-        auto* screen = windowAs<AScreen>(screenList->getWndFromIndex(i, ""));
-        if (screen && screen != getActiveScreen() && screen->isOpen())
-            screen->close();
-    }
+    screenList->closeScreensExceptActive();
     return 0;
 }

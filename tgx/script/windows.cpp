@@ -93,7 +93,8 @@ AWnd* pointer(AWnd& target, const ScriptLine& line)
     AWnd* root = line.window.getScreenList();
     if (!wnd || !place || !line.run.mayShow(*root, *place, *wnd))
         return nullptr;
-    place->addChildWindow(wnd);
+    if (!place->addChildWindow(wnd))
+        return nullptr;
     wnd->addPointer();
     wnd->setOwner(root); // it outlives the screen that shows it
     return wnd;

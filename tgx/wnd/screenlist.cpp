@@ -1,5 +1,8 @@
 #include "tgx/wnd/screenlist.h"
 
+#include "tgx/wnd/child_walk.h"
+#include "tgx/wnd/window_cast.h"
+
 #include <algorithm>
 
 AScreenList::AScreenList() : AWnd(WND_PLAIN, "ScreenList", 0, 0, 0, 0) {}
@@ -13,6 +16,15 @@ void AScreenList::setActiveScreen(AScreen* screen)
 {
     activeScreen = screen;
     activeScreenIndex = static_cast<short>(screen ? screen->getWindowIndex() : 0);
+}
+
+void AScreenList::closeScreensExceptActive()
+{
+    for (ChildWalk walk(children); walk.mayGoOn();) {
+        auto* screen = windowAs<AScreen>(walk.next());
+        if (screen && screen != getActiveScreen() && screen->isOpen())
+            screen->close();
+    }
 }
 
 int AScreenList::addWndToDelete(AWnd* wnd)

@@ -13,6 +13,9 @@ public:
     /// Null: none is active.
     void setActiveScreen(AScreen* screen);
 
+    /// Closes every open screen but the active one; they stay in the tree.
+    void closeScreensExceptActive();
+
     /// Marks wnd: it counts as gone, and is deleted at the end of the next dispatched input tick. Not
     /// owned. 1.
     int addWndToDelete(AWnd* wnd);

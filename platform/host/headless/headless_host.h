@@ -16,7 +16,10 @@ public:
     void movePointer(int x, int y) override;
     void showMessage(const CString& text) override;
     void waitForWork(int& ticks, int& frames) override;
+    bool dropsLostInput() const override { return dropsInput; }
 
+    /// Whether input that comes while nothing takes it is dropped, as it is for a person.
+    bool dropsInput = false;
     CursorShape cursor = CursorShape::Normal;
     std::function<void(const CString&)> onMessage;
 };

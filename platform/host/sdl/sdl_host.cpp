@@ -67,6 +67,7 @@ private:
     void destroyWindow();
     void closeWindow();
     void updateFit();
+    bool handleSystemEvent(const SDL_Event& event);
     void handleWindowEvent(const SDL_WindowEvent& event);
     void followTopMost();
     void letGo();
@@ -339,27 +340,8 @@ void SdlHost::pump(ddwin& polled)
     const std::size_t before = input().getEvents().size();
     SDL_Event event;
     while (SDL_PollEvent(&event)) {
-        if (controllers.handle(event, input()))
-            continue;
-        switch (event.type) {
-        case SDL_QUIT:
-            userWantsToClose = true;
-            break;
-        case SDL_WINDOWEVENT:
-            handleWindowEvent(event.window);
-            break;
-        case SDL_RENDER_TARGETS_RESET:
-            pixelsAreLost = true;
-            break;
-        case SDL_RENDER_DEVICE_RESET:
-            if (texture)
-                SDL_DestroyTexture(texture);
-            texture = nullptr;
-            break;
-        default:
+        if (!handleSystemEvent(event) && !controllers.handle(event, input()))
             mouseAndKeys.handle(event);
-            break;
-        }
     }
     mouseAndKeys.flush();
     // Events have no time of their own that could be trusted: all of these came while nobody looked.
@@ -368,6 +350,29 @@ void SdlHost::pump(ddwin& polled)
     lastPump = SDL_GetTicks();
     controllers.repeat(SDL_GetTicks(), input());
     input().dropStale(timeGetTime(), staleInputMillis);
+}
+
+/// Returns whether the event is about the window or the program, and no input.
+bool SdlHost::handleSystemEvent(const SDL_Event& event)
+{
+    switch (event.type) {
+    case SDL_QUIT:
+        userWantsToClose = true;
+        return true;
+    case SDL_WINDOWEVENT:
+        handleWindowEvent(event.window);
+        return true;
+    case SDL_RENDER_TARGETS_RESET:
+        pixelsAreLost = true;
+        return true;
+    case SDL_RENDER_DEVICE_RESET:
+        if (texture)
+            SDL_DestroyTexture(texture);
+        texture = nullptr;
+        return true;
+    default:
+        return false;
+    }
 }
 
 void SdlHost::handleWindowEvent(const SDL_WindowEvent& event)
@@ -386,6 +391,9 @@ void SdlHost::handleWindowEvent(const SDL_WindowEvent& event)
         game->appActive = 0;
         followTopMost();
         letGo();
+        break;
+    case SDL_WINDOWEVENT_LEAVE:
+        mouseAndKeys.pointerLeft();
         break;
     case SDL_WINDOWEVENT_SIZE_CHANGED:
     case SDL_WINDOWEVENT_RESTORED:
@@ -457,19 +465,22 @@ void SdlHost::showInWindow(const std::string& text)
     const ImageRef picture = messagePicture(game->getScreenImage(), text);
     if (picture->width <= 0 || picture->height <= 0 || !prepareTexture(*picture))
         return;
-    pixelsAreLost = true; // the screen's own come back with the next frame
-    upload(*picture, {0, 0, picture->width, picture->height});
+    const tagRECT whole{0, 0, picture->width, picture->height};
+    upload(*picture, whole);
     SDL_Event event;
     do {
         present();
         // Shown again now and then: not every system says when the window was uncovered.
         if (!SDL_WaitEventTimeout(&event, 500))
             event.type = SDL_FIRSTEVENT;
-        if (event.type == SDL_QUIT)
-            userWantsToClose = true;
+        pixelsAreLost = false;
+        handleSystemEvent(event);
+        if ((!texture || pixelsAreLost) && prepareTexture(*picture))
+            upload(*picture, whole);
     } while (!userWantsToClose && event.type != SDL_KEYDOWN && event.type != SDL_MOUSEBUTTONDOWN &&
              event.type != SDL_CONTROLLERBUTTONDOWN);
     SDL_FlushEvents(SDL_KEYDOWN, SDL_TEXTINPUT);
+    pixelsAreLost = true;                             // the screen's own come back with the next frame
     lastPump = SDL_GetTicks() - staleInputMillis - 1; // what comes next was meant for the message
 }
 

@@ -117,6 +117,13 @@ void SdlInput::movePointer(int windowX, int windowY)
     moveTo(pointerAt(windowX, windowY));
 }
 
+void SdlInput::pointerLeft()
+{
+    flush();
+    if (heldButtons.none())
+        moveTo(offScreen);
+}
+
 /// clicks of the event says that the press came in time. Where SDL counts clicks together, more than these
 /// may be meant: of other places nearby, and a third and fourth.
 bool SdlInput::isSecondClick(const SDL_MouseButtonEvent& event)

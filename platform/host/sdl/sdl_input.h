@@ -26,6 +26,8 @@ public:
     void flush() { sendWaitingKey(0); }
     /// Lets go of all that is held, as when the window loses the focus. No button clicks by that.
     void letGo();
+    /// The pointer has left the window: it is over nothing, unless a button holds it.
+    void pointerLeft();
     /// The toolkit has put the pointer to this place of the screen. Motion that began before comes no more.
     void pointerWasMoved(int screenX, int screenY, std::uint32_t now);
 

@@ -9,6 +9,7 @@ public:
     NotingScreen(const CString& name, int x, int y, int w, int h, std::vector<std::string>& calls)
         : AScreen(name, x, y, w, h), noted(calls)
     {}
+    static inline std::function<void(const std::string&)> onCall;
     ~NotingScreen() override { note("deleted"); }
     void startup() override { note("startup"), AScreen::startup(); }
     void initialise() override { note("initialise"), AScreen::initialise(); }
@@ -16,7 +17,12 @@ public:
     void returned() override { note("returned"), AScreen::returned(); }
 
 private:
-    void note(const char* what) { noted.push_back(id.str() + " " + what); }
+    void note(const char* what)
+    {
+        noted.push_back(id.str() + " " + what);
+        if (onCall)
+            onCall(noted.back());
+    }
     std::vector<std::string>& noted;
 };
 
@@ -31,7 +37,8 @@ protected:
             win().classes[name] = [](const CString& id, int x, int y, int w, int h) {
                 return new NotingScreen(id, x, y, w, h, calls);
             };
-        script("SCREEN \"A\" 0 0 640 480 \"a.bmp\"\nBEGIN\nWINDOW \"W\" 0 0 100 100\nEND\n"
+        script("WINDOW \"OLDER\" 0 0 10 10\nSCREEN \"A\" 0 0 640 480 \"a.bmp\"\nBEGIN\nWINDOW \"W\" 0 0 100 "
+               "100\nEND\n"
                "SCREEN \"B\" 0 0 640 480 \"b.bmp\"\nBEGIN\nWINDOW \"TGX_BACK\" 0 0 100 100\nWINDOW "
                "\"TGX_CLOSE\" 200 0 50 50\n"
                "END\nSCREEN \"C\" 0 0 640 480 \"\"\nWINDOW \"PLAIN\" 0 0 10 10\n");
@@ -40,7 +47,11 @@ protected:
         play("frame 2", "change A close", "frame 6");
         taken();
     }
-    void TearDown() override { calls.clear(); }
+    void TearDown() override
+    {
+        NotingScreen::onCall = nullptr;
+        calls.clear();
+    }
     Calls taken() { return std::exchange(calls, {}); }
     std::string active() { return win().getActiveScreen() ? win().getActiveScreen()->getID().str() : "none"; }
     void click(int x, int y)
@@ -245,6 +256,53 @@ TEST_F(ScreensTest, ClosingAllButTheCurrent)
     EXPECT_FALSE(screen("B")->isOpen());
     play("change B", "frame 6");
     EXPECT_EQ(taken(), (Calls{"C close", "B startup", "B initialise"}));
+}
+
+TEST_F(ScreensTest, ClosingAllButTheCurrentMissesNoneWhenAHandlerDeletesAnOlderWindow)
+{
+    begin();
+    win().readScriptFile("script.tgx", nullptr, mainScriptResource, "OLDER", 0);
+    play("change B", "frame 6", "change C", "frame 6", "change A", "frame 6");
+    taken();
+    NotingScreen::onCall = [this](const std::string& call) {
+        if (call == "B close")
+            delete wnd("OLDER");
+    };
+    win().closeAllScreensExceptCurrent();
+    EXPECT_EQ(taken(), (Calls{"B close", "C close"}));
+}
+
+TEST_F(ScreensTest, WhatAPersonDoesOnTheWayToAScreenIsNotForIt)
+{
+    const struct {
+        const char* name;
+        bool dropsInput;
+        bool whileLoading;
+        const char* active;
+    } rows[] = {
+        {"a played run hands everything out", false, false, "A"},
+        {"pressed before the change, let go of after it", true, false, "B"},
+        {"pressed during the load", true, true, "B"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        begin();
+        HeadlessHost& host = getPlayer().getHost();
+        host.dropsInput = row.dropsInput;
+        play("move 10 10", "frame", "change B", "frame 2"); // over TGX_BACK of B
+        if (row.whileLoading)
+            NotingScreen::onCall = [&host](const std::string& call) {
+                if (call == "B startup")
+                    host.input().press(MouseButton::Left, InputQueue::Place{10, 10});
+            };
+        else
+            play("press left");
+        play("frame 4");
+        EXPECT_EQ(active(), "B");
+        play("move 10 10", "release left", "frame 8");
+        EXPECT_EQ(active(), row.active);
+        NotingScreen::onCall = nullptr;
+    }
 }
 
 /// "14: backdrop b.bmp" and so on, for each frame of a wipe that did more than draw the backdrop.

@@ -296,6 +296,17 @@ TEST_F(Input, whatIsDroppedLeavesNoHalfOfAClick)
     queue().press(MouseButton::Middle);
     queue().release(MouseButton::Middle);
     EXPECT_EQ(run(2), (Seen{"middle", "middleup"}));
+
+    queue().press(MouseButton::Left);
+    queue().release(MouseButton::Left);
+    EXPECT_EQ(run(1), (Seen{"down1"}));
+    queue().dropAll(*wnd);
+    EXPECT_EQ(run(1), (Seen{"-"})) << "also when the press was taken before";
+    queue().doubleClick(MouseButton::Left);
+    EXPECT_EQ(run(1), (Seen{"double"}));
+    queue().dropAll(*wnd);
+    queue().release(MouseButton::Left);
+    EXPECT_EQ(run(1), (Seen{"-"}));
 }
 
 TEST_F(Input, anInvalidArgumentIsReportedOnceAndTheLoopGoesOn)

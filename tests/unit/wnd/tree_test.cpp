@@ -181,6 +181,10 @@ TEST_F(TreeTest, NoWindowComesToBeInsideItself)
     }
     wnd("A")->setParentAndIndex(wnd("P"), 7);
     EXPECT_EQ(wnd("A")->getParent(), win().getScreenList());
+    wnd("DEEP")->setParentAndIndex(wnd("DEEP"), 5);
+    EXPECT_EQ(wnd("DEEP")->getParent(), nullptr) << "its own parent: it counts as one without";
+    EXPECT_EQ(wnd("DEEP")->getWindowIndex(), 5);
+    EXPECT_EQ(wnd("P")->addChildWindow(nullptr), nullptr);
     EXPECT_EQ(checkInvariants(win()), "");
     play("frame 6");
     EXPECT_EQ(wnd("Q")->addChildWindow(wnd("R")), wnd("R")) << "a sibling may move below another";
