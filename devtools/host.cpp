@@ -65,7 +65,12 @@ void WatchingHost::movePointer(int x, int y)
 
 void WatchingHost::showMessage(const CString& text)
 {
-    watcher.showMessage(text);
+    watcher.showMessage(text, "");
+}
+
+void WatchingHost::showFailure(const CString& text, const std::string& cause)
+{
+    watcher.showMessage(text, cause);
 }
 
 void WatchingHost::waitForWork(int& ticks, int& frames)

@@ -15,7 +15,8 @@ public:
     /// The picture that is shown instead of screen, or screen itself; all of it is shown when it is another
     /// one than that of the frame before.
     virtual const Image& pictureOf(const Image& screen, std::span<const tagRECT> changed) = 0;
-    virtual void showMessage(const CString& text) = 0;
+    /// cause: what the message and others may follow from; "" for none that is known.
+    virtual void showMessage(const CString& text, const std::string& cause) = 0;
 };
 
 /// Stands in front of the host that was in use and shows a watcher all that passes.
@@ -33,6 +34,7 @@ public:
     void setCursor(CursorShape shape) override;
     void movePointer(int x, int y) override;
     void showMessage(const CString& text) override;
+    void showFailure(const CString& text, const std::string& cause) override;
     void waitForWork(int& ticks, int& frames) override;
     void followFullScreen(ddwin& window) override;
     void tickBegins(ddwin& window, bool takesInput) override;

@@ -132,15 +132,21 @@ void Workbench::measure(const Image& screen, std::span<const tagRECT> changed)
     }
 }
 
-/// In the panel instead of a box that holds the game up.
-void Workbench::showMessage(const CString& text)
+/// In the panel instead of a box that holds the game up. Of messages with one cause that alone.
+void Workbench::showMessage(const CString& text, const std::string& cause)
 {
-    if (text.view().starts_with("Encountered an error on line "))
-        return; // showFaults tells of the line, with its place
+    const bool isToldWithFaults = text.view().starts_with("Encountered an error on line "); // with its place
+    if (isToldWithFaults && cause.empty())
+        return;
     std::string message = oneLine(text.view());
-    std::cerr << "message: " << message << '\n';
-    if (message.starts_with(missingFile)) {
-        missing.insert(std::move(message)); // until it is mended
+    if (!isToldWithFaults)
+        std::cerr << "message: " << message << '\n';
+    if (!cause.empty()) {
+        if (missing.insert(oneLine(cause)).second) // until it is mended
+            std::cerr << "note: " << oneLine(cause) << '\n';
+        faultsAreStale = true;
+    } else if (message.starts_with(missingFile)) {
+        missing.insert(std::move(message)); // likewise
         faultsAreStale = true;
     } else {
         notices.tell(std::move(message));
@@ -280,7 +286,9 @@ void Workbench::showFaults()
     faults.insert(faults.end(), failures.begin(), failures.end());
     for (const std::string& message : missing) {
         const std::string place =
-            origins.placeOfPicture(std::string_view(message).substr(missingFile.size()));
+            message.starts_with(missingFile)
+                ? origins.placeOfPicture(std::string_view(message).substr(missingFile.size()))
+                : "";
         faults.push_back(place.empty() ? message : place + ": " + message);
     }
     notices.setFaults(std::move(faults));

@@ -26,7 +26,7 @@ public:
     void tickBegins(const InputQueue& next, bool takesNew) override;
     void frameBegins() override;
     const Image& pictureOf(const Image& screen, std::span<const tagRECT> changed) override;
-    void showMessage(const CString& text) override;
+    void showMessage(const CString& text, const std::string& cause) override;
 
     const Notices& getNotices() const { return notices; }
     const Origins& getOrigins() const { return origins; }
@@ -66,7 +66,7 @@ private:
     FrameCost cost;     // of the last whole frame
     FrameCost measured; // of the one that is shown
     double averageMicros = 0;
-    std::set<std::string> missing; // "cannot load ..." messages since the last read
+    std::set<std::string> missing; // "cannot load ..." messages, and causes of messages, since the last read
     std::size_t printedFailures = 0;
     bool faultsAreStale = false; // what the panel says of them
     Clock::time_point frameStart;

@@ -71,7 +71,8 @@ void Player::open()
 {
     auto headless = std::make_unique<HeadlessHost>();
     host = headless.get();
-    host->onMessage = [this](const CString& text) { showMessage(text); };
+    host->onMessage = [this](const CString& text) { showMessage(text, ""); };
+    host->onFailure = [this](const CString& text, const std::string& cause) { showMessage(text, cause); };
     displayhost::use(std::move(headless));
     setVirtualTime(0);
     invalidArgumentShown = false;
@@ -85,7 +86,7 @@ void Player::open()
         mainWin->readScriptFile(CString(options.script), GetModuleHandleA(nullptr), mainScriptResource, "",
                                 1);
     } catch (const CInvalidArgException&) {
-        showMessage("invalid argument at the start");
+        showMessage("invalid argument at the start", "");
     }
 }
 
@@ -103,13 +104,24 @@ bool Player::hasEnded() const
     return mainWin && mainWin->running == 0;
 }
 
-void Player::showMessage(const CString& text)
+void Player::showMessage(const CString& text, const std::string& cause)
 {
-    messages.push_back({text.str(), place()});
-    if (onMessage)
+    messages.push_back({text.str(), place(), cause});
+    const Message& message = messages.back();
+    if (onMessage) {
         onMessage(text);
-    else if (!options.messagesFail) // else told with the part's end, unless a line expected it
-        err << "message: " << oneLine(text.view()) << '\n' << std::flush;
+    } else if (!options.messagesFail) { // else told with the part's end, unless a line expected it
+        err << "message: " << oneLine(message.text) << '\n';
+        tellOnce(message.cause);
+        err << std::flush;
+    }
+}
+
+/// For what explains many messages.
+void Player::tellOnce(const std::string& note)
+{
+    if (!note.empty() && notes.insert(note).second)
+        err << "note: " << oneLine(note) << '\n';
 }
 
 void Player::tick(int count)
@@ -156,7 +168,7 @@ void Player::draw(int count)
             mainWin->runFrame();
         } catch (const CInvalidArgException&) {
             if (!invalidArgumentShown)
-                showMessage("invalid argument in a frame");
+                showMessage("invalid argument in a frame", "");
             invalidArgumentShown = true;
         }
     }

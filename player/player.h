@@ -7,6 +7,7 @@
 #include <iosfwd>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -114,16 +115,18 @@ private:
     struct Message {
         std::string text;
         std::string place;
+        std::string cause;
     };
     void open();
     void shut();
-    void showMessage(const CString& text);
+    void showMessage(const CString& text, const std::string& cause);
     std::string logOfNextTick();
     void carryOut(std::string_view line, int number);
     void playLines(std::istream& events, const std::string& name, bool isInteractive);
     bool isPassedOver(std::string_view event, bool abandoned) const;
     void endPart();
     std::string place() const;
+    void tellOnce(const std::string& note);
     void report(const std::string& where, const std::string& reason);
     PlayStatus runWithoutEvents();
 
@@ -136,6 +139,7 @@ private:
     std::unique_ptr<Surroundings> before; // what was in use before
     std::unique_ptr<AControlsApp> app;
     std::unique_ptr<AMainWin> mainWin;
+    std::set<std::string> notes; // that have been told
     bool invalidArgumentShown = false;
     PlayedInput input;
     std::vector<Source> sources;   // the main file first, then what it includes

@@ -147,9 +147,11 @@ void Player::beginTest()
 void Player::endPart()
 {
     for (const Message& message : std::exchange(messages, {}))
-        if (options.messagesFail)
+        if (options.messagesFail) {
             report(message.place.empty() ? options.eventsFile + ": " : message.place,
                    "the message \"" + oneLine(message.text) + "\" was not expected");
+            tellOnce(message.cause);
+        }
 }
 
 std::string Player::place() const

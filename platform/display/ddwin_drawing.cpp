@@ -122,7 +122,7 @@ void ddwin::setbackdrop(const char* name, long)
     const bool isMissing = !picture && !wanted.IsEmpty();
     canvas->setBackdropPicture(std::move(picture), wanted);
     if (isMissing)
-        MsgBox("cannot load %s", static_cast<const char*>(wanted));
+        reportNotLoaded(wanted);
 }
 
 void ddwin::createspecific(const char*, long) {} // pixels are 32 bits wide: there is no palette to make
@@ -155,7 +155,7 @@ surface* ddwin::createBkgndSection(surface* source, int x, int y, int w, int h, 
         canvas->surfaces.makeRoom();
     if (pixels > limits::imagePixels || livePixelCount() + pixels > limits::livePixels) {
         const CString name = *source->filename ? source->filename : "background";
-        MsgBox("cannot load %s", static_cast<const char*>(name));
+        reportNotLoaded(name);
         return made;
     }
     ImageRef section = makeImage(width, height);
@@ -199,7 +199,7 @@ int ddwin::addNewFont(CString file, CString style, int size, int spacing)
 {
     auto& fonts = canvas->fonts;
     if (fonts.size() >= static_cast<std::size_t>(limits::fonts)) {
-        MsgBox("cannot load %s", static_cast<const char*>(file));
+        reportNotLoaded(file);
         return -1;
     }
     std::string request =
@@ -211,7 +211,7 @@ int ddwin::addNewFont(CString file, CString style, int size, int spacing)
     for (const auto& entry : fonts)
         glyphPixels += entry.font->pixelCount();
     if (!font || glyphPixels > limits::glyphPixels) {
-        MsgBox("cannot load %s", static_cast<const char*>(file));
+        reportNotLoaded(file);
         font = std::make_unique<bmpfont>(*fonts.front().font);
         request.clear();
     }

@@ -1,5 +1,7 @@
 #include "platform/display/host.h"
 
+#include "platform/display/message_text.h"
+
 #include <utility>
 
 namespace {
@@ -16,6 +18,13 @@ std::unique_ptr<displayhost>& hostInUse()
 
 displayhost::displayhost() = default;
 displayhost::~displayhost() = default;
+
+void displayhost::showFailure(const CString& text, const std::string& cause)
+{
+    showMessage(text);
+    if (isNewCause(cause))
+        printNote(cause);
+}
 
 void displayhost::followFullScreen(ddwin&) {}
 void displayhost::tickBegins(ddwin&, bool) {}

@@ -7,7 +7,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <set>
 #include <span>
+#include <string>
 
 class ddwin;
 struct Image;
@@ -47,6 +49,9 @@ public:
     virtual void movePointer(int x, int y) = 0;
     /// Shows a text to the user.
     virtual void showMessage(const CString& text) = 0;
+    /// Shows a text that follows from cause, such as a missing folder, which many texts may follow from. The
+    /// cause is told after the first of them; "" when nothing explains the text.
+    virtual void showFailure(const CString& text, const std::string& cause);
     /// Returns when the next tick or frame is due; the two counts say how many ticks to run before how many
     /// frames (0 or 1).
     virtual void waitForWork(int& ticks, int& frames) = 0;
@@ -68,8 +73,13 @@ public:
     /// The user has asked for the window to be closed. The main loop passes it on and clears it.
     bool userWantsToClose = false;
 
+protected:
+    /// Whether cause has not been told yet; from now on it has.
+    bool isNewCause(const std::string& cause) { return !cause.empty() && causes.insert(cause).second; }
+
 private:
     InputQueue queue;
+    std::set<std::string> causes; // that have been told
 };
 
 /// Makes the host of a program that chooses none. Defined beside the implementations, which this folder does

@@ -28,6 +28,11 @@ void printMessage(std::string_view message)
     std::fprintf(stderr, "message: %s\n", oneLine(message).c_str());
 }
 
+void printNote(std::string_view note)
+{
+    std::fprintf(stderr, "note: %s\n", oneLine(note).c_str());
+}
+
 std::string boxText(const std::vector<std::string>& messages)
 {
     constexpr std::size_t listedAtMost = 20;

@@ -11,6 +11,8 @@ TGX_PLATFORM_API std::string oneLine(std::string_view message);
 
 /// "message: TEXT" to stderr.
 void printMessage(std::string_view message);
+/// "note: TEXT" to stderr.
+void printNote(std::string_view note);
 
 /// The text of the one box for the messages of a frame: the first 20, each cut to 200 characters, and how
 /// many there were besides.

@@ -1,6 +1,7 @@
 #include "platform/display/msgbox.h"
 
 #include "platform/display/host.h"
+#include "platform/framework/datadir.h"
 
 #include <cstdarg>
 #include <cstdio>
@@ -21,4 +22,10 @@ unsigned MsgBox(const char* format, ...)
     va_end(written);
     displayhost::current().showMessage(text);
     return 1;
+}
+
+void reportNotLoaded(const CString& name)
+{
+    const std::string text = std::string("cannot load ") + static_cast<const char*>(name);
+    displayhost::current().showFailure(CString(text), missingDataFolder(name.view()));
 }

@@ -58,7 +58,7 @@ void surface::loadDropped()
     if (ImageRef again = owner->canvas->surfaces.load(file.view()))
         takeFile(std::move(again), file);
     else
-        MsgBox("cannot load %s", static_cast<const char*>(file));
+        reportNotLoaded(file);
 }
 
 int surface::reload()

@@ -151,6 +151,35 @@ bool isBelow(const std::string& path, const std::string& folder)
                              path[folder.size()] == '/');
 }
 
+/// Makes path that of a folder in it. False when there is none of that name.
+bool enterFolder(std::string& path, const std::string& name)
+{
+    const std::shared_ptr<const Listing> listing = listingOf(path);
+    if (!listing)
+        return false;
+    const auto match = listing->names.find(lowered(name));
+    if (match == listing->names.end())
+        return false;
+    path += '/' + match->second;
+    return listingOf(path) != nullptr;
+}
+
+/// The folders in which files are looked for, in full, each with what is below it; each once.
+std::string namesOfRoots(const std::string& below)
+{
+    std::string names;
+    std::string before;
+    for (const std::string& root : roots()) {
+        std::string folder = canonical(root);
+        if (folder.empty())
+            folder = std::filesystem::absolute(root).string();
+        if (folder != before)
+            names += (names.empty() ? "" : " or ") + folder + below;
+        before = std::move(folder);
+    }
+    return names;
+}
+
 /// Path of a regular file below root.
 std::optional<std::string> findBelow(const std::string& root, const std::vector<std::string>& components)
 {
@@ -215,6 +244,40 @@ const std::string& dataDirectory()
 const std::vector<std::string>& dataDirectories()
 {
     return roots();
+}
+
+std::string missingDataFolder(std::string_view name)
+{
+    const std::optional<std::vector<std::string>> components = splitSafely(name);
+    if (!components || findMemoryFile(name))
+        return "";
+    std::string folder; // as deep as the first missing one of the root that has most of them
+    std::size_t most = 0;
+    for (const std::string& root : roots()) {
+        std::string path = root;
+        std::size_t present = 0;
+        while (present + 1 < components->size() && enterFolder(path, (*components)[present]))
+            ++present;
+        most = std::max(most, present);
+    }
+    if (most + 1 >= components->size())
+        return "";
+    for (std::size_t i = 0; i <= most; ++i)
+        folder += (i == 0 ? "" : "/") + (*components)[i];
+    return "no folder " + folder + " in " + namesOfRoots("");
+}
+
+std::string whyNoDataFile(std::string_view name)
+{
+    const std::optional<std::vector<std::string>> components = splitSafely(name);
+    if (!components || findMemoryFile(name) || findDataFile(name))
+        return "";
+    if (std::string missing = missingDataFolder(name); !missing.empty())
+        return missing;
+    std::string folder;
+    for (std::size_t i = 0; i + 1 < components->size(); ++i)
+        folder += '/' + (*components)[i];
+    return "no file " + components->back() + " in " + namesOfRoots(folder);
 }
 
 OtherDataDirectory::OtherDataDirectory(const std::string& path) : before(roots())

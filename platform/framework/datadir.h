@@ -34,6 +34,13 @@ private:
 /// or leads out of the data directory, be it by "..", a drive letter or a link.
 TGX_PLATFORM_API std::optional<std::string> findDataFile(std::string_view name);
 
+/// Why no file of that name can be found, if a folder of it is missing: "no folder art in /games/tide". Else
+/// "".
+TGX_PLATFORM_API std::string missingDataFolder(std::string_view name);
+/// Why no file of that name is found, with the folder that it was looked for in: "no file menu.tgx in
+/// /games/tide/UIG". "" for one that is there, and for a name that is refused.
+TGX_PLATFORM_API std::string whyNoDataFile(std::string_view name);
+
 /// Puts a file into the data directory that is in memory alone: CFile finds it before those on disk. It
 /// stays, also when another folder becomes the data directory, until bytes is null for its name. False for a
 /// name that findDataFile would refuse.

@@ -191,7 +191,7 @@ private:
     AScreen* enterScreen(AScreen& screen, const ScreenRequest& request);
     AScreen* usableScreen(AWnd* wnd, bool closesCurrent) const;
     AScreen* findOrReadScreen(const ScreenRequest& request);
-    void reportMissingScreen(const CString& name);
+    void reportMissingScreen(const ScreenRequest& request);
     void showBackdropOf(const AScreen& screen);
     void completeExit();
     void loseFocus();

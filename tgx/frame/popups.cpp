@@ -1,6 +1,7 @@
-#include "platform/display/msgbox.h"
+#include "platform/display/host.h"
 #include "tgx/base/numtext.h"
 #include "tgx/frame/mainwin.h"
+#include "tgx/script/run.h"
 
 namespace {
 
@@ -125,7 +126,9 @@ AWnd* AMainWin::openBox(const CString& name, const CString& id, const CString& t
 {
     AWnd* found = findOrReadPopup(name, noResource, commonScriptFile);
     if (!found) {
-        MsgBox("cannot load %s", static_cast<const char*>(name));
+        displayhost::current().showFailure(
+            CString(std::string("cannot load ") + static_cast<const char*>(name)),
+            whyNoScript(commonScriptFile, GetModuleHandleA(nullptr), noResource));
         return nullptr;
     }
     AWnd* box = setPopupWnd(found, parent, 1);

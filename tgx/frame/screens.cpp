@@ -1,5 +1,7 @@
+#include "platform/display/host.h"
 #include "platform/display/msgbox.h"
 #include "tgx/frame/mainwin.h"
+#include "tgx/script/run.h"
 #include "tgx/wnd/window_cast.h"
 
 namespace {
@@ -88,7 +90,7 @@ AScreen* AMainWin::doChangeScreen()
     // A missing screen is found out before anything is taken down for it.
     AScreen* found = findOrReadScreen(request);
     if (!found) {
-        reportMissingScreen(request.name);
+        reportMissingScreen(request);
         return nullptr;
     }
     return enterScreen(*found, request);
@@ -118,7 +120,7 @@ AScreen* AMainWin::enterScreen(AScreen& screen, const ScreenRequest& request)
     if (!next) {
         if (request.closesCurrent)
             screenList->setActiveScreen(nullptr);
-        reportMissingScreen(request.name);
+        reportMissingScreen(request);
         return nullptr;
     }
 
@@ -148,9 +150,11 @@ AScreen* AMainWin::enterScreen(AScreen& screen, const ScreenRequest& request)
     return static_cast<AScreen*>(target.get());
 }
 
-void AMainWin::reportMissingScreen(const CString& name)
+void AMainWin::reportMissingScreen(const ScreenRequest& request)
 {
-    MsgBox("cannot find screen %s", static_cast<const char*>(name));
+    const std::string text = std::string("cannot find screen ") + static_cast<const char*>(request.name);
+    displayhost::current().showFailure(
+        CString(text), whyNoScript(request.file, GetModuleHandleA(nullptr), request.resource));
     setCursor(normalCursor);
 }
 

@@ -1,7 +1,6 @@
 // Statements that act on no window: fonts and subroutine calls.
 
-#include "platform/display/message.h"
-#include "platform/display/msgbox.h"
+#include "platform/display/host.h"
 #include "tgx/script/run.h"
 #include "tgx/script/statements.h"
 
@@ -16,7 +15,7 @@ CFile* openInCache(const ScriptLine& line, const CString& script)
     if (!stream) {
         auto* memory = new CMemFile(1024);
         line.window.convertResourceToFile(GetModuleHandleA(nullptr), static_cast<unsigned>(std::atoi(script)),
-                                          memory, "TGXScript");
+                                          memory, scriptResourceType);
         stream = memory;
     }
     line.gotoFiles.Add(stream);
@@ -30,6 +29,15 @@ CFile* streamOfSubroutine(const ScriptLine& line)
         return line.stream;
     CFile* cached = line.run.findStream(line.gotoFiles, script);
     return cached ? cached : openInCache(line, script);
+}
+
+/// If the line names a script that is not there.
+std::string whyNoSubroutines(const ScriptLine& line)
+{
+    const CString& script = line.text(2);
+    if (line.count < 3 || (line.stream && line.stream->GetFileName() == script))
+        return "";
+    return whyNoScript(script, GetModuleHandleA(nullptr), static_cast<unsigned>(std::atoi(script)));
 }
 
 } // namespace
@@ -47,7 +55,10 @@ bool goTo(const ScriptLine& line)
     const CString& name = line.text(1);
     if (line.window.doSubroutine(streamOfSubroutine(line), name, line.current, line.gotoFiles))
         return true;
-    MessageBoxA(line.window.m_hWnd, "Could not find SUBROUTINE", "ERROR", MB_SYSTEMMODAL);
-    MsgBox("Could not find SUBROUTINE %s", static_cast<const char*>(name));
+    const std::string cause = whyNoSubroutines(line);
+    const std::string text = "Could not find SUBROUTINE";
+    displayhost::current().showFailure(CString(text), cause);
+    displayhost::current().showFailure(CString(text + ' ' + static_cast<const char*>(name)), cause);
+    line.run.explainFailure(cause);
     return false;
 }

@@ -1,6 +1,6 @@
 // The loops over the lines of a script, and the streams that they read.
 
-#include "platform/display/msgbox.h"
+#include "platform/display/host.h"
 #include "tgx/script/interpreter.h"
 #include "tgx/script/observer.h"
 #include "tgx/script/reader.h"
@@ -60,6 +60,15 @@ struct LineLoop {
         return result.depthChange;
     }
 };
+
+void reportLine(int number, const CString& script, const CString& firstText, const std::string& cause)
+{
+    std::string text = "Encountered an error on line " + std::to_string(number) + " in ";
+    text += static_cast<const char*>(script);
+    text += "\nThe line is :\n\t";
+    text += static_cast<const char*>(firstText);
+    displayhost::current().showFailure(CString(text), cause);
+}
 
 /// The streams that the subroutine calls of one read have opened.
 struct GotoCache {
@@ -154,7 +163,7 @@ AWnd* AMainWin::readScriptFile(const CString& name, HINSTANCE instance, unsigned
         CMemFile resource(1024);
         const std::unique_ptr<CFile> file = run.open(name);
         if (!file)
-            convertResourceToFile(instance, resourceId, &resource, "TGXScript");
+            convertResourceToFile(instance, resourceId, &resource, scriptResourceType);
         CFile* stream = file ? file.get() : &resource;
 
         GotoCache cache{*this, {}};
@@ -173,12 +182,12 @@ AWnd* AMainWin::readScriptFile(const CString& name, HINSTANCE instance, unsigned
             const bool bearsName =
                 !wholeScript && loop.tokens[1].id == stringToken && loop.tokens[1].text == toWindow;
             const int change = loop.execute();
+            const std::string cause = run.takeFailureCause();
             // A line that the end of the run stopped is not at fault.
             if (change <= lineFailed && run.isOver())
                 break;
             if (change <= lineFailed)
-                MsgBox("Encountered an error on line %d in %s\nThe line is :\n\t%s", lineNumber,
-                       static_cast<const char*>(shortName), static_cast<const char*>(loop.tokens[0].text));
+                reportLine(lineNumber, shortName, loop.tokens[0].text, cause);
             else
                 loop.depth = std::max(loop.depth + change, 0);
             if (!wholeScript && !bearsName && loop.depth == 0)
@@ -201,7 +210,9 @@ AWnd* AMainWin::readScriptFile(const CString& name, HINSTANCE instance, unsigned
             if (AScreen* active = getActiveScreen())
                 active->initialise();
         } else {
-            MsgBox("no screen in %s", static_cast<const char*>(shortName));
+            displayhost::current().showFailure(
+                CString("no screen in " + std::string(static_cast<const char*>(shortName))),
+                whyNoScript(name, instance, resourceId));
         }
     }
 

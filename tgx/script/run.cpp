@@ -1,6 +1,7 @@
 #include "tgx/script/run.h"
 
 #include "platform/display/msgbox.h"
+#include "platform/framework/datadir.h"
 #include "tgx/frame/mainwin.h"
 
 #include <algorithm>
@@ -8,6 +9,8 @@
 #include <utility>
 
 namespace {
+
+const std::string scriptFolder = "UIG\\";
 
 AWnd* childAt(AWnd& wnd, int index)
 {
@@ -78,6 +81,13 @@ void enterNames(AWnd& below, std::unordered_map<std::string, AWnd*>& first, long
 
 } // namespace
 
+std::string whyNoScript(const CString& file, HINSTANCE instance, unsigned resource)
+{
+    if (FindResourceA(instance, MAKEINTRESOURCEA(resource & 0xFFFF), scriptResourceType))
+        return "";
+    return whyNoDataFile(scriptFolder + file.str());
+}
+
 ScriptRun::Scope::Scope(AMainWin& mainWin, const CString& script)
     : window(mainWin), isOutermost(mainWin.scriptRun == nullptr)
 {
@@ -124,7 +134,7 @@ bool ScriptRun::refuse()
 
 std::unique_ptr<CFile> ScriptRun::open(const CString& file)
 {
-    const CString path = CString("UIG\\") + file;
+    const CString path = CString(scriptFolder) + file;
     auto stream = std::make_unique<CFile>();
     const auto known = files.find(path.view());
     if (known != files.end()) {

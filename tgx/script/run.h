@@ -3,6 +3,7 @@
 #include "platform/framework/carray.h"
 #include "platform/framework/cfile.h"
 #include "platform/limits.h"
+#include "platform/system/module.h"
 #include "tgx/script/index.h"
 #include "tgx/wnd/wndref.h"
 
@@ -11,10 +12,15 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 class AMainWin;
 class AWnd;
+
+/// Why there is no script of that name: with neither a file below UIG nor that resource, the file and the
+/// folder that it was looked for in, else "".
+std::string whyNoScript(const CString& file, HINSTANCE instance, unsigned resource);
 
 /// What all reads inside one outermost read of a script share: the limits that end them, the bytes of the
 /// files that they opened, the indexes of those, the streams that subroutines run from. A tree that the
@@ -98,6 +104,11 @@ public:
     /// more.
     void releaseAll(CArray<CFile*, CFile*>& gotoFiles);
 
+    /// Why a line at hand is about to fail, for the message about it; "" when nothing explains it. Forgotten
+    /// with the line.
+    void explainFailure(std::string cause) { failureCause = std::move(cause); }
+    std::string takeFailureCause() { return std::exchange(failureCause, {}); }
+
     // Windows by name. Both answer as getWnd(id, 1) on below.
 
     AWnd* findBelow(AWnd& below, const CString& id);
@@ -143,6 +154,7 @@ private:
     bool isRunning(const CFile* stream) const;
 
     CString name; // of the outermost script
+    std::string failureCause;
     long linesLeft;
     long long workLeft;
     bool reported = false;

@@ -16,3 +16,5 @@ constexpr int maxLineTokens = 30;
 constexpr int wndStackSize = 20;
 /// What processLine gives for a statement that failed.
 constexpr int lineFailed = -9999;
+/// The type of resources that are scripts.
+constexpr const char* scriptResourceType = "TGXScript";

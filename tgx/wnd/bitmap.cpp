@@ -48,7 +48,7 @@ void AWnd::setBmp(const CString& name)
     if (!bmp || wanted != bmp->filename)
         setBmp(stage->createsprite(wanted, -1, -1, -1));
     if (!bmp)
-        MsgBox("cannot load %s", static_cast<const char*>(wanted));
+        reportNotLoaded(wanted);
 }
 
 void AWnd::deleteBmp()

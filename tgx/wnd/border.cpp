@@ -51,7 +51,7 @@ std::unique_ptr<ABorder> ABorder::load(const CString& file, int borderWidth, int
     if (tgx::Stage* stage = tgx::stage())
         strip = stage->createsprite(file, -1, -1, -1);
     if (!strip)
-        MsgBox("cannot load %s", static_cast<const char*>(file));
+        reportNotLoaded(file);
     return std::make_unique<ABorder>(strip, borderWidth, pieceSize);
 }
 

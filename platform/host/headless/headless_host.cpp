@@ -33,6 +33,16 @@ void HeadlessHost::showMessage(const CString& text)
         printMessage(text.view());
 }
 
+void HeadlessHost::showFailure(const CString& text, const std::string& cause)
+{
+    if (onFailure)
+        onFailure(text, cause);
+    else if (onMessage)
+        onMessage(text);
+    else
+        displayhost::showFailure(text, cause);
+}
+
 void HeadlessHost::waitForWork(int& ticks, int& frames)
 {
     ticks = 1;

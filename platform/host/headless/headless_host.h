@@ -15,6 +15,7 @@ public:
     void setCursor(CursorShape shape) override;
     void movePointer(int x, int y) override;
     void showMessage(const CString& text) override;
+    void showFailure(const CString& text, const std::string& cause) override;
     void waitForWork(int& ticks, int& frames) override;
     bool dropsLostInput() const override { return dropsInput; }
 
@@ -22,4 +23,6 @@ public:
     bool dropsInput = false;
     CursorShape cursor = CursorShape::Normal;
     std::function<void(const CString&)> onMessage;
+    /// Takes the messages that have a cause, with it; without it onMessage takes them, without the cause.
+    std::function<void(const CString&, const std::string& cause)> onFailure;
 };

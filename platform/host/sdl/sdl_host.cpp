@@ -53,6 +53,7 @@ public:
     void setCursor(CursorShape shape) override;
     void movePointer(int x, int y) override;
     void showMessage(const CString& text) override;
+    void showFailure(const CString& text, const std::string& cause) override;
     void waitForWork(int& ticks, int& frames) override;
     void followFullScreen(ddwin& window) override;
     bool dropsLostInput() const override { return true; }
@@ -439,6 +440,18 @@ void SdlHost::showMessage(const CString& text)
 {
     printMessage(text.view());
     messages.push_back(text.str());
+}
+
+/// Of many texts with one cause the box shows the cause alone.
+void SdlHost::showFailure(const CString& text, const std::string& cause)
+{
+    if (cause.empty())
+        return showMessage(text);
+    printMessage(text.view());
+    if (isNewCause(cause)) {
+        printNote(cause);
+        messages.push_back(cause);
+    }
 }
 
 void SdlHost::showGatheredMessages()

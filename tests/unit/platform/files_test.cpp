@@ -119,6 +119,32 @@ TEST_F(Files, withoutADataDirectoryTheWorkingFolderComesFirstThenTheExecutables)
     fs::current_path(before);
 }
 
+TEST_F(Files, whatIsMissingIsNamedWithTheFolderItWasLookedForIn)
+{
+    const std::string folder = fs::canonical(base / "data").string();
+    setMemoryFile("ram\\x.tgx", std::make_shared<const std::string>());
+    const struct {
+        const char* name;
+        std::string file;
+        std::string whyNoFile;
+    } rows[] = {
+        {"a file", "uig\\none.tgx", "no file none.tgx in " + folder + "/uig"},
+        {"a file of no folder", "none.bmp", "no file none.bmp in " + folder},
+        {"its folder", "art\\none.bmp", "no folder art in " + folder},
+        {"a folder in one that is there", "UIG/old/none.tgx", "no folder UIG/old in " + folder},
+        {"a file used as a folder", "both.txt\\x", "no folder both.txt in " + folder},
+        {"one that is there", "uig\\menu.tgx", ""},
+        {"one in memory, of no folder", "ram\\x.tgx", ""},
+        {"one that is refused", "..\\secret.txt", ""},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(whyNoDataFile(row.file), row.whyNoFile);
+        EXPECT_EQ(missingDataFolder(row.file), row.whyNoFile.starts_with("no folder") ? row.whyNoFile : "");
+    }
+    setMemoryFile("ram\\x.tgx", nullptr);
+}
+
 TEST_F(Files, aFileThatAppearsAfterAFailedLookUpIsFound)
 {
     // A folder that has not changed for long keeps its listing in memory.

@@ -149,6 +149,17 @@ TEST(Messages, areOneLineOnATerminal)
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "message: a\\n\\tb\\\\u000d\\u007f\\u00e9\\u0000z\n");
 }
 
+TEST(Messages, aCauseIsToldAfterTheFirstOfThem)
+{
+    testing::internal::CaptureStderr();
+    HeadlessHost host;
+    for (const char* text : {"a", "b"})
+        host.showFailure(text, "no folder x");
+    host.showFailure("c", "");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "message: a\nnote: no folder x\nmessage: b\nmessage: c\n");
+}
+
 TEST(Messages, oneBoxListsTwentyAndCountsTheRest)
 {
     EXPECT_EQ(boxText({"one", "two"}), "one\ntwo");

@@ -245,7 +245,8 @@ TEST_F(ExpectTest, AMessageThatNoLineExpectedFailsIfThatWasAskedFor)
               "run.events:2: the message \"cannot load a\" was not expected\n");
     EXPECT_EQ(status, PlayStatus::WrongLine);
     options.script = "none.tgx";
-    EXPECT_EQ(run("# nothing\n"), "run.events: the message \"no screen in none.tgx\" was not expected\n");
+    EXPECT_EQ(run("# nothing\n"), "run.events: the message \"no screen in none.tgx\" was not expected\n"
+                                  "note: no file none.tgx in UIG\n");
     EXPECT_EQ(run("test a\nexpect message \"no screen in none.tgx\"\n"), "");
 }
 

@@ -61,7 +61,9 @@ TEST_F(PlayerTest, AnExitEndsTheRunAndNoLineFollows)
 TEST_F(PlayerTest, MessagesAreOneLineEach)
 {
     EXPECT_EQ(run("call BOX setBmp \"a\\x0A\\x09\\xE9\\\\.bmp\"\n"), PlayStatus::Done);
-    EXPECT_EQ(err.str(), "message: cannot load a\\n\\t\\u00e9\\.bmp\n");
+    EXPECT_EQ(err.str(), "message: cannot load a\\n\\t\\u00e9\\.bmp\n"
+                         "note: no folder a\\n\\t\\u00e9 in " +
+                             data.string() + '\n');
     EXPECT_EQ(out.str(), "1: null\n");
 }
 
@@ -69,8 +71,32 @@ TEST_F(PlayerTest, AMissingScriptIsReportedAndTheRunGoesOn)
 {
     options.script = "none.tgx";
     EXPECT_EQ(run("frame 2\ncall main getActiveScreen\n"), PlayStatus::Done);
-    EXPECT_EQ(err.str(), "message: no screen in none.tgx\n");
+    EXPECT_EQ(err.str(),
+              "message: no screen in none.tgx\nnote: no file none.tgx in " + data.string() + "/UIG\n");
     EXPECT_EQ(out.str(), "2: null\n");
+}
+
+/// The texts of the messages stay the same; notes come between them.
+TEST_F(PlayerTest, WhatIsMissingIsExplainedOnce)
+{
+    const std::string longName = "%s%d" + std::string(5000, 'n');
+    script("SCREEN \"MENU\" 0 0 64 48 \"\"\nBEGIN\nBITMAP \"A\" 0 0 9 9 \"art\\a.bmp\"\nBITMAP \"B\" 0 0 9 9 "
+           "\"art\\b.bmp\"\nGOTO \"" +
+           longName + "\" \"%s.tgx\"\nGOTO \"X\" \"%s.tgx\"\nEND\n");
+    EXPECT_EQ(run("frame\ncall main changeScreen GONE 0 150 gone.tgx\nframe 9\n"), PlayStatus::Done);
+    const auto line = [](int number) {
+        return "message: Encountered an error on line " + std::to_string(number) +
+               " in script.tgx\\nThe line is :\\n\\t\n";
+    };
+    const std::string folder = " in " + data.string();
+    EXPECT_EQ(
+        err.str(),
+        "message: Could not find SUBROUTINE\nnote: no file %s.tgx" + folder +
+            "/UIG\nmessage: Could not find SUBROUTINE " + longName + '\n' + line(5) +
+            "message: Could not find SUBROUTINE\nmessage: Could not find SUBROUTINE X\n" + line(6) +
+            "message: cannot load art\\a.bmp\nnote: no folder art" + folder +
+            "\nmessage: cannot load art\\b.bmp\nmessage: cannot find screen GONE\nnote: no file gone.tgx" +
+            folder + "/UIG\n");
 }
 
 TEST_F(PlayerTest, WithoutMemoryTheRunEndsWithAMessage)

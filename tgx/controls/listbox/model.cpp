@@ -83,7 +83,7 @@ void AListBox::startup()
             return;
         picture = stage->createsprite(file, -1, -1, -1);
         if (!picture)
-            MsgBox("cannot load %s", static_cast<const char*>(file));
+            reportNotLoaded(file);
     };
     load(selectedRowSurface, selectedRowBmpFile);
     load(hotRowSurface, hotRowBmpFile);
