@@ -30,7 +30,7 @@ std::string whyFailed(const ExecutedLine& line, const Statement* statement)
 void Origins::lineExecuted(const ExecutedLine& line)
 {
     const Statement* statement = line.count > 0 ? statementById(line.tokens[0].id) : nullptr;
-    const std::string script = line.script.str();
+    const std::string script = belowScriptFolder(line.path);
     if (line.depthChange == lineFailed && failures.size() < mostFailures) {
         std::string failure = placeIn(script, line.offset) + ": " + whyFailed(line, statement);
         if (std::find(failures.begin(), failures.end(), failure) == failures.end())
@@ -62,14 +62,6 @@ std::string Origins::scriptOf(const AWnd& wnd) const
 {
     const Made* origin = find(wnd);
     return origin && origin->id == wnd.getID().view() ? origin->script : "";
-}
-
-std::string Origins::placeOfPicture(std::string_view file) const
-{
-    for (const auto& [address, origin] : made)
-        if (origin.wnd && CString::equalNoCase(origin.wnd->getBmpFilename().view(), file))
-            return placeIn(origin.script, origin.offset);
-    return "";
 }
 
 void Origins::clear()

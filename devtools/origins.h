@@ -16,13 +16,13 @@ public:
     explicit Origins(const Sources& scriptSources) : sources(scriptSources) {}
     void lineExecuted(const ExecutedLine& line) override;
 
+    /// "menu.tgs:31" for a byte of a script, by its name below UIG; "" is an embedded one.
+    std::string placeIn(const std::string& script, unsigned offset) const;
     /// "menu.tgs:31" of the line that made wnd; empty for a window that no script made.
     std::string placeOf(const AWnd& wnd) const;
     /// The script that defines wnd under the id that it bears, as readScriptFile wants it; empty when there
     /// is none, or when it has got another id since.
     std::string scriptOf(const AWnd& wnd) const;
-    /// "menu.tgs:31" of a window that shows that picture; empty when there is none.
-    std::string placeOfPicture(std::string_view file) const;
     /// "menu.tgs:31: expected: BUTTON "name" ...", each once, of the reads since the last clear, at most the
     /// first 50.
     const std::vector<std::string>& getFailures() const { return failures; }
@@ -30,12 +30,11 @@ public:
 
 private:
     struct Made {
-        WndRef wnd; // empties when the window dies: its address may be another one's then
-        std::string script;
+        WndRef wnd;         // empties when the window dies: its address may be another one's then
+        std::string script; // below UIG
         unsigned offset;
         std::string id; // at that time
     };
-    std::string placeIn(const std::string& script, unsigned offset) const;
     const Made* find(const AWnd& wnd) const;
 
     const Sources& sources;

@@ -12,7 +12,6 @@
 #include <deque>
 #include <filesystem>
 #include <set>
-#include <sstream>
 
 namespace fs = std::filesystem;
 
@@ -23,11 +22,6 @@ constexpr std::string_view scriptFolder = "UIG\\";
 bool isOnDisk(const std::string& script)
 {
     return findDataFile(std::string(scriptFolder) + script).has_value();
-}
-
-std::string placeIn(const std::string& file, int line)
-{
-    return file + ':' + std::to_string(line);
 }
 
 std::string canonical(const std::string& path)
@@ -124,14 +118,11 @@ Sources::Scripts Sources::compileTexts()
             fault(file + ": error: there is no statement in it any more");
         else if (!script.hasErrors()) {
             script_text::Emitted emitted = script_text::emit(script);
-            Map map;
-            for (std::size_t i = 0; i < script.lines.size(); ++i)
-                map.push_back({static_cast<unsigned>(emitted.offsets[i]),
-                               placeIn(script.lines[i].in->file->name, script.lines[i].number)});
+            ScriptLines places(script_text::sideMap(script, emitted));
             std::string key = script_text::lowered(name);
             fresh[std::move(key)] = {std::move(name),
                                      std::make_shared<const std::string>(std::move(emitted.bytes)),
-                                     std::move(map)};
+                                     std::move(places)};
             continue;
         }
         keepLast(name);
@@ -177,49 +168,20 @@ bool Sources::replace(Scripts fresh)
 /// Whether one that no text stands in for is another file now.
 bool Sources::lookAtCompiled()
 {
-    std::map<std::string, Compiled> fresh;
+    Times fresh;
     for (const std::string& file : script_text::filesIn(script_text::scriptFolder(), ".tgx")) {
         watched->add(file);
+        watched->add(file + ".map");
         std::error_code failure;
         const fs::file_time_type time = fs::last_write_time(file, failure);
         std::string key = script_text::lowered(fs::path(file).filename().string());
         if (!failure && !built.contains(key))
-            fresh[std::move(key)] = {time, readSideMap(file, time)};
+            fresh[std::move(key)] = time;
     }
-    const bool isSame = std::equal(
-        fresh.begin(), fresh.end(), compiled.begin(), compiled.end(),
-        [](const auto& a, const auto& b) { return a.first == b.first && a.second.isSameFileAs(b.second); });
+    lines.clear();
+    const bool isChanged = fresh != compiled;
     compiled = std::move(fresh);
-    return !isSame;
-}
-
-/// "menu.tgx.map" beside menu.tgx. One that is not as `tgx build --map` writes it, or is older than the
-/// script, is no use, and no fault.
-Sources::Map Sources::readSideMap(const std::string& script, fs::file_time_type time)
-{
-    const std::string path = script + ".map";
-    std::string reason;
-    watched->add(path);
-    std::error_code failure;
-    if (fs::last_write_time(path, failure) < time || failure)
-        return {};
-    const std::optional<std::string> text = readIncluded(path, reason);
-    if (!text)
-        return {};
-    Map map;
-    std::istringstream lines(*text);
-    for (std::string line; std::getline(lines, line);) {
-        std::istringstream fields(line);
-        Mapped entry{};
-        int number = 0;
-        std::string file;
-        if (!(fields >> entry.offset >> number) || fields.get() != ' ' || !std::getline(fields, file) ||
-            (!map.empty() && entry.offset < map.back().offset))
-            return {};
-        entry.place = placeIn(file, number);
-        map.push_back(std::move(entry));
-    }
-    return map;
+    return isChanged;
 }
 
 std::vector<std::string> Sources::allFiles() const
@@ -240,21 +202,10 @@ bool Sources::isFromText(const std::string& script) const
     return built.contains(script_text::lowered(script));
 }
 
-const Sources::Map* Sources::mapOf(const std::string& script) const
-{
-    const std::string key = script_text::lowered(script);
-    if (const auto text = built.find(key); text != built.end())
-        return &text->second.map;
-    const auto found = compiled.find(key);
-    return found == compiled.end() || found->second.map.empty() ? nullptr : &found->second.map;
-}
-
 std::string Sources::placeOf(const std::string& script, unsigned offset) const
 {
-    const Map* map = mapOf(script);
-    if (!map)
-        return script + ", byte " + std::to_string(offset);
-    const auto behind = std::upper_bound(map->begin(), map->end(), offset,
-                                         [](unsigned at, const Mapped& each) { return at < each.offset; });
-    return behind == map->begin() ? script : std::prev(behind)->place;
+    const auto text = built.find(script_text::lowered(script));
+    const ScriptLines& found = text == built.end() ? lines.of(script) : text->second.lines;
+    const std::string place = found.placeOf(offset);
+    return place.empty() ? script + ", byte " + std::to_string(offset) : place;
 }

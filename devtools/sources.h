@@ -1,6 +1,7 @@
 #pragma once
 
 #include "language/text/watch.h"
+#include "player/script_lines.h"
 
 #include <filesystem>
 #include <map>
@@ -41,41 +42,30 @@ public:
     /// which are read for this.
     std::vector<Script> scripts() const;
 
-    /// "menu.tgs:31" for a byte of the compiled script of that name; without text or map "menu.tgx, byte
-    /// 123".
+    /// "menu.tgs:31" for a byte of the compiled script of that name below UIG; without text or map "menu.tgx,
+    /// byte 123".
     std::string placeOf(const std::string& script, unsigned offset) const;
 
 private:
-    struct Mapped {
-        unsigned offset;
-        std::string place; // FILE:LINE
-    };
-    using Map = std::vector<Mapped>; // in the order of offsets
     struct Built {
         std::string name; // below UIG
         std::shared_ptr<const std::string> bytes;
-        Map map;
+        ScriptLines lines;
     };
-    using Scripts = std::map<std::string, Built>; // by name in lower case
-    struct Compiled {
-        std::filesystem::file_time_type time;
-        Map map;
-
-        bool isSameFileAs(const Compiled& other) const { return time == other.time; }
-    };
+    using Scripts = std::map<std::string, Built>;                         // by name in lower case
+    using Times = std::map<std::string, std::filesystem::file_time_type>; // by name in lower case
     std::vector<std::string> textFiles() const;
     std::vector<std::string> allFiles() const;
     void fault(std::string headline, std::string report = {});
     Scripts compileTexts();
     bool replace(Scripts fresh);
     bool lookAtCompiled();
-    Map readSideMap(const std::string& compiled, std::filesystem::file_time_type time);
-    const Map* mapOf(const std::string& script) const;
 
     std::vector<std::string> folders;
     std::string mainScript;
     Scripts built;
-    std::map<std::string, Compiled> compiled; // in UIG, by name in lower case
+    Times compiled;                  // of the files in UIG that no text stands in for
+    mutable ScriptLinesOnDisk lines; // of those that no text stands in for
     std::vector<std::string> faults;
     std::vector<std::string> reports;
     std::vector<std::string> knownFiles; // text and compiled, of the last build

@@ -33,15 +33,14 @@ constexpr int recordedFrameMs = 17; // the host runs 60 ticks a second
 Workbench::Workbench(AMainWin& mainWin, DevToolsOptions toolOptions)
     : game(mainWin), options(std::move(toolOptions)), sources(options.sources, options.script),
       origins(sources), inspector(mainWin, origins, options), screenChooser(mainWin, sources, options.script),
-      state(mainWin, origins)
+      state(mainWin, origins), messagePlaces(mainWin)
 {
-    if (game.getScriptObserver())
+    if (dynamic_cast<WatchingHost*>(&displayhost::current()))
         throw std::logic_error("the game has devtools already");
     buildSources();
-    game.setScriptObserver(&origins);
+    game.addScriptObserver(origins);
     notices.tell(describeKeys(options));
     fullScreenBefore = game.fullScreen;
-    displayhost::current(); // chosen now, if none was
     auto watching = std::make_unique<WatchingHost>(displayhost::use(nullptr), *this);
     host = watching.get();
     displayhost::use(std::move(watching));
@@ -50,7 +49,7 @@ Workbench::Workbench(AMainWin& mainWin, DevToolsOptions toolOptions)
 Workbench::~Workbench()
 {
     saveRecording();
-    game.setScriptObserver(nullptr);
+    game.removeScriptObserver(origins);
     game.fullScreen = fullScreenBefore;
     if (&displayhost::current() == host) {
         const std::unique_ptr<displayhost> own = displayhost::use(nullptr);
@@ -135,22 +134,32 @@ void Workbench::measure(const Image& screen, std::span<const tagRECT> changed)
 /// In the panel instead of a box that holds the game up. Of messages with one cause that alone.
 void Workbench::showMessage(const CString& text, const std::string& cause)
 {
-    const bool isToldWithFaults = text.view().starts_with("Encountered an error on line "); // with its place
+    const bool isToldWithFaults = isAboutALine(text.view()); // by showFaults, with its place
     if (isToldWithFaults && cause.empty())
         return;
     std::string message = oneLine(text.view());
-    if (!isToldWithFaults)
+    const std::optional<ScriptPlace> found = messagePlaces.find(text.view());
+    const std::string place = placeOf(found);
+    if (!isToldWithFaults) {
         std::cerr << "message: " << message << '\n';
+        if (!place.empty())
+            std::cerr << place << ": note: the message comes from this line\n";
+    }
     if (!cause.empty()) {
-        if (missing.insert(oneLine(cause)).second) // until it is mended
+        if (missing.emplace(oneLine(cause), found).second) // until it is mended
             std::cerr << "note: " << oneLine(cause) << '\n';
         faultsAreStale = true;
     } else if (message.starts_with(missingFile)) {
-        missing.insert(std::move(message)); // likewise
+        missing.emplace(std::move(message), found); // likewise
         faultsAreStale = true;
     } else {
-        notices.tell(std::move(message));
+        notices.tell(place.empty() ? std::move(message) : place + ": " + message);
     }
+}
+
+std::string Workbench::placeOf(const std::optional<ScriptPlace>& place) const
+{
+    return place ? origins.placeIn(place->file, place->offset) : "";
 }
 
 // Keys
@@ -284,11 +293,8 @@ void Workbench::showFaults()
         std::cerr << failures[printedFailures] << '\n';
     std::vector<std::string> faults = sources.getFaults();
     faults.insert(faults.end(), failures.begin(), failures.end());
-    for (const std::string& message : missing) {
-        const std::string place =
-            message.starts_with(missingFile)
-                ? origins.placeOfPicture(std::string_view(message).substr(missingFile.size()))
-                : "";
+    for (const auto& [message, wantedBy] : missing) {
+        const std::string place = placeOf(wantedBy);
         faults.push_back(place.empty() ? message : place + ": " + message);
     }
     notices.setFaults(std::move(faults));
@@ -307,6 +313,7 @@ void Workbench::readAnew()
     origins.clear();
     printedFailures = 0;
     missing.clear();
+    messagePlaces.clear();
     faultsAreStale = true;
     const Swapped reading(isReading, true);
     try {

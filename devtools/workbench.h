@@ -11,10 +11,11 @@
 #include "devtools/recorder.h"
 #include "devtools/screen_chooser.h"
 #include "devtools/sources.h"
+#include "player/message_places.h"
 
 #include <chrono>
+#include <map>
 #include <optional>
-#include <set>
 
 /// What DevTools is behind its face: stands between game and host, and does what the keys ask for.
 class Workbench : public HostWatcher {
@@ -37,6 +38,7 @@ private:
     void keyPressed(int code);
     void switchFullScreen();
     void switchScreenList();
+    std::string placeOf(const std::optional<ScriptPlace>& place) const;
     void tellWritten(const std::string& what, const std::string& path, bool isWritten);
     void savePicture();
     void switchRecorder();
@@ -66,7 +68,9 @@ private:
     FrameCost cost;     // of the last whole frame
     FrameCost measured; // of the one that is shown
     double averageMicros = 0;
-    std::set<std::string> missing; // "cannot load ..." messages, and causes of messages, since the last read
+    MessagePlaces messagePlaces;
+    /// What is missing since the last read, with the line that wants it.
+    std::map<std::string, std::optional<ScriptPlace>> missing;
     std::size_t printedFailures = 0;
     bool faultsAreStale = false; // what the panel says of them
     Clock::time_point frameStart;

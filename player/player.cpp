@@ -7,7 +7,9 @@
 #include "platform/system/clock.h"
 #include "platform/system/module.h"
 #include "player/files.h"
+#include "player/message_places.h"
 #include "player/reach.h"
+#include "player/script_lines.h"
 #include "player/words.h"
 #include "tgx/frame/mainwin.h"
 
@@ -80,6 +82,8 @@ void Player::open()
     app = std::make_unique<AControlsApp>(); // without a program name: no settings are read or written
     mainWin = factory(options.width, options.height, bitDepth);
     app->mainWin = mainWin.get();
+    messagePlaces = std::make_unique<MessagePlaces>(*mainWin);
+    scriptLines = std::make_unique<ScriptLinesOnDisk>();
     host->open(*mainWin);
     try {
         mainWin->startup();
@@ -94,6 +98,7 @@ void Player::shut()
 {
     if (mainWin)
         host->close(*mainWin);
+    messagePlaces.reset();
     mainWin.reset();
     app.reset();
     input.clear();
@@ -106,18 +111,35 @@ bool Player::hasEnded() const
 
 void Player::showMessage(const CString& text, const std::string& cause)
 {
-    messages.push_back({text.str(), place(), cause});
+    messages.push_back({text.str(), place(), scriptPlaceOf(text), cause});
     const Message& message = messages.back();
     if (onMessage) {
         onMessage(text);
     } else if (!options.messagesFail) { // else told with the part's end, unless a line expected it
         err << "message: " << oneLine(message.text) << '\n';
-        tellOnce(message.cause);
+        if (!message.scriptPlace.empty())
+            err << message.scriptPlace << ": note: the message comes from this line\n";
+        explain(message);
         err << std::flush;
     }
 }
 
-/// For what explains many messages.
+std::string Player::scriptPlaceOf(const CString& message)
+{
+    const std::optional<ScriptPlace> found =
+        messagePlaces ? messagePlaces->find(message.view()) : std::nullopt;
+    return found ? scriptLines->of(found->file).placeOf(found->offset) : "";
+}
+
+/// What many messages may need, once in a run.
+void Player::explain(const Message& message)
+{
+    tellOnce(message.cause);
+    if (isAboutALine(message.text) && message.scriptPlace.empty())
+        tellOnce("line numbers in messages count the statements of the compiled script, as tgx dump prints "
+                 "them; with its map beside it (tgx build --map) messages also name the line of the text");
+}
+
 void Player::tellOnce(const std::string& note)
 {
     if (!note.empty() && notes.insert(note).second)

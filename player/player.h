@@ -16,6 +16,8 @@ class AControlsApp;
 class AMainWin;
 class CString;
 class HeadlessHost;
+class MessagePlaces;
+class ScriptLinesOnDisk;
 namespace CLI {
 class App;
 }
@@ -115,6 +117,7 @@ private:
     struct Message {
         std::string text;
         std::string place;
+        std::string scriptPlace; // FILE:LINE of the script's text; "" when that is not known
         std::string cause;
     };
     void open();
@@ -126,6 +129,8 @@ private:
     bool isPassedOver(std::string_view event, bool abandoned) const;
     void endPart();
     std::string place() const;
+    std::string scriptPlaceOf(const CString& message);
+    void explain(const Message& message);
     void tellOnce(const std::string& note);
     void report(const std::string& where, const std::string& reason);
     PlayStatus runWithoutEvents();
@@ -139,6 +144,8 @@ private:
     std::unique_ptr<Surroundings> before; // what was in use before
     std::unique_ptr<AControlsApp> app;
     std::unique_ptr<AMainWin> mainWin;
+    std::unique_ptr<MessagePlaces> messagePlaces; // of mainWin
+    std::unique_ptr<ScriptLinesOnDisk> scriptLines;
     std::set<std::string> notes; // that have been told
     bool invalidArgumentShown = false;
     PlayedInput input;

@@ -149,8 +149,9 @@ void Player::endPart()
     for (const Message& message : std::exchange(messages, {}))
         if (options.messagesFail) {
             report(message.place.empty() ? options.eventsFile + ": " : message.place,
-                   "the message \"" + oneLine(message.text) + "\" was not expected");
-            tellOnce(message.cause);
+                   "the message \"" + oneLine(message.text) + "\" was not expected" +
+                       (message.scriptPlace.empty() ? "" : "; it comes from " + message.scriptPlace));
+            explain(message);
         }
 }
 

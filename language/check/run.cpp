@@ -50,9 +50,9 @@ public:
     explicit Window(Reading& owner)
         : AMainWin(owner.options.width, owner.options.height, pixelBits), reading(owner)
     {
-        setScriptObserver(this);
+        addScriptObserver(*this);
     }
-    ~Window() override { setScriptObserver(nullptr); }
+    ~Window() override { removeScriptObserver(*this); }
 
     AWnd* createNewWindow(const CString& id, int x, int y, int w, int h, const CString&) override
     {

@@ -109,12 +109,14 @@ void CFile::Close()
     position = 0;
     storage.reset();
     fileName.Empty();
+    filePath.Empty();
 }
 
 void CFile::share(const char* name, std::shared_ptr<const std::string> bytes)
 {
     Close();
-    fileName = CString(withoutDirectory(name ? name : ""));
+    filePath = CString(name ? name : "");
+    fileName = CString(withoutDirectory(filePath.view()));
     storage = std::move(bytes);
     contents = storage ? std::string_view(*storage) : std::string_view();
 }

@@ -37,6 +37,9 @@ public:
     /// The name without its directory, as it was given to Open; empty for a memory file.
     const CString& GetFileName() const { return fileName; }
 
+    /// The name with its directory, as it was given to Open; empty for a memory file.
+    const CString& GetFilePath() const { return filePath; }
+
     /// All bytes, in place. Valid while the file is open and, for a file that Open read, while keepAlive() is
     /// held.
     std::string_view bytes() const { return contents; }
@@ -50,6 +53,7 @@ protected:
     std::size_t position = 0;
     std::shared_ptr<const std::string> storage;
     CString fileName;
+    CString filePath;
 
 private:
     bool tooLarge = false;

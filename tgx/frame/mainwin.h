@@ -11,8 +11,11 @@
 #include "tgx/wnd/stage.h"
 
 #include <memory>
+#include <optional>
+#include <vector>
 
 class ScriptObserver;
+struct ScriptPlace;
 class ScriptRun;
 
 /// The game's main window: root of the window tree, frame loop, screens and popups, input, and the interface
@@ -146,10 +149,14 @@ public:
     /// Closes and deletes the streams and empties the array. A stream that a subroutine runs from lives until
     /// that has ended.
     void deleteAllGotoFiles(CArray<CFile*, CFile*>& gotoFiles);
-    /// Shown each line that a read carries out, from now on; null: none. Not owned: take it away before it is
+    /// Shows observer each line that a read carries out, from now on. Not owned: remove it before it is
     /// deleted.
-    void setScriptObserver(ScriptObserver* observer) { scriptObserver = observer; }
-    ScriptObserver* getScriptObserver() const { return scriptObserver; }
+    void addScriptObserver(ScriptObserver& observer);
+    void removeScriptObserver(ScriptObserver& observer);
+    const std::vector<ScriptObserver*>& getScriptObservers() const { return scriptObservers; }
+    /// Returns the line that is being carried out, the innermost one where reads are nested; nothing between
+    /// reads.
+    std::optional<ScriptPlace> getScriptPlace() const;
 
 protected:
     /// One frame of the wipe.
@@ -212,7 +219,7 @@ private:
     bool exitRequested = false;
     bool wipeSwapsBackdrop = false; // the running wipe has yet to bring the new backdrop
     bool wipeReturns = false;       // its screen was suspended: returned falls to the last frame
-    ScriptObserver* scriptObserver = nullptr;
+    std::vector<ScriptObserver*> scriptObservers;
     std::unique_ptr<ScriptRun> scriptRun; // of the outermost read that runs; null between reads
     friend class ScriptRun;
 };

@@ -29,6 +29,7 @@ struct LineLoop {
     unsigned start = 0; // of the line in the stream
     TOKEN_INFO tokens[maxLineTokens] = {};
     WndRef open[wndStackSize] = {}; // empty out when the game's code deletes a window during the read
+    const ScriptRun::Loop registered{run, stream, start};
 
     /// False at the end of the stream.
     bool next()
@@ -54,9 +55,10 @@ struct LineLoop {
             executeLine({window, run, stream, tokens, count, current(), depth, gotoFiles});
         if (result.stores)
             open[depth] = result.made;
-        if (ScriptObserver* observer = window.getScriptObserver(); observer && !run.isOver())
-            observer->lineExecuted({stream->GetFileName(), start, tokens, count, depth, current(),
-                                    result.depthChange, result.made});
+        if (!run.isOver())
+            for (ScriptObserver* observer : window.getScriptObservers())
+                observer->lineExecuted({stream->GetFileName(), stream->GetFilePath(), start, tokens, count,
+                                        depth, current(), result.depthChange, result.made});
         return result.depthChange;
     }
 };
@@ -89,6 +91,21 @@ struct KeptPosition {
 } // namespace
 
 ScriptObserver::~ScriptObserver() = default;
+
+void AMainWin::addScriptObserver(ScriptObserver& observer)
+{
+    scriptObservers.push_back(&observer);
+}
+
+void AMainWin::removeScriptObserver(ScriptObserver& observer)
+{
+    std::erase(scriptObservers, &observer);
+}
+
+std::optional<ScriptPlace> AMainWin::getScriptPlace() const
+{
+    return scriptRun ? scriptRun->place() : std::nullopt;
+}
 
 int AMainWin::convertResourceToFile(HINSTANCE instance, unsigned resource, CMemFile* file,
                                     const CString& type)

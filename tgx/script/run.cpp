@@ -81,6 +81,11 @@ void enterNames(AWnd& below, std::unordered_map<std::string, AWnd*>& first, long
 
 } // namespace
 
+std::string belowScriptFolder(const CString& path)
+{
+    return path.str().substr(path.view().starts_with(scriptFolder) ? scriptFolder.size() : 0);
+}
+
 std::string whyNoScript(const CString& file, HINSTANCE instance, unsigned resource)
 {
     if (FindResourceA(instance, MAKEINTRESOURCEA(resource & 0xFFFF), scriptResourceType))
@@ -123,6 +128,13 @@ ScriptRun::~ScriptRun()
 {
     for (CFile* stream : released)
         delete stream;
+}
+
+std::optional<ScriptPlace> ScriptRun::place() const
+{
+    if (!innermost)
+        return std::nullopt;
+    return ScriptPlace{belowScriptFolder(innermost->stream->GetFilePath()), innermost->start};
 }
 
 bool ScriptRun::refuse()

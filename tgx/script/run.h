@@ -5,11 +5,13 @@
 #include "platform/limits.h"
 #include "platform/system/module.h"
 #include "tgx/script/index.h"
+#include "tgx/script/observer.h"
 #include "tgx/wnd/wndref.h"
 
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -55,6 +57,26 @@ public:
         ScriptRun& run;
     };
 
+    /// A loop over the lines of a stream, as long as this lives. start changes with each line.
+    class Loop {
+    public:
+        Loop(ScriptRun& scriptRun, const CFile* source, const unsigned& lineStart)
+            : run(scriptRun), stream(source), start(lineStart), outer(run.innermost)
+        {
+            run.innermost = this;
+        }
+        ~Loop() { run.innermost = outer; }
+        Loop(const Loop&) = delete;
+        Loop& operator=(const Loop&) = delete;
+
+    private:
+        friend class ScriptRun;
+        ScriptRun& run;
+        const CFile* stream;
+        const unsigned& start; // of the line at hand
+        const Loop* outer;
+    };
+
     /// A subroutine that runs from stream, which lives until this ends.
     class Subroutine {
     public:
@@ -84,6 +106,8 @@ public:
         return true;
     }
     bool isOver() const { return reported; }
+    /// The line at hand, of the innermost loop.
+    std::optional<ScriptPlace> place() const;
     /// Bytes of a line that was read.
     void countBytes(unsigned bytes) { workLeft -= bytes; }
     /// Radio buttons that a new one comes to know, and they it.
@@ -159,6 +183,7 @@ private:
     long long workLeft;
     bool reported = false;
     int readsRunning = 0;
+    const Loop* innermost = nullptr;
     bool sharesWindows = false;
     long placesLeft;
     WndRef counted; // the shared window whose places were counted last

@@ -1,5 +1,6 @@
 #include "language/text/emit.h"
 #include "language/text/print.h"
+#include "language/text/text_files.h"
 #include "language/text/watch.h"
 #include "tools/tgx/commands.h"
 #include "tools/tgx/files.h"
@@ -99,6 +100,13 @@ int watch(const BuildOptions& options)
     return 0;
 }
 
+/// Whether a file is where games look for their scripts.
+bool isAmongScripts(const std::string& file)
+{
+    const std::filesystem::path path = std::filesystem::absolute(file).lexically_normal();
+    return script_text::lowered(path.parent_path().filename().string()) == "uig";
+}
+
 /// Exit status.
 int build(BuildOptions options)
 {
@@ -106,6 +114,8 @@ int build(BuildOptions options)
         options.output = options.input == "-"
                              ? "-"
                              : std::filesystem::path(options.input).replace_extension(".tgx").string();
+    if (options.map.empty() && options.output != "-" && isAmongScripts(options.output))
+        options.map = options.output + ".map"; // where whoever plays the script looks for it
     std::vector<std::string> files{options.input};
     for (const std::string& target : {options.output, options.map, options.depfile}) {
         if (target.empty() || (target == "-" && files.size() == 1)) // stdin is no target
@@ -142,8 +152,10 @@ void addBuild(CLI::App& app)
                      "Compiled script; - for stdout. IN with the ending .tgx if not given")
         ->type_name("OUT.tgx");
     command
-        ->add_option("--map", options->map,
-                     "Write where each line of the compiled script comes from: OFFSET LINE FILE, a line each")
+        ->add_option(
+            "--map", options->map,
+            "Write where each line of the compiled script comes from: OFFSET LINE FILE, a line each. "
+            "OUT.tgx.map if OUT.tgx goes into a folder UIG")
         ->type_name("FILE");
     command
         ->add_option("--depfile", options->depfile,

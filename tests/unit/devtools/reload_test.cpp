@@ -163,8 +163,9 @@ TEST_F(ReloadTest, AMissingFolderOrScriptIsOneFault)
 {
     startWithTools("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    BITMAP \"A\" 0 0 9 9 \"art\\\\a.bmp\"\n"
                    "    BITMAP \"B\" 0 0 9 9 \"art\\\\b.bmp\"\n    GOTO \"PART\" \"part.tgx\"\nEND\n");
-    EXPECT_EQ(faults(), inUig("script.tgs:5: GOTO failed\n") + "no file part.tgx in " + data.string() +
-                            "/UIG\nno folder art in " + data.string() + '\n');
+    EXPECT_EQ(faults(), inUig("script.tgs:5: GOTO failed\n") + inUig("script.tgs:5: no file part.tgx in ") +
+                            data.string() + "/UIG\n" + inUig("script.tgs:3: no folder art in ") +
+                            data.string() + '\n');
 }
 
 TEST_F(ReloadTest, ALineThatFailsIsNamed)

@@ -1,6 +1,7 @@
 #include "player/reports.h"
 #include "tests/unit/support/tgx_test.h"
 
+#include <chrono>
 #include <fstream>
 
 namespace {
@@ -93,10 +94,39 @@ TEST_F(PlayerTest, WhatIsMissingIsExplainedOnce)
         err.str(),
         "message: Could not find SUBROUTINE\nnote: no file %s.tgx" + folder +
             "/UIG\nmessage: Could not find SUBROUTINE " + longName + '\n' + line(5) +
-            "message: Could not find SUBROUTINE\nmessage: Could not find SUBROUTINE X\n" + line(6) +
-            "message: cannot load art\\a.bmp\nnote: no folder art" + folder +
+            "note: line numbers in messages count the statements of the compiled script, as "
+            "tgx dump prints them; with its map beside it (tgx build --map) messages also "
+            "name the line of the text\n"
+            "message: Could not find SUBROUTINE\nmessage: Could not find SUBROUTINE X\n" +
+            line(6) + "message: cannot load art\\a.bmp\nnote: no folder art" + folder +
             "\nmessage: cannot load art\\b.bmp\nmessage: cannot find screen GONE\nnote: no file gone.tgx" +
             folder + "/UIG\n");
+}
+
+TEST_F(PlayerTest, MessagesNameTheLineOfTheTextWhereAMapIs)
+{
+    script("SCREEN \"MENU\" 0 0 64 48 \"\"\nBEGIN\nGOTO \"PART\" \"parts\\p.tgx\"\n"
+           "BITMAP \"B\" 0 0 9 9 \"gone.bmp\"\nBUTTONLOOP 1 1 1 1\nEND\n");
+    script("SUBROUTINE \"PART\"\nBITMAP \"P\" 0 0 9 9 \"part.bmp\"\nEND\n", "parts/p.tgx");
+    write("UIG/script.tgx.map", "0 1 a.tgs\n22 2 a.tgs\n24 7 a.tgs\n45 8 a b.tgs\n72 9 a.tgs\n");
+    write("UIG/parts/p.tgx.map", "0 3 parts/p.tgs\n8 4 parts/p.tgs\n");
+    const std::string error = "message: Encountered an error on line 5 in script.tgx\\nThe line is :\\n\\t\n";
+    const std::string comes = ": note: the message comes from this line\n";
+    run("frame\n");
+    EXPECT_EQ(err.str(), error + "a.tgs:9" + comes + "message: cannot load part.bmp\nparts/p.tgs:4" + comes +
+                             "message: cannot load gone.bmp\na b.tgs:8" + comes);
+
+    options.messagesFail = true;
+    fs::remove(data / "UIG/parts/p.tgx.map");
+    run("frame\nexpect message \"cannot load part.bmp\"\nexpect message \"cannot load gone.bmp\"\n");
+    EXPECT_EQ(err.str(), options.eventsFile + ": the message \"" + error.substr(9, error.size() - 10) +
+                             "\" was not expected; it comes from a.tgs:9\n");
+
+    options.messagesFail = false;
+    fs::last_write_time(data / "UIG/script.tgx.map",
+                        fs::last_write_time(data / "UIG/script.tgx") - std::chrono::seconds(1));
+    run("frame\n");
+    EXPECT_EQ(err.str().find("a.tgs"), std::string::npos) << "the map is of an older script";
 }
 
 TEST_F(PlayerTest, WithoutMemoryTheRunEndsWithAMessage)

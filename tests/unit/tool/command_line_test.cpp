@@ -24,6 +24,8 @@ const struct Row {
 } rows[] = {
     {"build good.tgs", 0, "", "", "good.tgx"},
     {"build good.tgs -o other.tgx --map good.map --depfile good.d", 0, "", "", "good.d good.map other.tgx"},
+    {"build good.tgs; mkdir uig; cd uig; tgx build ../good.tgs -o a.tgx; echo *", 0, "a.tgx a.tgx.map", "",
+     "good.tgx"},
     {"build - -o good.tgx < good.tgs", 0, "", "", "good.tgx"},
     {"build good.tgs -o - | tgx dump -", 0, "WINDOW \"A\" 0 0 9 9", "", ""},
     {"build bad.tgs", 1, "", "bad.tgs:1:1: error: unknown keyword WINDOWW; did you mean WINDOW?", ""},
