@@ -314,6 +314,20 @@ void checkOverridden(const Script& script, Findings& findings)
         leave();
 }
 
+/// One with a backdrop may well show that alone, unless a control comes next.
+void checkEmptyScreens(const Script& script, Findings& findings)
+{
+    for (const int line : script.topWindows) {
+        const Statement* next = line + 1 < script.lineCount() ? script.statement(line + 1) : nullptr;
+        const bool hasBlock = next && next->kind == StatementKind::BlockBegin;
+        const bool isMeantFull = script.string(line, 6).empty() || (next && makesControl(*next));
+        if (script.isKeyword(line, "SCREEN") && !hasBlock && isMeantFull)
+            findings.add("empty-screen", script, line,
+                         "nothing is in this screen, as no block follows; its windows stand between BEGIN "
+                         "and END below this line");
+    }
+}
+
 void checkWithoutBlock(const Script& script, const PointerTargets& shown, Findings& findings)
 {
     const bool isLibrary = !script.subroutines.empty() || folded(script.name) == commonScriptFile;

@@ -89,20 +89,27 @@ void checkTrees(const std::vector<Script*>& scripts, const ScriptSet& set, Check
         checkUnusedFiles(options.dataDirectory, scripts, findings);
 }
 
-void sort(std::vector<script_text::Diagnostic>& findings, const std::deque<Script>& scripts)
+/// By place, but what may follow from a line that fails comes after what is found there.
+void sort(Findings& findings, const std::deque<Script>& scripts)
 {
     std::map<std::string, std::size_t> order; // files as they come
     for (const Script& script : scripts)
         for (const script_text::SourceFile& file : script.text.files)
             order.try_emplace(file.name, order.size());
-    std::stable_sort(findings.begin(), findings.end(),
-                     [&](const script_text::Diagnostic& a, const script_text::Diagnostic& b) {
-                         const auto key = [&](const script_text::Diagnostic& each) {
-                             return std::tuple(order[each.place.in->file->name], each.place.line,
-                                               each.place.at.column);
-                         };
-                         return key(a) < key(b);
-                     });
+    const auto key = [&](const script_text::Place& place) {
+        return std::tuple(order[place.in->file->name], place.line, place.at.column);
+    };
+    std::vector<std::pair<decltype(key({})), script_text::Diagnostic>> keyed;
+    for (script_text::Diagnostic& each : findings.all) {
+        auto place = key(each.place);
+        if (const std::optional<script_text::Place> cause = findings.causeOf(each))
+            place = std::max(place, key(*cause));
+        keyed.emplace_back(std::move(place), std::move(each));
+    }
+    std::stable_sort(keyed.begin(), keyed.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    std::transform(keyed.begin(), keyed.end(), findings.all.begin(),
+                   [](auto& each) { return std::move(each.second); });
 }
 
 } // namespace
@@ -132,6 +139,7 @@ CheckReport check(std::vector<ScriptFile> files, const script_text::ReadFile& re
         script.isUnbalanced = !checkBlocks(script, findings);
         checkOverridden(script, findings);
         checkTopNames(script, findings);
+        checkEmptyScreens(script, findings);
     }
     std::vector<Script*> order;
     for (Script& script : report.scripts)
@@ -142,8 +150,8 @@ CheckReport check(std::vector<ScriptFile> files, const script_text::ReadFile& re
     checkScreenNames(order, findings);
     checkTrees(order, set, options, findings);
     applyAllowances(report.scripts, options, findings);
+    sort(findings, report.scripts);
     report.findings = std::move(findings.all);
-    sort(report.findings, report.scripts);
     return report;
 }
 

@@ -279,6 +279,11 @@ constexpr Code rows[] = {
      "SCREEN \"Ship\" 0 0 640 480 \"\"\nWINDOW \"A\" 0 0 90 90\nBEGIN\n  USERDEF \"S\" 0 0 9 9 \"Ship\"\nEND",
      "SCREEN \"SHIPS\" 0 0 640 480 \"\"\nWINDOW \"A\" 0 0 90 90\nBEGIN\n  USERDEF \"S\" 0 0 9 9 "
      "\"Ship\"\nEND"},
+    {"empty-screen", warning, "a screen without a block",
+     "The windows of a screen stand between BEGIN and END below its line. Allow it where the game fills the "
+     "screen in code; one with a backdrop may show that alone.",
+     "SCREEN \"A\" 0 0 640 480 \"\"\nWINDOW \"B\" 0 0 90 90",
+     "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  WINDOW \"B\" 0 0 90 90\nEND"},
     {"no-way-out", warning, "a screen that nothing leaves",
      "Nothing in it can be clicked, unlike in a screen before it: only the game can lead on.",
      "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"GO\" 0 0 90 20 \"\"\n  TABORDER \"GO\"\nEND\nSCREEN "

@@ -15,7 +15,8 @@ constexpr std::size_t mostNames = 2000; // that are compared for one of them
 
 } // namespace
 
-void Findings::add(const char* code, const Script& script, int line, int token, std::string text)
+void Findings::add(const char* code, const Script& script, int line, int token, std::string text,
+                   LineRef cause)
 {
     if (!script.isReported)
         return;
@@ -25,14 +26,29 @@ void Findings::add(const char* code, const Script& script, int line, int token, 
         return; // a line without a token does nothing, right or wrong
     const Code* row = codeCalled(code);
     add({row ? row->severity : script_text::Diagnostic::Error,
-         at.placeOf(static_cast<std::size_t>(std::clamp(token, 0, last))), std::move(text), code});
+         at.placeOf(static_cast<std::size_t>(std::clamp(token, 0, last))), std::move(text), code},
+        cause);
 }
 
-void Findings::add(script_text::Diagnostic found)
+Findings::Key Findings::keyOf(const script_text::Diagnostic& found)
 {
-    const script_text::Place& place = found.place;
-    if (places.emplace(place.in->file->name, place.line, place.at.column, found.code).second)
+    return {found.place.in->file->name, found.place.line, found.place.at.column, found.code};
+}
+
+void Findings::add(script_text::Diagnostic found, LineRef cause)
+{
+    if (causes.emplace(keyOf(found), cause).second)
         all.push_back(std::move(found));
+}
+
+std::optional<script_text::Place> Findings::causeOf(const script_text::Diagnostic& found) const
+{
+    const auto known = causes.find(keyOf(found));
+    if (known == causes.end() || !known->second)
+        return std::nullopt;
+    const LineRef cause = known->second;
+    const script_text::StatementLine& at = cause.script->line(cause.line);
+    return at.placeOf(at.tokens.size() - 1);
 }
 
 std::string_view Findings::nearest(std::string_view word, const std::vector<std::string_view>& names)

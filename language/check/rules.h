@@ -25,6 +25,8 @@ void checkOverridden(const Script& script, Findings& findings);
 /// Names of the top level, and lines that a read of one window would begin at.
 void checkTopNames(const Script& script, Findings& findings);
 
+/// Screens without a block that show nothing.
+void checkEmptyScreens(const Script& script, Findings& findings);
 /// Windows that are read one by one, and whose read goes on over the next line.
 void checkWithoutBlock(const Script& script, const PointerTargets& shown, Findings& findings);
 

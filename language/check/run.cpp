@@ -153,6 +153,7 @@ void Reading::read(Script& script)
     else
         win->recreateScreenList();
     lines.clear();
+    top = nullptr;
     ofGame.clear();
     pointedTo.clear();
     namedStops.clear();
@@ -254,10 +255,12 @@ void Reading::see(const ExecutedLine& executed)
     AWnd* target = executed.current ? executed.current : win->getScreenList();
     if (target && statement->kind == StatementKind::Attribute)
         lines[target].attributes.push_back(at);
-    if (hasFailed)
+    if (hasFailed) {
         explainFailure(executed, target, at, *statement);
-    else
+        lines[top].failed = at;
+    } else {
         note(executed, target, at, *statement);
+    }
 }
 
 void Reading::note(const ExecutedLine& executed, AWnd* target, LineRef at, const Statement& statement)
@@ -270,7 +273,9 @@ void Reading::note(const ExecutedLine& executed, AWnd* target, LineRef at, const
             if (!entry.made)
                 entry.made = at;
         } else {
-            entry = {at, at, at, {}};
+            entry = {at, at, at, {}, {}};
+            if (executed.made->getParent() == win->getScreenList())
+                top = executed.made;
         }
         return;
     }
@@ -386,7 +391,7 @@ void Reading::explainMissingWindow(const ExecutedLine& executed, AWnd& target, L
             if (const AWnd* meant = target.getWnd(CString(std::string(near)), 1))
                 namedStops.insert(meant);
         }
-        findings.add("missing-window", *at.script, at.line, i, text);
+        findings.add("missing-window", *at.script, at.line, i, text, lines[top].failed);
     }
 }
 
@@ -417,7 +422,7 @@ void Reading::explainPointer(LineRef at)
                                  text + "; " + each->name + " defines it: name that script");
                     return;
                 }
-    findings.add("missing-pointer", *at.script, at.line, 1, std::move(text));
+    findings.add("missing-pointer", *at.script, at.line, 1, std::move(text), lines[top].failed);
 }
 
 /// What the toolkit has said while it carried the line out.

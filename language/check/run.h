@@ -20,6 +20,7 @@ struct WndLines {
     LineRef text;   // the last one that set its text
     LineRef bitmap; // and its bitmap
     LineRef border;
+    LineRef failed;                       // the last one in it that failed, of a window at the top level
     std::vector<LineRef> attributes = {}; // that acted on it, in order, those that failed too
 };
 
@@ -100,6 +101,7 @@ private:
     std::unordered_set<const bmpfont*> unknownFonts;
     std::vector<CString> messages; // since the line before
     int fontCount = 0;             // behind the line before
+    const AWnd* top = nullptr;     // the window at the top level that is being made; it may be gone
     LineRef lastLine;
     bool ranTooLong = false;
     bool isCutShort = false;

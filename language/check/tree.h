@@ -38,11 +38,12 @@ struct TreeCheck {
     int screenHeight = 0;
     bool isSizeGiven = false; // in the call; else it is that of the first screen
 
-    /// About the window, at the line that made it. Nothing for a window without one.
+    /// About the window, at the line that made it. Nothing for a window without one. Lines in it that failed
+    /// come first.
     void add(const char* code, const AWnd& wnd, std::string text)
     {
         if (const WndLines* lines = reading.linesOf(&wnd); lines && lines->made)
-            findings.add(code, *lines->made.script, lines->made.line, 0, std::move(text));
+            findings.add(code, *lines->made.script, lines->made.line, 0, std::move(text), lines->failed);
     }
     /// The lines of that statement that acted on the window, in order.
     std::vector<LineRef> linesOn(const AWnd& wnd, std::string_view keyword) const

@@ -150,8 +150,8 @@ BEGIN
   TABORDER "B"
 END)"},
     {"a screen that is larger than the first one",
-     R"(SCREEN "A" 0 0 320 200 ""
-SCREEN "B" 0 0 640 480 "")"},
+     R"(SCREEN "A" 0 0 320 200 "wide.bmp"
+SCREEN "B" 0 0 640 480 "wide.bmp")"},
     {"lines that leave something of the ones before",
      R"(WINDOW "A" 0 0 200 200
 BEGIN
@@ -234,6 +234,24 @@ TEST_F(Check, DoesNotAskForAllowancesWhereRulesHaveNotRun)
               "a.tgs:6:1: error: no END closes this block [begin-without-end]\n");
     options.dataDirectory.clear(); // fonts of files are not known
     EXPECT_EQ(found(text), "");
+}
+
+/// In the text of another script, and in a block whose window is told of by its own line.
+TEST_F(Check, TellsOfACauseBeforeWhatFollowsFromIt)
+{
+    EXPECT_EQ(
+        found("SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  GOTO \"S\" \"b.tgx\"\n  TABORDER \"OK\"\nEND\n"
+              "WINDOW \"QUERYBOX\" 0 0 200 100\nBEGIN\n  GOTO \"S\" \"c.tgx\"\nEND\n== b.tgs\nSUBROUTINE "
+              "\"S\"\n"
+              "BEGIN\n  BUTTONLOOP 1 1 1 1\n  BUTTON \"OK\" 0 0 90 24 \"\"\nEND"),
+        "a.tgs:8:12: error: no script \"c.tgx\"; did you mean \"a.tgx\"? [missing-script]\n"
+        "a.tgs:6:1: warning: no button of \"QUERYBOX\" closes it; TGX_OK, TGX_CANCEL, TGX_YES, TGX_NO and "
+        "TGX_CLOSE do [stuck-box]\n"
+        "a.tgs:6:1: warning: \"QUERYBOX\" has no window \"MESSAGEBOXTITLE\", so that text does not show "
+        "[box-part]\n"
+        "b.tgs:3:3: error: BUTTONLOOP acts on a button, a combo box or a radio button, and \"A\" is a screen "
+        "[wrong-window]\n"
+        "a.tgs:4:12: error: no window \"OK\" in \"A\" at this point [missing-window]\n");
 }
 
 } // namespace

@@ -229,11 +229,12 @@ const CheckRow rows[] = {
      "a.tgs:2:17: warning: \"#12345g\" is no colour; expected # and six hexadecimal digits [font-style]\n"
      "a.tgs:3:9: error: the font \"a.ttf\" cannot be loaded; the built-in one takes its place "
      "[missing-font]\n"},
-    {"a screen called as a class of windows",
+    {"a screen called as a class of windows, and without a block",
      "SCREEN \"Ship\" 0 0 640 480 \"\"\nWINDOW \"A\" 0 0 90 90\nBEGIN\n  USERDEF \"S\" 0 0 9 9 \"Ship\"\nEND",
-     "a.tgs:1:8: warning: the game makes windows of the class \"Ship\", and is asked for that class when "
-     "this "
-     "screen is opened [class-name]\n"},
+     "a.tgs:1:1: warning: nothing is in this screen, as no block follows; its windows stand between BEGIN "
+     "and "
+     "END below this line [empty-screen]\na.tgs:1:8: warning: the game makes windows of the class \"Ship\", "
+     "and is asked for that class when this screen is opened [class-name]\n"},
     {"screens and boxes that lead nowhere",
      "SCREEN \"\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"GO\" 0 0 90 24 \"\"\n  TABORDER \"GO\"\nEND\nSCREEN "
      "\"B\" 0 0 "
@@ -301,7 +302,7 @@ const CheckRow rows[] = {
      "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  BITMAP \"B\" 0 0 9 9 \"\"\n  WINDOW \"C\" 0 0 99 99\n  BEGIN\n "
      "   "
      "BITMAP \"b\" 0 0 9 9 \"\"\n    BITMAP \"static\" 0 0 9 9 \"\"\n    BITMAP \"static\" 0 0 9 9 \"\"\n  "
-     "END\nEND\nSCREEN \"C\" 0 0 640 480 \"\"\nSCREEN \"A\" 0 0 640 480 \"\"",
+     "END\nEND\nSCREEN \"C\" 0 0 640 480 \"wide.bmp\"\nSCREEN \"A\" 0 0 640 480 \"wide.bmp\"",
      "a.tgs:4:10: warning: a read of the window \"C\", which is defined in line 11, begins here; give this "
      "another name [name-taken]\n"
      "a.tgs:6:5: warning: a window \"b\" stands in \"A\" already, in line 3, and is found first "
@@ -566,7 +567,7 @@ TEST_F(Check, ComparesScreensWithTheSizeOfTheCall)
 {
     options.screenWidth = 640;
     options.screenHeight = 480;
-    EXPECT_EQ(found("SCREEN \"A\" 0 0 800 600 \"\""),
+    EXPECT_EQ(found("SCREEN \"A\" 0 0 800 600 \"wide.bmp\""),
               "a.tgs:1:1: warning: \"A\" is 800 x 600, larger than the screen of 640 x 480 [sticks-out]\n");
 }
 
