@@ -11,13 +11,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace {
-
-std::string_view withoutDirectory(std::string_view name)
+std::string_view tgx::withoutDirectory(std::string_view name)
 {
     const std::size_t slash = name.find_last_of("/\\");
     return slash == std::string_view::npos ? name : name.substr(slash + 1);
 }
+
+namespace {
 
 /// Reads until the end rather than to the size that the file claims: what counts is what is there.
 std::optional<std::string> readUpToLimit(int descriptor, std::size_t claimed, bool& tooLarge)
@@ -116,7 +116,7 @@ void CFile::share(const char* name, std::shared_ptr<const std::string> bytes)
 {
     Close();
     filePath = CString(name ? name : "");
-    fileName = CString(withoutDirectory(filePath.view()));
+    fileName = CString(tgx::withoutDirectory(filePath.view()));
     storage = std::move(bytes);
     contents = storage ? std::string_view(*storage) : std::string_view();
 }

@@ -7,6 +7,13 @@
 #include <memory>
 #include <string_view>
 
+namespace tgx {
+
+/// Returns the part of a name after the last slash or backslash.
+TGX_PLATFORM_API std::string_view withoutDirectory(std::string_view name);
+
+} // namespace tgx
+
 /// A file open for reading. Opening reads the whole file, so that Seek costs nothing and a file that changes
 /// while it is read does no harm. Names are those of the data directory (platform/framework/datadir.h):
 /// backslashes, any case.

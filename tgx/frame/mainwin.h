@@ -6,9 +6,9 @@
 #include "platform/system/module.h"
 #include "tgx/frame/app.h"
 #include "tgx/frame/governor.h"
+#include "tgx/script/script_stage.h"
 #include "tgx/script/token.h"
 #include "tgx/wnd/screenlist.h"
-#include "tgx/wnd/stage.h"
 
 #include <memory>
 #include <optional>
@@ -21,7 +21,7 @@ class ScriptRun;
 /// The game's main window: root of the window tree, frame loop, screens and popups, input, and the interface
 /// script. The game derives from it and replaces startup (to read its main script), drawscreen,
 /// OnMouseAction, OnKeyInput, createNewWindow, readScriptFile, addScreen or doChangeScreenSpecial.
-class TGX_API AMainWin : public tgx::Stage {
+class TGX_API AMainWin : public tgx::ScriptStage {
 public:
     /// Reads the settings. width and height in pixels; bitDepth counts where none is stored.
     AMainWin(int width, int height, int bitDepth);
@@ -39,14 +39,14 @@ public:
     void OnKeyInput() override;
     /// A window of the game's own class, by class name: for USERDEF lines, and for screens, where className
     /// is the id. The caller owns it. Null: none of the game's.
-    virtual AWnd* createNewWindow(const CString& id, int x, int y, int w, int h, const CString& className);
+    AWnd* createNewWindow(const CString& id, int x, int y, int w, int h, const CString& className) override;
     /// Runs a compiled script: the file below UIG, or the resource of instance if there is no such file, or
     /// nothing. A toWindow that is not empty reads only that window's definition and answers the top-level
     /// window of that id, or null. finalRead opens the first screen.
-    virtual AWnd* readScriptFile(const CString& name, HINSTANCE instance, unsigned resourceId,
-                                 const CString& toWindow, int finalRead);
+    AWnd* readScriptFile(const CString& name, HINSTANCE instance, unsigned resourceId,
+                         const CString& toWindow, int finalRead) override;
     /// Puts a screen into the list: the game's class for that id, or a plain AScreen. Owned by the list.
-    virtual AScreen* addScreen(const CString& id, int x, int y, int w, int h);
+    AScreen* addScreen(const CString& id, int x, int y, int w, int h) override;
 
 protected:
     /// Takes a change over when it answers a screen; carry it out with changeScreen.
@@ -137,23 +137,25 @@ public:
     int queryBox(const CString& title, const CString& text, const CString& third, const CString& id,
                  AWnd* parent, int yesNo);
 
-    // Script (script/).
+    // Script (scripts.cpp).
 
     /// Executes one line. The change of depth, or lineFailed.
     int processLine(CFile* stream, TOKEN_INFO* tokens, int count, AWnd* current, AWnd** wndStack, int depth,
                     CArray<CFile*, CFile*>& gotoFiles);
     /// Runs the subroutine called name with parent as its window, which may be null. 1 when it was found.
-    int doSubroutine(CFile* stream, const CString& name, AWnd* parent, CArray<CFile*, CFile*>& gotoFiles);
+    int doSubroutine(CFile* stream, const CString& name, AWnd* parent,
+                     CArray<CFile*, CFile*>& gotoFiles) override;
     /// Makes file read the bytes of a resource, in place. 1, or 0 when there is none.
-    int convertResourceToFile(HINSTANCE instance, unsigned resource, CMemFile* file, const CString& type);
+    int convertResourceToFile(HINSTANCE instance, unsigned resource, CMemFile* file,
+                              const CString& type) override;
     /// Closes and deletes the streams and empties the array. A stream that a subroutine runs from lives until
     /// that has ended.
-    void deleteAllGotoFiles(CArray<CFile*, CFile*>& gotoFiles);
+    void deleteAllGotoFiles(CArray<CFile*, CFile*>& gotoFiles) override;
     /// Shows observer each line that a read carries out, from now on. Not owned: remove it before it is
     /// deleted.
     void addScriptObserver(ScriptObserver& observer);
     void removeScriptObserver(ScriptObserver& observer);
-    const std::vector<ScriptObserver*>& getScriptObservers() const { return scriptObservers; }
+    const std::vector<ScriptObserver*>& getScriptObservers() const override { return scriptObservers; }
     /// Returns the line that is being carried out, the innermost one where reads are nested; nothing between
     /// reads.
     std::optional<ScriptPlace> getScriptPlace() const;
@@ -200,6 +202,8 @@ private:
     AScreen* findOrReadScreen(const ScreenRequest& request);
     void reportMissingScreen(const ScreenRequest& request);
     void showBackdropOf(const AScreen& screen);
+    bool openFirstScreen();
+    AWnd* lastTopLevelWnd(const CString& name) const;
     void completeExit();
     void loseFocus();
     void dropLostInput();
@@ -221,5 +225,4 @@ private:
     bool wipeReturns = false;       // its screen was suspended: returned falls to the last frame
     std::vector<ScriptObserver*> scriptObservers;
     std::unique_ptr<ScriptRun> scriptRun; // of the outermost read that runs; null between reads
-    friend class ScriptRun;
 };

@@ -1,6 +1,7 @@
 #include "tgx/script/interpreter.h"
 
 #include "tgx/script/run.h"
+#include "tgx/wnd/screenlist.h"
 
 LineResult executeLine(const ScriptLine& line)
 {
@@ -36,15 +37,4 @@ LineResult executeLine(const ScriptLine& line)
     if (!statement->handler(*target, line, made))
         return failed;
     return {0, true, made};
-}
-
-int AMainWin::processLine(CFile* stream, TOKEN_INFO* tokens, int count, AWnd* current, AWnd** wndStack,
-                          int depth, CArray<CFile*, CFile*>& gotoFiles)
-{
-    ScriptRun::Scope scope(*this, stream ? stream->GetFileName() : CString());
-    const LineResult result =
-        executeLine({*this, scope.run(), stream, tokens, count, current, depth, gotoFiles});
-    if (result.stores)
-        wndStack[depth] = result.made;
-    return result.depthChange;
 }

@@ -2,7 +2,7 @@
 
 #include "platform/display/msgbox.h"
 #include "platform/framework/datadir.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/wnd/wnd.h"
 
 #include <algorithm>
 #include <limits>
@@ -93,18 +93,19 @@ std::string whyNoScript(const CString& file, HINSTANCE instance, unsigned resour
     return whyNoDataFile(scriptFolder + file.str());
 }
 
-ScriptRun::Scope::Scope(AMainWin& mainWin, const CString& script)
-    : window(mainWin), isOutermost(mainWin.scriptRun == nullptr)
+ScriptRun::Scope::Scope(std::unique_ptr<ScriptRun>& heldRun, const CString& script, long lines,
+                        long long work)
+    : held(heldRun), isOutermost(heldRun == nullptr)
 {
     if (isOutermost)
-        window.scriptRun = std::make_unique<ScriptRun>(script, window.scriptLines, window.scriptWork);
-    running = window.scriptRun.get();
+        held = std::make_unique<ScriptRun>(script, lines, work);
+    running = held.get();
 }
 
 ScriptRun::Scope::~Scope()
 {
     if (isOutermost)
-        window.scriptRun.reset();
+        held.reset();
 }
 
 ScriptRun::Subroutine::Subroutine(ScriptRun& scriptRun, CFile* stream) : run(scriptRun)

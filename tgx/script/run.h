@@ -17,7 +17,6 @@
 #include <utility>
 #include <vector>
 
-class AMainWin;
 class AWnd;
 
 /// Why there is no script of that name: with neither a file below UIG nor that resource, the file and the
@@ -29,18 +28,19 @@ std::string whyNoScript(const CString& file, HINSTANCE instance, unsigned resour
 /// game's own code changes in a way that no script can, during a read, may be counted wrongly.
 class ScriptRun {
 public:
-    /// Holds the main window's run; makes it for the outermost read and ends it with that.
+    /// The run of a read: that of the reads around it, or a new one that ends with the outermost read.
     class Scope {
     public:
-        /// script: the name that messages give.
-        Scope(AMainWin& window, const CString& script);
+        /// held: the run of the outermost read, null between reads. script: the name that messages give.
+        /// lines and work: the limits of a new run.
+        Scope(std::unique_ptr<ScriptRun>& held, const CString& script, long lines, long long work);
         ~Scope();
         Scope(const Scope&) = delete;
         Scope& operator=(const Scope&) = delete;
         ScriptRun& run() const { return *running; }
 
     private:
-        AMainWin& window;
+        std::unique_ptr<ScriptRun>& held;
         ScriptRun* running;
         bool isOutermost;
     };

@@ -2,15 +2,17 @@
 
 #include "tgx/controls/combobox.h"
 #include "tgx/controls/graph.h"
-#include "tgx/frame/mainwin.h"
+#include "tgx/script/script_stage.h"
 #include "tgx/script/vocabulary.h"
 #include "tgx/wnd/window_cast.h"
 
 #include <type_traits>
 
+class ScriptRun;
+
 /// A line on its way through the interpreter: what a handler sees.
 struct ScriptLine {
-    AMainWin& window;
+    tgx::ScriptStage& window;
     ScriptRun& run;
     CFile* stream;            // the line's; only the search for subroutines asks
     const TOKEN_INFO* tokens; // those behind the line's end read as 0 and empty

@@ -3,6 +3,7 @@
 #include "platform/display/msgbox.h"
 #include "tgx/script/run.h"
 #include "tgx/script/statements.h"
+#include "tgx/wnd/screenlist.h"
 
 namespace {
 

@@ -134,7 +134,8 @@ public:
     /// Null for a window that is not among the children.
     AWnd* releaseChildWindow(AWnd* child);
     /// Sets the parent without listing this window there. Not owned by it: owner stays. Takes its font as
-    /// above. Does nothing for a parent that is this window or inside it.
+    /// above. Does nothing for a parent inside this window. A window that is its own parent counts as one
+    /// without a parent.
     void setParentAndIndex(AWnd* parent, int index);
     /// Null for a window that has no parent or is its own.
     AWnd* getParent() const { return parent.get() == this ? nullptr : parent.get(); }
