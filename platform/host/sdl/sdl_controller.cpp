@@ -7,8 +7,8 @@
 
 namespace {
 
-// A stick presses beyond the first value and lets go below the second, so that one held at the edge does not
-// flutter.
+// A stick presses its key above the first value and releases it below the second, so that a stick near the
+// threshold does not flicker.
 constexpr int pressBeyond = 16000;
 constexpr int releaseBelow = 12000;
 constexpr std::uint32_t firstRepeatMillis = 400;
@@ -48,7 +48,7 @@ void SdlController::add(int deviceIndex)
         return;
     Pad& pad = padOf(SDL_JoystickInstanceID(SDL_GameControllerGetJoystick(device)));
     if (pad.device)
-        SDL_GameControllerClose(device); // counted twice otherwise
+        SDL_GameControllerClose(device); // otherwise its use count would be 2
     pad.device = device;
 }
 

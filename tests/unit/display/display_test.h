@@ -96,7 +96,7 @@ ImageRef imageOf(int width, int height, PixelAt pixelAt)
     for (int y = 0; y < height; y++)
         for (int x = 0; x < width; x++)
             image->row(y)[x] = pixelAt(x, y);
-    settleCoverage(*image);
+    determineCoverage(*image);
     return image;
 }
 
