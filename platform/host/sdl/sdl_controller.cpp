@@ -57,7 +57,7 @@ void SdlController::remove(SDL_JoystickID id, InputQueue& input)
     const auto found = std::find_if(pads.begin(), pads.end(), [id](const Pad& pad) { return pad.id == id; });
     if (found == pads.end())
         return;
-    letGo(*found, input);
+    releaseAll(*found, input);
     if (found->device)
         SDL_GameControllerClose(found->device);
     pads.erase(found);
@@ -162,7 +162,7 @@ void SdlController::repeat(std::uint32_t now, InputQueue& input)
     }
 }
 
-void SdlController::letGo(Pad& pad, InputQueue& input)
+void SdlController::releaseAll(Pad& pad, InputQueue& input)
 {
     for (Key& key : pad.keys) {
         setKey(key, Button, false, input);
@@ -170,8 +170,8 @@ void SdlController::letGo(Pad& pad, InputQueue& input)
     }
 }
 
-void SdlController::letGo(InputQueue& input)
+void SdlController::releaseAll(InputQueue& input)
 {
     for (Pad& pad : pads)
-        letGo(pad, input);
+        releaseAll(pad, input);
 }

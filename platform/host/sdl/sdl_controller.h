@@ -20,7 +20,7 @@ public:
     /// Sends the key repeats that are due. now is in milliseconds.
     void repeat(std::uint32_t now, InputQueue& input);
     /// Releases all keys, for a window that loses the focus.
-    void letGo(InputQueue& input);
+    void releaseAll(InputQueue& input);
     void closeAll();
 
 private:
@@ -51,7 +51,7 @@ private:
     void remove(SDL_JoystickID id, InputQueue& input);
     void setKey(Key& key, Source source, bool held, InputQueue& input);
     void moveStick(Key& negative, Key& positive, int value, InputQueue& input);
-    void letGo(Pad& pad, InputQueue& input);
+    void releaseAll(Pad& pad, InputQueue& input);
     bool isHeld(std::uint8_t code) const;
 
     std::vector<Pad> pads;

@@ -69,7 +69,7 @@ private:
     void updateFit();
     void handleWindowEvent(const SDL_WindowEvent& event);
     void followTopMost();
-    void letGo();
+    void releaseAll();
     void showGatheredMessages();
     void showInWindow(const std::string& text);
     bool isMinimised() const { return SDL_GetWindowFlags(window) & SDL_WINDOW_MINIMIZED; }
@@ -164,7 +164,7 @@ bool SdlHost::open(ddwin& newGame)
         std::fprintf(stderr,
                      "cannot open a window: %s; start the program in a desktop session, or with DISPLAY set "
                      "to an X server "
-                     "(xvfb-run gives one that shows nothing)\n",
+                     "(xvfb-run provides a virtual one)\n",
                      SDL_GetError());
         closeWindow();
         return false;
@@ -197,7 +197,7 @@ void SdlHost::followFullScreen(ddwin& changed)
 {
     if (!window || game != &changed)
         return;
-    letGo(); // neither window gets the releases that happen meanwhile
+    releaseAll(); // neither window gets the releases that happen meanwhile
     if (!(SDL_GetWindowFlags(window) & SDL_WINDOW_FULLSCREEN)) {
         SDL_GetWindowPosition(window, &windowedPlace.x, &windowedPlace.y);
         SDL_GetWindowSize(window, &windowedPlace.w, &windowedPlace.h);
@@ -383,7 +383,7 @@ void SdlHost::handleWindowEvent(const SDL_WindowEvent& event)
     case SDL_WINDOWEVENT_FOCUS_LOST:
         game->appActive = 0;
         followTopMost();
-        letGo();
+        releaseAll();
         break;
     case SDL_WINDOWEVENT_SIZE_CHANGED:
     case SDL_WINDOWEVENT_RESTORED:
@@ -402,10 +402,10 @@ void SdlHost::followTopMost()
     SDL_SetWindowAlwaysOnTop(window, game->appActive && game->topMost && isFullScreen ? SDL_TRUE : SDL_FALSE);
 }
 
-void SdlHost::letGo()
+void SdlHost::releaseAll()
 {
-    mouseAndKeys.letGo();
-    controllers.letGo(input());
+    mouseAndKeys.releaseAll();
+    controllers.releaseAll(input());
 }
 
 void SdlHost::movePointer(int x, int y)
@@ -440,7 +440,7 @@ void SdlHost::showGatheredMessages()
     messages.clear();
     if (!window || isSetInEnvironment("TGX_NO_MESSAGE_BOX"))
         return;
-    letGo(); // the box gets the releases that happen while it is open
+    releaseAll(); // the box gets the releases that happen while it is open
     const std::string utf8 = utf8From1252(text);
     if (isSetInEnvironment("TGX_MESSAGE_IN_WINDOW") ||
         SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_INFORMATION, windowTitle().c_str(), utf8.c_str(), window) !=

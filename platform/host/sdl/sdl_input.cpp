@@ -215,7 +215,7 @@ void SdlInput::sendWaitingKey(char character)
     waitingKey = 0;
 }
 
-void SdlInput::letGo()
+void SdlInput::releaseAll()
 {
     flush();
     for (MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {

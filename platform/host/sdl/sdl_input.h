@@ -26,7 +26,7 @@ public:
     /// one.
     void flush() { sendWaitingKey(0); }
     /// Releases all keys and cancels all buttons without a click, for a window that loses the focus.
-    void letGo();
+    void releaseAll();
     /// Must be called when the toolkit has moved the pointer to this position on the screen. Motion events
     /// from before are ignored.
     void pointerWasMoved(int screenX, int screenY, std::uint32_t now);
