@@ -1,5 +1,5 @@
-// The scenes are described in docs/performance.md. Rows come in the order of the source list: measure.cpp
-// first, so that the copy of a frame heads the table.
+// docs/performance.md describes the scenes. Rows are in the order of the source list in CMakeLists.txt:
+// measure.cpp is first, so that the table begins with the copy of a frame.
 
 #include "bench/table.h"
 
@@ -8,7 +8,7 @@
 
 int main(int argc, char** argv)
 {
-    // The library takes a writer for the file only together with the file's name.
+    // The library accepts a file reporter only together with the file's name.
     const bool hasFile = std::any_of(argv, argv + argc, [](std::string_view argument) {
         return argument.substr(0, 16) == "--benchmark_out=";
     });

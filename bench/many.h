@@ -1,6 +1,6 @@
 #pragma once
 
-/// S2: three levels of windows, g1 strips, g2 cells in each, g3 leaves in each of those.
+/// S2: three levels of windows: g1 strips, g2 cells in each strip, and g3 leaves in each cell.
 struct ManyWindows {
     int g1;
     int g2;
@@ -16,7 +16,7 @@ constexpr int manyHeight = 768;
 
 enum class Level { Strip, Cell, Leaf };
 
-/// Calls open for each window in tree order, with its box, and close when all inside it is done.
+/// Calls open for each window in tree order, with its box, and close after everything inside it.
 template<class Open, class Close>
 void walk(const ManyWindows& many, Open open, Close close)
 {

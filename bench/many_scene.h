@@ -3,7 +3,7 @@
 #include "bench/many.h"
 #include "bench/stage.h"
 
-/// S2 on the stage, on a plain screen. Its leaves are windows with a bitmap, or buttons.
+/// S2 on a plain screen. Its leaves are windows with a bitmap, or buttons.
 class ManyScene {
 public:
     enum class Leaves { Windows, Buttons };

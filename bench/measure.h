@@ -4,19 +4,19 @@
 
 #include <cstddef>
 
-/// Nanoseconds that a copy of one 1024x768 frame (3 MiB, warm) takes on this core at this moment: the median
-/// of some short spells.
+/// Measures how many nanoseconds a copy of one 1024x768 frame (3 MiB, in a warm cache) takes now: the median
+/// of several short measurements.
 double copyNanoseconds();
 
-/// Runs body as the timed part of a row and gives the row its counter "copies": time / copy of a frame,
-/// measured right before.
+/// Runs body as the timed part of a row and sets the row's counter "copies": the time of body, divided by the
+/// time of a frame copy measured just before.
 template<class Body>
 void timeInCopies(benchmark::State& state, Body body);
 
-/// Heap bytes in use, as the allocator counts them.
+/// Returns the number of heap bytes in use, according to the allocator.
 std::size_t heapBytes();
 
-/// Processor time of this thread, nanoseconds: what else the machine does counts little.
+/// Returns the processor time of this thread in nanoseconds, which other load on the machine hardly affects.
 double nanosecondsNow();
 
 template<class Body>

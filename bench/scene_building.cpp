@@ -1,4 +1,4 @@
-// S4, building: S2 as a compiled script, and a megabyte of attribute lines.
+// S4, building: reads S2 as a compiled script, and a megabyte of attribute lines.
 
 #include "bench/many.h"
 #include "bench/measure.h"
@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Writes compiled lines.
+/// Writes the lines of a compiled script.
 class ScriptBytes {
 public:
     ScriptBytes& word(int id)
@@ -78,7 +78,7 @@ void read(Stage& stage)
     stage.window().readScriptFile("scene.tgx", GetModuleHandleA(nullptr), 0, "", 0);
 }
 
-/// Reads the script again and again, into an empty tree each time; only the reads count.
+/// Times repeated reads of the script, each into an empty tree.
 void timeReads(benchmark::State& state, Stage& stage, int items)
 {
     for (auto _ : state) {
@@ -93,7 +93,7 @@ void timeReads(benchmark::State& state, Stage& stage, int items)
 void windows(benchmark::State& state)
 {
     Stage stage(manyWidth, manyHeight);
-    const int count = many10k.count() + 1; // and the screen
+    const int count = many10k.count() + 1; // plus the screen
     stage.files.script("scene.tgx", scriptOf(many10k).bytes);
     const std::size_t before = heapBytes();
     read(stage);

@@ -1,4 +1,4 @@
-// S1, a dense screen. Parts are added in drawing order; a new control is one more entry of the list.
+// S1, a dense screen. Parts are added in drawing order; for a new control, add an entry to parts.
 
 #include "bench/measure.h"
 #include "bench/stage.h"
@@ -20,14 +20,14 @@ constexpr int buttonWidth = 120;
 constexpr int buttonHeight = 28;
 constexpr int barWidth = 16;
 constexpr int progressWidth = 200;
-constexpr unsigned nothing = 0xFF00FF; // a pixel that shows nothing
+constexpr unsigned nothing = 0xFF00FF; // a transparent pixel
 
 struct Canvas {
     AMainWin& window;
     AScreen& screen;
     int w;
     int h;
-    std::vector<AButton*>& buttons; // those that can change their state
+    std::vector<AButton*>& buttons; // buttons that can change their state
 };
 
 AWnd* add(const Canvas& on, int x, int y, int width, int height)
@@ -85,7 +85,7 @@ void addList(const Canvas& on)
     }
 }
 
-/// The screen's opening clears selections.
+/// Must be called after the screen has opened, which clears selections.
 void selectRow(AScreen& screen)
 {
     if (AWnd* list = screen.getWndOfType(AWnd::WND_LISTBOX, 0, 0))
@@ -133,11 +133,12 @@ void addScrollBar(const Canvas& on)
 constexpr void (*parts[])(const Canvas&) = {addPanels,    addButtons,      addList, addLabels,
                                             addScrollBar, addProgressBars, addGraph};
 
-/// Whether a pixel lies outside the round corners of a button.
+/// Returns whether a pixel is outside the round corners of a button.
 bool isCutOff(int x, int y)
 {
     constexpr int radius = 6;
-    // Twice the distance to the middle of the corner's circle, by pixel middles; 0 along the straight edges.
+    // Twice the distance from the middle of the pixel to the centre of the corner's circle; 0 along straight
+    // edges.
     const auto distance = [](int at, int length) {
         const int fromEdge = std::min(at, length - 1 - at);
         return std::max(2 * (radius - fromEdge) - 1, 0);
@@ -155,11 +156,11 @@ void makePictures(const Files& files, int w, int h)
     });
     files.picture("panel.bmp", 64, 64,
                   [](int x, int y) { return static_cast<unsigned>((x * 4) << 16 | (y * 4) << 8 | 0x40); });
-    // Eight pieces with a gap of a pixel; every fourth pixel of a piece shows nothing.
+    // Eight pieces with a gap of one pixel. Every fourth pixel of a piece is transparent.
     files.picture("border.bmp", 8 * 9 - 1, 8, [](int x, int y) {
         return (x % 9 + y) % 4 == 3 ? nothing : 0xC0A060u + static_cast<unsigned>(x & 15);
     });
-    // Strips have a gap of a pixel behind each frame: three states of a button, six pieces of a bar.
+    // Strips have a gap of one pixel after each frame. This one has three states of a button.
     files.picture("button.bmp", 3 * (buttonWidth + 1), buttonHeight, [](int x, int y) {
         const int frame = x / (buttonWidth + 1);
         const int inFrame = x % (buttonWidth + 1);
@@ -167,7 +168,7 @@ void makePictures(const Files& files, int w, int h)
                    ? nothing
                    : 0x304050u + static_cast<unsigned>(frame * 0x202020 + y * 0x010101);
     });
-    // Two panels: done and not done.
+    // Two panels: the done and the remaining part.
     files.picture("progress.bmp", 2 * progressWidth + 1, 16, [](int x, int y) {
         return (x <= progressWidth ? 0x40A060u : 0x203040u) + static_cast<unsigned>((y & 7) * 0x020202);
     });
@@ -176,7 +177,7 @@ void makePictures(const Files& files, int w, int h)
     });
 }
 
-constexpr int growingFrames = 30; // until the graph stands
+constexpr int growingFrames = 30; // number of frames until the graph has grown
 
 class DenseScene {
 public:
@@ -194,7 +195,7 @@ public:
         for (int i = 0; i < growingFrames; ++i)
             stage.frame();
     }
-    /// Lights the next button, or puts it out when it is lit.
+    /// Highlights the next button, or resets it if it is highlighted.
     void changeButton()
     {
         AButton* button = buttons[changed];

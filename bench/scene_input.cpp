@@ -1,5 +1,5 @@
-// S3, input: a tick in which only the pointer moves, over S2 with a button for each leaf, and down a chain of
-// windows.
+// S3, input: ticks in which only the pointer moves, over S2 with a button for each leaf, and over a chain of
+// nested windows.
 
 #include "bench/many_scene.h"
 #include "bench/measure.h"
@@ -11,10 +11,10 @@
 
 namespace {
 
-/// Where the pointer is in each tick: 1024 places all over the screen before it comes round again.
+/// The pointer's position in each tick: 1024 positions all over the screen before they repeat.
 class Pointer {
 public:
-    void moveOn()
+    void advance()
     {
         x = (x + 7) % manyWidth;
         y = (y + 3) % manyHeight;
@@ -23,19 +23,20 @@ public:
     int y = 0;
 };
 
-/// A whole tick: the move is taken from the queue, the window under it found, told and lit.
+/// Runs a whole tick: takes the move from the queue, and finds, notifies and highlights the window under the
+/// pointer.
 void tickAt(AMainWin& window, const Pointer& pointer)
 {
     displayhost::current().input().move(pointer.x, pointer.y);
     window.runTick();
 }
 
-/// A scene that does not react would be fast and worth nothing.
+/// Fails if the scene does not react to the pointer, because that would be fast but meaningless.
 void expectHot(AMainWin& window, AWnd* wnd)
 {
     const auto* button = dynamic_cast<const AButton*>(wnd);
     if (!button || window.getCurFocusWnd() != wnd || button->getButtonState() != AButton::BS_HOT)
-        throw std::runtime_error("the button under the pointer is not lit");
+        throw std::runtime_error("the button under the pointer is not highlighted");
 }
 
 void timeTicks(benchmark::State& state, AMainWin& window)
@@ -43,7 +44,7 @@ void timeTicks(benchmark::State& state, AMainWin& window)
     Pointer pointer;
     for (auto _ : state) {
         tickAt(window, pointer);
-        pointer.moveOn();
+        pointer.advance();
     }
 }
 
@@ -51,7 +52,7 @@ void tick(benchmark::State& state, const ManyWindows& many)
 {
     ManyScene scene(many, ManyScene::Leaves::Buttons);
     AMainWin& window = scene.stage.window();
-    tickAt(window, Pointer{}); // the first leaf of all lies there, unless the next ones overlap it
+    tickAt(window, Pointer{}); // the first leaf is there, unless the next ones overlap it
     expectHot(window, scene.screen->getWndAtPos(0, 0, 1));
     timeTicks(state, window);
     state.counters["windows"] = many.count();
@@ -63,13 +64,13 @@ void hit(benchmark::State& state, const ManyWindows& many)
     Pointer pointer;
     for (auto _ : state) {
         benchmark::DoNotOptimize(scene.screen->getWndAtPos(pointer.x, pointer.y, 1));
-        pointer.moveOn();
+        pointer.advance();
     }
     state.counters["windows"] = many.count();
 }
 
-/// Windows as large as the screen, one in the other, a button in the last: the pointer is in all of them, so
-/// every tick goes down to the button.
+/// Nested windows as large as the screen, with a button in the innermost one. The pointer is in all of them,
+/// so every tick descends to the button.
 void chain(benchmark::State& state)
 {
     Stage stage(manyWidth, manyHeight);
@@ -89,7 +90,7 @@ void chain(benchmark::State& state)
 BENCHMARK_CAPTURE(tick, a, many1k)->Name("S3/1k/tick")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(tick, b, many10k)->Name("S3/10k/tick")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(hit, c, many10k)->Name("S3/10k/hit")->Unit(benchmark::kMicrosecond);
-// A step down costs the same in a chain of any length.
+// The cost for each window must not depend on the length of the chain.
 BENCHMARK(chain)->Name("S3/chain")->Arg(50)->Arg(100)->Arg(200)->Unit(benchmark::kMicrosecond);
 
 } // namespace

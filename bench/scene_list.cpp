@@ -1,4 +1,4 @@
-// S5, a long list: adding rows, and a frame of a list that moves by a row each frame.
+// S5, a long list: adding rows, and drawing a list that scrolls by one row each frame.
 
 #include "bench/measure.h"
 #include "bench/stage.h"
@@ -22,7 +22,7 @@ AListBox* addList(AScreen& screen)
     return list;
 }
 
-/// "row %06d c%d", written by hand: what is timed is the list.
+/// Formats "row %06d c%d" by hand, so that mostly the list is timed.
 class CellText {
 public:
     const char* of(int row, int column)
@@ -78,8 +78,8 @@ void add(benchmark::State& state)
     state.counters["bytes_a_cell"] = static_cast<double>(bytes) / (addedRows * columns);
 }
 
-/// Scrolled to the middle and moved by a row each frame, to and fro. Without its bar: a percentage is too
-/// coarse for a single one of 30,000 rows.
+/// Scrolls the list by one row each frame, back and forth around the middle. Deletes its scroll bar, because
+/// a percentage is too coarse for one of 30,000 rows.
 void frame(benchmark::State& state, int rows)
 {
     Stage stage(w, h);

@@ -55,7 +55,7 @@ void Files::picture(const std::string& name, int width, int height, const PixelA
     bytes[1] = 'M';
     put32(bytes, 2, static_cast<unsigned>(bytes.size()));
     put32(bytes, 10, headerBytes);
-    put32(bytes, 14, 40); // of the info header
+    put32(bytes, 14, 40); // size of the info header
     put32(bytes, 18, static_cast<unsigned>(width));
     put32(bytes, 22, static_cast<unsigned>(height));
     put32(bytes, 26, 1 | 24u << 16); // one plane, 24 bits
@@ -86,7 +86,7 @@ Stage::Stage(int width, int height)
 {
     auto host = std::make_unique<HeadlessHost>();
     host->onMessage = [](const CString& text) {
-        // A scene without its pictures would be fast and worth nothing.
+        // A scene without its pictures would be fast but meaningless.
         std::fprintf(stderr, "tgx_bench: message: %s\n", static_cast<const char*>(text));
         std::exit(1);
     };
@@ -114,7 +114,7 @@ AScreen* Stage::addScreen(const char* backdrop)
 void Stage::show()
 {
     mainWin->changeScreen("SCENE", 0, 0, "");
-    for (int i = 0; i < 8; ++i) // the change is carried out behind the fifth frame
+    for (int i = 0; i < 8; ++i) // the screen changes after the fifth frame
         frame();
     if (!mainWin->getActiveScreen())
         throw std::runtime_error("the scene's screen did not open");

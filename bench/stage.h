@@ -6,10 +6,10 @@
 #include <functional>
 #include <string>
 
-/// A 0xRRGGBB for each pixel of a picture. 0xFF00FF shows nothing.
+/// Returns the colour of a pixel as 0xRRGGBB. 0xFF00FF is transparent.
 using PixelAt = std::function<unsigned(int x, int y)>;
 
-/// A data directory that lives as long as the object.
+/// A temporary data directory, deleted by the destructor.
 class Files {
 public:
     Files();
@@ -18,7 +18,7 @@ public:
     Files& operator=(const Files&) = delete;
 
     void picture(const std::string& name, int width, int height, const PixelAt& pixel) const;
-    /// Copies the TrueType font that all scenes write with; throws when the machine does not have it.
+    /// Copies the TrueType font that all scenes use. Throws if it is not installed.
     void font() const;
     void script(const std::string& name, const std::string& bytes) const;
 
@@ -26,7 +26,7 @@ private:
     std::filesystem::path path;
 };
 
-/// A main window on a headless host with virtual time, and a screen to build a scene on.
+/// A main window on a headless host with virtual time, and a screen for the scene.
 class Stage {
 public:
     Stage(int width, int height);
@@ -36,7 +36,7 @@ public:
 
     Files files;
     AMainWin& window() { return *mainWin; }
-    /// Adds the scene's screen; show() opens it.
+    /// Adds the scene's screen, which show() opens.
     AScreen* addScreen(const char* backdrop);
     void show();
     void frame();

@@ -11,7 +11,7 @@ include(CMakePackageConfigHelpers)
 set(tgx_include_dir ${CMAKE_INSTALL_INCLUDEDIR}/tgx-${PROJECT_VERSION_MAJOR})
 set(tgx_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tgx)
 
-# The name behind tgx:: in the package is the same as in this build.
+# The package exports the same names after tgx:: as this build.
 set_target_properties(tgxplatform PROPERTIES EXPORT_NAME platform)
 set_target_properties(tgxplayer PROPERTIES EXPORT_NAME player)
 set_target_properties(tgxdevtools PROPERTIES EXPORT_NAME devtools)
@@ -24,8 +24,8 @@ install(TARGETS tgx tgxplatform tgxplayer tgxdevtools tgx_tool EXPORT tgxTargets
   INCLUDES DESTINATION ${tgx_include_dir})
 install(EXPORT tgxTargets NAMESPACE tgx:: DESTINATION ${tgx_cmake_dir})
 
-# A header is public when it exports something, or when a public one includes it. What is left over is private to its
-# library and not installed.
+# A header is public if it exports something or if a public header includes it. All others are private and not
+# installed.
 file(GLOB_RECURSE headers RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS platform/*.h tgx/*.h player/*.h devtools/*.h)
 set(open_headers platform/limits.h tgx/tgx.h)
 foreach(header IN LISTS headers)

@@ -1,4 +1,4 @@
-# What a build of this repository can choose, and the flags that all of its own targets share.
+# The options of the build, and the flags shared by all targets of this repository.
 
 option(TGX_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(TGX_BUILD_BENCH "Build tgx_bench" ${PROJECT_IS_TOP_LEVEL})
@@ -13,7 +13,7 @@ endif()
 
 add_library(tgx_flags INTERFACE)
 target_compile_options(tgx_flags INTERFACE -Wall -Wextra -Wshadow $<$<BOOL:${TGX_WERROR}>:-Werror>)
-# g++ 12 sees an overlap in every "literal" + std::string that it inlines.
+# g++ 12 wrongly reports an overlap in each "literal" + std::string that it inlines.
 target_compile_options(tgx_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 if(TGX_SANITIZE)
   target_compile_options(tgx_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -23,6 +23,6 @@ if(TGX_FUZZ)
   if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
     message(FATAL_ERROR "TGX_FUZZ needs clang (libFuzzer): configure with the preset \"fuzz\" or with CXX=clang++")
   endif()
-  # Every object reports its branches; only the fuzz target itself links libFuzzer's main.
+  # All objects report their branches; only the fuzz targets link libFuzzer's main.
   target_compile_options(tgx_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()

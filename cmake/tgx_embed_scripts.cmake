@@ -1,9 +1,10 @@
 # tgx_embed_scripts(target ID FILE [ID FILE ...])
 #
-# Builds scripts into an executable as resources of type "TGXScript". A script then needs no file beside the program; a file of
-# the script directory with the asked-for name still comes first. ID is the resource id, 0 to 65535: 141 is the main script's.
-# FILE is a script in text form (.tgs), which the tool compiles, with what it includes, or a compiled one (.tgx), taken as it is; a relative
-# name counts from the folder of the calling CMakeLists.txt.
+# Embeds scripts in an executable as resources of type "TGXScript", so that the program needs no script files.
+# A file with the same name in the script directory still takes precedence. ID is the resource id, 0 to 65535;
+# 141 is the main script. FILE is a script in text form (.tgs), which the tool compiles together with its
+# includes, or a compiled script (.tgx), which is embedded unchanged. A relative name is relative to the
+# folder of the calling CMakeLists.txt.
 #
 #   add_executable(game main.cpp)
 #   target_link_libraries(game PRIVATE tgx::tgx)
@@ -19,7 +20,8 @@ function(tgx_embed_scripts target)
     message(FATAL_ERROR "tgx_embed_scripts(${target} ...): expected pairs of ID and FILE, found: ${ARGN}")
   endif()
 
-  # Seen from the folder of this file: a variable set outside of the function would not reach a caller above add_subdirectory.
+  # Computed here, because a variable set outside the function would not be visible to a caller in a parent
+  # directory.
   set(bytes_to_cpp ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/bytes_to_cpp.cmake)
   set(out_dir ${CMAKE_CURRENT_BINARY_DIR}/tgx_scripts/${target})
   while(ARGN)
@@ -38,7 +40,7 @@ function(tgx_embed_scripts target)
       add_custom_command(OUTPUT ${bytes}
         COMMAND tgx::tool build ${source} -o ${bytes} --depfile ${bytes}.d
         DEPENDS ${source} tgx::tool
-        DEPFILE ${bytes}.d # what the script includes
+        DEPFILE ${bytes}.d # the files that the script includes
         COMMENT "Compiling script ${file}" VERBATIM)
     elseif(kind STREQUAL ".tgx")
       set(bytes ${source})

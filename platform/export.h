@@ -1,4 +1,5 @@
 #pragma once
 
-/// Marks what the platform library exports. Everything else is hidden (-fvisibility=hidden).
+/// Marks the classes and functions that the platform library exports. All others are hidden
+/// (-fvisibility=hidden).
 #define TGX_PLATFORM_API __attribute__((visibility("default")))

@@ -2,43 +2,44 @@
 
 #include <cstddef>
 
-/// What a script, picture, font or file of a stranger may take. Past a limit it is refused and reported like
-/// any other fault, once, with its place.
+/// Limits on the memory and time that an untrusted script, picture, font or file may use. What exceeds a
+/// limit is refused and reported once, with its place, like any other fault.
 namespace limits {
 
-/// A file that CFile reads whole. The largest uncompressed picture that is allowed fits.
+/// Size of a file that CFile reads, in bytes. Large enough for the largest uncompressed picture allowed.
 constexpr std::size_t fileBytes = 300u * 1024 * 1024;
-/// Side of a picture: keeps every coordinate inside 16 bits, as windows have them.
+/// Width or height of a picture in pixels. Keeps every coordinate within the 16 bits that windows use.
 constexpr int imageSide = 16384;
-/// Pixels of a picture: 256 MiB once decoded.
+/// Number of pixels in a picture: 256 MiB once decoded.
 constexpr long long imagePixels = 64'000'000;
-/// Pixels of all pictures together, screen and backdrops among them: 1 GiB, which a machine that runs games
-/// can spare. Past it a picture fails to load.
+/// Number of pixels in all pictures together, including the screen and backdrops: 1 GiB. Beyond it, pictures
+/// fail to load.
 constexpr long long livePixels = 256'000'000;
 /// Height of a font in pixels: its line height has to fit a signed 8-bit field.
 constexpr int fontPixels = 96;
-/// Entries of the font table. A script that adds more has lost its way.
+/// Number of entries in the font table. Only a faulty script adds more.
 constexpr int fonts = 256;
-/// Pixels of the characters of all fonts of a window: 256 MiB. Past it a font fails to load.
+/// Number of pixels in the characters of all fonts of a window: 256 MiB. Beyond it, fonts fail to load.
 constexpr long long glyphPixels = 64'000'000;
-/// A script that a tool reads, in text form or compiled: a million short lines, which is as many as one read
-/// executes. A tool keeps about a hundred bytes for each byte.
+/// Size in bytes of a script that a tool reads, in text form or compiled. It has room for a million short
+/// lines, as many as scriptLines allows. A tool needs about a hundred bytes of memory for each byte of
+/// script.
 constexpr std::size_t scriptBytes = 16u * 1024 * 1024;
-/// Lines that one outermost read of a script executes. GOTO chains that double at each step end here.
+/// Number of lines that one outermost read of a script executes. This stops GOTO chains that double at each
+/// step.
 constexpr long scriptLines = 1'000'000;
-/// What those lines may cost beyond being lines, in steps of a search through windows: a step takes some
-/// nanoseconds, and so all of them some seconds. The largest scripts that make sense stay below a tenth of
-/// it.
+/// Work that those lines may cause, counted in steps of a search through windows. A step takes a few
+/// nanoseconds, so all of them take a few seconds. The largest sensible scripts need less than a tenth of
+/// this.
 constexpr long long scriptWork = 2'000'000'000;
-/// Places that one outermost read adds by showing windows a second time. Each is drawn, so a frame visits no
-/// more than this and the windows themselves; windows that are shown twice inside each other would double
-/// them at each level.
+/// Number of extra places that one outermost read adds by showing windows a second time. Each place is drawn
+/// in every frame, and windows that are shown twice inside each other double the number at each level.
 constexpr long sharedPlaces = 1'000'000;
-/// Subroutines inside subroutines; each takes some kilobytes of the call stack.
+/// Nesting depth of subroutines. Each level takes a few kilobytes of the call stack.
 constexpr int subroutineDepth = 64;
-/// Reads inside the outermost one, by POINTER.
+/// Nesting depth of the reads that POINTER starts inside the outermost one.
 constexpr int readDepth = 64;
-/// Windows inside windows. Drawing and input go down the tree by calls.
+/// Nesting depth of windows. Drawing and input descend the tree recursively.
 constexpr int windowDepth = 2000;
 
 } // namespace limits

@@ -1,9 +1,10 @@
-# Sourced by the scripts beside it: the repository's root, the number of jobs, and how a step is announced.
+# Sourced by the other scripts: the repository's root, the number of jobs, and functions for messages and
+# builds.
 
 ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 JOBS=$(nproc)
 
-# step TEXT: a heading, bold on a terminal that takes colour.
+# step TEXT: prints a heading, bold on a terminal.
 step() {
     if [[ -t 1 && -z ${NO_COLOR:-} ]]; then
         printf '\n\033[1m== %s\033[0m\n' "$*"
@@ -12,13 +13,13 @@ step() {
     fi
 }
 
-# fail TEXT: the reason on stderr, and the end.
+# fail TEXT: prints the reason to stderr and exits with status 1.
 fail() {
     echo "$(basename "$0"): $*" >&2
     exit 1
 }
 
-# configure_and_build PRESET [TARGET ...]: ninja itself counts the steps as it goes.
+# configure_and_build PRESET [TARGET ...]: configures and builds a preset.
 configure_and_build() {
     local preset=$1
     shift
@@ -28,7 +29,7 @@ configure_and_build() {
     fi
     (cd "$ROOT" && cmake --preset "$preset" >"$ROOT/build/$preset.configure.log" 2>&1) || {
         cat "$ROOT/build/$preset.configure.log" >&2
-        fail "configuring the preset $preset failed; its log stands above"
+        fail "configuring the preset $preset failed; see its log above"
     }
     (cd "$ROOT" && cmake --build --preset "$preset" -j "$JOBS" "${targets[@]}")
 }

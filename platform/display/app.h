@@ -4,5 +4,5 @@
 
 class AControlsApp;
 
-/// The one application object. Set by its constructor, cleared by its destructor.
+/// The application object. Its constructor sets this pointer, its destructor clears it.
 extern TGX_PLATFORM_API AControlsApp* pApp;

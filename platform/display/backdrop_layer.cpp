@@ -4,8 +4,8 @@
 
 namespace {
 
-// More marks than this between two restores become the box around them all.
-constexpr std::size_t mostMarks = 256;
+// If there are more marks than this between two restores, they are replaced by the box around them.
+constexpr std::size_t maxMarks = 256;
 
 ImageRef plainImage(int width, int height, std::uint32_t colour)
 {
@@ -15,7 +15,7 @@ ImageRef plainImage(int width, int height, std::uint32_t colour)
     return image;
 }
 
-// The nearest pixel; a backdrop has nothing under it, so every pixel is opaque.
+// Scales with the nearest pixel. All pixels become opaque, because there is nothing behind a backdrop.
 ImageRef stretched(const Image& source, int width, int height)
 {
     ImageRef image = makeImage(width, height);
@@ -35,10 +35,10 @@ ImageRef stretched(const Image& source, int width, int height)
 
 void BackdropLayer::setPlain(std::uint32_t colour)
 {
-    if (!source && coming.isPlain && coming.colour == colour && coming.image)
+    if (!source && newPicture.isPlain && newPicture.colour == colour && newPicture.image)
         return;
     source.reset();
-    coming.colour = colour;
+    newPicture.colour = colour;
     fit();
 }
 
@@ -55,20 +55,20 @@ void BackdropLayer::resize(int newWidth, int newHeight)
     width = newWidth;
     height = newHeight;
     fit();
-    shownPicture = coming;
-    ownsShown = false;
-    dirty.assign(1, {0, 0, width, height}); // also for a picture that is named before the first restore
+    shownPicture = newPicture;
+    ownsShownImage = false;
+    dirty.assign(1, {0, 0, width, height}); // applies also to a picture set before the first restore
 }
 
 void BackdropLayer::fit()
 {
-    coming.isPlain = !source;
+    newPicture.isPlain = !source;
     if (!source)
-        coming.image = plainImage(width, height, coming.colour);
+        newPicture.image = plainImage(width, height, newPicture.colour);
     else if (source->width == width && source->height == height && source->coverage == Coverage::Opaque)
-        coming.image = source;
+        newPicture.image = source;
     else
-        coming.image = stretched(*source, width, height);
+        newPicture.image = stretched(*source, width, height);
 }
 
 void BackdropLayer::markDirty(const Box& box)
@@ -76,7 +76,7 @@ void BackdropLayer::markDirty(const Box& box)
     const Box part = intersection(box, {0, 0, width, height});
     if (part.isEmpty())
         return;
-    if (dirty.size() < mostMarks) {
+    if (dirty.size() < maxMarks) {
         dirty.push_back(part);
         return;
     }
@@ -94,11 +94,11 @@ void BackdropLayer::restore(Damage& damage)
     if (isForced)
         damage.markAll();
     if (isWhole) {
-        if (!shownPicture.isSameAs(coming))
+        if (!shownPicture.isSameAs(newPicture))
             damage.markAll();
-        shownPicture = coming;
-        ownsShown = false;
-    } else if (!shownPicture.isSameAs(coming)) {
+        shownPicture = newPicture;
+        ownsShownImage = false;
+    } else if (!shownPicture.isSameAs(newPicture)) {
         for (const Box& mark : dirty) {
             copyInto(mark);
             damage.mark(mark);
@@ -110,13 +110,13 @@ void BackdropLayer::restore(Damage& damage)
 
 void BackdropLayer::copyInto(const Box& box)
 {
-    if (!ownsShown) {
+    if (!ownsShownImage) {
         shownPicture.image = shownPicture.isPlain ? plainImage(width, height, shownPicture.colour)
                                                   : copyImage(*shownPicture.image);
         shownPicture.isPlain = false;
-        ownsShown = true;
+        ownsShownImage = true;
     }
     Image& image = *shownPicture.image;
-    copyPixels({image.row(box.y0) + box.x0, image.pitch, coming.image->row(box.y0) + box.x0,
-                coming.image->pitch, box.width(), box.height()});
+    copyPixels({image.row(box.y0) + box.x0, image.pitch, newPicture.image->row(box.y0) + box.x0,
+                newPicture.image->pitch, box.width(), box.height()});
 }

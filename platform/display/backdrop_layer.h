@@ -4,29 +4,29 @@
 #include "platform/display/rasteriser.h"
 #include "platform/media/image.h"
 
-/// The shown backdrop and the picture to come. What is marked dirty is copied from the one into the other by
-/// restore, so that a wipe spreads the new picture piece by piece. While the whole screen shows one picture
-/// nothing is copied at all: the picture itself is what is shown.
+/// The backdrop on the screen and the picture that replaces it. restore copies the dirty boxes from the new
+/// picture to the shown one, so a wipe reveals the new picture piece by piece. When the whole screen shows
+/// one picture, that picture is used directly and nothing is copied.
 class BackdropLayer {
 public:
     void setPlain(std::uint32_t colour);
-    /// source is kept, and stretched to the screen's size.
+    /// Sets the new picture. source is kept and stretched to the screen's size.
     void setPicture(ImageRef source);
-    /// The picture to come fills a screen of a new size at once.
+    /// Sets the screen's size and shows the new picture on all of it at once.
     void resize(int newWidth, int newHeight);
 
     void markDirty(const Box& box);
-    /// The next restore draws all of the screen anew, changed or not.
+    /// Makes the next restore redraw the whole screen, changed or not.
     void markAll() { isForced = true; }
-    /// Copies what is dirty and marks what that changes.
+    /// Copies the dirty boxes and marks in damage what that changes.
     void restore(Damage& damage);
 
     BackdropPixels shown() const
     {
         return {shownPicture.isPlain ? nullptr : shownPicture.image.get(), shownPicture.colour};
     }
-    /// The picture to come at the screen's size, a plain one too.
-    const ImageRef& comingImage() const { return coming.image; }
+    /// Returns the new picture at the screen's size, even if it is plain.
+    const ImageRef& newImage() const { return newPicture.image; }
 
 private:
     struct Picture {
@@ -41,11 +41,10 @@ private:
     void fit();
     void copyInto(const Box& box);
 
-    ImageRef source; // of the picture to come, at its own size; null for a plain one
-    Picture coming;
+    ImageRef source; // the new picture at its own size; null for a plain one
+    Picture newPicture;
     Picture shownPicture;
-    bool ownsShown =
-        false; // the shown image is this layer's own mixture of an older picture and the one to come
+    bool ownsShownImage = false; // the shown image is a private mixture of an older picture and the new one
     bool isForced = false;
     std::vector<Box> dirty;
     int width = 0;

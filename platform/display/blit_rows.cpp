@@ -2,8 +2,7 @@
 
 #include <cstring>
 
-// The same loop is built for more than one instruction set where the compiler can choose among them at load
-// time.
+// Builds the same loop for several instruction sets, where the compiler supports selecting one at load time.
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) && !defined(__SANITIZE_ADDRESS__)
 #define TGX_CLONES __attribute__((target_clones("avx2", "default")))
 #else
@@ -18,8 +17,8 @@ using Pixel = std::uint32_t;
 constexpr Pixel opaque = 0xFF000000;
 constexpr Pixel redBlue = 0x00FF00FF;
 
-// Two channels at once in the halves of 32 bits: (from * alpha + to * (255 - alpha)) / 255, rounded. The
-// difference may borrow between the halves; the sum is right again, since 32 bits wrap.
+// Computes (from * alpha + to * (255 - alpha)) / 255, rounded, for two channels at once in the halves of 32
+// bits. The difference may borrow between the halves, but the sum is correct because of wrap-around.
 TGX_INLINE Pixel mixPair(Pixel from, Pixel to, Pixel alpha)
 {
     const Pixel sum = (from - to) * alpha + ((to << 8) - to) + 0x00800080;
@@ -38,7 +37,7 @@ TGX_INLINE Pixel average(Pixel a, Pixel b)
     return (a & b) + (((a ^ b) & 0xFEFEFEFE) >> 1);
 }
 
-// Sums of two channels held at 255: the carry of each channel becomes a full one.
+// Adds two channels at once, saturating at 255: a carry out of a channel sets all of its bits.
 TGX_INLINE Pixel saturatedPair(Pixel a, Pixel b)
 {
     const Pixel sum = a + b;
@@ -54,9 +53,8 @@ TGX_INLINE Pixel add(Pixel from, Pixel to)
     return opaque | rb | (g << 8);
 }
 
-// Eight pixels, as pixels and as their 16-bit halves. The compiler takes the vectors apart where the machine
-// has none so wide. They are handed on by reference and inlined: by value they would have no fixed way to be
-// passed.
+// Eight pixels, and the same as 16-bit halves. The compiler splits the vectors if the machine has none that
+// wide. Functions take them by reference, because passing them by value depends on the instruction set.
 using Pixels = Pixel __attribute__((vector_size(32)));
 using Halves = std::uint16_t __attribute__((vector_size(32)));
 
@@ -65,14 +63,14 @@ TGX_INLINE void load(Pixels& to, const Pixel* from)
     std::memcpy(&to, from, sizeof(Pixels));
 }
 
-// mixPair for the halves of eight pixels, up to its last step: the results lie in the upper bytes.
+// Does mixPair for the halves of eight pixels, except for its last step: the results are in the upper bytes.
 TGX_INLINE void mixHalves(Halves& result, const Halves& from, const Halves& to, const Halves& alpha)
 {
     const Halves sum = (from - to) * alpha + (to << 8) - to + 128;
     result = sum + (sum >> 8);
 }
 
-// The same for a source that is multiplied by its alpha already: what stays of the target.
+// Computes what remains of the target under a source with premultiplied alpha. Results as in mixHalves.
 TGX_INLINE void keepHalves(Halves& result, const Halves& to, const Halves& kept)
 {
     const Halves sum = to * kept + 128;
@@ -92,7 +90,7 @@ struct Half {
     }
 };
 
-// Eight pixels mixed by the source's alpha; Mode says what is mixed in.
+// Blends eight pixels by the source's alpha. Mode computes the colours to blend in.
 template<class Mode>
 TGX_INLINE void mixEight(Pixel* target, const Pixel* source)
 {
@@ -104,7 +102,7 @@ TGX_INLINE void mixEight(Pixel* target, const Pixel* source)
     Mode::source(from, to);
     Halves rb, g;
     mixHalves(rb, (Halves)(from & redBlue), (Halves)(to & redBlue), alpha);
-    mixHalves(g, (Halves)from >> 8, (Halves)to >> 8, alpha); // and the alphas, to no purpose
+    mixHalves(g, (Halves)from >> 8, (Halves)to >> 8, alpha); // also blends the alphas, which are not used
     const Pixels mixed = (Pixels)(rb >> 8) | ((Pixels)g & ~redBlue) | opaque;
     std::memcpy(target, &mixed, sizeof(Pixels));
 }
@@ -119,7 +117,7 @@ TGX_INLINE void layEight(Pixel* target, const Pixel* source)
     Halves rb, g;
     keepHalves(rb, (Halves)(to & redBlue), kept);
     keepHalves(g, (Halves)to >> 8, kept);
-    const Pixels laid = ((Pixels)(rb >> 8) | ((Pixels)g & ~redBlue)) + from; // no byte can pass 255
+    const Pixels laid = ((Pixels)(rb >> 8) | ((Pixels)g & ~redBlue)) + from; // no byte can exceed 255
     std::memcpy(target, &laid, sizeof(Pixels));
 }
 
@@ -132,8 +130,8 @@ TGX_INLINE Pixel lay(Pixel from, Pixel to)
 template<class Mode>
 TGX_INLINE void mixBlock(const PixelBlock& block)
 {
-    const PixelBlock local =
-        block; // pixels that are written could be the caller's copy, for all the compiler knows
+    const PixelBlock local = block; // a local copy, because the compiler must assume that writing pixels may
+                                    // change the caller's block
     Pixel* to = local.to;
     const Pixel* from = local.from;
     for (int y = 0; y < local.height; y++, to += local.toPitch, from += local.fromPitch) {
@@ -159,7 +157,7 @@ TGX_INLINE void forEachPixel(const PixelBlock& block, Operation operation)
 template<int count>
 TGX_INLINE void copyFixed(Pixel* to, const Pixel* from)
 {
-    std::memcpy(to, from, count * sizeof(Pixel)); // one or two vector moves, no call
+    std::memcpy(to, from, count * sizeof(Pixel)); // compiles to one or two vector moves without a call
 }
 
 } // namespace
@@ -175,8 +173,8 @@ TGX_CLONES void copyPixels(const PixelBlock& block)
             std::memcpy(to, from, static_cast<std::size_t>(width) * sizeof(Pixel));
         return;
     }
-    // A call for each row of a small bitmap would cost more than the row. The last piece overlaps the one
-    // before it.
+    // For a small bitmap, a memcpy call for each row would cost more than the copying. The last piece
+    // overlaps the previous one.
     if (width >= 8) {
         for (int y = 0; y < local.height; y++, to += local.toPitch, from += local.fromPitch) {
             for (int x = 0; x < width - 8; x += 8)

@@ -16,13 +16,13 @@ void Canvas::beginList()
 {
     static std::uint64_t lastNumber = 0;
     running->list.clear();
-    running->held.clear();
+    running->heldImages.clear();
     running->number = ++lastNumber;
     running->paintFrom = 0;
     running->painted = {};
 }
 
-void Canvas::settleSize()
+void Canvas::updateSize()
 {
     const int width = std::max<int>(window.screenWidth, 0);
     const int height = width > 0 ? std::max<int>(window.screenHeight, 0) : 0;
@@ -36,18 +36,18 @@ void Canvas::settleSize()
 
 const Image& Canvas::getScreen()
 {
-    settleSize();
+    updateSize();
     return *screen;
 }
 
 void Canvas::nameBackdropSurface()
 {
-    backdropSurface.setImage(layer.comingImage(), backdropName);
+    backdropSurface.setImage(layer.newImage(), backdropName);
 }
 
 void Canvas::setPlainBackdrop(std::uint32_t colour)
 {
-    settleSize();
+    updateSize();
     layer.setPlain(colour);
     backdropName.Empty();
     nameBackdropSurface();
@@ -55,7 +55,7 @@ void Canvas::setPlainBackdrop(std::uint32_t colour)
 
 void Canvas::setBackdropPicture(ImageRef picture, const CString& name)
 {
-    settleSize();
+    updateSize();
     if (picture)
         layer.setPicture(std::move(picture));
     else
@@ -76,7 +76,7 @@ void Canvas::reloadBackdrop()
 
 void Canvas::drawBackdrop()
 {
-    settleSize();
+    updateSize();
     running->paintFrom = running->list.commands().size();
     layer.restore(damage);
 }
@@ -88,22 +88,22 @@ void Canvas::redrawScreen()
 
 void Canvas::markDirty(const Box& box)
 {
-    settleSize();
+    updateSize();
     layer.markDirty(box);
 }
 
 backdrop* Canvas::getBackdrop()
 {
-    settleSize();
+    updateSize();
     return &backdropSurface;
 }
 
 void Canvas::present()
 {
-    settleSize();
+    updateSize();
     const PaintedRange toPaint{running->paintFrom, running->list.commands().size()};
     if (isPresented)
-        damage.markAll(); // a second time in one frame: the screen no longer shows the last list
+        damage.markAll(); // the second time in a frame, the screen no longer shows the last list
     else
         damage.markDifferences(last->list, last->painted, running->list, toPaint);
     rasteriser.paint(running->list, toPaint, layer.shown(), damage, *screen);

@@ -13,8 +13,8 @@
 
 struct tagRECT;
 
-/// What a window draws with: the lists of the running and the last frame, the backdrop, the screen's pixels,
-/// surfaces and fonts.
+/// The drawing state of a window: the display lists of the current and the last frame, the backdrop, the
+/// screen's pixels, surfaces and fonts.
 class Canvas {
 public:
     explicit Canvas(ddwin& window);
@@ -23,18 +23,18 @@ public:
 
     DrawCommand& record(DrawOp op) { return running->list.add(op); }
     void setText(DrawCommand& command, std::string_view text) { running->list.setText(command, text); }
-    /// Keeps the pixels, as they are, for as long as the running list can be read.
+    /// Keeps the image unchanged for as long as the current list can be read.
     void hold(const ImageRef& image)
     {
         if (image->heldBy == running->number)
             return;
         image->heldBy = running->number;
-        running->held.push_back(image);
+        running->heldImages.push_back(image);
     }
     const DisplayList& lastList() const { return last->list; }
 
     void setPlainBackdrop(std::uint32_t colour);
-    /// Null for a picture that is not there: plain, colour 0.
+    /// Sets the backdrop. Null, for a missing picture, makes it plain with colour 0.
     void setBackdropPicture(ImageRef picture, const CString& name);
     void reloadBackdrop();
     void drawBackdrop();
@@ -42,38 +42,38 @@ public:
     void markDirty(const Box& box);
     backdrop* getBackdrop();
 
-    /// Draws what differs from the screen and shows it.
+    /// Draws what has changed and shows it.
     void present();
-    /// Shows the frame if nothing has done so yet, and begins the next one's list.
+    /// Shows the frame unless that is already done, and begins the list of the next frame.
     void endFrame();
     const Image& getScreen();
-    /// Follows the window's size.
-    void settleSize();
+    /// Adapts to the window's size.
+    void updateSize();
 
     SurfaceStore surfaces;
     struct FontEntry {
         std::unique_ptr<bmpfont> font;
-        std::string request; // what addNewFont was given; empty for one that could not be loaded
+        std::string request; // the arguments of addNewFont; empty for a font that could not be loaded
     };
     std::vector<FontEntry> fonts;
-    std::vector<FontEntry> formerFonts; // taken out of the table; something may still point to them
+    std::vector<FontEntry> formerFonts; // removed from the table, but something may still point to them
     IDirectDraw directDraw;
     IDirectDraw2 directDraw2;
     IDirectDrawClipper clipper;
     IDirectDrawPalette palette;
     IDirectDrawSurface primarySurface;
     IDirectDrawSurface backBuffer;
-    // Where the pointer was put last, by input or by a write.
+    // Last known position of the pointer, set by input or by the game.
     short knownMouseX = 0;
     short knownMouseY = 0;
 
 private:
     struct Frame {
         DisplayList list;
-        std::vector<ImageRef> held;
-        std::uint64_t number = 0;  // of this use of the list, unique in the run
-        std::size_t paintFrom = 0; // behind the last DrawBackdrop: what stands before it is painted over
-        PaintedRange painted;      // as shown
+        std::vector<ImageRef> heldImages;
+        std::uint64_t number = 0;  // identifies this use of the list, unique in a run of the program
+        std::size_t paintFrom = 0; // index after the last DrawBackdrop, which hides all earlier commands
+        PaintedRange painted;      // the commands that were painted
     };
     void beginList();
     void nameBackdropSurface();
@@ -82,7 +82,7 @@ private:
     Frame frames[2];
     Frame* running = &frames[0];
     Frame* last = &frames[1];
-    bool isPresented = false; // the running frame
+    bool isPresented = false; // whether the current frame has been shown
 
     ImageRef screen;
     BackdropLayer layer;

@@ -9,9 +9,9 @@ struct Range {
     std::int64_t first, end;
 };
 
-// The part of a target side, `size` long, that shows pixels of a bitmap side, `side` long, of which it takes
-// `sourceSize` from `start` on: target pixel i shows source pixel start + floor(i * sourceSize / size). Every
-// product fits 63 bits.
+// Returns the part of a blit's target, along one axis, that shows pixels inside the bitmap. The target is
+// `size` long, the bitmap `side`, and the source starts at `start` and is `sourceSize` long: target pixel i
+// shows source pixel start + floor(i * sourceSize / size). All products fit into 63 bits.
 Range shownRange(std::int64_t size, std::int64_t start, std::int64_t sourceSize, std::int64_t side)
 {
     if (size == sourceSize)

@@ -4,9 +4,9 @@
 #include "platform/media/box.h"
 #include "platform/media/text_layout.h"
 
-/// A blit with its sizes sorted out: an unstretched one has the source's size.
+/// The source size of a blit, and whether it is stretched.
 struct BlitSource {
-    std::int32_t w, h; // of the source rectangle; 0 when nothing is to be drawn
+    std::int32_t w, h; // size of the source rectangle; 0 if there is nothing to draw
     bool isStretched;
 };
 inline BlitSource sourceOf(const DrawCommand& blit)
@@ -20,17 +20,17 @@ inline BlitSource sourceOf(const DrawCommand& blit)
     return {blit.sw, blit.sh, blit.sw != blit.w || blit.sh != blit.h};
 }
 
-/// Screen pixels that a Blit, BlitRow, FillRect, Rectangle or Line may paint, inside clip; empty for all
-/// others. For a text, layoutText answers that.
+/// Returns the box of screen pixels inside clip that a Blit, BlitRow, FillRect, Rectangle or Line may paint.
+/// Empty for all other commands; for a text, use layoutText.
 Box paintedBox(const DrawCommand& command, const Box& clip);
 
-/// The text of a TextOut.
+/// Returns the arguments of a TextOut as a TextRun.
 inline tgx::TextRun textRunOf(const DrawCommand& text)
 {
     return {text.font, text.x, text.y, text.scale, text.mode == 1, (text.flags & 1) != 0};
 }
 
-/// Whether the command hides all that lies under its paintedBox.
+/// Returns whether the command hides everything under its paintedBox.
 bool coversAll(const DrawCommand& command);
 
 constexpr bool paints(DrawOp op)

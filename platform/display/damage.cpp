@@ -55,7 +55,8 @@ void Damage::mark(const Box& box)
                                        screenBox));
 }
 
-// Order counts: the same commands in another order give another picture.
+// Adds a command to the hashes of the tiles that it paints. Order matters, because the same commands in
+// another order give another picture.
 void Damage::fold(const DisplayList& list, const DrawCommand& command, std::vector<std::uint64_t>& hashes)
 {
     if (!paints(command.op))
@@ -81,15 +82,15 @@ void Damage::fold(const DisplayList& list, const DrawCommand& command, std::vect
 void Damage::markDifferences(const DisplayList& before, PaintedRange painted, const DisplayList& now,
                              PaintedRange toPaint)
 {
-    const auto old = before.commands();
-    const auto fresh = now.commands();
+    const auto oldCommands = before.commands();
+    const auto newCommands = now.commands();
     while (painted.first < painted.end && toPaint.first < toPaint.end &&
-           old[painted.first].sameAs(fresh[toPaint.first])) {
+           oldCommands[painted.first].sameAs(newCommands[toPaint.first])) {
         painted.first++;
         toPaint.first++;
     }
     while (painted.first < painted.end && toPaint.first < toPaint.end &&
-           old[painted.end - 1].sameAs(fresh[toPaint.end - 1])) {
+           oldCommands[painted.end - 1].sameAs(newCommands[toPaint.end - 1])) {
         painted.end--;
         toPaint.end--;
     }
@@ -99,9 +100,9 @@ void Damage::markDifferences(const DisplayList& before, PaintedRange painted, co
     hashesBefore.assign(tiles.size(), 0);
     hashesNow.assign(tiles.size(), 0);
     for (std::size_t i = painted.first; i < painted.end; i++)
-        fold(before, old[i], hashesBefore);
+        fold(before, oldCommands[i], hashesBefore);
     for (std::size_t i = toPaint.first; i < toPaint.end; i++)
-        fold(now, fresh[i], hashesNow);
+        fold(now, newCommands[i], hashesNow);
     for (int row = 0; row < rows; row++)
         for (int column = 0; column < columns; column++)
             if (const std::size_t i = static_cast<std::size_t>(row) * columns + column;
@@ -126,7 +127,7 @@ void Damage::collectRects(std::vector<tagRECT>& rects) const
             rect.right = last.x1;
             rect.top = last.y0;
             rect.bottom = last.y1;
-            // The same columns as just above: that rectangle grows.
+            // Extends a rectangle with the same columns in the row above.
             bool grown = false;
             for (std::size_t i = previousRow; i < thisRow && !grown; i++) {
                 if (rects[i].left == rect.left && rects[i].right == rect.right &&

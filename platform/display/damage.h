@@ -8,19 +8,19 @@
 
 struct tagRECT;
 
-/// The part of a list that was painted: [first, end).
+/// The painted part of a list, as the half-open range [first, end).
 struct PaintedRange {
     std::size_t first = 0;
     std::size_t end = 0;
 };
 
-/// Which tiles of the screen differ from what is shown. A tile is damaged where the commands that paint it
-/// are not those of the frame before, or where the backdrop under it has changed.
+/// The set of screen tiles that have to be redrawn. A tile is damaged if the commands that paint it differ
+/// from those of the previous frame, or if the backdrop under it has changed.
 class Damage {
 public:
-    static constexpr int tileSize = 64; // 16 KiB of pixels: a tile being drawn stays in the first cache
+    static constexpr int tileSize = 64; // 16 KiB of pixels: a tile fits into the L1 cache while it is drawn
 
-    /// All tiles are damaged then.
+    /// Sets the screen's size and marks all tiles as damaged.
     void resize(int width, int height);
     void clear();
     void markAll();
@@ -31,7 +31,7 @@ public:
 
     bool isEmpty() const { return bounds.isEmpty(); }
     bool at(int column, int row) const { return tiles[static_cast<std::size_t>(row) * columns + column]; }
-    /// Box of screen pixels around all damaged tiles.
+    /// Returns the box of screen pixels around all damaged tiles.
     const Box& box() const { return bounds; }
     const Box& screen() const { return screenBox; }
     int getColumns() const { return columns; }
@@ -41,7 +41,7 @@ public:
         return intersection(
             {column * tileSize, row * tileSize, (column + 1) * tileSize, (row + 1) * tileSize}, screenBox);
     }
-    /// The damaged tiles as few rectangles that do not overlap.
+    /// Collects the damaged tiles as a small number of rectangles that do not overlap.
     void collectRects(std::vector<tagRECT>& rects) const;
 
 private:
@@ -54,5 +54,5 @@ private:
     Box bounds;
     std::vector<std::uint64_t> hashesBefore;
     std::vector<std::uint64_t> hashesNow;
-    std::vector<tgx::PlacedGlyph> placed; // of the text being looked at
+    std::vector<tgx::PlacedGlyph> placed; // glyphs of the current text
 };

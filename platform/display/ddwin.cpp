@@ -40,7 +40,7 @@ void ddwin::drawscreen()
     canvas->present();
 }
 
-void ddwin::restoresurfaces() {} // pixels lie in main memory and are never lost
+void ddwin::restoresurfaces() {} // pixels are in main memory and are never lost
 
 void ddwin::reloadsurfaces()
 {
@@ -87,7 +87,7 @@ void ddwin::followPointer()
 void ddwin::runTick()
 {
     InputQueue& input = displayhost::current().input();
-    followPointer(); // written between the ticks
+    followPointer(); // the game may have written it between the ticks
     displayhost::current().tickBegins(*this, tickEnded);
     if (tickEnded) {
         input.beginTick(*this);
@@ -100,7 +100,7 @@ void ddwin::runTick()
     try {
         OnMouseAction();
     } catch (...) {
-        // The tick that failed is over: its input must not come again and fail for ever.
+        // Ends the failed tick, because its input must not be taken again and fail again.
         tickEnded = true;
         input.endTick(*this);
         throw;

@@ -15,7 +15,7 @@ std::uint32_t pixelForm(unsigned long colour)
     return static_cast<std::uint32_t>(colour & 0xFFFFFF);
 }
 
-std::int16_t held16(int value)
+std::int16_t clampedTo16Bits(int value)
 {
     return static_cast<std::int16_t>(std::clamp<int>(value, INT16_MIN, INT16_MAX));
 }
@@ -28,7 +28,7 @@ void place(DrawCommand& command, int x, int y, int w, int h)
     command.h = h;
 }
 
-/// The font that was loaded on the same request and is in the table no longer, or null.
+/// Removes and returns the former font that was loaded with the same request, or null.
 std::unique_ptr<bmpfont> takeFormer(std::vector<Canvas::FontEntry>& former, const std::string& request)
 {
     const auto found = std::find_if(former.begin(), former.end(),
@@ -79,7 +79,7 @@ void ddwin::drawLine(int x1, int y1, int x2, int y2, int width, std::uint32_t co
 {
     DrawCommand& command = canvas->record(DrawOp::Line);
     place(command, x1, y1, x2, y2);
-    command.mode = held16(width);
+    command.mode = clampedTo16Bits(width);
     command.colour = pixelForm(colour);
 }
 
@@ -93,7 +93,7 @@ void ddwin::textout(int x, int y, const char* text, bmpfont* font, IDirectDrawSu
 {
     DrawCommand& command = canvas->record(DrawOp::TextOut);
     command.flags = raw != 0;
-    command.mode = held16(mode);
+    command.mode = clampedTo16Bits(mode);
     command.subject = font ? static_cast<std::uint32_t>(font->index + 1) : 0;
     command.x = x;
     command.y = y;
@@ -125,7 +125,7 @@ void ddwin::setbackdrop(const char* name, long)
         reportNotLoaded(wanted);
 }
 
-void ddwin::createspecific(const char*, long) {} // pixels are 32 bits wide: there is no palette to make
+void ddwin::createspecific(const char*, long) {} // 32-bit pixels need no palette
 
 surface* ddwin::createsprite(const char* name, int, int, long)
 {
@@ -141,11 +141,11 @@ surface* ddwin::createsprite(const char* name, int, int, long)
 
 surface* ddwin::createBkgndSection(surface* source, int x, int y, int w, int h, surface* old)
 {
-    canvas->settleSize();
+    canvas->updateSize();
     surface* made = old && canvas->surfaces.owns(old) ? old : nullptr;
     const ImageRef image = source ? source->getImage() : nullptr; // kept: old may be the source
     if (made)
-        made->setImage(makeImage(0, 0), CString()); // gives room
+        made->setImage(makeImage(0, 0), CString()); // frees its pixels
     const int width = std::clamp(w, 0, limits::imageSide);
     const int height = std::clamp(h, 0, limits::imageSide);
     const long long pixels = static_cast<long long>(width) * height;
@@ -166,7 +166,7 @@ surface* ddwin::createBkgndSection(surface* source, int x, int y, int w, int h, 
             std::memcpy(section->row(row) + part.x0, image->row(y + row) + (x + part.x0),
                         static_cast<std::size_t>(part.width()) * sizeof(std::uint32_t));
         section->hasAlphaChannel = image->hasAlphaChannel;
-        settleCoverage(*section);
+        determineCoverage(*section);
     }
     if (!made)
         made = canvas->surfaces.make(this);
@@ -191,7 +191,7 @@ int ddwin::getSurfaceCount() const
 
 std::vector<std::string> ddwin::getPictureNames() const
 {
-    const auto& names = canvas->surfaces.getAskedNames();
+    const auto& names = canvas->surfaces.getRequestedNames();
     return {names.begin(), names.end()};
 }
 

@@ -2,11 +2,11 @@
 
 #include "platform/display/pen.h"
 
-/// A pen, the one kind of object that a device context draws with.
+/// A pen, the only kind of object that a device context draws with.
 struct GdiObject {
     int width = 1;            // pixels
     std::uint32_t colour = 0; // red in the low byte
-    int selections = 0;       // contexts that it is in; it is not deleted before the last lets go
+    int selections = 0;       // number of contexts that use it; it is deleted only when that is 0
 };
 
 struct DeviceContext {
@@ -14,7 +14,7 @@ struct DeviceContext {
     ~DeviceContext();
     DeviceContext(const DeviceContext&) = delete;
     DeviceContext& operator=(const DeviceContext&) = delete;
-    /// Puts in a pen; the one before.
+    /// Selects a pen and returns the previous one.
     GdiObject* select(GdiObject* newPen);
 
     ddwin& owner;

@@ -21,7 +21,7 @@ long IDirectDrawSurface::GetDC(HDC* wanted)
     if (!wanted)
         return failure;
     *wanted = nullptr;
-    if (!owner || context) // one context at a time
+    if (!owner || context) // only one context at a time is allowed
         return failure;
     context = new DeviceContext(*owner);
     *wanted = context;

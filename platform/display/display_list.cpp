@@ -8,7 +8,7 @@ std::uint64_t mixed(std::uint64_t value)
     return value ^ (value >> 29);
 }
 
-// Eight bytes a step: texts are hashed each time they are recorded.
+// Hashes eight bytes per step, because texts are hashed each time they are recorded.
 std::uint64_t hashOf(std::string_view text)
 {
     std::uint64_t hash = text.size();

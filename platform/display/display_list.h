@@ -15,12 +15,12 @@ class bmpfont;
 
 enum class DrawOp : std::uint8_t {
     Blit,
-    BlitRow, // equal pieces of a bitmap beside or below each other: a Blit for each, see pieceOf
+    BlitRow, // equal pieces of a bitmap side by side or one below the other; pieceOf returns the Blit of each
     FillRect,
     Rectangle,
     Line,
     TextOut,
-    // What follows paints nothing by itself; it stands in the list for those who read it.
+    // The following operations paint nothing; they are recorded for readers of the list.
     AddDirtyRect,
     SetBackdropName,
     SetBackdropColour,
@@ -29,21 +29,22 @@ enum class DrawOp : std::uint8_t {
     DrawScreen,
 };
 
-/// One drawing operation with its arguments as they were passed. Plain data, one cache line. Two frames are
-/// the same where their commands' compared halves are.
+/// One drawing operation with its original arguments. Plain data, one cache line. Two commands are the same
+/// if their first comparedBytes bytes are.
 struct alignas(64) DrawCommand {
     // Compared:
     DrawOp op = DrawOp::Blit;
-    std::uint8_t flags = 0;    // TextOut: 1 for raw; BlitRow: PieceFlags
-    std::int16_t mode = 0;     // of Blit and TextOut; width of a Line
-    std::uint32_t subject = 0; // id of the image; index of the font + 1, 0 for none
-    std::int32_t x = 0;        // target, of a BlitRow the whole row; left or x1
-    std::int32_t y = 0;        // top or y1
-    std::int32_t w = 0;        // width; right or x2 of FillRect, Rectangle, Line, AddDirtyRect
+    std::uint8_t flags = 0;    // TextOut: 1 if raw; BlitRow: PieceFlags
+    std::int16_t mode = 0;     // Blit, TextOut: mode; Line: width
+    std::uint32_t subject = 0; // image id, or font index + 1; 0 for none
+    std::int32_t x = 0;        // left edge of the target or x1; for a BlitRow, the target is the whole row
+    std::int32_t y = 0;        // top edge or y1
+    std::int32_t w = 0;        // width; for FillRect, Rectangle, Line and AddDirtyRect, right edge or x2
     std::int32_t h = 0;
     union {
         struct {
-            std::int32_t sx, sy, sw, sh; // Blit: source rectangle; BlitRow: sw is a piece's side along it
+            std::int32_t sx, sy, sw,
+                sh; // Blit: source rectangle; BlitRow: sw is the length of a piece along the row
         };
         struct {
             std::uint64_t textHash; // TextOut, SetBackdropName
@@ -51,9 +52,9 @@ struct alignas(64) DrawCommand {
             std::int32_t scale; // raw fixed point
         };
     };
-    std::uint32_t colour = 0; // pixel form; version of the image for Blit and BlitRow
+    std::uint32_t colour = 0; // pixel form; for Blit and BlitRow, the image's version
     // Not compared:
-    std::uint32_t textOffset = 0; // into the list's text bytes
+    std::uint32_t textOffset = 0; // index into the list's text bytes
     union {
         const Image* image;
         const bmpfont* font;
@@ -67,17 +68,17 @@ struct alignas(64) DrawCommand {
 static_assert(sizeof(DrawCommand) == 64);
 
 enum PieceFlags : std::uint8_t {
-    pieceDown = 1,       // the pieces lie below each other, else beside
-    pieceAlternates = 2, // its pieces and those of the next command were drawn in turn
+    pieceDown = 1,       // the pieces are one below the other, otherwise side by side
+    pieceAlternates = 2, // the pieces of this and the next command were drawn alternately
 };
 
-/// How many pieces a BlitRow has.
+/// Returns the number of pieces of a BlitRow.
 inline int pieceCount(const DrawCommand& row)
 {
     const int length = row.flags & pieceDown ? row.h : row.w;
     return length <= 0 || row.sw <= 0 ? 0 : (length - 1) / row.sw + 1;
 }
-/// The Blit that one of them is, 0 the first. The last one is cut to the row's end.
+/// Returns the Blit of one piece; index starts at 0. The last piece is cut off at the row's end.
 inline DrawCommand pieceOf(const DrawCommand& row, int index)
 {
     DrawCommand piece = row;
@@ -95,12 +96,12 @@ inline DrawCommand pieceOf(const DrawCommand& row, int index)
     return piece;
 }
 
-/// The drawing operations of one frame, in call order, flat: commands in one vector, text bytes in another.
-/// Recording allocates nothing once both have grown to a frame's size.
+/// The drawing operations of one frame, in call order. Commands are in one vector and text bytes in another,
+/// so recording allocates nothing once both have grown to a frame's size.
 class TGX_PLATFORM_API DisplayList {
 public:
     std::span<const DrawCommand> commands() const { return recorded; }
-    /// Text of a TextOut, name of a SetBackdropName.
+    /// Returns the text of a TextOut or the name of a SetBackdropName.
     std::string_view text(const DrawCommand& command) const
     {
         return {characters.data() + command.textOffset, command.textLength};
@@ -112,9 +113,9 @@ public:
         command.op = op;
         return command;
     }
-    /// Stores text and enters its place, length and hash into command.
+    /// Stores text, and its offset, length and hash in command.
     void setText(DrawCommand& command, std::string_view text);
-    /// Keeps the storage.
+    /// Removes all commands but keeps the storage.
     void clear()
     {
         recorded.clear();

@@ -6,9 +6,9 @@
 
 namespace {
 
-/// Never destroyed: a ddwin that is a static object still says goodbye to its host. Closing the window gives
-/// back what a host holds of the system.
-std::unique_ptr<displayhost>& hostInUse()
+/// Never destroyed, because a static ddwin still calls its host at exit. Closing the window already releases
+/// the system resources of a host.
+std::unique_ptr<displayhost>& currentHost()
 {
     static auto& host = *new std::unique_ptr<displayhost>;
     return host;
@@ -32,12 +32,12 @@ void displayhost::frameBegins(ddwin&) {}
 
 displayhost& displayhost::current()
 {
-    if (!hostInUse())
-        hostInUse() = makeDefaultHost();
-    return *hostInUse();
+    if (!currentHost())
+        currentHost() = makeDefaultHost();
+    return *currentHost();
 }
 
 std::unique_ptr<displayhost> displayhost::use(std::unique_ptr<displayhost> host)
 {
-    return std::exchange(hostInUse(), std::move(host));
+    return std::exchange(currentHost(), std::move(host));
 }

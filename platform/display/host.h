@@ -17,12 +17,12 @@ struct tagRECT;
 
 enum class CursorShape { Normal, Wait };
 
-/// Milliseconds. Wheel notches, repeats and moves that wait for longer are of no use to anybody; after a
-/// stall that is longer, nor is what came during it.
+/// Age in milliseconds from which pending moves, wheel notches and key repeats are dropped. After a longer
+/// stall, all input that arrived during it is dropped.
 constexpr std::uint32_t staleInputMillis = 250;
 
-/// The one seam to the outside: shows frames, brings input, sets the cursor, shows messages, waits. There is
-/// one host at a time. A program that chooses none gets the SDL window with its first ddwin.
+/// The interface to the system: it shows frames and messages, collects input, sets the cursor and waits.
+/// There is one host at a time. A program that chooses none gets the SDL host with its first ddwin.
 class TGX_PLATFORM_API displayhost {
 public:
     displayhost();
@@ -30,47 +30,48 @@ public:
     displayhost(const displayhost&) = delete;
     displayhost& operator=(const displayhost&) = delete;
 
-    /// The host in use; chosen here if none was.
+    /// Returns the current host. Makes the default host if there is none.
     static displayhost& current();
-    /// Puts a host into use and returns the one before. Null: the next current() chooses anew.
+    /// Makes host the current one and returns the previous one. After null, the next current() makes the
+    /// default host.
     static std::unique_ptr<displayhost> use(std::unique_ptr<displayhost> host);
 
-    /// Opens the platform window for the game's window, at its size. False with a message on stderr when
-    /// there is no display.
+    /// Opens the platform window for the game's window, at its size. Returns false, with a message on stderr,
+    /// if there is no display.
     virtual bool open(ddwin& window) = 0;
     virtual void close(ddwin& window) = 0;
-    /// Shows a frame. changed: the rectangles, in screen pixels, that differ from the frame before; empty
-    /// when none does.
+    /// Shows a frame. changed contains the rectangles, in screen pixels, that differ from the previous frame.
     virtual void show(const Image& screen, std::span<const tagRECT> changed) = 0;
-    /// Brings what has arrived from outside into input().
+    /// Adds pending events of the system to input().
     virtual void pump(ddwin& window) = 0;
     virtual void setCursor(CursorShape shape) = 0;
-    /// Moves the pointer, screen pixels; the next physical movement goes on from there.
+    /// Moves the pointer to a position in screen pixels. The next physical movement continues from there.
     virtual void movePointer(int x, int y) = 0;
     /// Shows a text to the user.
     virtual void showMessage(const CString& text) = 0;
-    /// Shows a text that follows from cause, such as a missing folder, which many texts may follow from. The
-    /// cause is told after the first of them; "" when nothing explains the text.
+    /// Shows a text that follows from cause, such as a missing folder, which may have many consequences. The
+    /// cause is printed after the first of them. An empty cause explains nothing.
     virtual void showFailure(const CString& text, const std::string& cause);
-    /// Returns when the next tick or frame is due; the two counts say how many ticks to run before how many
-    /// frames (0 or 1).
+    /// Waits until the next tick or frame is due. Sets the number of ticks to run, and of frames (0 or 1) to
+    /// run after them.
     virtual void waitForWork(int& ticks, int& frames) = 0;
-    /// Takes over the fullScreen and topMost of a window that is open. The base has no screen to fill.
+    /// Applies fullScreen and topMost of an open window. The base does nothing.
     virtual void followFullScreen(ddwin& window);
-    /// A tick or a frame of window is about to run; takesInput: the tick before has ended, so this one takes
-    /// what stands at the head of input(). For hosts that watch; the base does nothing.
+    /// tickBegins and frameBegins are called before a tick or a frame of window runs, for hosts that observe.
+    /// takesInput: the previous tick has ended, so this one takes the next events of input(). The base does
+    /// nothing.
     virtual void tickBegins(ddwin& window, bool takesInput);
     virtual void frameBegins(ddwin& window);
 
-    /// Whether input that comes while nothing takes it, such as during a change of screens, is dropped. A
-    /// person in front of a window means it for what was shown then; a played run hands everything out, so
-    /// the base says no.
+    /// Returns whether input that arrives while nothing takes it, such as during a change of screens, is
+    /// dropped. A person's input was meant for what was shown at that time, but a played script needs every
+    /// event, so the base returns false.
     virtual bool dropsLostInput() const { return false; }
 
     InputQueue& input() { return queue; }
-    /// Set by WM_CLOSE; the main loop ends then.
+    /// Set by WM_CLOSE; ends the main loop.
     bool closeRequested = false;
-    /// The user has asked for the window to be closed. The main loop passes it on and clears it.
+    /// Set when the user closes the window. The main loop handles and clears it.
     bool userWantsToClose = false;
 
 protected:
@@ -82,12 +83,12 @@ private:
     std::set<std::string> causes; // that have been told
 };
 
-/// Makes the host of a program that chooses none. Defined beside the implementations, which this folder does
-/// not know.
+/// Makes the default host. Defined in platform/host, because this folder does not depend on the
+/// implementations.
 std::unique_ptr<displayhost> makeDefaultHost();
 
 /// Opens the window, calls its startup and runs ticks and frames until running is 0 or the window is closed.
-/// onCloseRequest is called when the user wants to close the window; without it that closes the window. An
-/// invalid argument ends the frame it came from and is reported once. Exit status: 0, or 1 when no window
-/// could be opened.
+/// onCloseRequest is called when the user closes the window; without it, the window is closed at once. A
+/// CInvalidArgException ends the frame that raised it and is reported once. Returns the exit status: 0, or 1
+/// if no window could be opened.
 TGX_PLATFORM_API int runMainLoop(ddwin& window, const std::function<void()>& onCloseRequest = {});

@@ -16,7 +16,7 @@ std::int16_t coordinate(int value)
     return static_cast<std::int16_t>(std::clamp<int>(value, Limits::min(), Limits::max()));
 }
 
-/// The three fields of a button.
+/// References to the three fields of a button in ddwin.
 struct ButtonFields {
     int& down;
     int& up;
@@ -36,7 +36,7 @@ ButtonFields fieldsOf(ddwin& window, MouseButton button)
     return {window.lButtonDown, window.lButtonUp, window.lButtonDblClk};
 }
 
-void clearFieldsOfOneTick(ddwin& window)
+void clearOneTickFields(ddwin& window)
 {
     for (MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
         fieldsOf(window, button).up = 0;
@@ -69,7 +69,7 @@ void movePointer(ddwin& window, const InputQueue::Event& event)
 
 } // namespace
 
-void InputQueue::addNow(Event event)
+void InputQueue::addTimed(Event event)
 {
     event.time = timeGetTime();
     add(event);
@@ -89,56 +89,56 @@ void InputQueue::add(const Event& event)
 
 void InputQueue::move(int x, int y)
 {
-    addNow({.kind = Kind::Move, .x = coordinate(x), .y = coordinate(y)});
+    addTimed({.kind = Kind::Move, .x = coordinate(x), .y = coordinate(y)});
 }
 
 void InputQueue::press(MouseButton button, std::optional<Place> at)
 {
-    addNow(placed({.kind = Kind::Press, .button = button}, at));
+    addTimed(placed({.kind = Kind::Press, .button = button}, at));
 }
 
 void InputQueue::release(MouseButton button, std::optional<Place> at)
 {
-    addNow(placed({.kind = Kind::Release, .button = button}, at));
+    addTimed(placed({.kind = Kind::Release, .button = button}, at));
 }
 
 void InputQueue::doubleClick(MouseButton button, std::optional<Place> at)
 {
-    addNow(placed({.kind = Kind::DoubleClick, .button = button}, at));
+    addTimed(placed({.kind = Kind::DoubleClick, .button = button}, at));
 }
 
 void InputQueue::cancel(MouseButton button)
 {
-    addNow({.kind = Kind::Cancel, .button = button});
+    addTimed({.kind = Kind::Cancel, .button = button});
 }
 
 void InputQueue::wheel(bool up, std::optional<Place> at)
 {
-    addNow(placed({.kind = up ? Kind::WheelUp : Kind::WheelDown}, at));
+    addTimed(placed({.kind = up ? Kind::WheelUp : Kind::WheelDown}, at));
 }
 
 void InputQueue::key(std::uint8_t code, char character, std::uint8_t secondCode, bool repeat)
 {
-    addNow({.kind = Kind::Key,
-            .code = code,
-            .secondCode = secondCode,
-            .character = character,
-            .repeat = repeat});
+    addTimed({.kind = Kind::Key,
+              .code = code,
+              .secondCode = secondCode,
+              .character = character,
+              .repeat = repeat});
 }
 
 void InputQueue::holdInTurn(std::uint8_t code, bool held)
 {
-    addNow({.kind = Kind::Hold, .code = code, .held = held});
+    addTimed({.kind = Kind::Hold, .code = code, .held = held});
 }
 
 void InputQueue::beginTick(ddwin& window)
 {
-    endTick(window); // of a tick that nobody ended
-    clearFieldsOfOneTick(window);
+    endTick(window); // in case the previous tick was not ended
+    clearOneTickFields(window);
     std::size_t count = countForNextTick();
-    const std::bitset<3> goingDown = std::exchange(doubleClicked, {});
+    const std::bitset<3> pressed = std::exchange(doubleClicked, {});
     for (MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
-        if (goingDown.test(static_cast<std::size_t>(button)))
+        if (pressed.test(static_cast<std::size_t>(button)))
             fieldsOf(window, button).down = 1;
     }
     for (; count > 0; --count)
@@ -193,7 +193,7 @@ void InputQueue::apply(ddwin& window, const Event& event)
         doubleClicked.reset(static_cast<std::size_t>(event.button));
         if (event.button == MouseButton::Left) {
             window.pressCancelled = 1;
-            window.mouseDownCount = 0; // a press in the same tick begins again
+            window.mouseDownCount = 0; // a press in the same tick starts counting again
         }
         break;
     case Kind::WheelUp:
@@ -229,7 +229,7 @@ void InputQueue::hold(ddwin& window, std::uint8_t code, bool held)
     if (code == 0)
         return;
     if (code == tickKey)
-        tickKeyWasHeld = held; // its event keeps it down until the tick has ended
+        tickKeyWasHeld = held; // its event keeps it held until the tick ends
     else
         window.keyDown[code] = held;
 }
@@ -284,8 +284,8 @@ void InputQueue::dropStale(std::uint32_t now, std::uint32_t oldest)
         const bool isWheel = event.kind == Kind::WheelUp || event.kind == Kind::WheelDown;
         return isStale(event) && (isWheel || event.repeat);
     });
-    // The last of several moves stays: what stands behind it was aimed from there.
-    auto end = events.begin(); // of those that stay
+    // The last of several stale moves is kept, because the events after it start from that position.
+    auto end = events.begin(); // end of the kept events
     for (const Event& event : events) {
         const bool isFirst = end == events.begin();
         if (isFirst || !isMove(event) || !isMove(*std::prev(end)) || !isStale(*std::prev(end)))

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Virtual key codes that the toolkit gives a role, and those that the hosts know by name.
+/// Virtual key codes used by the toolkit and by the hosts.
 enum VirtualKey : unsigned char {
     VK_BACK = 0x08,
     VK_TAB = 0x09,
@@ -23,5 +23,5 @@ enum VirtualKey : unsigned char {
     VK_F10 = 0x79,
     VK_F11 = 0x7A,
     VK_F12 = 0x7B,
-    VK_PACKET = 0xE7, // a character that no key of its own stands for
+    VK_PACKET = 0xE7, // a character that has no key of its own
 };

@@ -5,12 +5,12 @@
 
 /// Message number of the request to close a window.
 constexpr unsigned WM_CLOSE = 16;
-/// Flag of MessageBoxA: in front of all windows of the system.
+/// Flag of MessageBoxA: the box is in front of all windows of the system.
 constexpr unsigned MB_SYSTEMMODAL = 4096;
 
-/// Hands a message to the window; it is acted on behind the running frame. Only WM_CLOSE has an effect: the
-/// host's loop ends. 1, or 0 for a null window.
+/// Posts a message to the window, which is handled after the current frame. Only WM_CLOSE has an effect: it
+/// ends the main loop. Returns 1, or 0 for a null window.
 TGX_PLATFORM_API int PostMessageA(HWND window, unsigned message, unsigned long wParam, long lParam);
 
-/// Shows a text through the host. The program goes on once the user has seen it.
+/// Shows a text through the host and waits until the user has closed it.
 TGX_PLATFORM_API int MessageBoxA(HWND window, const char* text, const char* caption, unsigned type);

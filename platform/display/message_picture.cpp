@@ -14,12 +14,12 @@ constexpr std::uint32_t plateColour = 0xFF10151C;
 constexpr std::uint32_t edgeColour = 0xFF5A6A7C;
 constexpr std::uint32_t textColour = 0xFFE8EDF2;
 constexpr std::uint32_t hintColour = 0xFF9FB2C6;
-constexpr std::string_view hint = "Press a key or click to go on.";
+constexpr std::string_view hint = "Press a key or click to continue.";
 
-// Pixels.
+// In pixels.
 constexpr int margin = 16; // from the screen's edge to the panel
 constexpr int padding = 12;
-constexpr int widestText = 420;
+constexpr int maxTextWidth = 420;
 
 ImageRef dimmed(const Image& screen)
 {
@@ -37,7 +37,8 @@ void fill(Image& picture, const Box& box, std::uint32_t colour)
         std::fill(picture.row(y) + shown.x0, picture.row(y) + std::max(shown.x1, shown.x0), colour);
 }
 
-/// A character is drawn where its glyph covers half a pixel: the built-in font has no others in between.
+/// Draws a line of text. Treats a pixel as set if its alpha is at least 128, which is enough for the built-in
+/// font, because it has no partly transparent pixels.
 void write(Image& picture, const bmpfont& font, int x, int y, std::string_view line, std::uint32_t colour)
 {
     for (const unsigned char character : line) {
@@ -53,7 +54,7 @@ void write(Image& picture, const bmpfont& font, int x, int y, std::string_view l
     }
 }
 
-/// Cut at line feeds, and at blanks where a line would be wider.
+/// Breaks text at line feeds, and at blanks where a line would be too wide.
 std::vector<std::string> wrapped(const bmpfont& font, std::string_view text, int width)
 {
     std::vector<std::string> lines(1);
@@ -81,11 +82,12 @@ std::vector<std::string> wrapped(const bmpfont& font, std::string_view text, int
 ImageRef messagePicture(const Image& screen, std::string_view text)
 {
     const std::unique_ptr<bmpfont> font = makeBuiltInFont();
-    const int room = std::max(std::min(widestText, screen.width - 2 * (margin + padding)), 1);
+    const int room = std::max(std::min(maxTextWidth, screen.width - 2 * (margin + padding)), 1);
     std::vector<std::string> lines = wrapped(*font, text, room);
     const int lineHeight = std::max<int>(font->lineHeight, 1);
-    const int most = (screen.height - 2 * (margin + padding)) / lineHeight - 2; // a blank line and the hint
-    lines.resize(std::min<std::size_t>(lines.size(), static_cast<std::size_t>(std::max(most, 1))));
+    const int maxLines =
+        (screen.height - 2 * (margin + padding)) / lineHeight - 2; // minus an empty line and the hint
+    lines.resize(std::min<std::size_t>(lines.size(), static_cast<std::size_t>(std::max(maxLines, 1))));
 
     int width = font->stringLength(hint);
     for (const std::string& line : lines)

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-/// A message over a dimmed copy of the screen, for a system that can show no box: a panel in the middle, with
-/// the text in the built-in font, wrapped, and a last line that says how to go on. text in code page 1252;
-/// what does not fit the screen is left out below.
+/// Draws a message over a dimmed copy of the screen, for a system that cannot show a message box: a panel in
+/// the middle, with the wrapped text in the built-in font and a last line that explains how to continue. text
+/// is in code page 1252. Lines that do not fit on the screen are omitted.
 TGX_PLATFORM_API ImageRef messagePicture(const Image& screen, std::string_view text);

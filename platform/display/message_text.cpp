@@ -35,13 +35,13 @@ void printNote(std::string_view note)
 
 std::string boxText(const std::vector<std::string>& messages)
 {
-    constexpr std::size_t listedAtMost = 20;
-    constexpr std::size_t charactersAtMost = 200; // of each
+    constexpr std::size_t maxListed = 20;
+    constexpr std::size_t maxCharacters = 200; // of each message
     std::string text;
-    const std::size_t listed = std::min(messages.size(), listedAtMost);
+    const std::size_t listed = std::min(messages.size(), maxListed);
     for (std::size_t i = 0; i < listed; ++i)
-        text += (i ? "\n" : "") + messages[i].substr(0, charactersAtMost) +
-                (messages[i].size() > charactersAtMost ? "..." : "");
+        text += (i ? "\n" : "") + messages[i].substr(0, maxCharacters) +
+                (messages[i].size() > maxCharacters ? "..." : "");
     if (messages.size() > listed)
         text += "\nand " + std::to_string(messages.size() - listed) + " more";
     return text;

@@ -6,14 +6,15 @@
 #include <string_view>
 #include <vector>
 
-/// One line for a message: line feeds and tabs as \n and \t, other bytes outside 0x20 to 0x7E as \u00NN.
+/// Converts a message to one line: line feeds and tabs become \n and \t, other bytes outside 0x20 to 0x7E
+/// become \u00NN.
 TGX_PLATFORM_API std::string oneLine(std::string_view message);
 
-/// "message: TEXT" to stderr.
+/// Prints "message: TEXT" to stderr.
 void printMessage(std::string_view message);
 /// "note: TEXT" to stderr.
 void printNote(std::string_view note);
 
-/// The text of the one box for the messages of a frame: the first 20, each cut to 200 characters, and how
-/// many there were besides.
+/// Returns the text of the box that shows all messages of a frame: the first 20, each cut to 200 characters,
+/// and the number of the others.
 TGX_PLATFORM_API std::string boxText(const std::vector<std::string>& messages);

@@ -23,7 +23,7 @@ BlockPainter painterFor(const DrawCommand& command)
     }
 }
 
-// start + floor(i * sourceSize / size) for one i after the other, without a division for each.
+// Iterates over start + floor(i * sourceSize / targetSize) for consecutive i without a division in each step.
 class SourceSteps {
 public:
     SourceSteps(std::int64_t start, std::int64_t first, std::int64_t sourceSize, std::int64_t targetSize)
@@ -68,7 +68,7 @@ void paintStretched(Image& screen, const DrawCommand& command, const BlitSource&
         } while (end < clip.y1 && row.at() == wanted);
         std::uint32_t* to = screen.row(y) + clip.x0;
         if (paint == copyPixels) {
-            // The first target row is made in place and is the source of those that repeat it.
+            // Builds the first target row in place and copies it to the rows that repeat it.
             gatherPixels(to, image.row(wanted), buffers.columns.data(), clip.width());
             if (end > y + 1)
                 copyPixels({to + screen.pitch, screen.pitch, to, 0, clip.width(), end - y - 1});
@@ -90,8 +90,9 @@ void paintBlit(Image& screen, const DrawCommand& command, const Box& clip, Stret
         return;
     }
     const Image& image = *command.image;
-    const auto sx = static_cast<int>(
-        command.sx + (std::int64_t(clip.x0) - command.x)); // inside the bitmap, as the clip is
+    const auto sx =
+        static_cast<int>(command.sx + (std::int64_t(clip.x0) -
+                                       command.x)); // inside the bitmap, because clip is inside paintedBox
     const auto sy = static_cast<int>(command.sy + (std::int64_t(clip.y0) - command.y));
     painterFor(command)({screen.row(clip.y0) + clip.x0, screen.pitch, image.row(sy) + sx, image.pitch,
                          clip.width(), clip.height()});

@@ -3,12 +3,12 @@
 
 namespace {
 
-// Ends may be any 32-bit coordinates, and areas of them need more than 64 bits. A line near the screen, which
-// nearly every one is, is drawn in 64 bits by the same code.
+// The ends may have any 32-bit coordinates, and their products need more than 64 bits. The same code draws
+// lines near the screen, which is nearly all of them, with 64 bits.
 __extension__ using Wide = __int128;
 using Narrow = std::int64_t;
-constexpr int nearby = 1 << 15;    // coordinates up to this, and
-constexpr int widestNearby = 1024; // widths up to this keep every product below 2 to the 55th
+constexpr int nearbyCoordinate = 1 << 15; // coordinates up to this and
+constexpr int nearbyWidth = 1024;         // widths up to this keep all products below 2^55
 
 template<class Int>
 Int squareRoot(Int value)
@@ -25,14 +25,14 @@ Int squareRoot(Int value)
 
 template<class Int>
 struct Line {
-    Int x, y;   // one end, the upper one
-    Int dx, dy; // to the other; dy is not below 0
+    Int x, y;   // the upper end
+    Int dx, dy; // vector to the other end; dy is not negative
     int width;
 };
 
 template<class Int>
 struct Interval {
-    Int first, last; // both count
+    Int first, last; // both inclusive
 
     bool isEmpty() const { return first > last; }
     void cut(Int from, Int to)
@@ -42,7 +42,8 @@ struct Interval {
     }
 };
 
-// One pixel for each step along the longer axis, the nearest one. across is where it lies on the other axis.
+// Plots the nearest pixel for each step along the longer axis. across is the starting position on the other
+// axis.
 template<class Int, class Plot>
 void stepThin(Int along, Int length, Int across, Int rise, int first, int end, Plot plot)
 {
@@ -78,7 +79,7 @@ void paintThin(Image& screen, const Line<Int>& line, std::uint32_t pixel, const 
         });
         return;
     }
-    // From left to right, wherever the line begins.
+    // Always from left to right.
     const bool leftward = line.dx < 0;
     stepThin<Int>(leftward ? line.x + line.dx : line.x, width, leftward ? line.y + line.dy : line.y,
                   leftward ? -line.dy : line.dy, clip.x0, clip.x1, [&](int x, Int y) {
@@ -87,11 +88,11 @@ void paintThin(Image& screen, const Line<Int>& line, std::uint32_t pixel, const 
                   });
 }
 
-// x, from the line's start, with low <= factor * x + offset <= high.
+// Returns all x, relative to the line's start, with low <= factor * x + offset <= high.
 template<class Int>
 Interval<Int> solve(Int factor, Int offset, Int low, Int high)
 {
-    constexpr Int everything = Int(1) << (sizeof(Int) * 8 - 28); // past any coordinate
+    constexpr Int everything = Int(1) << (sizeof(Int) * 8 - 28); // beyond any coordinate
     if (factor == 0)
         return low <= offset && offset <= high ? Interval<Int>{-everything, everything} : Interval<Int>{1, 0};
     if (factor < 0)
@@ -99,16 +100,16 @@ Interval<Int> solve(Int factor, Int offset, Int low, Int high)
     return {ceilDiv(low - offset, factor), floorDiv(high - offset, factor)};
 }
 
-// A band around the line, as wide at every angle, and a round cap at each end.
+// Paints a band around the line, equally wide at every angle, with a round cap at each end.
 template<class Int>
 void paintThick(Image& screen, const Line<Int>& line, std::uint32_t pixel, const Box& clip)
 {
-    // A point has no direction; it becomes an upright bar of the width.
+    // A point has no direction and becomes a vertical bar as long as the width.
     const Int dx = line.dx == 0 && line.dy == 0 ? 1 : line.dx;
     const Int lengthSquared = dx * dx + line.dy * line.dy;
     const Int reach = lengthSquared == 1 ? 0 : lengthSquared; // along the line
     const Int halfWidth = squareRoot(lengthSquared * line.width * line.width) / 2;
-    // An even width has no middle pixel: the band takes one edge and leaves the other.
+    // An even width has no middle pixel, so the band includes one edge and excludes the other.
     const Int farSide = line.width % 2 == 0 ? halfWidth - 1 : halfWidth;
     const Int capSquared = Int(line.width - 1) * (line.width - 1);
 
@@ -141,7 +142,7 @@ void paint(Image& screen, const DrawCommand& command, const Box& clip)
 {
     Line<Int> line{command.x, command.y, Int(command.w) - command.x, Int(command.h) - command.y,
                    command.mode};
-    // Both directions give the same pixels.
+    // Normalised, so that both directions give the same pixels.
     if (line.dy < 0 || (line.dy == 0 && line.dx < 0))
         line = {command.w, command.h, -line.dx, -line.dy, command.mode};
     const std::uint32_t pixel = 0xFF000000 | command.colour;
@@ -156,10 +157,10 @@ void paint(Image& screen, const DrawCommand& command, const Box& clip)
 void paintLine(Image& screen, const DrawCommand& command, const Box& clip)
 {
     const auto isNearby = [](std::int32_t coordinate) {
-        return coordinate >= -nearby && coordinate <= nearby;
+        return coordinate >= -nearbyCoordinate && coordinate <= nearbyCoordinate;
     };
     if (isNearby(command.x) && isNearby(command.y) && isNearby(command.w) && isNearby(command.h) &&
-        command.mode <= widestNearby)
+        command.mode <= nearbyWidth)
         paint<Narrow>(screen, command, clip);
     else
         paint<Wide>(screen, command, clip);

@@ -44,8 +44,8 @@ void paintText(Image& screen, const DrawCommand& command, std::span<const Placed
         const std::uint32_t* from =
             glyph.pixels.data() + static_cast<std::ptrdiff_t>(box.y0 - whole.y0) * glyph.stride;
         std::uint32_t* to = screen.row(box.y0) + box.x0;
-        // A whole row of the glyph, rest included: past its width it leaves the target as it is, and a screen
-        // row is padded.
+        // Blends whole rows of the glyph including the padding, which is transparent. Screen rows are padded
+        // too, so this stays in bounds.
         if (box.width() == glyph.width)
             layPixels({to, screen.pitch, from, glyph.stride, glyph.stride, box.height()});
         else

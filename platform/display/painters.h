@@ -8,19 +8,19 @@
 #include <span>
 #include <vector>
 
-/// Storage that stretched blits use again and again.
+/// Storage reused by all stretched blits.
 struct StretchBuffers {
     std::vector<std::int32_t> columns;
     std::vector<std::uint32_t> row;
 };
 
-// Each paints the part of a command that lies in clip. clip lies in the command's paintedBox and on the
+// Each function paints the part of a command inside clip, which is inside the command's paintedBox and the
 // screen.
 
 void paintBlit(Image& screen, const DrawCommand& command, const Box& clip, StretchBuffers& buffers);
 void paintFill(Image& screen, const DrawCommand& command, const Box& clip);
 void paintOutline(Image& screen, const DrawCommand& command, const Box& clip);
 void paintLine(Image& screen, const DrawCommand& command, const Box& clip);
-/// glyphs is what layoutText has placed for the command.
+/// Paints a text. glyphs is the result of layoutText for the command.
 void paintText(Image& screen, const DrawCommand& command, std::span<const tgx::PlacedGlyph> glyphs,
                const Box& clip);

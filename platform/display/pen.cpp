@@ -8,10 +8,10 @@
 
 namespace {
 
-// The widest line: a display list keeps the width in 16 bits.
-constexpr int widestPen = 32767;
+// Limited because a display list stores the width in 16 bits.
+constexpr int maxPenWidth = 32767;
 
-// In a context before any other; black, one pixel.
+// Returns the initial pen of every context, which is black and one pixel wide.
 GdiObject& stockPen()
 {
     static GdiObject pen;
@@ -39,7 +39,7 @@ GdiObject* DeviceContext::select(GdiObject* newPen)
 
 HPEN CreatePen(int, int width, std::uint32_t colour)
 {
-    return new GdiObject{std::clamp(width, 1, widestPen), colour & 0xFFFFFF};
+    return new GdiObject{std::clamp(width, 1, maxPenWidth), colour & 0xFFFFFF};
 }
 
 HGDIOBJ SelectObject(HDC context, HGDIOBJ object)

@@ -7,10 +7,10 @@ namespace {
 
 constexpr int tileSize = Damage::tileSize;
 
-// Tiles of a run at most: its pixels stay in the second cache while its commands go over them.
+// Maximum number of tiles in a run, so that its pixels fit into the L2 cache while its commands are drawn.
 constexpr int tilesPerRun = 16;
 
-/// Those pieces of a row that lie in clip.
+/// Paints the pieces of a row that are inside clip.
 void paintRow(Image& screen, const DrawCommand& row, const Box& clip, StretchBuffers& buffers)
 {
     const bool isDown = (row.flags & pieceDown) != 0;
@@ -63,7 +63,7 @@ void Rasteriser::findStarts(const Damage& damage)
     starts.assign(static_cast<std::size_t>(columns) * damage.getRows(), -1);
     for (std::size_t i = 0; i < items.size(); i++) {
         const Box& box = items[i].box;
-        // A tile at the screen's or the damage's edge is whole with what shows of it.
+        // A tile at the edge of the damaged area counts as covered if its part inside that area is.
         const int firstColumn = (box.x0 + tileSize - 1) / tileSize;
         const int firstRow = (box.y0 + tileSize - 1) / tileSize;
         const int endColumn = box.x1 == area.x1 ? (box.x1 + tileSize - 1) / tileSize : box.x1 / tileSize;
@@ -82,7 +82,7 @@ void Rasteriser::formRuns(const Damage& damage)
     runs.clear();
     runOf.assign(starts.size(), -1);
     for (int row = 0; row < damage.getRows(); row++) {
-        int length = 0; // tiles of the run that the tile to the left belongs to
+        int length = 0; // number of tiles in the run of the tile to the left
         for (int column = 0; column < columns; column++) {
             const std::size_t tile = static_cast<std::size_t>(row) * columns + column;
             if (!damage.at(column, row)) {

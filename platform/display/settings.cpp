@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 using Settings = std::map<std::string, unsigned long, std::less<>>;
 
 constexpr std::size_t fileBytes =
-    1 << 20; // far more than a game's settings take; what lies behind is not read
+    1 << 20; // far more than a game's settings need; the rest of a larger file is ignored
 
 std::string company;
 std::string program;
@@ -30,7 +30,8 @@ bool isKept(char c)
            c == '-' || c == '_' || c == '.';
 }
 
-/// A name as a folder: neither hidden nor a way up, since no dot and no blank stands at either end.
+/// Converts a name to a folder name. It has no dots or blanks at either end, so it is neither hidden nor
+/// "..".
 std::string folderName(const std::string& name)
 {
     std::string result;
@@ -64,7 +65,7 @@ bool isSettingName(std::string_view name)
     return !name.empty() && name.find_first_of("=\r\n") == name.npos;
 }
 
-/// Reads one line, Name=value. Nothing for a line of any other form.
+/// Reads a line of the form Name=value into settings. Ignores any other line.
 void readLine(std::string_view line, Settings& settings)
 {
     if (!line.empty() && line.back() == '\r')

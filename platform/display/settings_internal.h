@@ -2,5 +2,6 @@
 
 #include <string>
 
-/// The program's name as setSettingsOwner got it; hosts title their window with it. Empty before that call.
+/// Returns the program's name as passed to setSettingsOwner, which hosts use as the window title. Empty
+/// before that call.
 const std::string& settingsProgramName();

@@ -7,7 +7,7 @@
 
 namespace {
 
-std::int16_t heldMode(int mode)
+std::int16_t clampedTo16Bits(int mode)
 {
     return static_cast<std::int16_t>(std::clamp<int>(mode, INT16_MIN, INT16_MAX));
 }
@@ -53,7 +53,7 @@ const ImageRef& surface::getImage()
 
 void surface::loadDropped()
 {
-    isDropped = false; // one that fails is reported once
+    isDropped = false; // a failure is reported only once
     const CString file = name;
     if (ImageRef again = owner->canvas->surfaces.load(file.view()))
         takeFile(std::move(again), file);
@@ -65,10 +65,10 @@ int surface::reload()
 {
     if (name.IsEmpty())
         return 0;
-    ImageRef fresh = owner ? owner->canvas->surfaces.loadAnew(name.view()) : loadImageFile(name.view());
-    if (!fresh)
+    ImageRef reloaded = owner ? owner->canvas->surfaces.reload(name.view()) : loadImageFile(name.view());
+    if (!reloaded)
         return 0;
-    takeFile(std::move(fresh), CString(name));
+    takeFile(std::move(reloaded), CString(name));
     return 1;
 }
 
@@ -91,7 +91,7 @@ void surface::takeFile(ImageRef pixels, const CString& file)
     isOfFile = true;
 }
 
-/// A command of this bitmap's pixels, as they are now. Only with an owner.
+/// Records a command that draws the current pixels of this bitmap. Requires an owner.
 inline DrawCommand& surface::record(DrawOp op)
 {
     fetchDropped();
@@ -112,7 +112,7 @@ void surface::blit(int x, int y, int srcX, int srcY, int w, int h, int srcW, int
     if (!owner)
         return;
     DrawCommand& command = record(DrawOp::Blit);
-    command.mode = heldMode(mode);
+    command.mode = clampedTo16Bits(mode);
     command.x = x;
     command.y = y;
     command.w = w;
@@ -153,7 +153,7 @@ void surface::setPixel(int x, int y, unsigned long colour)
     fetchDropped();
     if (!image || x < 0 || y < 0 || x >= image->width || y >= image->height)
         return;
-    // Another surface shares the pixels, or a list that can still be read does.
+    // The pixels are shared with another surface or with a display list that can still be read.
     if (image.use_count() != 1)
         image = copyImage(*image);
     const auto rgb = static_cast<std::uint32_t>(colour & 0xFFFFFF);
@@ -178,10 +178,10 @@ void SurfaceRef::attach(surface* to)
 
 void SurfaceRef::detach()
 {
-    surface* const held = target;
+    surface* const former = target;
     unlink();
-    if (held && !held->refs && held->owner)
-        held->owner->letGo(held);
+    if (former && !former->refs && former->owner)
+        former->owner->letGo(former);
 }
 
 void SurfaceRef::unlink()

@@ -4,8 +4,8 @@
 
 class surface;
 
-/// A pointer to a surface that owns nothing and empties itself when the surface is released. The refs to one
-/// surface are linked through themselves.
+/// A pointer to a surface that owns nothing and becomes null when the surface is released. The refs to a
+/// surface form an intrusive list.
 class TGX_PLATFORM_API SurfaceRef {
 public:
     SurfaceRef() = default;
@@ -34,5 +34,5 @@ private:
 
     surface* target = nullptr;
     SurfaceRef* next = nullptr;
-    SurfaceRef** link = nullptr; // what points at this ref
+    SurfaceRef** link = nullptr; // the pointer that points to this ref
 };

@@ -16,14 +16,14 @@ SurfaceStore::~SurfaceStore()
 ImageRef SurfaceStore::load(std::string_view name)
 {
     if (const auto found = images.find(name); found != images.end()) {
-        // One that setPixel has written to is no longer what the file holds.
+        // After setPixel, an image no longer matches the file.
         if (ImageRef image = found->second.lock(); image && image->version == 0)
             return image;
     }
     return decode(name);
 }
 
-ImageRef SurfaceStore::loadAnew(std::string_view name)
+ImageRef SurfaceStore::reload(std::string_view name)
 {
     if (isReloadingAll)
         return load(name);
@@ -33,10 +33,10 @@ ImageRef SurfaceStore::loadAnew(std::string_view name)
 
 ImageRef SurfaceStore::decode(std::string_view name)
 {
-    constexpr std::size_t failuresAtMost = 4096;
-    constexpr std::size_t askedAtMost = 16'384; // names from a script choose them
-    if (asked.size() < askedAtMost)
-        asked.emplace(name);
+    constexpr std::size_t maxFailures = 4096;
+    constexpr std::size_t maxRequested = 16'384; // limited, because scripts choose the names
+    if (requested.size() < maxRequested)
+        requested.emplace(name);
     const std::optional<std::string> path = findDataFile(name);
     struct stat status;
     if (!path || ::stat(path->c_str(), &status) != 0)
@@ -53,7 +53,7 @@ ImageRef SurfaceStore::decode(std::string_view name)
             return nullptr;
     }
     ImageRef image = loadImageFile(name, &file.room);
-    if (!image && file.room > 0 && !(fresh.empty() && unused.empty())) {
+    if (!image && file.room > 0 && !(loadedThisFrame.empty() && unused.empty())) {
         makeRoom();
         image = loadImageFile(name, &file.room);
     }
@@ -61,7 +61,7 @@ ImageRef SurfaceStore::decode(std::string_view name)
         remember(name, image);
         return image;
     }
-    if (failures.size() >= failuresAtMost)
+    if (failures.size() >= maxFailures)
         failures.clear();
     failures.insert_or_assign(*path, file);
     return nullptr;
@@ -70,7 +70,7 @@ ImageRef SurfaceStore::decode(std::string_view name)
 void SurfaceStore::remember(std::string_view name, const ImageRef& image)
 {
     image->name = name;
-    fresh.push_back(image);
+    loadedThisFrame.push_back(image);
     if (images.size() >= pruneAt) {
         std::erase_if(images, [](const auto& entry) { return entry.second.expired(); });
         pruneAt = std::max<std::size_t>(64, images.size() * 2);
@@ -82,7 +82,7 @@ void SurfaceStore::reloadAll()
 {
     images.clear();
     failures.clear();
-    fresh.clear();
+    loadedThisFrame.clear();
     isReloadingAll = true;
     for (surface* owned : surfaces)
         if (*owned->filename && !owned->isDropped)
@@ -98,9 +98,9 @@ void SurfaceStore::letGo(surface* wanted)
 
 void SurfaceStore::makeRoom()
 {
-    fresh.clear();
+    loadedThisFrame.clear();
     for (surface* each : unused) {
-        // Shown again meanwhile, or written to, so that the file holds something else.
+        // Skips surfaces that are shown again, and modified ones, whose pixels the file does not have.
         if (each->refs || !each->image || !each->isOfFile || each->image->version != 0)
             continue;
         each->image.reset();

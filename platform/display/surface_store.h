@@ -11,7 +11,8 @@
 #include <unordered_set>
 #include <vector>
 
-/// The surfaces of a window, and the pixels of the files that they hold: surfaces of one name share them.
+/// Owns the surfaces of a window and finds the pixels for their files. Surfaces with the same file name share
+/// pixels.
 class SurfaceStore {
 public:
     SurfaceStore() = default;
@@ -19,26 +20,26 @@ public:
     SurfaceStore(const SurfaceStore&) = delete;
     SurfaceStore& operator=(const SurfaceStore&) = delete;
 
-    /// Pixels of a file, as they are in the file. Decoded once while any surface holds them, and within a
-    /// frame. Null when it cannot be loaded; a file that failed is not decoded again until it changes or is
-    /// loaded anew.
+    /// Returns the unmodified pixels of a file. They are decoded only once while any surface uses them, and
+    /// only once in a frame. Returns null if the file cannot be loaded. A file that failed is not decoded
+    /// again until it changes or is reloaded.
     ImageRef load(std::string_view name);
-    /// The same, decoded anew, once for each name while reloadAll runs.
-    ImageRef loadAnew(std::string_view name);
+    /// Like load, but always decodes the file, except that reloadAll decodes each name only once.
+    ImageRef reload(std::string_view name);
     void reloadAll();
-    /// The names that were looked for on the disk, found or not.
-    const std::set<std::string, std::less<>>& getAskedNames() const { return asked; }
-    /// What no one shows any more may drop its pixels, if a file holds them.
+    /// Returns all names that were looked up on the disk, whether found or not.
+    const std::set<std::string, std::less<>>& getRequestedNames() const { return requested; }
+    /// Marks a surface as no longer shown, so that its pixels may be dropped if it was loaded from a file.
     void letGo(surface* wanted);
-    /// Drops the pixels of files that no one shows: those that were loaded within the frame only, and those
-    /// of surfaces that were let go of.
+    /// Drops the pixels of files that are not shown: those that were only loaded in this frame, and those of
+    /// surfaces passed to letGo.
     void makeRoom();
     void endFrame() { makeRoom(); }
 
-    /// A new surface, owned here.
+    /// Makes a surface, owned by the store.
     surface* make(ddwin* window);
     bool owns(const surface* wanted) const { return surfaces.count(const_cast<surface*>(wanted)) > 0; }
-    /// False for one that is not owned here.
+    /// Deletes a surface. Returns false if the store does not own it.
     bool release(surface* released);
     int count() const { return static_cast<int>(surfaces.size()); }
 
@@ -47,12 +48,12 @@ private:
         using is_transparent = void;
         std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
     };
-    /// A file as it was when it failed.
+    /// The state of a file when it failed to load.
     struct Failure {
         std::int64_t size = 0;
         std::int64_t modified[2] = {}; // seconds and nanoseconds
         std::int64_t changed[2] = {};
-        long long room = 0; // pixels that it needs; 0 for a broken file
+        long long room = 0; // number of pixels that it needs; 0 for a broken file
 
         bool isOf(const Failure& file) const
         {
@@ -64,11 +65,11 @@ private:
     void remember(std::string_view name, const ImageRef& image);
 
     std::unordered_set<surface*> surfaces;
-    std::unordered_set<surface*> unused; // let go of since the frame began
+    std::unordered_set<surface*> unused; // passed to letGo since the frame began
     std::unordered_map<std::string, std::weak_ptr<Image>, TextHash, std::equal_to<>> images;
-    std::unordered_map<std::string, Failure> failures; // by path
-    std::set<std::string, std::less<>> asked;
-    std::vector<ImageRef> fresh; // loaded since the frame began: pictures named in turn are decoded once
-    std::size_t pruneAt = 64;    // entries at which those whose image is gone are looked for
+    std::unordered_map<std::string, Failure> failures; // key: path
+    std::set<std::string, std::less<>> requested;
+    std::vector<ImageRef> loadedThisFrame; // kept until the frame ends, so that none is decoded twice
+    std::size_t pruneAt = 64;              // number of entries at which expired ones are removed
     bool isReloadingAll = false;
 };

@@ -4,8 +4,8 @@
 
 #include <vector>
 
-/// A growable array with every index checked: one outside raises CInvalidArgException and changes nothing.
-/// ARG is the type by which elements are handed in.
+/// A growable array that checks every index: an index outside the array raises CInvalidArgException and
+/// changes nothing. ARG is the type of the parameters that take an element.
 template<class T, class ARG = const T&>
 class CArray {
 public:
@@ -13,7 +13,7 @@ public:
     int GetCount() const { return GetSize(); }
     int GetUpperBound() const { return GetSize() - 1; }
     bool IsEmpty() const { return items.empty(); }
-    /// New elements are value-initialised. A negative size raises the exception.
+    /// Resizes the array. New elements are value-initialised. A negative size raises CInvalidArgException.
     void SetSize(int size)
     {
         if (size < 0)
@@ -29,7 +29,7 @@ public:
     T* GetData() { return items.data(); }
     const T* GetData() const { return items.data(); }
 
-    /// Index of the new element. Large arrays grow by a quarter.
+    /// Appends value and returns its index. Large arrays grow by a quarter.
     int Add(ARG value)
     {
         if (items.size() == items.capacity() && items.size() >= 64)
@@ -37,7 +37,7 @@ public:
         items.push_back(value);
         return GetUpperBound();
     }
-    /// Inserts in front of index, which may be the size.
+    /// Inserts value before index, which may equal the size.
     void InsertAt(int index, ARG value)
     {
         items.insert(items.begin() + checked(index, GetSize() + 1), value);
@@ -48,7 +48,7 @@ public:
             AfxThrowInvalidArgException();
         items.erase(items.begin() + index, items.begin() + index + count);
     }
-    /// Empties the array and gives its storage back.
+    /// Empties the array and frees its storage.
     void RemoveAll() { std::vector<T>().swap(items); }
 
     auto begin() const { return items.begin(); }

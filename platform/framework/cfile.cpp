@@ -19,12 +19,12 @@ std::string_view tgx::withoutDirectory(std::string_view name)
 
 namespace {
 
-/// Reads until the end rather than to the size that the file claims: what counts is what is there.
+/// Reads to the end of the file, because the claimed size may be wrong.
 std::optional<std::string> readUpToLimit(int descriptor, std::size_t claimed, bool& tooLarge)
 {
     std::string bytes;
     std::size_t filled = 0;
-    bytes.resize(claimed + 1); // one more, so that the read that finds the end needs no growth
+    bytes.resize(claimed + 1); // one more byte, so that detecting the end needs no reallocation
     for (;;) {
         if (filled == bytes.size())
             bytes.resize(std::min(bytes.size() * 2, limits::fileBytes + 1));
@@ -47,8 +47,8 @@ std::optional<std::string> readUpToLimit(int descriptor, std::size_t claimed, bo
 
 std::optional<std::string> readRegularFile(const std::string& path, bool& tooLarge)
 {
-    // Not blocking, so that a pipe put in the file's place cannot hold the game up before it is seen to be
-    // one. The last component is no link: a path that the data directory gives out has its links resolved.
+    // O_NONBLOCK, so that opening a pipe cannot block before fstat detects it. O_NOFOLLOW works because
+    // findDataFile has already resolved links.
     const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK | O_NOFOLLOW);
     if (descriptor < 0)
         return std::nullopt;
@@ -89,7 +89,7 @@ unsigned CFile::Seek(long offset, unsigned from)
 {
     const long length = static_cast<long>(contents.size());
     const long start = from == end ? length : from == current ? static_cast<long>(position) : 0;
-    // Held before the sum is made, which could overflow.
+    // Clamped before adding, because the sum could overflow.
     position = static_cast<std::size_t>(start + std::clamp(offset, -start, length - start));
     return GetPosition();
 }

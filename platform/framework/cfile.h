@@ -14,9 +14,9 @@ TGX_PLATFORM_API std::string_view withoutDirectory(std::string_view name);
 
 } // namespace tgx
 
-/// A file open for reading. Opening reads the whole file, so that Seek costs nothing and a file that changes
-/// while it is read does no harm. Names are those of the data directory (platform/framework/datadir.h):
-/// backslashes, any case.
+/// A file open for reading. Open reads the whole file, so Seek costs nothing and later changes to the file do
+/// no harm. Names are relative to the data directory (platform/framework/datadir.h), with backslashes and in
+/// any case.
 class TGX_PLATFORM_API CFile {
 public:
     enum OpenFlags { modeRead = 0 };
@@ -27,32 +27,31 @@ public:
     CFile(const CFile&) = delete;
     CFile& operator=(const CFile&) = delete;
 
-    /// 1 when the file is open, 0 when there is none of that name, it is no regular file, or it is larger
-    /// than limits::fileBytes. exception is there for the vocabulary and is not used.
+    /// Reads the file. Returns 1, or 0 if it does not exist, is not a regular file, or is larger than
+    /// limits::fileBytes. exception is ignored.
     int Open(const char* name, unsigned flags = modeRead, void* exception = nullptr);
-    /// The last Open found the file, but it is larger than limits::fileBytes: not missing, and worth a
-    /// report.
+    /// Returns whether the last Open failed because the file is larger than limits::fileBytes.
     bool wasTooLarge() const { return tooLarge; }
-    /// Moves the position; it is held between 0 and the length. The new position.
+    /// Moves the position, limited to 0 and the length, and returns it.
     unsigned Seek(long offset, unsigned from = begin);
-    /// Copies up to count bytes. The number of bytes copied, 0 at the end.
+    /// Copies up to count bytes and returns the number of bytes copied, 0 at the end.
     unsigned Read(void* buffer, unsigned count);
     unsigned GetPosition() const { return static_cast<unsigned>(position); }
     unsigned GetLength() const { return static_cast<unsigned>(contents.size()); }
-    /// Lets go of the bytes; further reads deliver nothing.
+    /// Releases the bytes. Further reads return 0.
     virtual void Close();
-    /// The name without its directory, as it was given to Open; empty for a memory file.
+    /// Returns the name given to Open, without its directory. Empty for a CMemFile.
     const CString& GetFileName() const { return fileName; }
 
-    /// The name with its directory, as it was given to Open; empty for a memory file.
+    /// Returns the name given to Open, with its directories. Empty for a CMemFile.
     const CString& GetFilePath() const { return filePath; }
 
-    /// All bytes, in place. Valid while the file is open and, for a file that Open read, while keepAlive() is
-    /// held.
+    /// Returns all bytes, without copying. Valid while the file is open; for a file read by Open, also while
+    /// the result of keepAlive() exists.
     std::string_view bytes() const { return contents; }
-    /// Shares the ownership of bytes(); null for attached memory.
+    /// Returns a pointer that shares ownership of bytes(). Null for attached memory.
     std::shared_ptr<const void> keepAlive() const { return storage; }
-    /// Makes this file read bytes that another one has read.
+    /// Opens this file on bytes that another file has read.
     void share(const char* name, std::shared_ptr<const std::string> bytes);
 
 protected:
@@ -66,11 +65,12 @@ private:
     bool tooLarge = false;
 };
 
-/// A file that reads a block of memory which it does not own.
+/// A file that reads a block of memory that it does not own.
 class TGX_PLATFORM_API CMemFile : public CFile {
 public:
-    /// growBytes is there for the vocabulary: nothing writes to the file.
+    /// growBytes is ignored: nothing writes to the file.
     explicit CMemFile(unsigned growBytes = 1024) { (void)growBytes; }
-    /// Not owned: memory must outlive the file or its Close.
+    /// Opens the file on count bytes of memory. Not owned: memory must stay valid until Close or the
+    /// destructor.
     void Attach(const unsigned char* memory, unsigned count, unsigned growBytes = 0);
 };

@@ -8,16 +8,16 @@
 
 namespace {
 
-char lowered(char c)
+char lowercased(char c)
 {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
 }
-char raised(char c)
+char uppercased(char c)
 {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c;
 }
 
-std::size_t held(int count, std::size_t length)
+std::size_t clamped(int count, std::size_t length)
 {
     return count < 0 ? 0 : std::min(static_cast<std::size_t>(count), length);
 }
@@ -47,8 +47,8 @@ int CString::compareNoCase(std::string_view a, std::string_view b)
 {
     const std::size_t shared = std::min(a.size(), b.size());
     for (std::size_t i = 0; i < shared; ++i) {
-        const auto left = static_cast<unsigned char>(lowered(a[i]));
-        const auto right = static_cast<unsigned char>(lowered(b[i]));
+        const auto left = static_cast<unsigned char>(lowercased(a[i]));
+        const auto right = static_cast<unsigned char>(lowercased(b[i]));
         if (left != right)
             return left < right ? -1 : 1;
     }
@@ -62,33 +62,33 @@ bool CString::equalNoCase(std::string_view a, std::string_view b)
 
 CString CString::Left(int count) const
 {
-    return view().substr(0, held(count, characters.size()));
+    return view().substr(0, clamped(count, characters.size()));
 }
 
 CString CString::Right(int count) const
 {
-    return view().substr(characters.size() - held(count, characters.size()));
+    return view().substr(characters.size() - clamped(count, characters.size()));
 }
 
 CString CString::Mid(int first) const
 {
-    return view().substr(held(first, characters.size()));
+    return view().substr(clamped(first, characters.size()));
 }
 
 CString CString::Mid(int first, int count) const
 {
-    const std::size_t start = held(first, characters.size());
-    return view().substr(start, held(count, characters.size() - start));
+    const std::size_t start = clamped(first, characters.size());
+    return view().substr(start, clamped(count, characters.size() - start));
 }
 
 int CString::Find(char what, int start) const
 {
-    return indexOrNone(characters.find(what, held(start, characters.size())));
+    return indexOrNone(characters.find(what, clamped(start, characters.size())));
 }
 
 int CString::Find(const char* what, int start) const
 {
-    return what ? indexOrNone(characters.find(what, held(start, characters.size()))) : -1;
+    return what ? indexOrNone(characters.find(what, clamped(start, characters.size()))) : -1;
 }
 
 int CString::ReverseFind(char what) const
@@ -98,13 +98,13 @@ int CString::ReverseFind(char what) const
 
 CString& CString::MakeLower()
 {
-    std::transform(characters.begin(), characters.end(), characters.begin(), lowered);
+    std::transform(characters.begin(), characters.end(), characters.begin(), lowercased);
     return *this;
 }
 
 CString& CString::MakeUpper()
 {
-    std::transform(characters.begin(), characters.end(), characters.begin(), raised);
+    std::transform(characters.begin(), characters.end(), characters.begin(), uppercased);
     return *this;
 }
 
@@ -117,7 +117,7 @@ void CString::Format(const char* format, ...)
     const int length = std::vsnprintf(nullptr, 0, format, measured);
     va_end(measured);
 
-    // Not in place: an argument may point into this very string.
+    // Formats into a new string, because an argument may point into this one.
     std::string text(static_cast<std::size_t>(std::max(length, 0)), '\0');
     if (length > 0)
         std::vsnprintf(text.data(), text.size() + 1, format, written);

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-/// A counted string of 8-bit characters (code page 1252). It may hold any byte, 0 included; what reads it
-/// through the character pointer sees it up to the first 0.
+/// A counted string of 8-bit characters (code page 1252). It may contain any byte, including 0; the character
+/// pointer shows it up to the first 0.
 class TGX_PLATFORM_API CString {
 public:
     CString() = default;
@@ -19,39 +19,40 @@ public:
     operator const char*() const { return characters.c_str(); }
     std::string_view view() const { return characters; }
     const std::string& str() const { return characters; }
-    /// The buffer, writable in place; valid until the string changes.
+    /// Returns the writable buffer. Valid until the string changes.
     char* GetBuffer() { return characters.data(); }
 
     int GetLength() const { return static_cast<int>(characters.size()); }
     bool IsEmpty() const { return characters.empty(); }
     void Empty() { characters.clear(); }
-    /// Takes a copy of text, in the memory that it has if that is enough.
+    /// Copies text, reusing the current storage if it is large enough.
     void assign(std::string_view text) { characters.assign(text); }
-    /// The character at index; an index outside the string raises the invalid-argument exception.
+    /// Returns the character at index. An index outside the string raises CInvalidArgException.
     char GetAt(int index) const;
     void SetAt(int index, char value);
     char operator[](int index) const { return GetAt(index); }
 
-    /// Below 0, 0 or above 0, byte by byte.
+    /// Compares byte by byte. Returns a value below 0, 0, or above 0.
     int Compare(const CString& other) const { return characters.compare(other.characters); }
-    /// The same with the letters A to Z taken as a to z.
+    /// Compares like Compare, but ignores the case of the letters A to Z.
     int CompareNoCase(const CString& other) const { return compareNoCase(view(), other.view()); }
     static int compareNoCase(std::string_view a, std::string_view b);
     static bool equalNoCase(std::string_view a, std::string_view b);
 
-    /// Parts of the string. Counts and starts outside it are held to it.
+    /// Left, Right and Mid return a part of the string. Counts and starts outside the string are limited to
+    /// it.
     CString Left(int count) const;
     CString Right(int count) const;
     CString Mid(int first) const;
     CString Mid(int first, int count) const;
-    /// Index of the first occurrence at or behind start, or -1.
+    /// Returns the index of the first occurrence at or after start, or -1.
     int Find(char what, int start = 0) const;
     int Find(const char* what, int start = 0) const;
     int ReverseFind(char what) const;
-    /// A to Z to a to z, and back.
+    /// MakeLower and MakeUpper convert the letters A to Z only.
     CString& MakeLower();
     CString& MakeUpper();
-    /// As printf.
+    /// Replaces the string with text formatted as by printf.
     void Format(const char* format, ...) __attribute__((format(printf, 2, 3)));
 
     CString& operator+=(const CString& other)

@@ -2,7 +2,7 @@
 
 #include "platform/export.h"
 
-/// The application object: a program has one, and calls Run.
+/// The application object. A program has exactly one and calls Run.
 class TGX_PLATFORM_API CWinApp {
 public:
     CWinApp() = default;
@@ -10,6 +10,6 @@ public:
     CWinApp(const CWinApp&) = delete;
     CWinApp& operator=(const CWinApp&) = delete;
 
-    /// Runs the program to its end. The exit status for main.
+    /// Runs the program to its end. Returns the exit status for main.
     virtual int Run() { return 0; }
 };

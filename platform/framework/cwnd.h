@@ -10,7 +10,7 @@ struct AFX_MSGMAP {
     const AFX_MSGMAP* base;
 };
 
-/// Base of all classes that stand for a window of the platform.
+/// Base class for windows of the platform.
 class TGX_PLATFORM_API CWnd {
 public:
     CWnd() = default;

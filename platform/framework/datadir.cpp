@@ -15,14 +15,14 @@
 
 namespace {
 
-/// Empty where the system does not tell.
+/// Returns the folder of the executable, or an empty string if it is unknown.
 std::string executableFolder()
 {
     std::error_code failure;
     return std::filesystem::read_symlink("/proc/self/exe", failure).parent_path().string();
 }
 
-/// Where files are looked for as long as no data directory is set.
+/// Returns the folders to search while no data directory is set.
 std::vector<std::string> defaultRoots()
 {
     std::vector<std::string> folders{"."};
@@ -37,7 +37,7 @@ std::vector<std::string>& roots()
     return folders;
 }
 
-std::string lowered(std::string_view name)
+std::string lowercased(std::string_view name)
 {
     std::string result(name);
     for (char& c : result) {
@@ -53,7 +53,7 @@ bool hasDriveLetter(std::string_view name)
            ((name[0] >= 'A' && name[0] <= 'Z') || (name[0] >= 'a' && name[0] <= 'z'));
 }
 
-/// The components of a name that stays below the data directory; nothing for one that does not.
+/// Splits a name into its components. Returns nothing if the name could lead out of the data directory.
 std::optional<std::vector<std::string>> splitSafely(std::string_view name)
 {
     if (name.empty() || name.find('\0') != std::string_view::npos || hasDriveLetter(name))
@@ -75,7 +75,8 @@ std::optional<std::vector<std::string>> splitSafely(std::string_view name)
     return components;
 }
 
-/// Names of one folder by their lower-case form. Of names that differ only in case, the first in byte order.
+/// The names in a folder, by their lower-case form. Of names that differ only in case, it has the first in
+/// byte order.
 struct Listing {
     dev_t device = 0;
     ino_t inode = 0;
@@ -89,8 +90,8 @@ struct Listing {
     }
 };
 
-/// A folder that changed this moment can change again under the same time stamp: its listing is used once
-/// only.
+/// Returns whether the last change of a folder is old enough to cache its listing. A folder that has just
+/// changed can change again with the same time stamp.
 bool isSettled(const timespec& changed)
 {
     timespec now;
@@ -98,20 +99,20 @@ bool isSettled(const timespec& changed)
     return std::difftime(now.tv_sec, changed.tv_sec) >= 2;
 }
 
-/// Listings, kept as long as their folder stays as it was: a name in another case, or of a missing file,
-/// costs no read of the folder each time.
+/// Returns the listing of a folder. Listings are cached until their folder changes, so that looking up a
+/// missing file, or a name in another case, does not read the folder each time.
 std::shared_ptr<const Listing> listingOf(const std::string& folder)
 {
-    static auto& kept = *new std::map<std::string, std::shared_ptr<const Listing>>;
-    constexpr std::size_t keptAtMost = 256; // folders; names from a script choose them
+    static auto& listings = *new std::map<std::string, std::shared_ptr<const Listing>>;
+    constexpr std::size_t maxListings = 256; // limited, because a script can name any number of folders
 
     struct stat status;
     if (::stat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode))
         return nullptr;
-    if (const auto found = kept.find(folder); found != kept.end()) {
+    if (const auto found = listings.find(folder); found != listings.end()) {
         if (found->second->isOf(status))
             return found->second;
-        kept.erase(found);
+        listings.erase(found);
     }
     const AllocationWatch memory;
     DIR* directory = ::opendir(folder.c_str());
@@ -123,20 +124,20 @@ std::shared_ptr<const Listing> listingOf(const std::string& folder)
     listing->inode = status.st_ino;
     listing->changed = status.st_mtim;
     while (const dirent* entry = ::readdir(directory)) {
-        const auto [known, isNew] = listing->names.try_emplace(lowered(entry->d_name), entry->d_name);
+        const auto [known, isNew] = listing->names.try_emplace(lowercased(entry->d_name), entry->d_name);
         if (!isNew && entry->d_name < known->second)
             known->second = entry->d_name;
     }
     ::closedir(directory);
     if (isSettled(status.st_mtim)) {
-        if (kept.size() >= keptAtMost)
-            kept.clear();
-        kept.emplace(folder, listing);
+        if (listings.size() >= maxListings)
+            listings.clear();
+        listings.emplace(folder, listing);
     }
     return listing;
 }
 
-/// The path with every link resolved, empty when it leads nowhere.
+/// Returns the path with all links resolved, or an empty string if it does not exist.
 std::string canonical(const std::string& path)
 {
     const AllocationWatch memory;
@@ -151,7 +152,7 @@ bool isBelow(const std::string& path, const std::string& folder)
                              path[folder.size()] == '/');
 }
 
-/// Makes path that of a folder in it. False when there is none of that name.
+/// Appends a folder in path to it. Returns false if there is none of that name.
 bool enterFolder(std::string& path, const std::string& name)
 {
     const std::shared_ptr<const Listing> listing = listingOf(path);
@@ -164,7 +165,7 @@ bool enterFolder(std::string& path, const std::string& name)
     return listingOf(path) != nullptr;
 }
 
-/// The folders in which files are looked for, in full, each with what is below it; each once.
+/// Returns the full names of the folders that are searched, each once, with below appended.
 std::string namesOfRoots(const std::string& below)
 {
     std::string names;
@@ -180,11 +181,11 @@ std::string namesOfRoots(const std::string& below)
     return names;
 }
 
-/// Path of a regular file below root.
+/// Returns the path of a regular file below root.
 std::optional<std::string> findBelow(const std::string& root, const std::vector<std::string>& components)
 {
     std::string path = root;
-    bool hasLink = false; // without one, and without "..", the path cannot lead out
+    bool hasLink = false; // without links and "..", the path cannot lead out of root
     struct stat status = {};
     for (const std::string& component : components) {
         std::string next = path + '/' + component;
@@ -192,15 +193,14 @@ std::optional<std::string> findBelow(const std::string& root, const std::vector<
             const std::shared_ptr<const Listing> listing = listingOf(path);
             if (!listing)
                 return std::nullopt;
-            const auto match = listing->names.find(lowered(component));
+            const auto match = listing->names.find(lowercased(component));
             if (match == listing->names.end())
                 return std::nullopt;
             next = path + '/' + match->second;
             if (::lstat(next.c_str(), &status) != 0)
                 return std::nullopt;
         }
-        // The folder of a link is listed only where the link stays inside: what lies outside is not even
-        // looked at.
+        // A link that leads out of root is rejected here, before its target is listed or opened.
         if (S_ISLNK(status.st_mode)) {
             hasLink = true;
             if (!isBelow(canonical(next), canonical(root)) || ::stat(next.c_str(), &status) != 0)
@@ -219,13 +219,13 @@ std::map<std::string, std::shared_ptr<const std::string>>& memoryFiles()
     return files;
 }
 
-/// The one form of all names that mean the same file in memory; "" for a refused one.
+/// Returns the same key for all names of the same memory file, or "" for a refused name.
 std::string memoryKey(std::string_view name)
 {
     std::string key;
     if (const std::optional<std::vector<std::string>> components = splitSafely(name))
         for (const std::string& component : *components)
-            key += '/' + lowered(component);
+            key += '/' + lowercased(component);
     return key;
 }
 

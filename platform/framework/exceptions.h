@@ -4,7 +4,7 @@
 
 #include <exception>
 
-/// Thrown for an argument that no answer fits, above all an index outside a CArray.
+/// Thrown for an invalid argument, above all an index outside a CArray.
 class TGX_PLATFORM_API CInvalidArgException : public std::exception {
 public:
     const char* what() const noexcept override { return "invalid argument"; }

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Never destroyed: libraries leave the list while the program's static objects die, in whatever order.
+/// Never destroyed, because libraries leave the list while static objects are destroyed, in any order.
 std::vector<AFX_EXTENSION_MODULE*>& loadedModules()
 {
     static auto& modules = *new std::vector<AFX_EXTENSION_MODULE*>;

@@ -2,24 +2,24 @@
 
 #include "platform/export.h"
 
-/// What a shared library tells the framework about itself while it is loaded.
+/// Identifies a shared library to the framework while it is loaded.
 struct AFX_EXTENSION_MODULE {
     int initialised = 0;
 };
 
-/// Registers the library that owns module. 1, or 0 when it is registered already: the load then fails.
+/// Registers the library that owns module. Returns 1, or 0 if it is already registered; loading then fails.
 TGX_PLATFORM_API int AfxInitExtensionModule(AFX_EXTENSION_MODULE& module);
-/// Takes the registration back.
+/// Removes the registration.
 TGX_PLATFORM_API void AfxTermExtensionModule(AFX_EXTENSION_MODULE& module);
 
-/// Enters an extension module into the framework's list for as long as the object lives.
+/// Keeps an extension module in the framework's list for the lifetime of the object.
 class TGX_PLATFORM_API CDynLinkLibrary {
 public:
     explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& module);
     ~CDynLinkLibrary();
     CDynLinkLibrary(const CDynLinkLibrary&) = delete;
     CDynLinkLibrary& operator=(const CDynLinkLibrary&) = delete;
-    /// Number of modules in the list.
+    /// Returns the number of modules in the list.
     static int count();
 
 private:

@@ -3,12 +3,12 @@
 #include <cerrno>
 #include <new>
 
-/// For calls of the system and of decoders, which answer a failed allocation like any other failure, or go on
-/// with less: made before them, asked after them.
+/// Detects a failed allocation inside calls of the system or of a decoder, which may report it like any other
+/// failure or ignore it. Construct it before the calls and call check() after them.
 class AllocationWatch {
 public:
     AllocationWatch() { errno = 0; }
-    /// Throws std::bad_alloc when memory was refused since.
+    /// Throws std::bad_alloc if an allocation has failed since construction.
     void check() const
     {
         if (errno == ENOMEM)

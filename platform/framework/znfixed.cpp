@@ -5,8 +5,8 @@
 
 namespace {
 
-/// numerator / denominator as a raw value: to the nearest, halves away from zero, held inside 32 bits.
-/// Neither may be above 2 to the power of 62, so that twice of it has room.
+/// Returns numerator / denominator as a raw value, rounded to the nearest, halves away from zero, and
+/// saturated at 32 bits. Neither may exceed 2^62, because both are doubled.
 ZnFixed nearest(std::int64_t numerator, std::int64_t denominator)
 {
     if (denominator == 0)

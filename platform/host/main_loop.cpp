@@ -6,8 +6,8 @@
 
 namespace {
 
-/// Runs parts of the program and survives an invalid argument out of them. A fault that comes back with each
-/// frame is reported once: the player could not close so many boxes.
+/// Runs parts of the program and catches CInvalidArgException. Reports it only once, because a fault that
+/// recurs in every frame would open an endless series of boxes.
 class Guard {
 public:
     template<class Part>
@@ -26,12 +26,12 @@ private:
     bool isReported = false;
 };
 
-bool goesOn(const ddwin& window)
+bool mustContinue(const ddwin& window)
 {
     return window.running && !displayhost::current().closeRequested;
 }
 
-/// Closes the window on every way out of the loop.
+/// Closes the window however the loop ends.
 struct OpenWindow {
     ddwin& window;
     ~OpenWindow() { displayhost::current().close(window); }
@@ -49,7 +49,7 @@ int runMainLoop(ddwin& window, const std::function<void()>& onCloseRequest)
 
     Guard guard;
     guard.run([&] { window.startup(); });
-    while (goesOn(window)) {
+    while (mustContinue(window)) {
         int ticks = 0;
         int frames = 0;
         displayhost::current().waitForWork(ticks, frames);
@@ -60,9 +60,9 @@ int runMainLoop(ddwin& window, const std::function<void()>& onCloseRequest)
             else
                 displayhost::current().closeRequested = true;
         }
-        for (; ticks > 0 && goesOn(window); --ticks)
+        for (; ticks > 0 && mustContinue(window); --ticks)
             guard.run([&] { window.runTick(); });
-        if (frames > 0 && goesOn(window))
+        if (frames > 0 && mustContinue(window))
             guard.run([&] { window.runFrame(); });
     }
     return 0;

@@ -11,7 +11,7 @@ enum Compression : std::uint32_t { plain = 0, rle8 = 1, rle4 = 2, masks = 3, alp
 
 constexpr std::size_t fileHeader = 14;
 constexpr std::uint32_t coreHeader =
-    12; // the oldest form, with sides of 16 bits and a palette of three bytes an entry
+    12; // the oldest form, with a 16-bit size and three bytes per palette entry
 
 struct Header {
     std::uint32_t headerSize = 0;
@@ -53,14 +53,14 @@ struct Palette {
         const std::uint32_t count = used == 0 || used > 256 ? 1u << header.bits : used;
         for (std::uint32_t i = 0; i < 256; i++) {
             const std::size_t at = fileHeader + header.headerSize + i * entry;
-            const bool isThere = i < count && at + 3 <= file.bytes.size();
+            const bool exists = i < count && at + 3 <= file.bytes.size();
             colours[i] =
-                0xFF000000 | (isThere ? file.u8(at) | file.u8(at + 1) << 8 | file.u8(at + 2) << 16 : 0);
+                0xFF000000 | (exists ? file.u8(at) | file.u8(at + 1) << 8 | file.u8(at + 2) << 16 : 0);
         }
     }
 };
 
-// A channel of a pixel with masks, as 8 bits.
+// Extracts a channel of a pixel by its mask and scales it to 8 bits.
 struct Channel {
     std::uint32_t mask;
 
@@ -68,9 +68,9 @@ struct Channel {
     {
         if (mask == 0)
             return 0;
-        const std::uint32_t most = mask >> std::countr_zero(mask);
+        const std::uint32_t maxValue = mask >> std::countr_zero(mask);
         return static_cast<std::uint32_t>(std::uint64_t((pixel & mask) >> std::countr_zero(mask)) * 255 /
-                                          most);
+                                          maxValue);
     }
 };
 
@@ -91,7 +91,7 @@ bool decodeIndexed(const ByteReader& file, const Header& header, Image& image)
     return true;
 }
 
-// Ends at the mark of its end, or behind the last row; without either the file is cut short.
+// Decodes run-length data up to the end mark or the last row. Returns false if the file ends before that.
 bool decodeRuns(const ByteReader& file, const Header& header, Image& image)
 {
     if (header.isTopDown)
@@ -99,9 +99,9 @@ bool decodeRuns(const ByteReader& file, const Header& header, Image& image)
     const Palette palette(file, header);
     const bool halves = header.compression == rle4;
     for (std::uint32_t& pixel : image.pixels)
-        pixel = palette.colours[0]; // what no run covers
+        pixel = palette.colours[0]; // pixels that no run covers
     std::int64_t x = 0;
-    std::int64_t y = 0; // from the bottom
+    std::int64_t y = 0; // counted from the bottom
     std::size_t at = header.pixelsAt;
     const auto put = [&](std::uint32_t index) {
         image.row(static_cast<int>(image.height - 1 - y))[x++] = palette.colours[index];
@@ -173,7 +173,7 @@ bool decodeTrueColour(const ByteReader& file, const Header& header, Image& image
             row[x] = a << 24 | red.of(pixel) << 16 | green.of(pixel) << 8 | blue.of(pixel);
         }
     }
-    // Many programs leave the fourth byte 0, or 255, and mean no alpha by it.
+    // Many programs set the fourth byte to 0 or 255 everywhere and do not mean alpha.
     image.hasAlphaChannel = alpha.mask != 0 && anyAlpha != 0 && (hasMasks || everyAlpha != 255);
     if (!image.hasAlphaChannel)
         for (std::uint32_t& pixel : image.pixels)

@@ -11,35 +11,34 @@
 #include <string_view>
 #include <vector>
 
-/// One character as it lies over the screen: 0xAARRGGBB, colour and shadow included, colours multiplied by
-/// their alpha.
+/// The pixels of one character, 0xAARRGGBB, including colour and shadow, with colours premultiplied by alpha.
 struct Glyph {
-    int left = 0; // of the pixels, from the pen position
-    int top = 0;  // of the pixels, from the line's top
+    int left = 0; // offset of the pixels from the pen position
+    int top = 0;  // offset of the pixels from the top of the line
     int width = 0;
     int height = 0;
-    int stride = 0; // pixels from one row to the next: width rounded up to 8, the rest of a row 0
+    int stride = 0; // pixels from one row to the next: width rounded up to 8, padded with 0
     std::vector<std::uint32_t> pixels;
 
-    /// Takes that size, all pixels transparent.
+    /// Sets the size and makes all pixels transparent.
     void setSize(int newWidth, int newHeight)
     {
         width = newWidth;
         height = newHeight;
-        stride = (newWidth + 7) & ~7; // blending goes by eights, with no rest to care for
+        stride = (newWidth + 7) & ~7; // blending processes eight pixels at a time
         pixels.assign(static_cast<std::size_t>(stride) * newHeight, 0);
     }
 };
 
-/// A bitmap font: characters of code page 1252, rendered once and kept. Owned by the font table of ddwin.
+/// A bitmap font: the characters of code page 1252, rendered once. Owned by the font table of ddwin.
 class TGX_PLATFORM_API bmpfont {
 public:
     signed char lineHeight = 0; // pixels from one line to the next
     signed char charHeight = 0; // pixels, for vertical centring
 
-    /// Pixels from this character's pen position to the next one's, spacing included.
+    /// Returns the pixels from this character's pen position to the next one's, including spacing.
     int advance(unsigned char character) const { return advances[character]; }
-    /// Sum of the advances; one that an int does not hold is INT_MAX.
+    /// Returns the sum of the advances, at most INT_MAX.
     int stringLength(std::string_view text) const
     {
         std::int64_t length = 0;
@@ -47,7 +46,7 @@ public:
             length += advances[character];
         return static_cast<int>(std::min<std::int64_t>(length, INT_MAX));
     }
-    /// Pixels that all characters take in memory.
+    /// Returns the number of pixels that all characters take in memory.
     long long pixelCount() const
     {
         long long count = 0;
@@ -56,7 +55,7 @@ public:
         return count;
     }
     const Glyph& glyph(unsigned char character) const { return glyphs[character]; }
-    /// Place in the font table.
+    /// Returns the index in the font table.
     int getIndex() const { return index; }
 
     int index = -1;
@@ -64,16 +63,16 @@ public:
     std::array<Glyph, 256> glyphs;
 };
 
-/// How addNewFont's style words ask for a font.
+/// The style of a font, as given by the style words of addNewFont.
 struct FontStyle {
     bool bold = false;
     bool italic = false;
     bool shadow = false;
     std::uint32_t colour = 0xFFFFFF; // 0xRRGGBB
 };
-/// "bold", "italic", "shadow" and "#rrggbb", divided by blanks or commas, in any case; other words are passed
-/// over.
+/// Parses "bold", "italic", "shadow" and "#rrggbb", separated by blanks or commas, in any case. Other words
+/// are ignored.
 TGX_PLATFORM_API FontStyle parseFontStyle(std::string_view words);
 
-/// The font that is there without any file, drawn by code.
+/// Makes the built-in font, which needs no file.
 TGX_PLATFORM_API std::unique_ptr<bmpfont> makeBuiltInFont();

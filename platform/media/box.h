@@ -4,7 +4,7 @@
 #include <climits>
 #include <cstdint>
 
-/// A rectangle of screen pixels, far edges excluded.
+/// A rectangle of screen pixels. x1 and y1 are exclusive.
 struct Box {
     int x0 = 0;
     int y0 = 0;
@@ -25,7 +25,7 @@ inline Box intersection(const Box& a, const Box& b)
     return {std::max(a.x0, b.x0), std::max(a.y0, b.y0), std::min(a.x1, b.x1), std::min(a.y1, b.y1)};
 }
 
-/// The smallest box around both; an empty one counts for nothing.
+/// Returns the smallest box around both. An empty box is ignored.
 inline Box hull(const Box& a, const Box& b)
 {
     if (a.isEmpty())
@@ -35,11 +35,12 @@ inline Box hull(const Box& a, const Box& b)
     return {std::min(a.x0, b.x0), std::min(a.y0, b.y0), std::max(a.x1, b.x1), std::max(a.y1, b.y1)};
 }
 
-/// The part of a rectangle in 64 bits, where sums of any two arguments fit, that lies in clip.
+/// Returns the part of a rectangle that is inside clip. Its coordinates have 64 bits so that the sum of any
+/// two int values fits.
 inline Box clipped(std::int64_t x0, std::int64_t y0, std::int64_t x1, std::int64_t y1, const Box& clip)
 {
-    const auto held = [](std::int64_t value) {
+    const auto toInt = [](std::int64_t value) {
         return static_cast<int>(std::clamp<std::int64_t>(value, INT_MIN, INT_MAX));
     };
-    return intersection({held(x0), held(y0), held(x1), held(y1)}, clip);
+    return intersection({toInt(x0), toInt(y0), toInt(x1), toInt(y1)}, clip);
 }

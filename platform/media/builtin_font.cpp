@@ -6,14 +6,14 @@
 
 namespace {
 
-constexpr int capitalTop = 3; // rows above a capital, for accents
-constexpr int smallTop = 2;   // rows from the top of a capital to that of a small letter
+constexpr int capitalTop = 3; // rows above a capital letter, for accents
+constexpr int smallTop = 2;   // rows from the top of a capital letter to the top of a small letter
 constexpr int height = 13;
 constexpr int lineDistance = 14;
 constexpr int blankAdvance = 4;
 constexpr std::uint32_t ink = 0xFFFFFFFF;
 
-/// What accent to put where: marks over a letter end one row above it.
+/// Returns the rows of an accent.
 const char* rowsOf(Accent accent, bool overCapital)
 {
     switch (accent) {
@@ -80,7 +80,7 @@ void compose(bmpfont& font, const ComposedGlyph& composed)
     const bool isCapital = composed.base <= 'Z';
     std::string_view baseRows = drawn.rows;
     int baseTop = drawn.top;
-    if (composed.base == 'i') { // its dot gives way to the accent
+    if (composed.base == 'i') { // the accent replaces the dot
         baseRows.remove_prefix(4);
         baseTop = smallTop;
     }
@@ -90,7 +90,7 @@ void compose(bmpfont& font, const ComposedGlyph& composed)
     if (composed.accent == Accent::cedilla)
         accentTop = 8;
     else if (composed.accent == Accent::ring)
-        accentTop++; // so tall that it sits on the letter
+        accentTop++; // too tall for a gap above the letter
 
     Glyph& glyph = font.glyphs[composed.character];
     const int top = std::min(accentTop, baseTop);

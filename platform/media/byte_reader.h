@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-/// Numbers of a file in memory; what lies behind its end reads as 0.
+/// Reads numbers from a file in memory. Bytes past the end read as 0.
 struct ByteReader {
     std::string_view bytes;
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-/// Unicode value of a character of code page 1252; 0 for the five bytes that stand for none.
+/// Returns the Unicode value of a character of code page 1252, or 0 for the five bytes that have none.
 constexpr std::uint32_t unicodeOf(unsigned char character)
 {
     constexpr std::uint16_t high[32] = {

@@ -7,10 +7,11 @@
 #include <string>
 #include <string_view>
 
-/// The character of code page 1252 for a Unicode character; nothing for one that it does not have.
+/// Returns the code page 1252 character for a Unicode character, or nothing if the code page does not have
+/// it.
 TGX_PLATFORM_API std::optional<char> to1252(std::uint32_t character);
-/// Bytes that stand for no character become U+FFFD.
+/// Converts text from code page 1252 to UTF-8. Bytes that have no character become U+FFFD.
 TGX_PLATFORM_API std::string utf8From1252(std::string_view text);
-/// Takes the first character off text, which is UTF-8. A broken sequence is one character U+FFFD; 0 for an
-/// empty text.
+/// Removes the first character from text, which is UTF-8, and returns it. A broken sequence counts as one
+/// U+FFFD. Returns 0 for an empty text.
 TGX_PLATFORM_API std::uint32_t takeUtf8(std::string_view& text);

@@ -19,14 +19,14 @@ struct FreeSurface {
 };
 using SdlPixels = std::unique_ptr<SDL_Surface, FreeSurface>;
 
-// Once in a run and never taken back: fonts come and go with the windows.
+// Initialises the library once and never shuts it down, because windows load fonts at any time.
 bool isLibraryReady()
 {
     static const bool ready = TTF_Init() == 0;
     return ready;
 }
 
-// Alphas of a character, cut to where there is ink.
+// The alphas of a character, cropped to its visible pixels.
 struct Ink {
     int left = 0;
     int top = 0;
@@ -41,7 +41,7 @@ struct Ink {
     }
 };
 
-// pen is the column of the picture at which the character's pen position lies.
+// Crops a rendered character. pen is the column of the pen position.
 Ink inkOf(SDL_Surface& rendered, int pen)
 {
     const auto alphaAt = [&](int x, int y) {
@@ -71,7 +71,7 @@ Ink inkOf(SDL_Surface& rendered, int pen)
     return ink;
 }
 
-// The glyph in its colour; a shadow lies one pixel to the right and below, under it.
+// Returns the glyph in its colour, with the shadow one pixel to the right and below.
 Glyph paintedGlyph(const Ink& ink, const FontStyle& style)
 {
     constexpr std::uint32_t shadowStrength = 192; // of 255
@@ -99,7 +99,7 @@ Glyph paintedGlyph(const Ink& ink, const FontStyle& style)
 void loadCharacter(TTF_Font& from, unsigned char character, const FontStyle& style, int size, int spacing,
                    bmpfont& font)
 {
-    const AllocationWatch memory; // a character that finds none would be blank
+    const AllocationWatch memory; // without this, a failed allocation would leave the character blank
     const std::uint32_t code = unicodeOf(character);
     int minX = 0, maxX = 0, minY = 0, maxY = 0, advance = 0;
     if (code < 0x20 || !TTF_GlyphIsProvided32(&from, code) ||
@@ -109,16 +109,18 @@ void loadCharacter(TTF_Font& from, unsigned char character, const FontStyle& sty
     }
     font.advances[character] =
         static_cast<std::int16_t>(std::clamp(advance + spacing, 0, 8 * limits::fontPixels));
-    // A font may claim any size for a character; one far larger than the others is left blank.
-    const int most = 2 * size;
-    if (std::int64_t(maxX) - minX > most || std::int64_t(maxY) - minY > most || minX < -most ||
-        maxX > 2 * most)
+    // A font may claim any size for a character. Excessively large ones are left blank.
+    const int maxExtent = 2 * size;
+    if (std::int64_t(maxX) - minX > maxExtent || std::int64_t(maxY) - minY > maxExtent || minX < -maxExtent ||
+        maxX > 2 * maxExtent)
         return;
     SdlPixels rendered(TTF_RenderGlyph32_Blended(&from, code, SDL_Color{255, 255, 255, 255}));
     memory.check();
-    if (!rendered || rendered->format->BytesPerPixel != 4 || rendered->w > 2 * most || rendered->h > 2 * most)
+    if (!rendered || rendered->format->BytesPerPixel != 4 || rendered->w > 2 * maxExtent ||
+        rendered->h > 2 * maxExtent)
         return;
-    // A picture begins at the pen, or further left by what reaches out of it.
+    // The picture starts at the pen position, or to the left of it by the part of the character that extends
+    // there.
     font.glyphs[character] = paintedGlyph(inkOf(*rendered, std::max(0, -minX)), style);
 }
 
@@ -140,7 +142,7 @@ std::unique_ptr<bmpfont> loadFontFile(std::string_view name, const FontStyle& st
     SDL_RWops* stream = SDL_RWFromConstMem(file.bytes().data(), static_cast<int>(file.GetLength()));
     const std::unique_ptr<TTF_Font, CloseFont> from(stream ? TTF_OpenFontRW(stream, 1, size) : nullptr);
     opening.check();
-    // Every character is rendered on a picture of the font's own height.
+    // The library renders each character into a picture of the font's height, so that is limited too.
     if (!from || TTF_FontHeight(from.get()) > 4 * size)
         return nullptr;
     TTF_SetFontHinting(from.get(), TTF_HINTING_LIGHT);
@@ -150,9 +152,9 @@ std::unique_ptr<bmpfont> loadFontFile(std::string_view name, const FontStyle& st
     font->lineHeight = static_cast<signed char>(std::clamp(TTF_FontLineSkip(from.get()), 1, 127));
     font->charHeight = static_cast<signed char>(
         std::clamp(TTF_FontAscent(from.get()) + std::abs(TTF_FontDescent(from.get())), 1, 127));
-    const int held = std::clamp(spacing, -2 * limits::fontPixels, 2 * limits::fontPixels);
+    const int clampedSpacing = std::clamp(spacing, -2 * limits::fontPixels, 2 * limits::fontPixels);
     for (int character = 0; character < 256; character++)
-        loadCharacter(*from, static_cast<unsigned char>(character), style, size, held, *font);
+        loadCharacter(*from, static_cast<unsigned char>(character), style, size, clampedSpacing, *font);
     font->advances['\t'] = font->advances[' '];
     return font;
 }

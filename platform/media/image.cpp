@@ -2,7 +2,7 @@
 
 namespace {
 
-std::uint32_t freshId()
+std::uint32_t newId()
 {
     static std::uint32_t last = 0;
     return ++last;
@@ -10,7 +10,7 @@ std::uint32_t freshId()
 
 long long livePixels = 0;
 
-// Counts the image's pixels for as long as it lives.
+// Counts the image's pixels in livePixels until it is deleted.
 ImageRef counted(std::unique_ptr<Image> image)
 {
     const auto pixels = static_cast<long long>(image->pixels.size());
@@ -27,7 +27,7 @@ ImageRef counted(std::unique_ptr<Image> image)
 ImageRef makeImage(int width, int height)
 {
     auto image = std::make_unique<Image>();
-    image->id = freshId();
+    image->id = newId();
     image->width = width > 0 && height > 0 ? width : 0;
     image->height = width > 0 && height > 0 ? height : 0;
     image->pitch = ((image->width + 3) & ~3) + 16;
@@ -38,7 +38,7 @@ ImageRef makeImage(int width, int height)
 ImageRef copyImage(const Image& image)
 {
     auto copy = std::make_unique<Image>(image);
-    copy->id = freshId();
+    copy->id = newId();
     copy->version = 0;
     copy->heldBy = 0;
     return counted(std::move(copy));
@@ -49,7 +49,7 @@ long long livePixelCount()
     return livePixels;
 }
 
-void settleCoverage(Image& image)
+void determineCoverage(Image& image)
 {
     image.coverage = Coverage::Opaque;
     for (int y = 0; y < image.height; y++) {

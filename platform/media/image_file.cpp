@@ -58,8 +58,8 @@ void copyIndexed(SDL_Surface& from, Image& to)
     }
 }
 
-/// The decoder hands out a greyscale PNG with a transparent colour as pairs of grey and alpha bytes and calls
-/// the format RGB565, which no PNG has.
+/// Returns whether the surface contains pairs of grey and alpha bytes. The decoder returns these for a
+/// greyscale PNG with a transparent colour, but labels the format RGB565, which no PNG has.
 bool holdsGreyAlpha(const SDL_Surface& from, PictureKind kind)
 {
     return kind == PictureKind::Png && from.format->BytesPerPixel == 2;
@@ -81,8 +81,8 @@ ImageRef decodeWithSdl(std::string_view bytes, const PictureHeader& header)
     SDL_RWops* stream = SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
     SdlPixels decoded(stream ? IMG_LoadTyped_RW(stream, 1, typeName(header.kind)) : nullptr);
     memory.check();
-    // The decoder reads the header by itself: what it made must be what was allowed. A GIF's first picture
-    // may be smaller than its screen.
+    // The decoder reads the header itself, so its result must be checked against the size that was allowed. A
+    // GIF's first picture may be smaller than its screen.
     if (!decoded || decoded->w > header.width || decoded->h > header.height ||
         (header.kind != PictureKind::Gif && (decoded->w < header.width || decoded->h < header.height)))
         return nullptr;
@@ -145,14 +145,14 @@ ImageRef loadImageFile(std::string_view name, long long* room)
         return nullptr;
     if (!image->hasAlphaChannel)
         applyKeyColour(*image);
-    settleCoverage(*image);
+    determineCoverage(*image);
     image->name = name;
     return image;
 }
 
 namespace {
 
-/// Appends to the string that the stream was made for.
+/// Implements SDL_RWops::write by appending to a string.
 std::size_t append(SDL_RWops* stream, const void* bytes, std::size_t size, std::size_t count)
 {
     static_cast<std::string*>(stream->hidden.unknown.data1)

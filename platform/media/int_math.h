@@ -1,6 +1,6 @@
 #pragma once
 
-/// Divisions that round towards one side, whatever the signs. The divisor is above 0.
+/// Divisions that always round down (floorDiv) or up (ceilDiv). The divisor must be positive.
 
 template<class Int>
 constexpr Int floorDiv(Int dividend, Int divisor)

@@ -11,16 +11,16 @@ namespace {
 
 void readPng(const ByteReader& file, PictureHeader& header)
 {
-    constexpr std::size_t firstChunkEnd = 33; // signature, then the chunk that holds the size
+    constexpr std::size_t firstChunkEnd = 33; // signature and the chunk with the size
     if (file.bytes.size() < firstChunkEnd || file.bytes.substr(12, 4) != "IHDR"sv)
         return;
     const std::uint32_t colourType = file.u8(25);
     header.hasAlpha = colourType == 4 || colourType == 6;
-    // Chunks: length, name, contents, checksum. Transparent colours come before the pixels.
+    // A chunk has length, name, contents and checksum. A chunk of transparent colours is before the pixels.
     bool hasPixels = false;
     for (std::size_t at = firstChunkEnd; at + 8 <= file.bytes.size();) {
         const std::string_view name = file.bytes.substr(at + 4, 4);
-        if (name == "IEND"sv) { // a file cut short lacks it
+        if (name == "IEND"sv) { // missing in a truncated file
             header.width = file.u32Big(16);
             header.height = file.u32Big(20);
             return;
@@ -43,12 +43,13 @@ void readJpeg(const ByteReader& file, PictureHeader& header)
             at++;
             continue;
         }
-        // 00 is no mark, and pixels (DA) do not come before any size: broken.
+        // 00 is not a mark, and pixels (DA) before the size mean that the file is broken.
         if (mark == 0x00 || mark == 0xDA)
             return;
-        // C0 to CF are frames, but for tables (C4), a reserved one (C8) and arithmetic conditioning (CC).
+        // C0 to CF are frames, except tables (C4), a reserved mark (C8) and arithmetic conditioning (CC).
         if (mark >= 0xC0 && mark <= 0xCF && mark != 0xC4 && mark != 0xC8 && mark != 0xCC) {
-            // The decoder fills up what a file cut short lacks; a whole file has its end mark.
+            // The decoder would accept a truncated file and fill in the rest. A complete file has an end
+            // mark.
             const std::size_t end = file.bytes.rfind("\xFF\xD9"sv);
             if (end == std::string_view::npos || end < at)
                 return;
@@ -56,18 +57,19 @@ void readJpeg(const ByteReader& file, PictureHeader& header)
             header.width = file.u16Big(at + 7);
             return;
         }
-        const bool isAlone = mark == 0x01 || (mark >= 0xD0 && mark <= 0xD9);
-        at += isAlone ? 2 : std::size_t(2) + std::max<std::uint32_t>(2, file.u16Big(at + 2));
+        const bool hasNoLength = mark == 0x01 || (mark >= 0xD0 && mark <= 0xD9);
+        at += hasNoLength ? 2 : std::size_t(2) + std::max<std::uint32_t>(2, file.u16Big(at + 2));
     }
 }
 
-// Bytes of a table of colours, as flags announce it.
+// Returns the size in bytes of the colour table that flags describe.
 std::size_t gifTable(std::uint32_t flags)
 {
     return flags & 0x80 ? std::size_t(3) << ((flags & 7) + 1) : 0;
 }
 
-// Where a chain of blocks ends, each its length and as many bytes: at the empty one, or behind the file.
+// Returns the position of the empty block that ends a chain of blocks, or a position past the end of the
+// file. A block has a length byte and that many bytes.
 std::size_t gifChainEnd(const ByteReader& file, std::size_t at)
 {
     while (file.u8(at) != 0)
@@ -75,14 +77,15 @@ std::size_t gifChainEnd(const ByteReader& file, std::size_t at)
     return at;
 }
 
-// The first picture's own size; what says how it shows through stands before it.
+// Reads the size of the first picture. The extension that describes its transparency is before it.
 void readGif(const ByteReader& file, PictureHeader& header)
 {
     std::size_t at = 13 + gifTable(file.u8(10));
     while (at < file.bytes.size()) {
         const std::uint32_t block = file.u8(at);
         if (block == 0x2C) {
-            // The decoder fills up what a file cut short lacks; pixels that are all there have their end.
+            // The decoder would accept a truncated file and fill in the rest. Complete pixels end with an
+            // empty block.
             if (gifChainEnd(file, at + 11 + gifTable(file.u8(at + 9))) >= file.bytes.size())
                 return;
             header.width = std::max(file.u16(at + 5), file.u16(6));

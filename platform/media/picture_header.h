@@ -4,13 +4,13 @@
 
 enum class PictureKind { Unknown, Bmp, Png, Jpeg, Gif, Pcx };
 
-/// What can be known of a picture without decoding it.
+/// The properties of a picture that are known without decoding it.
 struct PictureHeader {
     PictureKind kind = PictureKind::Unknown;
     long long width = 0; // 0 when the header is broken
     long long height = 0;
-    bool hasAlpha = false; // PNG, GIF: it has a channel or a colour that shows through
+    bool hasAlpha = false; // PNG, GIF: has an alpha channel or a transparent colour
 };
 
-/// Reads kind and size from the first bytes; the name plays no part.
+/// Reads kind and size from the first bytes. The file's name does not matter.
 PictureHeader readPictureHeader(std::string_view file);

@@ -10,11 +10,11 @@ namespace tgx {
 
 namespace {
 
-// Pixels of a character are no further than this from its pen position; loading a font sees to that.
+// Maximum distance of a character's pixels from its pen position. Loading a font enforces it.
 constexpr std::int64_t glyphReach = 4 * limits::fontPixels;
 
-// Characters of one text that are drawn. Only a font whose characters do not move the pen puts more of them
-// on a screen.
+// Maximum number of characters drawn for a text. More could be visible only with a font whose characters do
+// not move the pen.
 constexpr std::size_t glyphsPerText = 16384;
 
 struct Line {
@@ -35,11 +35,11 @@ Line firstLine(std::string_view text, bool breaksLines)
     return {text, text.size()};
 }
 
-/// The part of a text's plane, in font pixels from the text's corner, that can show inside clip.
-struct Reach {
+/// The area, in font pixels from the text's corner, in which characters can be visible inside clip.
+struct VisibleArea {
     std::int64_t left, top, right, bottom;
 
-    Reach(const TextRun& run, const Box& clip)
+    VisibleArea(const TextRun& run, const Box& clip)
         : left(toFont(run, std::int64_t(clip.x0) - run.x) - glyphReach),
           top(toFont(run, std::int64_t(clip.y0) - run.y) - glyphReach),
           right(toFont(run, std::int64_t(clip.x1) - run.x) + glyphReach),
@@ -51,7 +51,7 @@ private:
     {
         if (!run.isScaled())
             return pixels;
-        constexpr std::int64_t far = 1 << 30; // what is further out would not fit a placed glyph
+        constexpr std::int64_t far = 1 << 30; // positions further out do not fit into PlacedGlyph
         return std::clamp(floorDiv<std::int64_t>(pixels * ZnFixed::one, run.scale), -far, far);
     }
 };
@@ -66,22 +66,22 @@ int revealedUpTo(const TextRun& run, std::string_view line, const Box& clip)
     return clipped(0, 0, run.x + ((width * run.scale) >> 12), 1, clip).x1;
 }
 
-/// Places the characters of a line that begins lineY font pixels below the text's corner, and widens painted
-/// by them. Returns false when mostPlaced are placed and there is another one.
-bool placeLine(const TextRun& run, std::string_view line, std::int64_t lineY, const Reach& reach,
-               const Box& clip, std::size_t mostPlaced, std::vector<PlacedGlyph>& placed, Box& painted)
+/// Places the characters of a line that begins lineY font pixels below the text's corner, and extends painted
+/// to include them. Returns false if more than maxPlaced would be placed.
+bool placeLine(const TextRun& run, std::string_view line, std::int64_t lineY, const VisibleArea& visible,
+               const Box& clip, std::size_t maxPlaced, std::vector<PlacedGlyph>& placed, Box& painted)
 {
     const bmpfont& font = *run.font;
     const bool isScaled = run.isScaled();
     const int clipRight = revealedUpTo(run, line, clip);
     std::int64_t pen = 0;
     for (unsigned char character : line) {
-        if (pen > reach.right)
+        if (pen > visible.right)
             break;
         const Glyph& glyph = font.glyph(character);
         const std::int64_t start = pen;
         pen += font.advance(character);
-        if (glyph.pixels.empty() || start < reach.left)
+        if (glyph.pixels.empty() || start < visible.left)
             continue;
         PlacedGlyph place{static_cast<int>(start) + glyph.left, static_cast<int>(lineY) + glyph.top,
                           clipRight, &glyph};
@@ -89,14 +89,14 @@ bool placeLine(const TextRun& run, std::string_view line, std::int64_t lineY, co
         if (isScaled) {
             box = scaledGlyphBox(run, place, clip);
         } else {
-            place.x += run.x; // near the clip, so it fits
+            place.x += run.x; // near the clip, so it cannot overflow
             place.y += run.y;
             box = intersection(
                 {place.x, place.y, std::min(place.x + glyph.width, clipRight), place.y + glyph.height}, clip);
         }
         if (box.isEmpty())
             continue;
-        if (placed.size() >= mostPlaced)
+        if (placed.size() >= maxPlaced)
             return false;
         placed.push_back(place);
         painted = hull(painted, box);
@@ -121,15 +121,15 @@ Box layoutText(const TextRun& run, std::string_view text, const Box& clip, std::
 {
     if (!run.font || run.scale <= 0 || clip.isEmpty())
         return {};
-    const Reach reach(run, clip);
-    const std::size_t mostPlaced = placed.size() + glyphsPerText;
+    const VisibleArea visible(run, clip);
+    const std::size_t maxPlaced = placed.size() + glyphsPerText;
     Box painted;
-    for (std::int64_t lineY = 0; !text.empty() && lineY <= reach.bottom;
+    for (std::int64_t lineY = 0; !text.empty() && lineY <= visible.bottom;
          lineY += std::max<int>(run.font->lineHeight, 1)) {
         const Line line = firstLine(text, run.breaksLines);
         text.remove_prefix(line.lengthWithBreak);
-        if (lineY >= reach.top &&
-            !placeLine(run, line.characters, lineY, reach, clip, mostPlaced, placed, painted))
+        if (lineY >= visible.top &&
+            !placeLine(run, line.characters, lineY, visible, clip, maxPlaced, placed, painted))
             break;
     }
     return painted;

@@ -1,11 +1,11 @@
 #pragma once
 
-// The records of online play. They belong to a client library, and this folder is a stand-in for it: their
-// fields, constructors and destructors, FindTeam, and a connection without a network. What reads the fields
-// on behalf of the interface, the accessors, are members too, but the toolkit carries them: they are defined
-// in tgx/online/ and exported by libtgx, so who calls one links both libraries. Here nothing calls one. Only
-// virtual accessors are defined here, because the table of virtual functions is. Another client library takes
-// this folder's place by defining the same.
+// The records of online play. They belong to a client library, for which this folder is a stand-in: it
+// defines their fields, constructors and destructors, FindTeam, and a connection without a network. The
+// accessors, with which the interface reads the fields, are defined in tgx/online/ and exported by libtgx, so
+// code that calls one links both libraries. Nothing in this folder calls one. Only the virtual accessors are
+// defined here, because the table of virtual functions is here. Another client library replaces this folder
+// by defining the same symbols.
 
 #include "platform/export.h"
 #include "platform/framework/csocket.h"
@@ -20,21 +20,21 @@ class CNetGame;
 
 enum CONNSTATUS { CS_DISCONNECTED, CS_CONNECTING, CS_CONNECTED };
 
-/// Details of a user in a channel. Content: the client library's.
+/// Details of a user in a channel. The client library defines the content.
 class TGX_PLATFORM_API CUserDetails {};
-/// The user's own details. Content: the client library's.
+/// The user's own details. The client library defines the content.
 class TGX_PLATFORM_API CClientDetails {};
-/// A channel to chat in. Content: the client library's.
+/// A chat channel. The client library defines the content.
 class TGX_PLATFORM_API CChannelDetails {};
 
 struct ClientConnectionFields {
-    int BytesToRead = 0; // in the buffer behind DataToRead
-    int BytesToSend = 0; // in the buffer behind DataToSend
+    int BytesToRead = 0; // bytes received and not yet read
+    int BytesToSend = 0; // bytes written and not yet sent
     CONNSTATUS ConnectionStatus = CS_DISCONNECTED;
     CLogFile LogFile;
     CNetTimer Timer;
     int ConnectionStep = 0;
-    int TeamSelection = 0; // by SetTeamSelection
+    int TeamSelection = 0; // set by SetTeamSelection
     int ServerTeams = 0;
     CClientDetails Personal;
     FlagRequest TeamsChanged;
@@ -59,7 +59,7 @@ struct ClientConnectionFields {
     Request<int> ScreenChange;
     Request<int> PatchAvailable;
     Request<int> PatchUpdate;
-    CNetChallenge* NetChallenge = nullptr; // not owned, as NetGame
+    CNetChallenge* NetChallenge = nullptr; // not owned, and neither is NetGame
     CNetGame* NetGame = nullptr;
     CString InChannel;
     CString GameFilename;
@@ -67,9 +67,10 @@ struct ClientConnectionFields {
     NetFlag BetweenInnings = 0;
 };
 
-/// The connection to the server of the online games, and all that is known through it. The interface polls
-/// it; nothing calls back. A request is read by the accessor of its name; its Done call ends it. There is no
-/// network behind it: its state changes when the network side (see OnlineRecord) or a setter says so.
+/// The connection to the server of the online games, with the state received through it. The interface polls
+/// it; there are no callbacks. An accessor reads the request of the same name, and its Done call ends the
+/// request. This connection has no network: its state changes only through networkSide() (see OnlineRecord)
+/// and the setters.
 class TGX_PLATFORM_API CClientConnection : public CSocket, public OnlineRecord<ClientConnectionFields> {
 public:
     CClientConnection();
@@ -77,24 +78,24 @@ public:
     CClientConnection& operator=(const CClientConnection&) = delete;
     ~CClientConnection() override;
 
-    /// Ends the connection: it is disconnected from here on.
+    /// Ends the connection and sets ConnectionStatus to CS_DISCONNECTED.
     void Close() override;
-    /// Index in Users of the record with this team id, or -1.
+    /// Returns the index in Users of the record with this team id, or -1.
     int FindTeam(int id) const;
 
-    virtual bool DataToRead() const; ///< bytes wait to be read
-    virtual bool DataToSend() const; ///< bytes wait to be sent
+    virtual bool DataToRead() const; ///< whether bytes are waiting to be read
+    virtual bool DataToSend() const; ///< whether bytes are waiting to be sent
 
     CONNSTATUS ConnectionStatus() const;
     CONNSTATUS ConnectionStatus(CONNSTATUS value); ///< returns value
     CLogFile& LogFile();
     CNetTimer& Timer();
     int ConnectionStep() const;
-    bool SetTeamSelection(int selection); ///< true
+    bool SetTeamSelection(int selection); ///< always returns true
     int ServerTeams() const;
     CClientDetails& Personal();
 
-    // Lists that have to be shown anew.
+    // Lists that the interface has to show again.
     bool TeamsChanged() const;
     void UpdateTeamsScreen();
     void DoneTeamsScreen();
@@ -112,7 +113,7 @@ public:
     void DoneLoggedIn();
     bool TeamCreated() const;
     void DoneTeamCreated();
-    bool GotID() const; ///< the id has come from the server
+    bool GotID() const; ///< whether the server has sent the id
     void DoneGotID();
     bool PatchFinished() const;
     void DonePatchFinished();
@@ -120,9 +121,9 @@ public:
     void DoneVersionOkay();
 
     CStringList* ChatText();
-    bool Messages() const; ///< ChatText is not empty
+    bool Messages() const; ///< whether ChatText is not empty
     CStringList* AlertText();
-    bool Alerts() const; ///< AlertText is not empty
+    bool Alerts() const; ///< whether AlertText is not empty
     int NumPatchFiles() const;
     CString& PatchMessageText();
     int PatchMessage() const; ///< length of PatchMessageText
@@ -130,12 +131,12 @@ public:
 
     CArray<CTeamDetails, CTeamDetails&>* Teams();
     CArray<CChannelDetails, CChannelDetails&>* Channels();
-    CArray<CUserDetails, CUserDetails&>* ChannelUsers(); ///< of the channel InChannel
+    CArray<CUserDetails, CUserDetails&>* ChannelUsers(); ///< users of the channel InChannel
     CArray<CTeamDetails, CTeamDetails&>* Users();
 
-    int SelfIndex() const; ///< own record in Users, or -1
+    int SelfIndex() const; ///< index of the own record in Users, or -1
     void FindSelf(int id);
-    int OpponentIndex() const; ///< the opponent's record in Users, or -1
+    int OpponentIndex() const; ///< index of the opponent's record in Users, or -1
     void FindOpponent(int id);
 
     int ScreenChange() const; ///< 0 when there is no request
@@ -146,8 +147,8 @@ public:
     int PatchUpdate() const;
     void DonePatchUpdate();
 
-    CNetChallenge* NetChallenge() const; ///< null when there is none in hand
-    CNetGame* NetGame() const;           ///< null when there is none in hand
+    CNetChallenge* NetChallenge() const; ///< null if there is none
+    CNetGame* NetGame() const;           ///< null if there is none
     CString& InChannel();
     CString& GameFilename();
     void GameFilename(CString value);
@@ -156,23 +157,24 @@ public:
     bool BetweenInnings() const;
     void BetweenInnings(bool value);
 
-    /// A record of Users. An index outside, also that of a record that was not found, raises the
-    /// invalid-argument exception. Valid until Users changes; so are those below.
+    /// Returns a record of Users. An index outside Users, such as -1 for a record that was not found, raises
+    /// CInvalidArgException. The reference is valid until Users changes, like those returned by the accessors
+    /// below.
     CTeamDetails& TeamDetails(int index);
     CTeamDetails& Self();
     CTeamDetails& Opponent();
-    /// Home plays who stands first in Users. The questions below go by team id instead.
+    /// The home team is the first record in Users. The functions below compare team ids instead.
     CTeamDetails& HomeTeam();
     CTeamDetails& AwayTeam();
-    bool isHomeTeam() const;  ///< the own team id is lower
-    bool isLowestId() const;  ///< as isHomeTeam
-    bool isAwayTeam() const;  ///< the own team id is higher
-    bool isHighestId() const; ///< as isAwayTeam
+    bool isHomeTeam() const;  ///< whether the own team id is the lower one
+    bool isLowestId() const;  ///< same as isHomeTeam
+    bool isAwayTeam() const;  ///< whether the own team id is the higher one
+    bool isHighestId() const; ///< same as isAwayTeam
 
-    /// Status of the own record; without one 0, and nothing to set.
+    /// Status of the own record. Without one, reading returns 0 and setting does nothing.
     int Status() const;
     void Status(int value);
-    /// What Status holds of the bits of a match: 0x010, 0x020 and GameOver.
+    /// Returns the bits of Status that concern a match: 0x010, 0x020 and GameOver.
     int PlayingOnline() const;
 };
 

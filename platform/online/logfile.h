@@ -10,8 +10,8 @@ struct LogFileFields {
     NetFlag Time = 0;
 };
 
-/// What a connection notes of itself: whether it does at all, and whether with date and time. The stand-in
-/// writes no file. Copies with its buffer.
+/// The log of a connection: whether it is on, and whether entries have date and time. This stand-in writes no
+/// file. A copy includes the buffer.
 class TGX_PLATFORM_API CLogFile : public OnlineRecord<LogFileFields> {
 public:
     CLogFile() = default;

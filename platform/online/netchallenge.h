@@ -30,11 +30,11 @@ struct NetChallengeFields {
     FlagRequest LostConnection;
 };
 
-/// A challenge to a match, from the invitation until the terms are agreed. A request is polled by the
-/// accessor of its name; its Done call ends it.
+/// A challenge to a match, from the invitation until the terms are agreed. An accessor reads the request of
+/// the same name, and its Done call ends the request.
 class TGX_PLATFORM_API CNetChallenge : public OnlineRecord<NetChallengeFields> {
 public:
-    /// connection: the owner, or null.
+    /// Takes the owning connection, or null.
     explicit CNetChallenge(CClientConnection* connection = nullptr);
     CNetChallenge(const CNetChallenge&) = default;
     CNetChallenge& operator=(const CNetChallenge&) = default;
@@ -51,10 +51,10 @@ public:
     int Id() const;
     int OpponentId() const;
     int ChallengerId() const;
-    bool Challenger() const; ///< Id is ChallengerId
+    bool Challenger() const; ///< whether Id equals ChallengerId
 
-    int Updated() const; ///< how many changes wait to be looked at
-    void DoneUpdated();  ///< one of them has been
+    int Updated() const; ///< number of changes not yet handled
+    void DoneUpdated();  ///< marks one of them as handled
 
     int ChallengeType() const;
     int ChallengeLength() const;

@@ -6,8 +6,8 @@
 
 class CClientConnection;
 
-/// What the two sides compare to know that they still play the same game. Its content is the client
-/// library's.
+/// A packet that the two sides compare to check that their games are still in the same state. The client
+/// library defines the content.
 class TGX_PLATFORM_API CSanityCheckPacket {};
 
 struct NetGameFields {
@@ -42,10 +42,11 @@ struct NetGameFields {
     CSanityCheckPacket SanityCheckPacket;
 };
 
-/// A match against another user. A request is polled by the accessor of its name; its Done call ends it.
+/// A match against another user. An accessor reads the request of the same name, and its Done call ends the
+/// request.
 class TGX_PLATFORM_API CNetGame : public OnlineRecord<NetGameFields> {
 public:
-    /// connection: the owner, or null.
+    /// Takes the owning connection, or null.
     explicit CNetGame(CClientConnection* connection = nullptr);
 
     CClientConnection* Connection() const;
@@ -55,15 +56,15 @@ public:
     int SerializeDataHead() const; ///< the first entry, or -1 when there is none
 
     CStringList* ChatText();
-    bool Messages() const; ///< ChatText is not empty
+    bool Messages() const; ///< whether ChatText is not empty
 
     int Id() const;
     int OpponentId() const;
     int ServerId() const;
-    bool HomeTeam() const; ///< Id is below OpponentId
-    bool AwayTeam() const; ///< Id is above OpponentId
+    bool HomeTeam() const; ///< whether Id is below OpponentId
+    bool AwayTeam() const; ///< whether Id is above OpponentId
 
-    /// 0 to 3 each. They share a word: either Done call ends both.
+    /// Both values are 0 to 3 and share one request: either Done call ends both.
     int HeadsOrTails() const;
     int BatOrBowl() const;
     void DoneHeadsOrTails();
@@ -118,5 +119,5 @@ public:
     bool SanityFailed() const;
     void SanityFailed(bool value);
     void DoneSanityFailed();
-    CSanityCheckPacket* SanityCheckPacket(); ///< inside the record
+    CSanityCheckPacket* SanityCheckPacket(); ///< points into the record
 };

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-/// A field that the network side raises and the interface puts back, by the Done call, once it has acted. It
-/// is made idle: 0, or -1 where 0 is something to ask for.
+/// A field that the network side sets and that the interface resets to idle, by the Done call, once it has
+/// acted. idle is 0, or -1 where 0 is a valid request.
 template<class T, T idle = 0>
 class Request {
 public:
@@ -19,18 +19,18 @@ private:
     T value = idle;
 };
 
-/// A byte that is 0 or not.
+/// A byte used as a bool: 0 or nonzero.
 using NetFlag = std::uint8_t;
 using FlagRequest = Request<NetFlag>;
 
-/// What the records of the client library have in common: their fields lie in a struct of their own, in the
-/// record's order, each named as the accessor that reads it.
+/// Base class of the client library's records. Their fields are in a separate struct, in the record's order,
+/// each with the name of the accessor that reads it.
 template<class Fields>
 class OnlineRecord {
 public:
-    /// The way in for whoever raises requests and fills the records: the client library, or in its place a
-    /// game's tests. `game.networkSide().NewBatsman = 3;` asks for something, `game.networkSide() = {};`
-    /// makes the record new. The interface itself reads the accessors and never comes here.
+    /// Gives write access to the fields, for the client library or a game's tests:
+    /// `game.networkSide().NewBatsman = 3;` makes a request, `game.networkSide() = {};` resets the record.
+    /// The interface uses the accessors instead.
     Fields& networkSide() { return fields; }
     const Fields& networkSide() const { return fields; }
 

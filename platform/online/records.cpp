@@ -1,4 +1,4 @@
-// Construction and destruction of the records that hang from the connection.
+// Constructors and destructors of the records that belong to a connection.
 
 #include "platform/online/logfile.h"
 #include "platform/online/netchallenge.h"

@@ -15,7 +15,7 @@ struct TeamResultsFields {
     int Rating = 0;
 };
 
-/// The results of a team in one kind of match. Copies as a whole.
+/// The results of a team in one kind of match.
 class TGX_PLATFORM_API TeamResults : public OnlineRecord<TeamResultsFields> {
 public:
     char Type() const;
@@ -42,15 +42,15 @@ public:
 struct ELORatingFields {
     double Rating = 0;
     int Matches = 0;
-    int OwnInt = 0; // the client library's own, as OwnDouble
+    int OwnInt = 0; // used by the client library only, like OwnDouble
     double OwnDouble = 0;
     double Win = 0;
     double Draw = 0;
     double Lose = 0;
 };
 
-/// The rating of a team, and what it would become by the next match. Fractions are kept, and cut off towards
-/// zero by the accessors. Copying copies every field.
+/// The rating of a team, and what it would become after the next match. The fields keep fractions, which the
+/// accessors truncate towards zero.
 class TGX_PLATFORM_API CELORating : public OnlineRecord<ELORatingFields> {
 public:
     CELORating() = default;
@@ -70,7 +70,7 @@ public:
 struct TeamDetailsFields {
     int TeamId = 0;
     int DataSize = 0;
-    unsigned char* Data = nullptr; // DataSize bytes; not owned, copies of the record share them
+    unsigned char* Data = nullptr; // DataSize bytes; not owned, shared by copies of the record
     int Status = 0;
     int Rank[3] = {};
     int Preferences = 0;
@@ -78,22 +78,21 @@ struct TeamDetailsFields {
     CELORating Ratings[2];
 };
 
-/// A team, or a user as the team that plays for it. An index outside the record's arrays raises the
-/// invalid-argument exception.
+/// A team, or a user represented by a team. An index outside the record's arrays raises CInvalidArgException.
 class TGX_PLATFORM_API CTeamDetails : public OnlineRecord<TeamDetailsFields> {
 public:
     int DataSize() const;
     unsigned char* Data() const;
 
-    /// A set of bits. The accessors behind it are true when one of theirs is set.
+    /// A set of bits. Each accessor below returns whether one of its bits is set.
     int Status() const;
     void Status(int value);
     bool Online() const;
     bool Chat() const;
     bool Waiting() const;
-    bool CanChallenge() const; ///< as Waiting
+    bool CanChallenge() const; ///< same as Waiting
     bool Negociating() const;
-    bool Playing() const; ///< from the negotiation on
+    bool Playing() const; ///< also true while negotiating
     bool Aborted() const;
     bool Reconnect() const;
     bool GameOver() const;
@@ -104,11 +103,12 @@ public:
     int Rank(int index) const;
     void Rank(int value, int index);
 
-    /// Four bytes: kinds of game and kinds of result as sets of bits, highlights and time limit as numbers.
+    /// Four bytes: a set of bits each for kinds of game and kinds of result, then a number each for
+    /// highlights and time limit.
     int Preferences() const;
     void Preferences(int value);
-    bool MatchGameType(int mask) const;   ///< one of these kinds of game is wanted
-    bool MatchResultType(int mask) const; ///< one of these kinds of result is wanted
+    bool MatchGameType(int mask) const;   ///< whether one of these kinds of game is wanted
+    bool MatchResultType(int mask) const; ///< whether one of these kinds of result is wanted
     bool MatchHighlights(int value) const;
     bool MatchTimeLimit(int value) const;
 

@@ -16,8 +16,8 @@ struct PlatformResource {
 
 namespace {
 
-/// Made on first use and never destroyed: resources enter and leave while static objects of the executable
-/// are made and die, in whatever order.
+/// Made on first use and never destroyed, because static objects of the executable add and remove resources
+/// in any order.
 std::vector<const PlatformResource*>& resources()
 {
     static auto& entries = *new std::vector<const PlatformResource*>;
@@ -26,7 +26,7 @@ std::vector<const PlatformResource*>& resources()
 
 PlatformModule executable;
 
-// An integer name is a pointer whose value is the id; no text lies in the first 64 KiB of memory.
+// An integer name is a pointer whose value is the id. No text is in the first 64 KiB of memory.
 bool isInteger(const char* name)
 {
     return reinterpret_cast<std::uintptr_t>(name) <= 0xFFFF;
@@ -46,7 +46,7 @@ const char* MAKEINTRESOURCEA(unsigned id)
 
 HRSRC FindResourceA(HINSTANCE module, const char* name, const char* type)
 {
-    // Only the executable has resources, and none has a text for a name.
+    // Only the executable has resources, and all of them have integer names.
     if (module != &executable || !type || !isInteger(name))
         return nullptr;
     const auto id = static_cast<std::uint16_t>(reinterpret_cast<std::uintptr_t>(name));

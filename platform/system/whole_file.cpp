@@ -19,12 +19,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Names of files that are not in place yet, for a signal's handler, which can look at nothing but plain
-/// memory. No command has more outputs than this at a time; of those beyond, a signal leaves the part that
-/// was written.
+/// Names of the temporary files, for the signal handler, which may only read plain memory. No command has
+/// more outputs than this at a time; a signal would not remove any further ones.
 std::array<std::atomic<const char*>, 16> unfinished{};
 
-void enter(const char* name)
+void addUnfinished(const char* name)
 {
     for (auto& place : unfinished) {
         const char* none = nullptr;
@@ -33,7 +32,7 @@ void enter(const char* name)
     }
 }
 
-void leave(const char* name)
+void removeFromUnfinished(const char* name)
 {
     for (auto& place : unfinished) {
         const char* found = name;
@@ -42,7 +41,7 @@ void leave(const char* name)
     }
 }
 
-void removeUnfinished(int signal)
+void deleteUnfinishedFiles(int signal)
 {
     for (auto& place : unfinished)
         if (const char* name = place.load())
@@ -64,7 +63,7 @@ bool writeAll(int descriptor, std::string_view bytes)
     return true;
 }
 
-/// The next bytes; 0 at the end, below 0 with errno for a failure.
+/// Reads the next bytes. Returns their number, 0 at the end, or a negative value, with errno set, on failure.
 ssize_t readSome(int descriptor, char* to, std::size_t size)
 {
     ssize_t count = 0;
@@ -74,7 +73,8 @@ ssize_t readSome(int descriptor, char* to, std::size_t size)
     return count;
 }
 
-/// Writes and closes; the close may be what reports a full disk. errno tells why it failed.
+/// Writes the bytes and closes the descriptor; closing may be what reports a full disk. Sets errno on
+/// failure.
 bool writeAndClose(int descriptor, std::string_view bytes, NewFile::Care care)
 {
     bool isWritten = writeAll(descriptor, bytes);
@@ -90,16 +90,16 @@ bool writeAndClose(int descriptor, std::string_view bytes, NewFile::Care care)
 
 NewFile::~NewFile()
 {
-    if (beside.empty())
+    if (temporary.empty())
         return;
-    ::unlink(beside.c_str());
-    forget();
+    ::unlink(temporary.c_str());
+    clearTemporary();
 }
 
-void NewFile::forget()
+void NewFile::clearTemporary()
 {
-    leave(beside.c_str());
-    beside.clear();
+    removeFromUnfinished(temporary.c_str());
+    temporary.clear();
 }
 
 bool NewFile::prepare(const std::string& path, std::string_view bytes, std::string& reason, Care care)
@@ -109,14 +109,14 @@ bool NewFile::prepare(const std::string& path, std::string_view bytes, std::stri
         reason = "this is a folder, a file was expected";
         return false;
     }
-    // Through a link to the file itself, so that the link stays.
+    // Follows a link to the file itself, so that the link is kept.
     target = fs::exists(path, none) ? fs::canonical(path, none).string() : path;
-    beside = target + ".new-" + std::to_string(::getpid());
-    enter(beside.c_str());
-    const int descriptor = ::open(beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    temporary = target + ".new-" + std::to_string(::getpid());
+    addUnfinished(temporary.c_str());
+    const int descriptor = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     if (descriptor < 0) {
         reason = std::strerror(errno);
-        forget();
+        clearTemporary();
         return false;
     }
     struct stat replaced;
@@ -125,18 +125,18 @@ bool NewFile::prepare(const std::string& path, std::string_view bytes, std::stri
     if (writeAndClose(descriptor, bytes, care))
         return true;
     reason = std::strerror(errno);
-    ::unlink(beside.c_str());
-    forget();
+    ::unlink(temporary.c_str());
+    clearTemporary();
     return false;
 }
 
 bool NewFile::putInPlace(std::string& reason)
 {
-    if (::rename(beside.c_str(), target.c_str()) != 0) {
+    if (::rename(temporary.c_str(), target.c_str()) != 0) {
         reason = std::strerror(errno);
         return false;
     }
-    forget();
+    clearTemporary();
     return true;
 }
 
@@ -155,7 +155,7 @@ bool writeWholeFile(const std::string& path, std::string_view bytes, std::string
     return file.prepare(path, bytes, reason, care) && file.putInPlace(reason);
 }
 
-std::optional<std::string> readWholeFile(const std::string& path, std::size_t most, std::string& reason)
+std::optional<std::string> readWholeFile(const std::string& path, std::size_t maxBytes, std::string& reason)
 {
     const bool isStdin = path == "-";
     std::error_code none;
@@ -176,14 +176,14 @@ std::optional<std::string> readWholeFile(const std::string& path, std::size_t mo
         bytes.resize(before + step);
         count = readSome(descriptor, bytes.data() + before, step);
         bytes.resize(before + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-    } while (count > 0 && bytes.size() <= most);
+    } while (count > 0 && bytes.size() <= maxBytes);
     const int failure = errno;
     if (!isStdin)
         ::close(descriptor);
     if (count < 0)
         reason = std::strerror(failure);
-    else if (bytes.size() > most)
-        reason = "it has more than " + std::to_string(most) + " bytes, the most that is read";
+    else if (bytes.size() > maxBytes)
+        reason = "it has more than " + std::to_string(maxBytes) + " bytes, which is the limit";
     else
         return bytes;
     return std::nullopt;
@@ -202,7 +202,7 @@ bool hasWrittenStdout(const std::string& program)
 void removeNewFilesOnSignals()
 {
     for (int signal : {SIGINT, SIGTERM, SIGHUP})
-        if (std::signal(signal, removeUnfinished) == SIG_IGN)
+        if (std::signal(signal, deleteUnfinishedFiles) == SIG_IGN)
             std::signal(signal, SIG_IGN);
 }
 

@@ -8,8 +8,8 @@
 
 namespace tgx {
 
-/// A file that is written beside the one that it replaces and then renamed, so that a reader finds the old
-/// file or the new one, never half of it. One that never gets into place is removed.
+/// Replaces a file by writing a temporary file beside it and renaming that, so that a reader finds either the
+/// old file or the complete new one. A temporary file that is never renamed is removed.
 class TGX_PLATFORM_API NewFile {
 public:
     enum class Care { Usual, OnDisk }; // OnDisk: the bytes survive a loss of power after putInPlace
@@ -19,35 +19,38 @@ public:
     NewFile& operator=(const NewFile&) = delete;
     ~NewFile();
 
-    /// Writes the bytes beside path, which may be a link: the file that it leads to is replaced then, and
-    /// keeps its permissions. False with a reason when that fails; nothing has changed then.
+    /// Writes the bytes to a temporary file beside path. If path is a link, the file that it points to will
+    /// be replaced. The file's permissions are kept. Returns false and sets reason on failure; nothing has
+    /// changed then.
     bool prepare(const std::string& path, std::string_view bytes, std::string& reason,
                  Care care = Care::Usual);
-    /// Renames. False with a reason when that fails.
+    /// Renames the temporary file to the target. Returns false and sets reason on failure.
     bool putInPlace(std::string& reason);
 
 private:
-    void forget();
+    void clearTemporary();
 
     std::string target;
-    std::string beside; // empty while there is none
+    std::string temporary; // path of the temporary file, empty if there is none
 };
 
-/// Replaces a file at once, as NewFile does. A device or a pipe is written to as it is.
+/// Replaces a file in one step, as NewFile does. Writes directly to a device or a pipe. Returns false and
+/// sets reason on failure.
 TGX_PLATFORM_API bool writeWholeFile(const std::string& path, std::string_view bytes, std::string& reason,
                                      NewFile::Care care = NewFile::Care::Usual);
 
-/// All bytes of a file, "-" for standard input. Nothing, with a reason, when it cannot be read to its end or
-/// has more than that many bytes.
-TGX_PLATFORM_API std::optional<std::string> readWholeFile(const std::string& path, std::size_t most,
+/// Returns all bytes of a file, or of standard input for "-". Returns nothing and sets reason if it cannot be
+/// read to its end or has more than maxBytes bytes.
+TGX_PLATFORM_API std::optional<std::string> readWholeFile(const std::string& path, std::size_t maxBytes,
                                                           std::string& reason);
 
-/// Whether all that was written to std::cout has arrived, as a last look before a program ends. False on a
-/// full disk, with a message on stderr that begins with the program's name.
+/// Flushes std::cout and returns whether everything written to it has arrived. Call it before a program ends.
+/// Returns false on a full disk, for example, and prints a message to stderr that begins with the program's
+/// name.
 TGX_PLATFORM_API bool hasWrittenStdout(const std::string& program);
 
-/// For a program's main: SIGINT, SIGTERM and SIGHUP remove what NewFile has not put into place yet, then end
-/// the program as they would have. A signal that is ignored stays ignored.
+/// Installs handlers for SIGINT, SIGTERM and SIGHUP that remove the temporary files of NewFile and then end
+/// the program as the signal would have. For a program's main. A signal that is ignored stays ignored.
 TGX_PLATFORM_API void removeNewFilesOnSignals();
 
 } // namespace tgx

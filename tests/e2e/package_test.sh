@@ -1,10 +1,9 @@
 #!/usr/bin/env bash
 # package_test.sh find_package|pkg_config|add_subdirectory SOURCE_DIR BUILD_DIR
 #
-# Uses the toolkit as a game of that kind would, from a folder outside of this repository, and shows the log of the step
-# that failed.
+# Uses the toolkit like a game, from a folder outside this repository, and prints the log of a failed step.
 set -euo pipefail
-export CMAKE_GENERATOR=Ninja # the default is make, which nothing here needs
+export CMAKE_GENERATOR=Ninja # the default is make, which need not be installed
 
 way=$1
 source=$2
@@ -13,7 +12,7 @@ here=$(cd "$(dirname "$0")" && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# run NAME COMMAND ...: quiet unless it fails.
+# run NAME COMMAND ...: runs a step and prints its output only if it fails.
 run() {
     local name=$1
     shift
@@ -26,7 +25,7 @@ run() {
     fi
     echo "ok: $name"
 }
-# expect NAME COMMAND ...: a check that says what it is about.
+# expect NAME COMMAND ...: checks that the command succeeds.
 expect() {
     local name=$1
     shift
@@ -37,7 +36,7 @@ expect() {
     echo "ok: $name"
 }
 is_png() { [[ $(head -c 8 "$1" | od -An -tx1 | tr -d ' \n') == 89504e470d0a1a0a ]]; }
-# More than one colour is on it: a plain picture of this size packs into much less.
+# A picture with only one colour would be much smaller than this.
 is_drawn() { is_png "$1" && (($(stat -c %s "$1") > 2000)); }
 linked_into() { [[ $(LD_LIBRARY_PATH= ldd "$2") == *"libtgx.so.1 => $1/"* ]]; }
 
@@ -49,16 +48,16 @@ case $way in
 find_package)
     install_here
     expect "no private header is installed" test -z "$(find "$prefix/include" -name 'sdl_*' -o -name '*_internal.h')"
-    # The tree can be moved: nothing in it may remember where it was installed.
+    # The installed tree can be moved, so nothing in it may depend on its path.
     mv "$prefix" "$work/moved"
     prefix=$work/moved
     cp -r "$source/examples/first_screen" "$work/game"
     run "configure" cmake -S "$work/game" -B "$work/build" -D CMAKE_PREFIX_PATH="$prefix" -D CMAKE_BUILD_TYPE=Release
     run "build" cmake --build "$work/build" -j 2
-    expect "the moved library is the one in use" linked_into "$prefix" "$work/build/first_screen"
+    expect "the program uses the moved library" linked_into "$prefix" "$work/build/first_screen"
     run "play" "$work/build/first_screen_player" "$work/data" --script script.tgx --out "$work"
     expect "the screen is drawn" is_drawn "$work/screen.png"
-    # The guide's project, with pictures of the examples as there.
+    # The guide's project, with the pictures of the examples, as in the guide.
     cp -r "$source/examples/first_button" "$work/first_button"
     cp -r "$build"/examples/controls/data/{art,fonts} "$work/first_button"
     run "configure the guide's project" cmake -S "$work/first_button" -B "$work/first_button/build" \
@@ -66,7 +65,7 @@ find_package)
     run "build the guide's project" cmake --build "$work/first_button/build" -j 2
     run "test the guide's project" "$work/first_button/build/first_button_player" test "$work/first_button/tests" \
         --data "$work/first_button" --out "$work"
-    # The small game, which has its main window, screens and scripts in several files.
+    # The small game, which has several source files and scripts.
     cp -r "$source/examples/small_game" "$work/small_game"
     mkdir "$work/small_game/UIG"
     cp -r "$build"/examples/controls/data/{art,fonts} "$work/small_game"
@@ -75,7 +74,7 @@ find_package)
     run "build the small game" cmake --build "$work/small_game/build" -j 2
     run "test the small game" "$work/small_game/build/small_game_player" test "$work/small_game/tests" \
         --data "$work/small_game" --out "$work"
-    # A game with the devtools in it.
+    # A game with the devtools.
     mkdir "$work/watched"
     cat >"$work/watched/CMakeLists.txt" <<'CMAKE'
 cmake_minimum_required(VERSION 3.22)
@@ -125,7 +124,7 @@ add_subdirectory)
     run "run" "$work/build/consumer" "$work/data"
     ;;
 *)
-    echo "package_test.sh: unknown way \"$way\"" >&2
+    echo "package_test.sh: unknown method \"$way\"" >&2
     exit 2
     ;;
 esac

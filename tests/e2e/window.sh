@@ -1,4 +1,5 @@
-# Sourced by the tests of real windows: a program that runs on the display, its one window, and what it writes.
+# Sourced by the tests of real windows. Runs a program on the display, finds its window, and checks its
+# output.
 
 log=$(mktemp)
 home=$(mktemp -d)
@@ -19,7 +20,7 @@ fail() {
     exit 1
 }
 
-# soon COMMAND...: whether it comes true; so long that a busy machine has time for it.
+# soon COMMAND...: waits until the command succeeds, at most 20 seconds, for busy machines.
 soon() {
     local end=$((SECONDS + 20))
     until "$@"; do
@@ -29,7 +30,7 @@ soon() {
     done
 }
 
-# The window as it is now: SDL may replace its first one while it chooses how to draw.
+# Finds the current window. SDL may replace its first one while it chooses a renderer.
 find_window() { xdotool search --onlyvisible --pid "$pid" 2>/dev/null | head -1 || true; }
 window_stays() {
     window=$(find_window)
@@ -38,25 +39,26 @@ window_stays() {
 }
 size_is() { [[ $(xdotool getwindowgeometry --shell "$window") == *"WIDTH=$1"$'\n'"HEIGHT=$2"* ]]; }
 
-# run PROGRAM ARGUMENT...: until its window is up. Settings of whoever runs the test are neither read nor written.
+# run PROGRAM ARGUMENT...: starts the program and waits for its window. The user's settings are neither read
+# nor written.
 run() {
     program=$(basename "$1")
     HOME=$home XDG_CONFIG_HOME=$home/.config SDL_VIDEODRIVER=x11 SDL_AUDIODRIVER=dummy TGX_NO_MESSAGE_BOX=1 \
         "$@" >"$log" 2>&1 &
     pid=$!
     window=
-    soon window_stays || fail "no window came up"
+    soon window_stays || fail "no window appeared"
 }
 has_ended() { ! kill -0 "$pid" 2>/dev/null; }
-# ended HOW: the program ends now, with status 0 and nothing to report.
+# ended HOW: checks that the program ends with status 0 and without reporting anything.
 ended() {
     local ending=$pid status=0 end=$((SECONDS + 20))
     until has_ended; do
-        ((SECONDS < end)) || fail "it still runs, asked to end by $1"
+        ((SECONDS < end)) || fail "$program still runs after $1"
         sleep 0.1
     done
     pid=
     wait "$ending" || status=$?
-    ((status == 0)) || fail "status $status on the way out by $1"
-    ! grep -qiE 'sanitizer|runtime error|^message:' "$log" || fail "$program had something to report"
+    ((status == 0)) || fail "$program ended with status $status after $1"
+    ! grep -qiE 'sanitizer|runtime error|^message:' "$log" || fail "$program reported something"
 }

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""What xdotool cannot do for the window test, through libX11.
+"""Does for the window tests what xdotool cannot, using libX11.
 
-    x11.py picture X Y WIDTH HEIGHT   names what that part of the display shows: "black", or a word that is the same
-                                      for the same pixels. The pointer's arrow does not count.
-    x11.py still X Y WIDTH HEIGHT     waits until that part shows something, and the same for a second, then names it.
-                                      What slides or blinks never does: status 1 after 20 seconds.
-    x11.py close WINDOW               asks a window to close, as a window manager does for its user.
+    x11.py picture X Y WIDTH HEIGHT   prints "black", or a hash of the pixels of that part of the display, without the
+                                      pointer.
+    x11.py still X Y WIDTH HEIGHT     waits until that part is not black and does not change for a second, then prints
+                                      the same. Ends with status 1 after 20 seconds.
+    x11.py close WINDOW               asks a window to close, as a window manager does.
 """
 import ctypes
 import hashlib
@@ -16,7 +16,7 @@ x11 = ctypes.CDLL("libX11.so.6")
 ALL_PLANES, Z_PIXMAP, CLIENT_MESSAGE = ctypes.c_ulong(-1), 2, 33
 
 
-class XImage(ctypes.Structure):  # its beginning
+class XImage(ctypes.Structure): # only the first fields
     _fields_ = [(name, ctypes.c_int) for name in ("width", "height", "xoffset", "format")] + [
         ("data", ctypes.c_void_p)] + [(name, ctypes.c_int) for name in (
             "byte_order", "bitmap_unit", "bitmap_bit_order", "bitmap_pad", "depth", "bytes_per_line", "bits_per_pixel")]
@@ -40,7 +40,7 @@ x11.XSendEvent.argtypes = [ctypes.c_void_p, ctypes.c_ulong, ctypes.c_int, ctypes
 x11.XSync.argtypes = [ctypes.c_void_p, ctypes.c_int]
 
 
-def name_of(display, x, y, width, height):
+def digest_of(display, x, y, width, height):
     image = x11.XGetImage(display, x11.XDefaultRootWindow(display), x, y, width, height, ALL_PLANES, Z_PIXMAP)
     if not image:
         sys.exit("cannot read the display")
@@ -51,19 +51,19 @@ def name_of(display, x, y, width, height):
 
 
 def picture(display, *place):
-    print(name_of(display, *place))
+    print(digest_of(display, *place))
 
 
 def still(display, *place):
     seen, same = None, 0
     for _ in range(80):
-        before, seen = seen, name_of(display, *place)
+        before, seen = seen, digest_of(display, *place)
         same = same + 1 if seen == before and seen != "black" else 0
         if same == 4:
             print(seen)
             return
         time.sleep(0.25)
-    sys.exit("it never stands still")
+    sys.exit("the picture does not stop changing")
 
 
 def close(display, window):

@@ -1,9 +1,8 @@
-// Any bytes are a compiled script, and any bytes are scripts in text form: checking them neither crashes nor
-// runs without end, and each finding has a code that is known, a place that can be shown, and one line of
-// text.
+// Checks the input both as a compiled script and as scripts in text form. Checking must neither crash nor
+// hang, and each finding must have a known code, a valid place and one line of text.
 //
-// A form feed divides the text into files: the main script, then "1", "2" and so on, which the others may
-// include, and call as "1.tgx".
+// Form feeds split the text into files: the main script, then "1", "2" and so on, which the others may
+// include or call as "1.tgx".
 
 #include "tests/fuzz/findings.h"
 
@@ -30,10 +29,10 @@ void checkTexts(std::string_view text, const CheckOptions& options)
     }
     const auto read = [&](const std::string& path, std::string& reason) {
         const auto found = texts.find(path);
-        reason = "there is none";
+        reason = "no such file";
         return found == texts.end() ? std::optional<std::string>() : found->second;
     };
-    demandUsefulFindings(check(files, read, options));
+    requireUsefulFindings(check(files, read, options));
 }
 
 } // namespace
@@ -43,8 +42,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const FuzzDataDirectory directory;
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
     const CheckOptions options = optionsFor(directory);
-    const auto nothing = [](const std::string&, std::string&) { return std::nullopt; };
-    demandUsefulFindings(check({{"script.tgx", std::string(bytes), true}}, nothing, options));
+    const auto noFile = [](const std::string&, std::string&) { return std::nullopt; };
+    requireUsefulFindings(check({{"script.tgx", std::string(bytes), true}}, noFile, options));
     checkTexts(bytes, options);
     return 0;
 }

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/// The pictures that the dictionary names. A strip serves as bitmap and as border.
+/// Writes a picture that the dictionary names. A strip serves as both bitmap and border.
 inline void writeBmp(const std::filesystem::path& file, int width, int height)
 {
     const int rowBytes = (width * 3 + 3) / 4 * 4;
@@ -29,12 +29,12 @@ inline void writeBmp(const std::filesystem::path& file, int width, int height)
     put(26, 1 | 24u << 16);
     for (std::size_t i = 54; i < size; ++i)
         bytes[i] =
-            static_cast<unsigned char>(i % 3 == 1 && i % 5 == 0 ? 0 : 255); // some of it is the key colour
+            static_cast<unsigned char>(i % 3 == 1 && i % 5 == 0 ? 0 : 255); // some pixels have the key colour
     std::ofstream(file, std::ios::binary)
         .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
 }
 
-/// A data directory with those, in use as long as this lives.
+/// A data directory with these pictures, in use for the lifetime of the object.
 struct FuzzDataDirectory {
     std::filesystem::path path;
 

@@ -12,45 +12,45 @@
 #include <string>
 #include <vector>
 
-/// A crash, so that libFuzzer keeps the input.
+/// Prints the fault and aborts, so that libFuzzer keeps the input.
 [[noreturn]] inline void fail(const char* what, const std::string& text)
 {
     std::fprintf(stderr, "%s:\n%s\n", what, text.c_str());
     std::abort();
 }
 
-/// Whether an editor can show it.
+/// Returns whether an editor can show the place.
 inline bool isIn(const script_text::Place& place)
 {
     return place.line >= 1 && place.line <= place.in->file->lineCount() && place.at.column >= 1 &&
            place.at.length >= 0;
 }
 
-/// Each finding has a code that is known, a place that can be shown, and one line of text.
-inline void demandUsefulFindings(const script_check::CheckReport& report)
+/// Fails unless each finding has a known code, a valid place and one line of text.
+inline void requireUsefulFindings(const script_check::CheckReport& report)
 {
     std::vector<const script_text::Diagnostic*> findings;
     for (const script_text::Diagnostic& each : report.findings) {
         const std::string text = script_check::asText(each, script_text::Colour::No);
         if (!script_check::codeCalled(each.code))
-            fail("a code that the table does not have", text);
+            fail("unknown code", text);
         if (each.text.empty() || each.text.find('\n') != std::string::npos)
-            fail("a text that is no line", text);
+            fail("the text is not one line", text);
         if (!isIn(each.place))
-            fail("a place that is none", text);
+            fail("invalid place", text);
         findings.push_back(&each);
     }
     const std::string text = script_check::asJson(findings);
     const nlohmann::json json = nlohmann::json::parse(text, nullptr, false); // false: no exceptions
     if (!json.is_array() || json.size() != findings.size())
-        fail("no JSON array of the findings", text);
+        fail("not a JSON array of the findings", text);
 }
 
 inline script_check::CheckOptions optionsFor(const FuzzDataDirectory& directory)
 {
     script_check::CheckOptions options;
     options.dataDirectory = directory.path.string();
-    // A small part of what a game allows: this build is slow.
+    // Much less than a game allows, because this build is slow.
     options.scriptLines = 3000;
     options.scriptWork = 2'000'000;
     return options;

@@ -1,6 +1,6 @@
-// Scripts written by the grammar: bytes choose statements from the vocabulary, each with arguments that are
-// plausible for it, among them 0, -1 and the extremes of 16 bits. So nearly every line does something, where
-// mutated bytes mostly break lines. Each script builds, is checked, and is played with a few events.
+// Generates scripts from the grammar: bytes choose statements from the vocabulary, with plausible arguments,
+// including 0, -1 and the extremes of 16 bits. So nearly every line does something, whereas mutating the
+// bytes of a script mostly breaks lines. Each script is built, checked, and played with a few events.
 
 #include "language/text/emit.h"
 #include "tests/fuzz/findings.h"
@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Writes a script in text form until its bytes are used up.
+/// Writes a script in text form until the bytes are used up.
 class ScriptWriter {
 public:
     explicit ScriptWriter(std::span<const std::uint8_t> choices) : bytes(choices) {}
@@ -33,8 +33,8 @@ public:
     }
 
 private:
-    static constexpr int deepest = 6;       // blocks, fewer than the interpreter's stack holds
-    static constexpr int allDepthsUpTo = 3; // blocks that are opened as a matter of course
+    static constexpr int maxDepth = 6;          // nesting of blocks, less than the interpreter's stack holds
+    static constexpr int alwaysNestedDepth = 3; // nesting up to which every window gets a block
 
     unsigned next()
     {
@@ -67,7 +67,7 @@ private:
         text += "END\n";
     }
 
-    /// One that acts on a window of that type.
+    /// Writes a statement that usually fits a window of that type.
     void writeStatement(int type)
     {
         const std::span<const Statement> all = vocabulary();
@@ -83,7 +83,7 @@ private:
                statement.kind != StatementKind::BlockEnd;
     }
 
-    /// The type of the window that the statement makes, as far as attributes ask for it.
+    /// Returns the type of the window that the statement makes, if attributes depend on it.
     static int typeOf(std::string_view keyword)
     {
         constexpr std::pair<std::string_view, int> types[] = {
@@ -108,19 +108,20 @@ private:
         const bool opens = statement.kind == StatementKind::Window ||
                            statement.kind == StatementKind::Screen ||
                            statement.kind == StatementKind::Reference;
-        if (opens && depth < deepest && !bytes.empty() && (depth < allDepthsUpTo || choose(2) == 0))
+        if (opens && depth < maxDepth && !bytes.empty() && (depth < alwaysNestedDepth || choose(2) == 0))
             writeBlock(type);
     }
 
-    /// Tokens of the line, one of the numbers that the statement allows.
+    /// Chooses the number of tokens of the line from those that the statement allows.
     int chooseCount(const Statement& statement)
     {
-        constexpr std::uint32_t usual = (1u << 19) - 1; // up to 18, the longest fixed form
+        constexpr std::uint32_t usual = (1u << 19) - 1; // up to 18 tokens, the longest fixed form
         std::uint32_t allowed = statement.counts.mask & usual;
         const auto skipped = choose(static_cast<std::size_t>(std::popcount(allowed)));
         for (unsigned i = 0; i < skipped; ++i)
             allowed &= allowed - 1;
-        const int needed = statement.keyword == std::string_view("GOTO") ? 2 : 1; // build asks for its name
+        const int needed =
+            statement.keyword == std::string_view("GOTO") ? 2 : 1; // the name is required by build
         return std::max(std::countr_zero(allowed), needed);
     }
 
@@ -186,20 +187,20 @@ private:
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static const FuzzDataDirectory directory;
-    constexpr std::size_t handBytes = 24;
+    constexpr std::size_t eventBytes = 24;
     const std::span bytes(data, size);
-    const auto hand = bytes.last(std::min(size, handBytes));
+    const auto events = bytes.last(std::min(size, eventBytes));
     const std::string text = ScriptWriter(bytes).write();
 
-    const auto nothing = [](const std::string&, std::string&) { return std::nullopt; };
-    const script_text::ParsedScript parsed = script_text::parse("script.tgs", text, nothing);
+    const auto noFile = [](const std::string&, std::string&) { return std::nullopt; };
+    const script_text::ParsedScript parsed = script_text::parse("script.tgs", text, noFile);
     if (parsed.hasErrors())
-        fail("a script by the grammar does not build", script_text::describe(parsed.diagnostics[0]) + text);
-    // Under another name it is no main script, so that its subroutines are right.
+        fail("a generated script does not build", script_text::describe(parsed.diagnostics[0]) + text);
+    // A script with another name is not a main script, where subroutines would be an error.
     const char* const name = size % 2 == 0 ? "script.tgs" : "panels.tgs";
-    demandUsefulFindings(script_check::check({{name, text, false}}, nothing, optionsFor(directory)));
+    requireUsefulFindings(script_check::check({{name, text, false}}, noFile, optionsFor(directory)));
     setDataDirectory(directory.path.string());
     const std::string compiled = script_text::emit(parsed).bytes;
-    playScript({reinterpret_cast<const std::uint8_t*>(compiled.data()), compiled.size()}, hand);
+    playScript({reinterpret_cast<const std::uint8_t*>(compiled.data()), compiled.size()}, events);
     return 0;
 }

@@ -12,13 +12,11 @@
 #include <span>
 #include <string>
 
-inline constexpr int fuzzedWidth =
-    160; // pixels: small, so that a run is about the windows and not about pixels
+inline constexpr int fuzzedWidth = 160; // in pixels; small, so that little time is spent on drawing
 inline constexpr int fuzzedHeight = 120;
 inline constexpr unsigned mainScript = 141;
 
-/// Allows a script a small part of what a game allows: this build is slow, and one input must not take a
-/// minute.
+/// A main window that allows scripts much less than a game does, because this build is slow.
 class FuzzMainWin : public AMainWin {
 public:
     FuzzMainWin() : AMainWin(fuzzedWidth, fuzzedHeight, 32)
@@ -28,9 +26,10 @@ public:
     }
 };
 
-/// As the frame loop: a cell with an icon that is not there raises the exception, and the game goes on.
+/// Catches CInvalidArgException, as the main loop does. A list box cell with a missing icon raises it, for
+/// example.
 template<class Part>
-void survive(Part part)
+void ignoreInvalidArguments(Part part)
 {
     try {
         part();
@@ -68,7 +67,7 @@ inline void queueEvent(AMainWin& window, std::uint8_t byte)
     case 12:
         input.key(static_cast<std::uint8_t>(8 + low * 4), static_cast<char>(low ? 'a' + low : 0));
         break;
-    case 13: // walk into the screens that the script names "A" to "H"
+    case 13: // open one of the screens "A" to "H"
         window.changeScreen(CString(std::string(1, static_cast<char>('A' + low / 2))), low & 1, mainScript,
                             "script.tgx");
         break;
@@ -82,8 +81,8 @@ inline void queueEvent(AMainWin& window, std::uint8_t byte)
     }
 }
 
-/// A tree that disagrees with itself is a crash, so that libFuzzer keeps the input.
-inline void demandInvariants(AMainWin& window)
+/// Aborts if an invariant is broken, so that libFuzzer keeps the input.
+inline void requireInvariants(AMainWin& window)
 {
     const std::string broken = checkInvariants(window);
     if (broken.empty())
@@ -92,21 +91,21 @@ inline void demandInvariants(AMainWin& window)
     std::abort();
 }
 
-/// Windows of the tree, counted no further than most.
-inline int countWindows(AWnd* wnd, int most)
+/// Counts the windows of the tree, but stops at limit.
+inline int countWindows(AWnd* wnd, int limit)
 {
     int count = 1;
-    for (int i = 0; i < wnd->getWindowCount() && count < most; ++i)
-        count += countWindows(wnd->getWndFromIndex(i, ""), most - count);
+    for (int i = 0; i < wnd->getWindowCount() && count < limit; ++i)
+        count += countWindows(wnd->getWndFromIndex(i, ""), limit - count);
     return count;
 }
 
-/// Reads a compiled script into windows, draws them, hands in an event for each byte of hand, and takes the
-/// windows down again. Needs a data directory.
-inline void playScript(std::span<const std::uint8_t> compiled, std::span<const std::uint8_t> hand)
+/// Reads a compiled script, draws its windows, sends an event for each byte of events, and deletes the
+/// windows. Needs a data directory.
+inline void playScript(std::span<const std::uint8_t> compiled, std::span<const std::uint8_t> events)
 {
     auto host = std::make_unique<HeadlessHost>();
-    host->onMessage = [](const CString&) {}; // a bad script has much to report
+    host->onMessage = [](const CString&) {}; // a bad script reports many messages
     displayhost::use(std::move(host));
     setVirtualTime(0);
 
@@ -117,25 +116,25 @@ inline void playScript(std::span<const std::uint8_t> compiled, std::span<const s
         app.mainWin = &window;
         window.startup();
         window.readScriptFile("script.tgx", GetModuleHandleA(nullptr), mainScript, "", 1);
-        demandInvariants(window);
+        requireInvariants(window);
 
-        // A few lines can make a hundred thousand windows; those are drawn once and not walked tick by tick.
+        // A few lines can make a hundred thousand windows. Those are drawn once but get no events.
         constexpr int manyWindows = 3000;
         const bool isLarge = countWindows(window.getScreenList(), manyWindows) >= manyWindows;
-        for (std::uint8_t byte : hand.first(isLarge ? 0 : hand.size())) {
+        for (std::uint8_t byte : events.first(isLarge ? 0 : events.size())) {
             queueEvent(window, byte);
-            survive([&] { window.runTick(); });
-            demandInvariants(window);
+            ignoreInvalidArguments([&] { window.runTick(); });
+            requireInvariants(window);
             advanceVirtualTime(41);
-            survive([&] { window.runFrame(); });
+            ignoreInvalidArguments([&] { window.runFrame(); });
         }
-        const int lastFrames = isLarge ? 1 : 8; // a change that is still waiting is carried out
+        const int lastFrames = isLarge ? 1 : 8; // enough to complete a pending change of screens
         for (int frame = 0; frame < lastFrames; ++frame) {
-            survive([&] { window.runTick(); });
+            ignoreInvalidArguments([&] { window.runTick(); });
             advanceVirtualTime(41);
-            survive([&] { window.runFrame(); });
+            ignoreInvalidArguments([&] { window.runFrame(); });
         }
-        demandInvariants(window);
+        requireInvariants(window);
     }
     displayhost::use(nullptr);
 }

@@ -1,8 +1,8 @@
-// Any bytes are a compiled script: what dump prints of them, build makes the same bytes of, without a word.
-// And any bytes are a text: build neither crashes nor runs without end, and what it makes of it has a text
-// form that builds to the same.
+// Reads the input as a compiled script: the text printed by dump must build to the same bytes without
+// diagnostics. And as a script in text form: build must neither crash nor hang, and dumping and building its
+// result must give the same bytes again.
 //
-// A form feed divides the text into files: the script itself, then "1", "2" and so on for INCLUDE.
+// Form feeds split the text into files: the script itself, then "1", "2" and so on for INCLUDE.
 
 #include "language/text/emit.h"
 #include "language/text/parsed_script.h"
@@ -19,14 +19,14 @@ namespace {
 
 using namespace script_text;
 
-/// A crash, so that libFuzzer keeps the input.
+/// Prints the fault and aborts, so that libFuzzer keeps the input.
 [[noreturn]] void fail(const char* what, const std::string& text)
 {
     std::fprintf(stderr, "%s:\n%s\n", what, text.c_str());
     std::abort();
 }
 
-void demandRoundTrip(std::string_view bytes)
+void requireRoundTrip(std::string_view bytes)
 {
     const std::string text = print(bytes);
     const ParsedScript script =
@@ -49,19 +49,19 @@ void buildText(std::string_view text)
     }
     const auto read = [&](const std::string& path, std::string& reason) {
         const auto found = files.find(path);
-        reason = "there is none";
+        reason = "no such file";
         return found == files.end() ? std::optional<std::string>() : found->second;
     };
     const ParsedScript script = parse("0", files["0"], read);
     for (const Diagnostic& each : script.diagnostics)
         if (describe(each).compare(0, headline(each).size(), headline(each)) != 0)
-            fail("a message begins otherwise than its headline", describe(each, Colour::Yes));
+            fail("a message does not begin with its headline", describe(each, Colour::Yes));
     if (script.hasErrors())
         return;
     const Emitted emitted = emit(script);
     if (emitted.offsets.size() != script.lines.size())
         fail("a line has no offset", sideMap(script, emitted));
-    demandRoundTrip(emitted.bytes);
+    requireRoundTrip(emitted.bytes);
 }
 
 } // namespace
@@ -69,7 +69,7 @@ void buildText(std::string_view text)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    demandRoundTrip(bytes);
+    requireRoundTrip(bytes);
     buildText(bytes);
     return 0;
 }

@@ -4,8 +4,8 @@
 
 #include <functional>
 
-/// No window and no clock of its own: whoever holds it runs the ticks and frames. Messages go to onMessage,
-/// or to stderr as "message: TEXT" without one.
+/// A host without a window or a clock: its owner runs the ticks and frames. Messages are passed to onMessage
+/// or, without one, printed to stderr as "message: TEXT".
 class TGX_PLATFORM_API HeadlessHost : public displayhost {
 public:
     bool open(ddwin& window) override;

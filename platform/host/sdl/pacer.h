@@ -3,23 +3,23 @@
 #include <algorithm>
 #include <cstdint>
 
-/// Says when a tick and when a frame is due. Times are microseconds of a clock that never goes back.
+/// Determines when ticks and frames are due. Times are in microseconds of a monotonic clock.
 class Pacer {
 public:
     static constexpr std::int64_t tickMicros = 1'000'000 / 60;
     static constexpr std::int64_t unseenFrameMicros = 1'000'000 / 10;
-    /// Ticks that are made up at once behind a stall. What goes beyond is forgotten, or a slow tick would
-    /// bring ever more.
+    /// Maximum number of ticks to catch up on at once after a stall. Any more are skipped, or slow ticks
+    /// would pile up.
     static constexpr int ticksAtOnce = 4;
 
-    /// framesPerSecond: of the display; no more than 60 are run.
+    /// Starts the clock. framesPerSecond is the display's refresh rate; at most 60 frames are run.
     void start(std::int64_t now, int framesPerSecond)
     {
         frameMicros = 1'000'000 / std::clamp(framesPerSecond, 1, 60);
         nextTick = now;
         nextFrame = now;
     }
-    /// Earliest time at which one of the two is due.
+    /// Returns the earliest time at which a tick or a frame is due.
     std::int64_t nextDue() const { return std::min(nextTick, nextFrame); }
     int takeTicks(std::int64_t now)
     {
@@ -30,14 +30,14 @@ public:
             nextTick = now + tickMicros;
         return ticks;
     }
-    /// isUnseen: nobody sees the window. Frames go on slowly then, for what ends only with frames: a change
-    /// of screen, a wipe, the exit.
+    /// Returns 1 if a frame is due, otherwise 0. If the window cannot be seen (isUnseen), frames still run,
+    /// but slowly, because a change of screen, a wipe and the exit need them.
     int takeFrame(std::int64_t now, bool isUnseen = false)
     {
         if (nextFrame > now)
             return 0;
-        // In step with the display as long as frames keep up; a late one is followed by a pause of half a
-        // period at least.
+        // Keeps in step with the display as long as frames are on time. A late frame is followed by a pause
+        // of at least half a period.
         const std::int64_t period = isUnseen ? unseenFrameMicros : frameMicros;
         nextFrame = std::max(nextFrame + period, now + period / 2);
         return 1;

@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <cstdint>
 
-/// How a screen lies in a window: as large as it fits with its shape kept, in the middle, bars at the sides.
+/// Position of the screen in a window: centred, as large as possible with its aspect ratio, with bars at the
+/// sides.
 struct ScreenFit {
-    int x = 0; // of the shown screen, window pixels
+    int x = 0; // position of the screen, in window pixels
     int y = 0;
     int w = 1;
     int h = 1;
@@ -33,18 +34,18 @@ struct ScreenFit {
         fit.y = (windowHeight - fit.h) / 2;
         return fit;
     }
-    /// Whole screen pixels: every one is shown as large as the next.
+    /// Returns whether the scale is a whole number, so that all screen pixels have the same size.
     bool isWholeScale() const { return w % screenWidth == 0 && h % screenHeight == 0; }
     bool contains(int windowX, int windowY) const
     {
         return windowX >= x && windowX < x + w && windowY >= y && windowY < y + h;
     }
-    /// The screen pixel under a place of the window; from outside, the nearest.
+    /// Returns the screen pixel at a position in the window, or the nearest one from outside the screen.
     Point toScreen(int windowX, int windowY) const
     {
         return {axisToScreen(windowX - x, w, screenWidth), axisToScreen(windowY - y, h, screenHeight)};
     }
-    /// The place of the window in the middle of a screen pixel.
+    /// Returns the position in the window of the middle of a screen pixel.
     Point toWindow(int screenX, int screenY) const
     {
         return {x + axisToWindow(screenX, w, screenWidth), y + axisToWindow(screenY, h, screenHeight)};
@@ -57,7 +58,7 @@ private:
     }
     static int axisToWindow(int position, int shown, int screen)
     {
-        const std::int64_t held = std::clamp(position, 0, screen - 1);
-        return static_cast<int>((2 * held + 1) * shown / (2 * std::int64_t{screen}));
+        const std::int64_t clamped = std::clamp(position, 0, screen - 1);
+        return static_cast<int>((2 * clamped + 1) * shown / (2 * std::int64_t{screen}));
     }
 };

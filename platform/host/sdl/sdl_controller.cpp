@@ -7,8 +7,8 @@
 
 namespace {
 
-// A stick presses beyond the first value and lets go below the second, so that one held at the edge does not
-// flutter.
+// A stick presses its key above the first value and releases it below the second, so that a stick near the
+// threshold does not flicker.
 constexpr int pressBeyond = 16000;
 constexpr int releaseBelow = 12000;
 constexpr std::uint32_t firstRepeatMillis = 400;
@@ -48,7 +48,7 @@ void SdlController::add(int deviceIndex)
         return;
     Pad& pad = padOf(SDL_JoystickInstanceID(SDL_GameControllerGetJoystick(device)));
     if (pad.device)
-        SDL_GameControllerClose(device); // counted twice otherwise
+        SDL_GameControllerClose(device); // otherwise its use count would be 2
     pad.device = device;
 }
 
@@ -57,7 +57,7 @@ void SdlController::remove(SDL_JoystickID id, InputQueue& input)
     const auto found = std::find_if(pads.begin(), pads.end(), [id](const Pad& pad) { return pad.id == id; });
     if (found == pads.end())
         return;
-    letGo(*found, input);
+    releaseAll(*found, input);
     if (found->device)
         SDL_GameControllerClose(found->device);
     pads.erase(found);
@@ -162,7 +162,7 @@ void SdlController::repeat(std::uint32_t now, InputQueue& input)
     }
 }
 
-void SdlController::letGo(Pad& pad, InputQueue& input)
+void SdlController::releaseAll(Pad& pad, InputQueue& input)
 {
     for (Key& key : pad.keys) {
         setKey(key, Button, false, input);
@@ -170,8 +170,8 @@ void SdlController::letGo(Pad& pad, InputQueue& input)
     }
 }
 
-void SdlController::letGo(InputQueue& input)
+void SdlController::releaseAll(InputQueue& input)
 {
     for (Pad& pad : pads)
-        letGo(pad, input);
+        releaseAll(pad, input);
 }

@@ -10,17 +10,17 @@
 
 class InputQueue;
 
-/// Game controllers, as many as are plugged in, as the keys: directions, Return, Esc, Home and End. A held
-/// direction repeats as a held key does. A key is let go when no controller holds it any more.
+/// Translates all connected game controllers to keys: directions, Return, Esc, Home and End. A held direction
+/// repeats like a held key. A key is released when no controller holds it any more.
 class SdlController {
 public:
     ~SdlController();
-    /// True when the event was one of a controller.
+    /// Handles an event. Returns whether it came from a controller.
     bool handle(const SDL_Event& event, InputQueue& input);
-    /// Sends the repeats that are due. now in milliseconds.
+    /// Sends the key repeats that are due. now is in milliseconds.
     void repeat(std::uint32_t now, InputQueue& input);
-    /// Lets go of everything, as when the window loses the focus.
-    void letGo(InputQueue& input);
+    /// Releases all keys, for a window that loses the focus.
+    void releaseAll(InputQueue& input);
     void closeAll();
 
 private:
@@ -28,14 +28,14 @@ private:
     struct Key {
         std::uint8_t code;
         bool repeats = false;
-        std::uint8_t heldBy = 0; // sources
+        std::uint8_t heldBy = 0; // set of Source
         std::uint32_t nextRepeat = 0;
     };
     enum Place : std::size_t { Left, Up, Right, Down, Return, Esc, Home, End };
     struct Pad {
         SDL_JoystickID id;
         SDL_GameController* device = nullptr;
-        // By Place.
+        // Indexed by Place.
         std::array<Key, 8> keys = {{{VK_LEFT, true},
                                     {VK_UP, true},
                                     {VK_RIGHT, true},
@@ -51,7 +51,7 @@ private:
     void remove(SDL_JoystickID id, InputQueue& input);
     void setKey(Key& key, Source source, bool held, InputQueue& input);
     void moveStick(Key& negative, Key& positive, int value, InputQueue& input);
-    void letGo(Pad& pad, InputQueue& input);
+    void releaseAll(Pad& pad, InputQueue& input);
     bool isHeld(std::uint8_t code) const;
 
     std::vector<Pad> pads;

@@ -71,44 +71,43 @@ private:
     bool handleSystemEvent(const SDL_Event& event);
     void handleWindowEvent(const SDL_WindowEvent& event);
     void followTopMost();
-    void letGo();
+    void releaseAll();
     void showGatheredMessages();
     void showInWindow(const std::string& text);
     bool isMinimised() const { return SDL_GetWindowFlags(window) & SDL_WINDOW_MINIMIZED; }
 
-    ddwin* game = nullptr; // not owned; whose window is open
+    ddwin* game = nullptr; // not owned; the game whose window is open
     SDL_Window* window = nullptr;
     SDL_Renderer* renderer = nullptr;
     SDL_Texture* texture = nullptr;
-    SDL_Rect windowedPlace =
-        {}; // where the window stood before it took the whole screen; without a width: never
-    SDL_Cursor* cursors[2] = {}; // by CursorShape
+    SDL_Rect windowedPlace = {}; // position and size before full screen; width 0 if there is none
+    SDL_Cursor* cursors[2] = {}; // indexed by CursorShape
     CursorShape cursor = CursorShape::Normal;
     int textureWidth = 0;
     int textureHeight = 0;
-    bool hasVideo = false; // started by us
+    bool hasVideo = false; // started by this host
     bool hasController = false;
-    bool pixelsAreLost = true;  // the texture holds nothing of the screen
-    Uint32 lastPump = 0;        // milliseconds of SDL_GetTicks
-    bool isPointerOwed = false; // the game moved it while the window was in the background
-    bool windowIsStale = true;  // what the window shows is not the texture
+    bool pixelsAreLost = true;   // the texture does not contain the screen
+    Uint32 lastPump = 0;         // milliseconds of SDL_GetTicks
+    bool hasPendingMove = false; // a move made while the window was in the background is pending
+    bool windowIsStale = true;   // the window does not show the texture
     Pacer pacer;
     SdlInput mouseAndKeys{input()};
     SdlController controllers;
-    std::vector<std::string> messages; // of the running frame
+    std::vector<std::string> messages; // messages of the current frame
 };
 
 // Opening and closing
 
 bool SdlHost::startVideo()
 {
-    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1"); // Ctrl+C ends the program, as anywhere else
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1"); // Ctrl+C ends the program as usual
     SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
     SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
     SDL_SetMainReady();
     if (SDL_InitSubSystem(SDL_INIT_VIDEO) == 0) {
         hasVideo = true;
-        // Drivers that show nothing are used only where the user names them.
+        // Drivers that show nothing are used only if the user has named them.
         const std::string_view driver = SDL_GetCurrentVideoDriver();
         if ((driver != "dummy" && driver != "offscreen") || isSetInEnvironment("SDL_VIDEODRIVER"))
             return true;
@@ -130,7 +129,7 @@ bool SdlHost::createWindow()
     int height = std::max<int>(game->screenHeight, 1);
     SDL_Rect desktop;
     if (isFullScreen && SDL_GetDisplayBounds(0, &desktop) == 0) {
-        // Large from the start: without a window manager nobody makes it so.
+        // Full size from the start, because without a window manager nothing enlarges the window.
         width = desktop.w;
         height = desktop.h;
     } else if (SDL_GetDisplayUsableBounds(0, &desktop) == 0 && (width > desktop.w || height > desktop.h)) {
@@ -167,12 +166,12 @@ bool SdlHost::open(ddwin& newGame)
         std::fprintf(stderr,
                      "cannot open a window: %s; start the program in a desktop session, or with DISPLAY set "
                      "to an X server "
-                     "(xvfb-run gives one that shows nothing)\n",
+                     "(xvfb-run provides a virtual one)\n",
                      SDL_GetError());
         closeWindow();
         return false;
     }
-    hasController = SDL_InitSubSystem(SDL_INIT_GAMECONTROLLER) == 0; // a game goes without
+    hasController = SDL_InitSubSystem(SDL_INIT_GAMECONTROLLER) == 0; // optional
     cursors[0] = SDL_CreateSystemCursor(SDL_SYSTEM_CURSOR_ARROW);
     cursors[1] = SDL_CreateSystemCursor(SDL_SYSTEM_CURSOR_WAIT);
     setCursor(cursor);
@@ -195,13 +194,12 @@ void SdlHost::close(ddwin& closed)
         closeWindow();
 }
 
-/// A window of the other kind in place of the one that is there. Without a window manager nobody makes a
-/// window fill the screen that did not do so from the start.
+/// Replaces the window by a new one, because without a window manager nothing enlarges an existing window.
 void SdlHost::followFullScreen(ddwin& changed)
 {
     if (!window || game != &changed)
         return;
-    letGo(); // what is let go meanwhile goes to neither window
+    releaseAll(); // neither window gets the releases that happen meanwhile
     if (!(SDL_GetWindowFlags(window) & SDL_WINDOW_FULLSCREEN)) {
         SDL_GetWindowPosition(window, &windowedPlace.x, &windowedPlace.y);
         SDL_GetWindowSize(window, &windowedPlace.w, &windowedPlace.h);
@@ -241,7 +239,7 @@ void SdlHost::closeWindow()
     }
     destroyWindow();
     game = nullptr;
-    // Only what open() has started: a game may use SDL for its sound.
+    // Stops only what open() has started, because a game may use SDL too, for example for sound.
     if (hasController)
         SDL_QuitSubSystem(SDL_INIT_GAMECONTROLLER);
     if (hasVideo)
@@ -274,12 +272,12 @@ void SdlHost::upload(const Image& screen, const tagRECT& area)
 {
     const int left = std::clamp(area.left, 0, screen.width);
     const int top = std::clamp(area.top, 0, screen.height);
-    const SDL_Rect held = {left, top, std::clamp(area.right, left, screen.width) - left,
+    const SDL_Rect part = {left, top, std::clamp(area.right, left, screen.width) - left,
                            std::clamp(area.bottom, top, screen.height) - top};
-    if (held.w == 0 || held.h == 0)
+    if (part.w == 0 || part.h == 0)
         return;
     const int pitchInBytes = screen.pitch * static_cast<int>(sizeof(std::uint32_t));
-    SDL_UpdateTexture(texture, &held, screen.row(held.y) + held.x, pitchInBytes);
+    SDL_UpdateTexture(texture, &part, screen.row(part.y) + part.x, pitchInBytes);
 }
 
 void SdlHost::show(const Image& screen, std::span<const tagRECT> changed)
@@ -287,7 +285,7 @@ void SdlHost::show(const Image& screen, std::span<const tagRECT> changed)
     if (!window || screen.width <= 0 || screen.height <= 0 || !prepareTexture(screen))
         return;
     if (isMinimised()) {
-        pixelsAreLost = true; // the window gets the whole screen when it is back
+        pixelsAreLost = true; // the whole screen is uploaded once the window is visible again
         return;
     }
     if (pixelsAreLost)
@@ -345,7 +343,7 @@ void SdlHost::pump(ddwin& polled)
             mouseAndKeys.handle(event);
     }
     mouseAndKeys.flush();
-    // Events have no time of their own that could be trusted: all of these came while nobody looked.
+    // The times of events are not reliable, so all events that were pending after the stall are dropped.
     if (hasStalled)
         input().dropFrom(before);
     lastPump = SDL_GetTicks();
@@ -385,13 +383,13 @@ void SdlHost::handleWindowEvent(const SDL_WindowEvent& event)
     case SDL_WINDOWEVENT_FOCUS_GAINED:
         game->appActive = 1;
         followTopMost();
-        if (std::exchange(isPointerOwed, false))
+        if (std::exchange(hasPendingMove, false))
             movePointer(game->mouseX, game->mouseY);
         break;
     case SDL_WINDOWEVENT_FOCUS_LOST:
         game->appActive = 0;
         followTopMost();
-        letGo();
+        releaseAll();
         break;
     case SDL_WINDOWEVENT_LEAVE:
         mouseAndKeys.pointerLeft();
@@ -406,26 +404,27 @@ void SdlHost::handleWindowEvent(const SDL_WindowEvent& event)
     }
 }
 
-/// Always on top only while the player is in the game: other programs must be able to cover it.
+/// Keeps the window on top only while it has the focus, so that other programs can cover it.
 void SdlHost::followTopMost()
 {
     const bool isFullScreen = SDL_GetWindowFlags(window) & SDL_WINDOW_FULLSCREEN;
     SDL_SetWindowAlwaysOnTop(window, game->appActive && game->topMost && isFullScreen ? SDL_TRUE : SDL_FALSE);
 }
 
-void SdlHost::letGo()
+void SdlHost::releaseAll()
 {
-    mouseAndKeys.letGo();
-    controllers.letGo(input());
+    mouseAndKeys.releaseAll();
+    controllers.releaseAll(input());
 }
 
 void SdlHost::movePointer(int x, int y)
 {
     if (!window)
         return;
-    // A window in the background leaves the pointer to the one in front, and moves it when the focus is back.
+    // In the background, the pointer belongs to other windows, so the move is postponed until the focus
+    // returns.
     if (SDL_GetKeyboardFocus() != window) {
-        isPointerOwed = true;
+        hasPendingMove = true;
         return;
     }
     input().dropMovesAtHead();
@@ -462,7 +461,7 @@ void SdlHost::showGatheredMessages()
     messages.clear();
     if (!window || isSetInEnvironment("TGX_NO_MESSAGE_BOX"))
         return;
-    letGo(); // what is let go while the box is open goes to the box
+    releaseAll(); // the box gets the releases that happen while it is open
     const std::string utf8 = utf8From1252(text);
     if (isSetInEnvironment("TGX_MESSAGE_IN_WINDOW") ||
         SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_INFORMATION, windowTitle().c_str(), utf8.c_str(), window) !=
@@ -471,8 +470,8 @@ void SdlHost::showGatheredMessages()
     windowIsStale = true;
 }
 
-/// For a system that can show no box. Returns when the message has been read: at a key, a click, or the wish
-/// to close the window.
+/// Shows a message in the window, for a system that cannot show a box. Returns at a key press, a click, or a
+/// request to close the window.
 void SdlHost::showInWindow(const std::string& text)
 {
     const ImageRef picture = messagePicture(game->getScreenImage(), text);
@@ -483,7 +482,7 @@ void SdlHost::showInWindow(const std::string& text)
     SDL_Event event;
     do {
         present();
-        // Shown again now and then: not every system says when the window was uncovered.
+        // Presents again from time to time, because not every system reports that the window was uncovered.
         if (!SDL_WaitEventTimeout(&event, 500))
             event.type = SDL_FIRSTEVENT;
         pixelsAreLost = false;
@@ -493,8 +492,9 @@ void SdlHost::showInWindow(const std::string& text)
     } while (!userWantsToClose && event.type != SDL_KEYDOWN && event.type != SDL_MOUSEBUTTONDOWN &&
              event.type != SDL_CONTROLLERBUTTONDOWN);
     SDL_FlushEvents(SDL_KEYDOWN, SDL_TEXTINPUT);
-    pixelsAreLost = true;                             // the screen's own come back with the next frame
-    lastPump = SDL_GetTicks() - staleInputMillis - 1; // what comes next was meant for the message
+    pixelsAreLost = true; // the next frame uploads the screen again
+    lastPump =
+        SDL_GetTicks() - staleInputMillis - 1; // drops the next events, which were meant for the message
 }
 
 void SdlHost::waitForWork(int& ticks, int& frames)

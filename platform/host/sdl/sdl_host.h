@@ -4,5 +4,5 @@
 
 #include <memory>
 
-/// The host of a program that chooses none: a window of the desktop.
+/// Makes the default host, which shows a desktop window.
 std::unique_ptr<displayhost> makeSdlHost();

@@ -11,17 +11,17 @@
 
 namespace {
 
-/// Not every system tells of a pointer that was moved: behind this time no more is waited for.
+/// How long to wait for the motion event of a pointer move of the toolkit. Not every system sends one.
 constexpr std::uint32_t ownMotionMillis = 100;
 
-/// The farthest that the second press of a double click may be from the first, window units.
+/// Maximum distance between the presses of a double click along each axis, in window units.
 constexpr int doubleClickRadius = 4;
 
-/// Where the pointer is while it is not over the screen.
+/// Reported position of a pointer that is not over the screen.
 constexpr ScreenFit::Point offScreen{-1, -1};
 
-/// Whether a key with these modifiers is a command of the system or the program, and types nothing. Right Alt
-/// is AltGr on many keyboards, which types a character, on some systems together with Ctrl.
+/// Returns whether a key with these modifiers is a command of the system or the program and types nothing. On
+/// many keyboards, right Alt is AltGr, which does type characters; some systems report it together with Ctrl.
 bool isCommand(unsigned modifiers)
 {
     const bool hasAltGr = modifiers & (KMOD_RALT | KMOD_MODE);
@@ -79,7 +79,7 @@ void SdlInput::handle(const SDL_Event& event)
 void SdlInput::moveTo(ScreenFit::Point place)
 {
     if (place.x == last.x && place.y == last.y)
-        return; // within one screen pixel of a large window
+        return; // still the same screen pixel, in a large window
     last = place;
     queue.move(place.x, place.y);
 }
@@ -91,12 +91,12 @@ void SdlInput::handleMotion(const SDL_MouseMotionEvent& motion)
         const bool isOverdue = SDL_GetTicks() - ownMotionSince > ownMotionMillis;
         awaitsOwnMotion = !isOwn && !isOverdue;
         if (!isOverdue)
-            return; // ours, or from before it
+            return; // caused by the toolkit's move, or older
     }
     movePointer(motion.x, motion.y);
 }
 
-/// Where the pointer is for the toolkit; nothing while a move of its own is still on the way.
+/// Returns the pointer's position on the screen, or nothing while a move by the toolkit is pending.
 std::optional<InputQueue::Place> SdlInput::placeOf(int windowX, int windowY) const
 {
     if (awaitsOwnMotion)
@@ -105,8 +105,8 @@ std::optional<InputQueue::Place> SdlInput::placeOf(int windowX, int windowY) con
     return InputQueue::Place{at.x, at.y};
 }
 
-/// A pointer beside the screen is over nothing; while a button is held, such as on a lever, it is at the
-/// nearest place of the screen.
+/// Returns the pointer's position on the screen. Outside the screen it is offScreen or, while a button is
+/// held, for example on a lever, the nearest position on the screen.
 ScreenFit::Point SdlInput::pointerAt(int windowX, int windowY) const
 {
     return fit.contains(windowX, windowY) || heldButtons.any() ? fit.toScreen(windowX, windowY) : offScreen;
@@ -124,8 +124,8 @@ void SdlInput::pointerLeft()
         moveTo(offScreen);
 }
 
-/// clicks of the event says that the press came in time. Where SDL counts clicks together, more than these
-/// may be meant: of other places nearby, and a third and fourth.
+/// Returns whether a press is the second one of a double click. SDL has checked the time (event.clicks), but
+/// it also counts presses further away, and third and fourth clicks.
 bool SdlInput::isSecondClick(const SDL_MouseButtonEvent& event)
 {
     const bool isSecond = event.clicks > 1 && lastPress.button == event.button && !lastPress.wasSecond &&
@@ -142,7 +142,7 @@ void SdlInput::handleButton(const SDL_MouseButtonEvent& event)
         return;
     const auto index = static_cast<std::size_t>(*button);
     if (event.state == SDL_PRESSED) {
-        // A click that brings the window to the front may come without a motion to its place.
+        // A click that raises the window may arrive without a preceding motion event.
         if (!awaitsOwnMotion)
             movePointer(event.x, event.y);
         if (!fit.contains(event.x, event.y))
@@ -171,7 +171,7 @@ void SdlInput::handleKeyDown(const SDL_KeyboardEvent& event)
     waitingIsCommand = isCommand(event.keysym.mod);
 }
 
-/// The code that the key went down with is let go, whatever its code would be by now.
+/// Releases the code with which the key went down, even if it has another code now.
 void SdlInput::handleKeyUp(const SDL_KeyboardEvent& event)
 {
     setCode(event.keysym.scancode, 0);
@@ -182,7 +182,8 @@ bool SdlInput::isHeld(std::uint8_t code) const
     return std::find(codes.begin(), codes.end(), code) != codes.end();
 }
 
-/// Some keys share a code, such as the two Shift keys: it is held while any of them is.
+/// Sets the code of a pressed key, 0 when it is released. Some keys share a code, such as the two Shift keys,
+/// which is held while any of them is.
 void SdlInput::setCode(SDL_Scancode key, std::uint8_t code)
 {
     const auto place = static_cast<std::size_t>(key);
@@ -201,7 +202,7 @@ void SdlInput::handleText(std::string_view text)
     if (!typesText(waitingKey))
         flush();
     if (waitingKey != 0 && waitingIsCommand)
-        return; // some systems send the letter all the same
+        return; // some systems send the letter nevertheless
     while (!text.empty()) {
         const std::optional<char> character = to1252(takeUtf8(text));
         if (!character)
@@ -221,7 +222,7 @@ void SdlInput::sendWaitingKey(char character)
     waitingKey = 0;
 }
 
-void SdlInput::letGo()
+void SdlInput::releaseAll()
 {
     flush();
     for (MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {

@@ -12,23 +12,25 @@
 #include <optional>
 #include <string_view>
 
-/// Turns the window's mouse and key events into transitions of the input queue.
+/// Translates the window's mouse and key events to events of the input queue.
 class SdlInput {
 public:
     explicit SdlInput(InputQueue& target) : queue(target) {}
 
-    /// Where the screen lies in the window, in the units of mouse events.
+    /// Sets the position of the screen in the window, in the units of mouse events.
     void setFit(const ScreenFit& newFit) { fit = newFit; }
     const ScreenFit& getFit() const { return fit; }
 
     void handle(const SDL_Event& event);
-    /// Behind the last event there is: a key that waited for its character goes without.
+    /// Must be called after the last pending event. Sends a key that was waiting for its character without
+    /// one.
     void flush() { sendWaitingKey(0); }
-    /// Lets go of all that is held, as when the window loses the focus. No button clicks by that.
-    void letGo();
-    /// The pointer has left the window: it is over nothing, unless a button holds it.
+    /// Releases all keys and cancels all buttons without a click, for a window that loses the focus.
+    void releaseAll();
+    /// Must be called when the pointer has left the window: it is over nothing, unless a button is held.
     void pointerLeft();
-    /// The toolkit has put the pointer to this place of the screen. Motion that began before comes no more.
+    /// Must be called when the toolkit has moved the pointer to this position on the screen. Motion events
+    /// from before are ignored.
     void pointerWasMoved(int screenX, int screenY, std::uint32_t now);
 
 private:
@@ -48,9 +50,9 @@ private:
 
     InputQueue& queue;
     ScreenFit fit;
-    ScreenFit::Point last = {INT_MIN, INT_MIN}; // what the queue knows last; at first nothing
+    ScreenFit::Point last = {INT_MIN, INT_MIN}; // last position sent to the queue
     std::bitset<3> heldButtons;
-    // The last press, window units. A second one at its place in time makes a double click of the two.
+    // The last press, in window units. A second press soon after at the same position is a double click.
     struct Press {
         int button = -1;
         int x = 0;
@@ -58,13 +60,14 @@ private:
         bool wasSecond = false;
     };
     Press lastPress;
-    // Virtual key codes of the keys that are down, by scancode; 0 for one that is not.
+    // Virtual key codes of the keys that are down, indexed by scancode; 0 for a key that is up.
     std::array<std::uint8_t, SDL_NUM_SCANCODES> codes{};
-    // A key event waits for the text event right behind it, so that one transition has code and character.
+    // A key event waits for the text event that follows it, so that one transition has both code and
+    // character.
     std::uint8_t waitingKey = 0;
     bool waitingIsRepeat = false;
-    bool waitingIsCommand = false; // held with Ctrl, Alt or Super: it types nothing
-    // The motion event that moving the pointer brings, in window units, until it has come.
+    bool waitingIsCommand = false; // pressed with Ctrl, Alt or Super, so it types nothing
+    // The motion event, in window units, that is expected because the toolkit moved the pointer.
     bool awaitsOwnMotion = false;
     ScreenFit::Point ownMotion = {0, 0};
     std::uint32_t ownMotionSince = 0;

@@ -34,7 +34,7 @@ constexpr KeyRow keys[] = {
     {SDLK_QUOTE, 0xDE},        {SDLK_LESS, 0xE2},
 };
 
-/// What the number pad's keys mean while Num Lock is off.
+/// The meaning of the number pad's keys while Num Lock is off.
 constexpr KeyRow numpadWithoutLock[] = {
     {SDLK_KP_0, VK_INSERT}, {SDLK_KP_1, VK_END}, {SDLK_KP_2, VK_DOWN},       {SDLK_KP_3, 0x22},
     {SDLK_KP_4, VK_LEFT},   {SDLK_KP_5, 0x0C},   {SDLK_KP_6, VK_RIGHT},      {SDLK_KP_7, VK_HOME},
@@ -57,7 +57,7 @@ std::uint8_t numpadKey(const SDL_Keysym& key)
     return key.sym == SDLK_KP_0 ? numpad0 : key.sym == SDLK_KP_PERIOD ? numpadPoint : 0;
 }
 
-/// What the key at that place types on a US keyboard; SDLK_UNKNOWN for a place that types nothing.
+/// Returns the key at that physical position on a US keyboard, or SDLK_UNKNOWN if it types nothing.
 SDL_Keycode keyAtPlace(SDL_Scancode place)
 {
     if (place >= SDL_SCANCODE_A && place <= SDL_SCANCODE_Z)
@@ -113,7 +113,8 @@ std::uint8_t virtualKeyOf(const SDL_Keysym& key)
 {
     if (const std::uint8_t code = codeOf(key))
         return code;
-    // A character of another script, such as a Cyrillic letter: the place of the key decides.
+    // The key types a character of another script, such as a Cyrillic letter, so its physical position
+    // decides.
     SDL_Keysym atPlace = key;
     atPlace.sym = keyAtPlace(key.scancode);
     return codeOf(atPlace);
@@ -123,7 +124,7 @@ char controlCharacterOf(std::uint8_t virtualKey)
 {
     const bool types =
         virtualKey == VK_BACK || virtualKey == VK_TAB || virtualKey == VK_RETURN || virtualKey == VK_ESCAPE;
-    return types ? static_cast<char>(virtualKey) : 0; // code and character have the same number
+    return types ? static_cast<char>(virtualKey) : 0; // code and character have the same value
 }
 
 bool typesText(std::uint8_t virtualKey)

@@ -4,9 +4,10 @@
 
 #include <cstdint>
 
-/// The virtual key code of a key, 0 for one that has none.
+/// Returns the virtual key code of a key, or 0 if it has none.
 std::uint8_t virtualKeyOf(const SDL_Keysym& key);
-/// The character of a key that types one without a text event: Return, Tab, Esc and Backspace. Else 0.
+/// Returns the character of a key that types one without a text event, which are Return, Tab, Esc and
+/// Backspace, otherwise 0.
 char controlCharacterOf(std::uint8_t virtualKey);
-/// Whether the key can be the one that a text event, right behind it, comes from.
+/// Returns whether a text event that follows the key's event can belong to it.
 bool typesText(std::uint8_t virtualKey);

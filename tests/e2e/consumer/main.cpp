@@ -1,4 +1,4 @@
-// consumer DIR: reads the main script, from DIR or from the executable, and looks at what it made.
+// consumer DIR: reads the main script, from DIR or from the executable, and checks the windows that it makes.
 
 #include "platform/framework/datadir.h"
 #include "platform/host/headless/headless_host.h"
@@ -30,7 +30,7 @@ bool isAnythingDrawn(const AMainWin& window)
 int main(int argc, char** argv)
 {
     if (argc != 2)
-        return missing("expected the data directory as the one argument");
+        return missing("expected one argument, the data directory");
     displayhost::use(std::make_unique<HeadlessHost>());
     setDataDirectory(argv[1]);
 
@@ -48,7 +48,7 @@ int main(int argc, char** argv)
         return missing("the screen MENU is not active");
     const AWnd* greeting = window.getWnd("GREETING", 1);
     if (!greeting || greeting->getText() != "Ahoy")
-        return missing("the window GREETING is not there, or has another text");
+        return missing("the window GREETING is missing or has another text");
     if (!isAnythingDrawn(window))
         return missing("the screen is black");
     return 0;

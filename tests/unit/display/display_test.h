@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-/// Keeps what the window shows and says.
+/// Records what the window shows and reports.
 class SpyHost : public HeadlessHost {
 public:
     void show(const Image&, std::span<const tagRECT> rects) override
@@ -20,7 +20,7 @@ public:
     void showMessage(const CString& text) override { messages.push_back(text.str()); }
     void movePointer(int x, int y) override { moves.emplace_back(x, y); }
 
-    std::vector<tagRECT> changed; // by the last frame
+    std::vector<tagRECT> changed; // rectangles changed by the last frame
     std::vector<std::string> messages;
     std::vector<std::pair<int, int>> moves;
 };
@@ -32,7 +32,8 @@ public:
         screenWidth = static_cast<short>(width);
         screenHeight = static_cast<short>(height);
     }
-    /// A frame: the backdrop, then paint. showsItself: by the base drawscreen, as all but wipe frames do.
+    /// Runs a frame: draws the backdrop, then calls paint. showsItself: calls the base drawscreen, as all
+    /// frames but those of a wipe do.
     void frame(
         std::function<void()> paint = [] {}, bool showsItself = true)
     {
@@ -45,9 +46,9 @@ public:
         runFrame();
     }
     void drawscreen() override { painting(); }
-    /// 0xRRGGBB.
+    /// Returns a pixel of the screen as 0xRRGGBB.
     std::uint32_t at(int x, int y) const { return getScreenImage().row(y)[x] & 0xFFFFFF; }
-    /// Pixels of that colour.
+    /// Returns the number of pixels with that colour.
     int count(std::uint32_t colour) const
     {
         int found = 0;
@@ -70,7 +71,7 @@ protected:
     }
     ~DisplayTest() override
     {
-        EXPECT_EQ(host().messages, std::vector<std::string>()) << "a message that the test did not take";
+        EXPECT_EQ(host().messages, std::vector<std::string>()) << "a message that the test did not expect";
         displayhost::use(std::move(previousHost));
         setDataDirectory(".");
         std::filesystem::remove_all(folder);
@@ -88,7 +89,7 @@ private:
     std::unique_ptr<displayhost> previousHost;
 };
 
-/// An image whose pixels pixelAt(x, y) gives, 0xAARRGGBB.
+/// Makes an image with the pixels returned by pixelAt(x, y), 0xAARRGGBB.
 template<class PixelAt>
 ImageRef imageOf(int width, int height, PixelAt pixelAt)
 {
@@ -96,7 +97,7 @@ ImageRef imageOf(int width, int height, PixelAt pixelAt)
     for (int y = 0; y < height; y++)
         for (int x = 0; x < width; x++)
             image->row(y)[x] = pixelAt(x, y);
-    settleCoverage(*image);
+    determineCoverage(*image);
     return image;
 }
 
@@ -111,7 +112,7 @@ inline std::string le(std::uint32_t value, int bytes)
 struct BmpForm {
     int bits = 24;
     std::uint32_t compression = 0;
-    std::string palette; // four bytes an entry
+    std::string palette; // four bytes per entry
     std::string pixels;
 };
 inline std::string bmpFile(int width, int height, const BmpForm& form)

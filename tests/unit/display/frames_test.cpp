@@ -14,7 +14,7 @@ protected:
         white.setImage(imageOf(20, 20, [](int, int) { return 0xFFFFFFFFu; }), "");
         window.frame();
     }
-    // A file of one colour, as large as the screen.
+    // Writes a plain picture of the screen's size.
     void writeBackdrop(const std::string& name, char blue)
     {
         std::string pixels;
@@ -34,13 +34,13 @@ protected:
     surface white{&window};
 };
 
-TEST_F(FramesTest, OnlyWhatDiffersIsReported)
+TEST_F(FramesTest, OnlyDifferencesAreReported)
 {
     const std::vector<std::pair<const char*, std::function<void()>>> frames = {
-        {"a bitmap", [&] { put(5, 5); }},
-        {"moved far", [&] { put(200, 150); }},
-        {"another before it", [&] { put(100, 5), put(200, 150); }},
-        {"another behind it", [&] { put(100, 5), put(200, 150), put(5, 150); }},
+        {"one bitmap", [&] { put(5, 5); }},
+        {"moved far away", [&] { put(200, 150); }},
+        {"with another drawn before it", [&] { put(100, 5), put(200, 150); }},
+        {"with another drawn after it", [&] { put(100, 5), put(200, 150), put(5, 150); }},
         {"in another order", [&] { put(200, 150), put(100, 5), put(5, 150); }},
         {"none", [] {}},
     };
@@ -58,16 +58,15 @@ TEST_F(FramesTest, OnlyWhatDiffersIsReported)
         EXPECT_LT(changedPixels(), 256 * 192 / 2);
         const Image shown = window.getScreenImage();
         window.frame(paint);
-        EXPECT_EQ(changedPixels(), 0) << "an equal frame";
+        EXPECT_EQ(changedPixels(), 0) << "an identical frame changes nothing";
         window.redrawScreen();
         window.frame(paint);
-        EXPECT_EQ(changedPixels(), 256 * 192) << "asked for";
-        EXPECT_EQ(shown.pixels, window.getScreenImage().pixels)
-            << "the parts do not give the same as the whole";
+        EXPECT_EQ(changedPixels(), 256 * 192) << "redrawScreen redraws everything";
+        EXPECT_EQ(shown.pixels, window.getScreenImage().pixels) << "a full redraw gives another picture";
     }
 }
 
-TEST_F(FramesTest, WhatOverlapsKeepsItsOrderInEveryTile)
+TEST_F(FramesTest, OverlappingBoxesKeepTheirOrderInEveryTile)
 {
     std::uint32_t seed = 7;
     const auto random = [&](int below) {
@@ -103,13 +102,13 @@ TEST_F(FramesTest, ADeletedSurfaceIsStillShownByItsFrame)
     });
     EXPECT_EQ(window.at(3, 3), 0x102030u);
     EXPECT_EQ(window.getSurfaceCount(), 0);
-    EXPECT_EQ(window.deleteSurface(&white), 0) << "not from this window's table";
+    EXPECT_EQ(window.deleteSurface(&white), 0) << "it does not belong to this window";
     EXPECT_EQ(window.deleteSurface(nullptr), 0);
     EXPECT_EQ(window.getLastFrame().commands()[1].image->name, "a.bmp")
         << "the list can be read until the next frame ends";
 }
 
-TEST_F(FramesTest, AFilesPixelsGoWhenNoWindowShowsThemAndComeBackWhenUsed)
+TEST_F(FramesTest, PixelsOfAFileAreDroppedWhenNotShownAndReloadedWhenUsed)
 {
     const auto picture = [&](char blue) {
         write("a.bmp", bmpFile(1, 1, {24, 0, "", std::string(1, blue) + std::string("\x20\x10\0", 3)}));
@@ -119,16 +118,16 @@ TEST_F(FramesTest, AFilesPixelsGoWhenNoWindowShowsThemAndComeBackWhenUsed)
     surface* sprite = window.createsprite("a.bmp", -1, -1, -1);
     surface* written = window.createsprite("a.bmp", -1, -1, -1);
     written->setPixel(0, 0, 0x445566);
-    const auto letGo = [&] {
+    const auto showAndRelease = [&] {
         SurfaceRef first(sprite);
         SurfaceRef(written).get();
         window.frame();
         EXPECT_NE(sprite->getImage(), nullptr);
     };
     const long long shared = livePixelCount() - before;
-    letGo();
+    showAndRelease();
     window.frame(), window.frame();
-    EXPECT_EQ(livePixelCount() - before, shared / 2) << "only what was written to is kept";
+    EXPECT_EQ(livePixelCount() - before, shared / 2) << "only modified pixels are kept";
     EXPECT_EQ(sprite->width, 1);
     window.frame([&] {
         surface copy(*sprite);
@@ -140,28 +139,28 @@ TEST_F(FramesTest, AFilesPixelsGoWhenNoWindowShowsThemAndComeBackWhenUsed)
     EXPECT_EQ(window.at(1, 0), 0x102030u);
     EXPECT_EQ(window.at(2, 0), 0x445566u);
 
-    letGo();
+    showAndRelease();
     window.frame(), window.frame();
     std::filesystem::remove(folder / "a.bmp");
     window.reloadsurfaces();
     window.frame([&] { sprite->blit(1, 0, 1, 1, nullptr, -1), sprite->blit(1, 0, 1, 1, nullptr, -1); });
-    EXPECT_EQ(takeMessages(), std::vector<std::string>{"cannot load a.bmp"}) << "once";
+    EXPECT_EQ(takeMessages(), std::vector<std::string>{"cannot load a.bmp"}) << "reported once";
     EXPECT_EQ(window.getSurfaceCount(), 2);
 }
 
-TEST_F(FramesTest, APixelThatIsSetShowsFromTheNextBlitOnAndNowhereElse)
+TEST_F(FramesTest, SetPixelAffectsOnlyLaterBlitsOfThatSurface)
 {
     write("a.bmp", bmpFile(1, 1, {24, 0, "", std::string("\x30\x20\x10\0", 4)}));
     surface* one = window.createsprite("a.bmp", -1, -1, -1);
     surface* other = window.createsprite("a.bmp", -1, -1, -1);
     ASSERT_NE(one, other);
-    EXPECT_EQ(one->getImage(), other->getImage()) << "one file, one set of pixels";
+    EXPECT_EQ(one->getImage(), other->getImage()) << "surfaces of one file share pixels";
     window.frame([&] {
         one->blit(0, 0, 1, 1, nullptr, -1);
         one->setPixel(0, 0, 0xAABBCC);
         one->blit(1, 0, 1, 1, nullptr, -1);
         other->blit(2, 0, 1, 1, nullptr, -1);
-        one->setPixel(1, 0, 0); // outside
+        one->setPixel(1, 0, 0); // outside the bitmap
     });
     EXPECT_EQ(window.at(0, 0), 0x102030u);
     EXPECT_EQ(window.at(1, 0), 0xAABBCCu);
@@ -170,7 +169,7 @@ TEST_F(FramesTest, APixelThatIsSetShowsFromTheNextBlitOnAndNowhereElse)
     one->setPixel(0, 0, 0x010203);
     const Image* written = one->getImage().get();
     one->setPixel(0, 0, keyColour);
-    EXPECT_EQ(one->getImage().get(), written) << "pixels that no list knows are written in place";
+    EXPECT_EQ(one->getImage().get(), written) << "pixels that are in no display list are modified in place";
     window.frame([&] { one->blit(1, 0, 1, 1, nullptr, -1); });
     EXPECT_EQ(window.at(1, 0), 0u) << "the key colour is transparent";
     EXPECT_EQ(one->reload(), 1);
@@ -178,7 +177,7 @@ TEST_F(FramesTest, APixelThatIsSetShowsFromTheNextBlitOnAndNowhereElse)
     EXPECT_EQ(window.at(1, 0), 0x102030u);
 }
 
-TEST_F(FramesTest, AReloadShowsWhatTheFilesHoldNow)
+TEST_F(FramesTest, AReloadShowsTheNewContentsOfTheFiles)
 {
     const auto colour = [&](char blue) {
         write("a.bmp", bmpFile(1, 1, {24, 0, "", std::string(1, blue) + std::string("\0\0\0", 3)}));
@@ -196,10 +195,10 @@ TEST_F(FramesTest, AReloadShowsWhatTheFilesHoldNow)
     std::filesystem::remove(folder / "a.bmp");
     EXPECT_EQ(a->reload(), 0);
     window.frame(paint);
-    EXPECT_EQ(window.at(1, 0), 0x99u) << "the pixels stay when the file is gone";
+    EXPECT_EQ(window.at(1, 0), 0x99u) << "the pixels are kept if the file is missing";
 }
 
-TEST_F(FramesTest, PicturesNamedInTurnAreDecodedOnceInAFrame)
+TEST_F(FramesTest, PicturesLoadedAlternatelyAreDecodedOnceInAFrame)
 {
     for (const char* name : {"a.bmp", "b.bmp"})
         write(name, bmpFile(1, 1, {24, 0, "", std::string("\x30\x20\x10\0", 4)}));
@@ -215,12 +214,12 @@ TEST_F(FramesTest, PicturesNamedInTurnAreDecodedOnceInAFrame)
     EXPECT_EQ(ids["b.bmp"].size(), 1u);
     const long long before = livePixelCount();
     window.frame();
-    EXPECT_EQ(livePixelCount(), before - 2 * (4 + 16)) << "nothing keeps them behind the frame";
+    EXPECT_EQ(livePixelCount(), before - 2 * (4 + 16)) << "nothing keeps them after the frame";
 }
 
-TEST_F(FramesTest, AFileThatFailedIsDecodedAgainOnlyWhenItChangedOrByAReload)
+TEST_F(FramesTest, AFailedFileIsDecodedAgainOnlyAfterAChangeOrReload)
 {
-    // Each try at decoding takes an image's id.
+    // Each attempt to decode uses up an image id.
     const auto idsTaken = [&](auto act) {
         const std::uint32_t before = makeImage(0, 0)->id;
         act();
@@ -231,7 +230,8 @@ TEST_F(FramesTest, AFileThatFailedIsDecodedAgainOnlyWhenItChangedOrByAReload)
             EXPECT_EQ(window.createsprite(name, -1, -1, -1), nullptr);
     };
     const std::string palette(16, '\x40');
-    write("a.bmp", bmpFile(2, 2, {8, 1, palette, std::string("\x02\x01", 2)})); // runs without an end
+    write("a.bmp",
+          bmpFile(2, 2, {8, 1, palette, std::string("\x02\x01", 2)})); // run-length data without an end
     EXPECT_EQ(idsTaken(tryIt), 1u);
     EXPECT_EQ(idsTaken([&] { window.frame(tryIt); }), 0u);
     window.reloadsurfaces();
@@ -240,7 +240,7 @@ TEST_F(FramesTest, AFileThatFailedIsDecodedAgainOnlyWhenItChangedOrByAReload)
     EXPECT_NE(window.createsprite("a.bmp", -1, -1, -1), nullptr);
 }
 
-TEST_F(FramesTest, PixelsOfAllPicturesTogetherAreBounded)
+TEST_F(FramesTest, PixelsOfAllPicturesTogetherAreLimited)
 {
     write("small.bmp", bmpFile(1, 1, {24, 0, "", std::string(4, 1)}));
     write("large.bmp", bmpFile(8000, 8000, {8, 1, std::string(16, 0), std::string("\0\x01", 2)}));
@@ -251,14 +251,15 @@ TEST_F(FramesTest, PixelsOfAllPicturesTogetherAreBounded)
     EXPECT_EQ(window.createBkgndSection(&white, 0, 0, 8000, 8000, nullptr), nullptr);
     EXPECT_EQ(takeMessages(), std::vector<std::string>{"cannot load background"});
     EXPECT_EQ(window.createBkgndSection(&white, 0, 0, 8000, 8000, sections[0]), sections[0]);
-    EXPECT_EQ(sections[0]->width, 8000) << "takes the place of its own pixels";
+    EXPECT_EQ(sections[0]->width, 8000) << "it may reuse the room of its own pixels";
     EXPECT_EQ(window.createsprite("large.bmp", -1, -1, -1), nullptr);
     EXPECT_NE(window.createsprite("small.bmp", -1, -1, -1), nullptr);
     window.deleteSurface(sections[0]);
-    EXPECT_NE(window.createsprite("large.bmp", -1, -1, -1), nullptr) << "no room is not remembered as broken";
+    EXPECT_NE(window.createsprite("large.bmp", -1, -1, -1), nullptr)
+        << "a picture refused for lack of room can be loaded later";
 }
 
-TEST_F(FramesTest, ABackdropSpreadsWhereItIsMarked)
+TEST_F(FramesTest, ANewBackdropAppearsOnlyWhereItIsMarkedDirty)
 {
     writeBackdrop("one.bmp", '\x11');
     writeBackdrop("two.bmp", '\x22');
@@ -275,7 +276,7 @@ TEST_F(FramesTest, ABackdropSpreadsWhereItIsMarked)
     for (const int strip : {0, 64, 128}) {
         tagRECT rect{strip, -5, strip + 10, 500};
         window.adddirtyrect(rect);
-        window.frame([] {}, false); // as in a wipe: nothing brings the frame to the display but its end
+        window.frame([] {}, false); // as in a wipe: only the end of the frame shows it
         EXPECT_EQ(changedPixels(), 64 * 192) << strip;
         EXPECT_EQ(window.count(two), (strip / 64 + 1) * 10 * 192);
         EXPECT_EQ(window.at(strip + 9, 100), two);
@@ -289,7 +290,7 @@ TEST_F(FramesTest, ABackdropSpreadsWhereItIsMarked)
     EXPECT_EQ(changedPixels(), 0) << "the same picture everywhere";
 }
 
-TEST_F(FramesTest, ABackdropFitsTheScreenOrIsPlain)
+TEST_F(FramesTest, ABackdropIsStretchedToTheScreenOrPlain)
 {
     write("small.bmp", bmpFile(2, 1, {24, 0, "", std::string("\xFF\0\xFF\0\xFF\0\0\0", 8)}));
     window.setbackdrop("small.bmp", -1);
@@ -297,7 +298,7 @@ TEST_F(FramesTest, ABackdropFitsTheScreenOrIsPlain)
     EXPECT_STREQ(window.getBackdrop()->filename, "small.bmp");
     window.redrawScreen();
     window.frame();
-    EXPECT_EQ(window.at(127, 191), 0xFF00FFu) << "no colour of a backdrop is transparent";
+    EXPECT_EQ(window.at(127, 191), 0xFF00FFu) << "backdrops have no transparent colour";
     EXPECT_EQ(window.at(128, 0), 0x00FF00u);
     window.screenWidth = 300;
     window.frame();
@@ -311,11 +312,11 @@ TEST_F(FramesTest, ABackdropFitsTheScreenOrIsPlain)
     EXPECT_EQ(section->getImage()->row(0)[1], 0xFF000000u);
     EXPECT_EQ(window.createBkgndSection(window.getBackdrop(), 0, 0, 2, 2, section), section);
     EXPECT_EQ(section->getImage()->row(1)[1], 0xFFFF00FFu);
-    EXPECT_EQ(window.createBkgndSection(section, 1, 1, 1, 1, section), section) << "out of itself";
+    EXPECT_EQ(window.createBkgndSection(section, 1, 1, 1, 1, section), section) << "a section of itself";
     EXPECT_EQ(section->getImage()->row(0)[0], 0xFFFF00FFu);
     EXPECT_EQ(window.createBkgndSection(nullptr, 0, 0, 2, 2, nullptr), nullptr);
     EXPECT_EQ(window.createBkgndSection(nullptr, 0, 0, 2, 2, section), section);
-    EXPECT_EQ(section->width, 0) << "the old one is empty and still there";
+    EXPECT_EQ(section->width, 0) << "the old surface is empty but still exists";
     EXPECT_NE(window.createBkgndSection(window.getBackdrop(), INT_MIN, INT_MAX, INT_MAX, 1, nullptr),
               nullptr);
 
@@ -331,7 +332,7 @@ TEST_F(FramesTest, ABackdropFitsTheScreenOrIsPlain)
     window.setbackdrop("", -1);
 }
 
-TEST_F(FramesTest, TheLastFrameHoldsWhatWasDrawnSinceTheOneBefore)
+TEST_F(FramesTest, TheLastFrameContainsAllCommandsSinceThePreviousOne)
 {
     window.fillrect(1, 2, 3, 4, window.getcol(0x0000FF));
     window.frame(
@@ -344,10 +345,10 @@ TEST_F(FramesTest, TheLastFrameHoldsWhatWasDrawnSinceTheOneBefore)
     EXPECT_EQ(commands[1].op, DrawOp::DrawBackdrop);
     EXPECT_EQ(window.getLastFrame().text(commands[2]), "text");
     EXPECT_EQ(commands[3].op, DrawOp::DrawScreen);
-    EXPECT_EQ(window.count(0xFF0000), 0) << "the backdrop went over it";
+    EXPECT_EQ(window.count(0xFF0000), 0) << "the backdrop was drawn over it";
 }
 
-TEST_F(FramesTest, ATickThatFailedOrWasNotEndedIsFollowedAsItShould)
+TEST_F(FramesTest, FailedAndUnfinishedTicksAreHandled)
 {
     class Ticker : public ddwin {
     public:
@@ -368,7 +369,7 @@ TEST_F(FramesTest, ATickThatFailedOrWasNotEndedIsFollowedAsItShould)
     host().input().key('A', 'a');
     ticker.ends = false;
     ticker.runTick();
-    ticker.runTick(); // the same press again
+    ticker.runTick(); // takes no new input
     EXPECT_EQ(ticker.keyCode, 0);
     ticker.ends = true;
     ticker.runTick();
@@ -383,11 +384,11 @@ TEST_F(FramesTest, ATickThatFailedOrWasNotEndedIsFollowedAsItShould)
     EXPECT_THROW(ticker.runTick(), CInvalidArgException);
     ticker.fails = false;
     ticker.runTick();
-    EXPECT_EQ(ticker.wheelUp, 0) << "the tick that failed is over";
+    EXPECT_EQ(ticker.wheelUp, 0) << "the failed tick has ended";
 
-    ticker.mouseX = 12; // written: the pointer follows
+    ticker.mouseX = 12; // a write moves the pointer
     ticker.runTick();
-    host().input().move(30, 40); // moved: it is there already
+    host().input().move(30, 40); // the pointer is already there
     ticker.runTick();
     EXPECT_EQ(host().moves, (std::vector<std::pair<int, int>>{{12, 0}}));
     EXPECT_EQ(ticker.mouseX, 30);

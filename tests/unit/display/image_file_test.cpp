@@ -39,7 +39,7 @@ std::string chunk(const std::string& name, const std::string& contents)
            bigEndian(crc(name + contents));
 }
 
-// rows: each with its filter byte. Stored, not packed.
+// Makes a PNG without compression. Each of rows begins with its filter byte.
 std::string pngFile(int width, int height, char colourType, const std::string& extra, const std::string& rows)
 {
     std::uint32_t a = 1, b = 0;
@@ -56,7 +56,8 @@ std::string pngFile(int width, int height, char colourType, const std::string& e
            extra + chunk("IDAT", packed) + chunk("IEND", "");
 }
 
-// Two pixels, palette entries 0 (red) and 1 (blue); entry 1 shows through where transparent is set.
+// Makes a GIF of two pixels, palette entries 0 (red) and 1 (blue). Entry 1 is transparent if transparent is
+// set.
 std::string gifFile(bool transparent)
 {
     return "GIF89a"s + le(2, 2) + le(1, 2) + "\x80\0\0"s + "\xFF\0\0\0\0\xFF"s + "\x21\xF9\x04"s +
@@ -64,7 +65,7 @@ std::string gifFile(bool transparent)
            "\0\x02\x02\x44\x0A\0\x3B"s;
 }
 
-// 8 x 8 grey: tables of one code each, one block without a coefficient.
+// Makes a grey JPEG of 8 x 8: tables with one code each, and one block without coefficients.
 std::string jpegFile()
 {
     return "\xFF\xD8\xFF\xDB\0\x43\0"s + std::string(64, 1) +
@@ -86,7 +87,7 @@ const std::string redBlueKey =
 
 class ImageFileTest : public DisplayTest {};
 
-TEST_F(ImageFileTest, EveryAllowedFormGivesItsPixels)
+TEST_F(ImageFileTest, EverySupportedFormatIsDecoded)
 {
     const struct {
         const char* name;
@@ -132,12 +133,12 @@ TEST_F(ImageFileTest, EveryAllowedFormGivesItsPixels)
          {0x80112233, 0xFFFF00FF},
          Coverage::Alpha,
          true},
-        {"runs of 8 bits: run, literal, skip, end of line",
+        {"run-length 8 bits: run, literal, skip, end of line",
          bmpFile(4, 2, {8, 1, redBlueKey, "\x02\x01\0\x02\x01\0\x01\x03\0\0\0\x03\x01\x03\x01\0\0\x01"s}),
          {0xFF0000FF, 0xFF00FF00, 0xFF0000FF, 0xFFFF0000, 0xFF0000FF, 0xFF0000FF, 0xFFFF0000, 0xFF00FF00},
          Coverage::Opaque,
          false},
-        {"runs of 4 bits, longer than the row",
+        {"run-length 4 bits, longer than the row",
          bmpFile(3, 1, {4, 2, redBlueKey, "\x09\x13\0\x01"s}),
          {0xFF0000FF, 0xFF00FF00, 0xFF0000FF},
          Coverage::Opaque,
@@ -175,7 +176,7 @@ TEST_F(ImageFileTest, EveryAllowedFormGivesItsPixels)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        write("picture.xyz", row.bytes); // the name's ending plays no part
+        write("picture.xyz", row.bytes); // the extension does not matter
         const ImageRef image = loadImageFile("picture.xyz");
         ASSERT_TRUE(image);
         std::vector<std::uint32_t> pixels;
@@ -187,7 +188,7 @@ TEST_F(ImageFileTest, EveryAllowedFormGivesItsPixels)
     }
 }
 
-TEST_F(ImageFileTest, WhatIsMissingForeignTooLargeOrBrokenIsRefused)
+TEST_F(ImageFileTest, MissingForeignTooLargeAndBrokenFilesAreRefused)
 {
     const std::string bmp = bmpFile(2, 2, {24, 0, "", std::string(16, 1)});
     const struct {
@@ -196,21 +197,21 @@ TEST_F(ImageFileTest, WhatIsMissingForeignTooLargeOrBrokenIsRefused)
     } rows[] = {
         {"empty", ""},
         {"another kind", "P6 1 1 255 abc"},
-        {"a BMP past the longest side", bmpFile(16385, 1, {1, 0, redBlueKey, std::string(4096, 0)})},
-        {"a BMP of the largest sides", bmpFile(INT_MAX, INT_MIN, {24, 0, "", ""})},
-        {"a BMP without size", bmpFile(0, 5, {24, 0, "", std::string(64, 0)})},
+        {"a BMP that is too wide", bmpFile(16385, 1, {1, 0, redBlueKey, std::string(4096, 0)})},
+        {"a BMP of the largest size", bmpFile(INT_MAX, INT_MIN, {24, 0, "", ""})},
+        {"a BMP of width 0", bmpFile(0, 5, {24, 0, "", std::string(64, 0)})},
         {"too many pixels", bmpFile(16384, 16384, {1, 0, redBlueKey, ""})},
-        {"a PNG past the limit", pngFile(20000, 20000, 2, "", "")},
+        {"a PNG that is too large", pngFile(20000, 20000, 2, "", "")},
         {"a BMP of 7 bits", bmpFile(2, 2, {7, 0, "", std::string(16, 1)})},
-        {"runs that do not fit the bits", bmpFile(2, 2, {24, 1, "", std::string(16, 1)})},
-        {"runs without an end", bmpFile(2, 2, {8, 1, redBlueKey, "\x02\x01"s})},
-        {"a literal run cut short", bmpFile(8, 1, {8, 1, redBlueKey, "\0\x08\x01"s})},
-        {"a BMP cut short", bmp.substr(0, bmp.size() - 3)},
-        {"a BMP cut in its header", bmp.substr(0, 30)},
-        {"a PNG cut short", pngFile(1, 1, 2, "", "\0\x11\x22\x33"s).substr(0, 50)},
-        {"a GIF cut short", gifFile(false).substr(0, 25)},
-        {"a JPEG cut short", jpegFile().substr(0, jpegFile().size() - 3)},
-        {"a JPEG with a mark that is none", jpegFile().insert(2, "\xFF\0\0\x02"s)},
+        {"run-length data with 24 bits", bmpFile(2, 2, {24, 1, "", std::string(16, 1)})},
+        {"run-length data without an end", bmpFile(2, 2, {8, 1, redBlueKey, "\x02\x01"s})},
+        {"a truncated literal run", bmpFile(8, 1, {8, 1, redBlueKey, "\0\x08\x01"s})},
+        {"a truncated BMP", bmp.substr(0, bmp.size() - 3)},
+        {"a BMP with a truncated header", bmp.substr(0, 30)},
+        {"a truncated PNG", pngFile(1, 1, 2, "", "\0\x11\x22\x33"s).substr(0, 50)},
+        {"a truncated GIF", gifFile(false).substr(0, 25)},
+        {"a truncated JPEG", jpegFile().substr(0, jpegFile().size() - 3)},
+        {"a JPEG with an invalid mark", jpegFile().insert(2, "\xFF\0\0\x02"s)},
         {"a PCX of a negative size", "\x0A\x05\x01\x08"s + le(9, 4) + std::string(120, 0)},
     };
     for (const auto& row : rows) {
@@ -221,16 +222,16 @@ TEST_F(ImageFileTest, WhatIsMissingForeignTooLargeOrBrokenIsRefused)
     EXPECT_FALSE(loadImageFile("none.bmp"));
 }
 
-TEST_F(ImageFileTest, AFileCutAnywhereIsRefused)
+TEST_F(ImageFileTest, ATruncatedFileIsRefused)
 {
     const struct {
         const char* name;
         std::string bytes;
-        std::size_t spare; // bytes at the end that may be missing
+        std::size_t spare; // number of bytes at the end that may be missing
     } rows[] = {
         {"BMP: the padding of the last row", bmpFile(2, 2, {24, 0, "", std::string(16, 1)}), 2},
         {"BMP, palette", bmpFile(8, 2, {8, 0, redBlueKey, std::string(16, 1)}), 0},
-        {"BMP, runs", bmpFile(4, 2, {8, 1, redBlueKey, "\x02\x01\0\x02\0\0\x01\x03\0\x01"s}), 0},
+        {"BMP, run-length", bmpFile(4, 2, {8, 1, redBlueKey, "\x02\x01\0\x02\0\0\x01\x03\0\x01"s}), 0},
         {"PNG: the last checksum", pngFile(2, 1, 3, chunk("PLTE", "\xFF\0\0\0\0\xFF"s), "\0\0\x01"s), 4},
         {"GIF: the end mark", gifFile(true), 1},
         {"JPEG", jpegFile(), 0},
@@ -248,7 +249,7 @@ TEST_F(ImageFileTest, AFileCutAnywhereIsRefused)
     EXPECT_TRUE(loadImageFile("picture")) << "fill bytes before a mark";
 }
 
-TEST_F(ImageFileTest, AnyDamagedByteGivesAPictureOrNone)
+TEST_F(ImageFileTest, ADamagedByteGivesAPictureOrNone)
 {
     for (const std::string& whole :
          {bmpFile(4, 2, {8, 1, redBlueKey, "\x02\x01\0\x02\0\0\x01\x03\0\0\x04\x02\0\x01"s}), gifFile(true),
@@ -264,7 +265,7 @@ TEST_F(ImageFileTest, AnyDamagedByteGivesAPictureOrNone)
     }
 }
 
-TEST_F(ImageFileTest, AWrittenPictureReadsTheSameAndLeavesNothingBeside)
+TEST_F(ImageFileTest, AWrittenPictureIsReadBackTheSame)
 {
     const ImageRef image = imageOf(
         5, 3, [](int x, int y) { return 0xFF000000u | static_cast<unsigned>(x * 40 << 16 | y * 99); });
@@ -293,8 +294,8 @@ using LeaksIgnored = __lsan::ScopedDisabler;
 struct LeaksIgnored {};
 #endif
 
-/// While it lives, the libraries' allocation of that number fails. What a decoder loses by that is its own
-/// fault, not ours to report.
+/// Makes the libraries' allocation with that number fail. Leaks of the decoders after that are their own
+/// fault and are ignored.
 class FailingMemory {
 public:
     explicit FailingMemory(int number)
@@ -313,7 +314,7 @@ private:
     {
         if (left-- != 0)
             return true;
-        errno = ENOMEM; // as the system's own do
+        errno = ENOMEM; // as the system's functions do
         return false;
     }
     [[maybe_unused]] LeaksIgnored leaksIgnored;
@@ -324,7 +325,7 @@ private:
     static inline SDL_free_func free;
 };
 
-TEST_F(ImageFileTest, ADecoderWithoutMemoryIsNoBrokenPicture)
+TEST_F(ImageFileTest, AFailedAllocationIsNotABrokenPicture)
 {
     write("a.png", pngFile(1, 1, 2, "", "\0\x11\x22\x33"s));
     write("a.gif", gifFile(true));

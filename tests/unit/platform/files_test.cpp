@@ -1,4 +1,4 @@
-// Names from scripts reach files of the data directory, and nothing else.
+// Names in scripts can reach only files of the data directory.
 
 #include "platform/framework/cfile.h"
 #include "platform/framework/datadir.h"
@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// A folder with a data directory "data" in it and a secret beside; gone with the test.
+/// Makes a temporary folder with a data directory "data" and, outside it, a file "secret.txt".
 class Files : public testing::Test {
 protected:
     Files()
@@ -60,7 +60,7 @@ protected:
     fs::path base;
 };
 
-TEST_F(Files, aNameFindsItsFileInAnyCaseAndNothingOutside)
+TEST_F(Files, aNameFindsFilesInAnyCaseButNoneOutside)
 {
     const struct {
         const char* name;
@@ -68,35 +68,36 @@ TEST_F(Files, aNameFindsItsFileInAnyCaseAndNothingOutside)
         const char* bytes;
     } rows[] = {
         {"backslash and other case", "uig\\MENU.TGX", "menu"},
-        {"slash, a doubled one and a dot", "./UIG//Menu.tgx", "menu"},
-        {"the exact name goes first", "both.txt", "exact"},
-        {"of several, the first in byte order", "two.txt", "a"},
-        {"a link that stays inside", "IN.tgx", "menu"},
+        {"slash, double slash and dot", "./UIG//Menu.tgx", "menu"},
+        {"the exact name takes precedence", "both.txt", "exact"},
+        {"the first of several in byte order", "two.txt", "a"},
+        {"a link to a file inside", "IN.tgx", "menu"},
         {"missing", "UIG\\none.tgx", "none"},
         {"empty", "", "none"},
         {"a folder", "UIG", "none"},
         {"a pipe", "pipe", "none"},
         {"a file used as a folder", "both.txt\\x", "none"},
-        {"climbs", "..\\secret.txt", "none"},
-        {"climbs from inside", "UIG/../../secret.txt", "none"},
-        {"comes back after climbing", "UIG\\..\\both.txt", "none"},
+        {"leads out", "..\\secret.txt", "none"},
+        {"leads out from a folder inside", "UIG/../../secret.txt", "none"},
+        {".. without leading out", "UIG\\..\\both.txt", "none"},
         {"absolute", (base / "data/both.txt").string(), "none"},
         {"absolute with a backslash", "\\both.txt", "none"},
         {"drive letter", "c:both.txt", "none"},
         {"a link to a file outside", "out.txt", "none"},
-        {"the same in another case", "OUT.TXT", "none"},
+        {"the same link in another case", "OUT.TXT", "none"},
         {"a link to a folder outside", "up\\secret.txt", "none"},
-        {"a folder outside whose name begins alike", "near/near.txt", "none"},
+        {"a folder outside with the same prefix", "near/near.txt", "none"},
         {"a link to itself", "loop", "none"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(contents(row.file), row.bytes);
     }
-    EXPECT_FALSE(findDataFile(std::string_view("both.txt\0x", 10))) << "a name goes on behind a 0 byte";
+    EXPECT_FALSE(findDataFile(std::string_view("both.txt\0x", 10)))
+        << "a name with characters after a 0 byte";
 }
 
-TEST_F(Files, withoutADataDirectoryTheWorkingFolderComesFirstThenTheExecutables)
+TEST_F(Files, byDefaultTheWorkingFolderIsSearchedBeforeTheExecutables)
 {
     const std::string name = "tgx-files-test-" + std::to_string(getpid()) + ".txt";
     const fs::path beside = fs::read_symlink("/proc/self/exe").parent_path() / name;
@@ -107,9 +108,9 @@ TEST_F(Files, withoutADataDirectoryTheWorkingFolderComesFirstThenTheExecutables)
     EXPECT_EQ(contents(name), "beside");
     {
         const OtherDataDirectory other((base / "data").string());
-        EXPECT_EQ(contents(name), "none") << "a folder that was named is the only one";
+        EXPECT_EQ(contents(name), "none") << "only the folder that was set is searched";
     }
-    EXPECT_EQ(contents(name), "beside") << "both are back";
+    EXPECT_EQ(contents(name), "beside") << "both default folders are searched again";
     write(name, "here");
     EXPECT_EQ(contents(name), "here");
     setDataDirectory(".");
@@ -147,7 +148,7 @@ TEST_F(Files, whatIsMissingIsNamedWithTheFolderItWasLookedForIn)
 
 TEST_F(Files, aFileThatAppearsAfterAFailedLookUpIsFound)
 {
-    // A folder that has not changed for long keeps its listing in memory.
+    // Listings are cached only for folders that have not changed recently.
     fs::last_write_time(base / "data", fs::file_time_type::clock::now() - std::chrono::hours(1));
     EXPECT_FALSE(findDataFile("NEW.txt"));
     write("data/new.txt", "new");
@@ -161,7 +162,7 @@ TEST_F(Files, readingAndSeekingStayInsideTheFile)
     write("data/ten.txt", "0123456789");
     CFile file;
     ASSERT_EQ(file.Open("TEN.txt"), 1);
-    EXPECT_STREQ(file.GetFileName(), "TEN.txt") << "as it was asked for";
+    EXPECT_STREQ(file.GetFileName(), "TEN.txt") << "the name as passed to Open";
 
     char buffer[16] = {};
     EXPECT_EQ(file.Read(buffer, 4), 4u);
@@ -178,12 +179,12 @@ TEST_F(Files, readingAndSeekingStayInsideTheFile)
     EXPECT_TRUE(file.wasTooLarge());
     EXPECT_EQ(file.Open("missing.txt"), 0);
     EXPECT_FALSE(file.wasTooLarge());
-    EXPECT_EQ(file.GetLength(), 0u) << "nothing of the file before is left";
+    EXPECT_EQ(file.GetLength(), 0u) << "nothing of the previous file remains";
     ASSERT_EQ(file.Open("UIG\\menu.tgx"), 1);
     EXPECT_STREQ(file.GetFileName(), "menu.tgx");
 }
 
-TEST_F(Files, aMemoryFileReadsWhatItIsGiven)
+TEST_F(Files, aMemoryFileReadsTheAttachedBytes)
 {
     CMemFile file;
     char byte = 'x';
@@ -200,22 +201,22 @@ TEST_F(Files, aMemoryFileReadsWhatItIsGiven)
     EXPECT_EQ(file.GetLength(), 0u);
 }
 
-TEST_F(Files, ANewFileIsWholeOrNotThere)
+TEST_F(Files, aNewFileIsCompleteOrMissing)
 {
     const std::string path = (base / "new.txt").string();
     std::string reason;
-    const auto inFolder = [this] { return std::distance(fs::directory_iterator(base), {}); };
-    const auto before = inFolder();
+    const auto countFiles = [this] { return std::distance(fs::directory_iterator(base), {}); };
+    const auto before = countFiles();
     {
         tgx::NewFile abandoned;
         EXPECT_TRUE(abandoned.prepare(path, "half", reason));
-        EXPECT_EQ(inFolder(), before + 1);
+        EXPECT_EQ(countFiles(), before + 1);
     }
-    EXPECT_EQ(inFolder(), before) << "one that was not put into place";
+    EXPECT_EQ(countFiles(), before) << "a file that was not put in place is removed";
     EXPECT_FALSE(tgx::writeWholeFile((base / "none/new.txt").string(), "a", reason));
     EXPECT_FALSE(tgx::writeWholeFile(base.string(), "a", reason));
     EXPECT_FALSE(tgx::writeWholeFile("/dev/full", "a", reason));
-    EXPECT_EQ(inFolder(), before);
+    EXPECT_EQ(countFiles(), before);
 
     fs::create_symlink("new.txt", base / "link.txt");
     EXPECT_TRUE(tgx::writeWholeFile(path, "first", reason)) << reason;
@@ -223,7 +224,7 @@ TEST_F(Files, ANewFileIsWholeOrNotThere)
     EXPECT_TRUE(tgx::writeWholeFile((base / "link.txt").string(), "second", reason)) << reason;
     EXPECT_TRUE(fs::is_symlink(base / "link.txt"));
     EXPECT_EQ(tgx::readWholeFile(path, 6, reason), "second");
-    EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_all) << "those of the file that was there";
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_all) << "the permissions of the replaced file";
     EXPECT_FALSE(tgx::readWholeFile(path, 5, reason)) << "one byte too many";
 
     const pid_t child = fork();
@@ -236,7 +237,7 @@ TEST_F(Files, ANewFileIsWholeOrNotThere)
     int status = 0;
     waitpid(child, &status, 0);
     EXPECT_TRUE(WIFSIGNALED(status));
-    EXPECT_EQ(inFolder(), before + 2) << "new.txt and its link";
+    EXPECT_EQ(countFiles(), before + 2) << "new.txt and its link";
     EXPECT_EQ(tgx::readWholeFile(path, 6, reason), "second");
 }
 

@@ -1,4 +1,4 @@
-// What a person did reaches the window's fields in order, one transition a tick, and the main loop runs them.
+// Input reaches the window's fields in order, one transition per tick. Also tests the main loop.
 
 #include "platform/display/ddwin.h"
 #include "platform/display/message.h"
@@ -15,7 +15,7 @@
 
 namespace {
 
-/// Says in words what each tick saw; "-" for a tick without anything.
+/// Records each tick's input in words; "-" for a tick without input.
 class Recorder : public ddwin {
 public:
     std::vector<std::string> ticks;
@@ -47,11 +47,11 @@ public:
     std::string seen() const
     {
         std::string words;
-        const auto say = [&](const std::string& word) { words += (words.empty() ? "" : " ") + word; };
-        if (mouseX != saidX || mouseY != saidY)
-            say("at " + std::to_string(mouseX) + "," + std::to_string(mouseY));
-        saidX = mouseX;
-        saidY = mouseY;
+        const auto add = [&](const std::string& word) { words += (words.empty() ? "" : " ") + word; };
+        if (mouseX != recordedX || mouseY != recordedY)
+            add("at " + std::to_string(mouseX) + "," + std::to_string(mouseY));
+        recordedX = mouseX;
+        recordedY = mouseY;
         const struct {
             int field;
             const char* word;
@@ -59,19 +59,19 @@ public:
                      {rButtonUp, "rightup"}, {mButtonDown, "middle"},   {mButtonUp, "middleup"},
                      {wheelUp, "wheelup"},   {wheelDown, "wheeldown"},  {keyDown[VK_SHIFT], "shift"}};
         if (lButtonDown)
-            say("down" + std::to_string(mouseDownCount));
+            add("down" + std::to_string(mouseDownCount));
         for (const auto& flag : flags) {
             if (flag.field)
-                say(flag.word);
+                add(flag.word);
         }
         if (keyCode)
-            say(std::string("key") + (keyDown[keyCode] ? " " : " unheld ") + static_cast<char>(keyCode) +
+            add(std::string("key") + (keyDown[keyCode] ? " " : " unheld ") + static_cast<char>(keyCode) +
                 (keyChar ? std::string("=") + keyChar : "") + (keyCode2 ? "+second" : ""));
         return words.empty() ? "-" : words;
     }
 
 private:
-    mutable int saidX = 0, saidY = 0;
+    mutable int recordedX = 0, recordedY = 0;
 };
 
 class Input : public testing::Test {
@@ -107,7 +107,7 @@ protected:
     std::vector<std::string> messages;
 };
 
-TEST_F(Input, aClickBetweenTwoTicksIsTwoTicks)
+TEST_F(Input, aClickBetweenTwoTicksTakesTwoTicks)
 {
     queue().move(5, 5);
     queue().move(10, 20);
@@ -129,7 +129,7 @@ TEST_F(Input, aHeldButtonCountsItsTicks)
     EXPECT_EQ(run(2), (Seen{"up", "down1"}));
 }
 
-TEST_F(Input, flagsLastOneTickAndButtonsUntilTheirRelease)
+TEST_F(Input, flagsLastOneTickAndButtonsUntilReleased)
 {
     queue().doubleClick(MouseButton::Left);
     queue().release(MouseButton::Left);
@@ -143,25 +143,25 @@ TEST_F(Input, flagsLastOneTickAndButtonsUntilTheirRelease)
                              "right middle", "rightup middle", "middleup", "-"}));
 }
 
-TEST_F(Input, keysKeepTheirOrderAndCountAsHeldForTheirTick)
+TEST_F(Input, keysKeepTheirOrderAndAreHeldForTheirTick)
 {
     queue().holdInTurn(VK_SHIFT, true);
     queue().key('A', 'A');
     queue().holdInTurn(VK_SHIFT, false);
     queue().key('B', 'b', 'B');
     EXPECT_EQ(run(3), (Seen{"shift key A=A", "key B=b+second", "-"}))
-        << "Shift was let go before the first tick";
+        << "Shift was released before the first tick";
     EXPECT_EQ(wnd->keyDown[int('A')], 0);
 
     queue().hold(*wnd, 'A', true);
     queue().key('A', 'a');
     run(2);
-    EXPECT_EQ(wnd->keyDown[int('A')], 1) << "its event ends, and it is held all the same";
+    EXPECT_EQ(wnd->keyDown[int('A')], 1) << "it is still held after its event";
     queue().hold(*wnd, 'A', false);
     EXPECT_EQ(wnd->keyDown[int('A')], 0);
 }
 
-TEST_F(Input, aTickThatWasNotEndedComesAgainWithoutNewInput)
+TEST_F(Input, aTickThatWasNotEndedIsRepeatedWithoutNewInput)
 {
     wnd->endsTicks = false;
     queue().key('A', 'a');
@@ -171,7 +171,7 @@ TEST_F(Input, aTickThatWasNotEndedComesAgainWithoutNewInput)
     EXPECT_EQ(run(3), (Seen{"key A=a", "key B=b", "-"}));
 }
 
-TEST_F(Input, whatGrowsStaleIsDroppedAndTheRestKeepsItsPlace)
+TEST_F(Input, staleEventsAreDroppedAndTheOthersKeepTheirOrder)
 {
     queue().move(1, 1);
     queue().move(2, 2);
@@ -187,10 +187,10 @@ TEST_F(Input, whatGrowsStaleIsDroppedAndTheRestKeepsItsPlace)
     queue().wheel(false);
     queue().dropStale(timeGetTime(), 250);
     EXPECT_EQ(run(6), (Seen{"at 3,3 down1", "down2 key A=a", "at 4,4 up", "-", "right wheeldown", "right"}))
-        << "the double click of the right button has no word of its own";
+        << "the Recorder has no word for a double click of the right button";
 }
 
-TEST_F(Input, thePointerStaysWhereItWasPut)
+TEST_F(Input, movesBeforeTheFirstTransitionCanBeDropped)
 {
     const auto queueUp = [this] {
         queue().move(1, 1);
@@ -203,14 +203,14 @@ TEST_F(Input, thePointerStaysWhereItWasPut)
     queueUp();
     queue().dropMovesAtHead();
     EXPECT_EQ(run(2), (Seen{"shift key A=a", "at 3,3 down1 shift"}))
-        << "what a later press was aimed at stays";
+        << "the move before a later press is kept";
     queue().dropMovesAtHead();
     queue().move(5, 5);
     queue().dropMovesAtHead();
     EXPECT_EQ(run(1), (Seen{"down2 shift"}));
 }
 
-TEST_F(Input, positionsPastTheFieldsAreHeld)
+TEST_F(Input, positionsAreClampedToTheFields)
 {
     queue().move(100000, -100000);
     EXPECT_EQ(run(1), (Seen{"at 32767,-32768"}));
@@ -229,7 +229,7 @@ TEST_F(Input, theLoopEndsAtOnceWhenRunningIsCleared)
     EXPECT_EQ(runMainLoop(*wnd), 0);
     EXPECT_EQ(startups, 1);
     EXPECT_EQ(wnd->ticks.size(), 3u);
-    EXPECT_EQ(wnd->frames, 2) << "no frame behind the tick that ended the program";
+    EXPECT_EQ(wnd->frames, 2) << "no frame after the tick that ended the program";
     EXPECT_TRUE(displayhost::current().closeRequested);
     EXPECT_EQ(wnd->m_hWnd, nullptr);
 
@@ -238,22 +238,22 @@ TEST_F(Input, theLoopEndsAtOnceWhenRunningIsCleared)
     wnd->inTick = nullptr;
     wnd->inFrame = [&] { PostMessageA(wnd->m_hWnd, WM_CLOSE, 0, 0); };
     EXPECT_EQ(runMainLoop(*wnd), 0);
-    EXPECT_EQ(wnd->ticks.size(), 1u) << "the close request of the run before is forgotten";
+    EXPECT_EQ(wnd->ticks.size(), 1u) << "the close request of the previous run is cleared";
 }
 
-TEST_F(Input, theUsersWishToCloseIsPassedOnOrClosesTheWindow)
+TEST_F(Input, aCloseRequestCallsTheHandlerOrClosesTheWindow)
 {
     wnd->inTick = [] { displayhost::current().userWantsToClose = true; };
     int asked = 0;
     EXPECT_EQ(runMainLoop(*wnd, [&] { wnd->running = ++asked < 3; }), 0);
-    EXPECT_EQ(asked, 3) << "the window stayed open twice";
+    EXPECT_EQ(asked, 3) << "the window stayed open after two requests";
     wnd->running = 1;
     wnd->ticks.clear();
     EXPECT_EQ(runMainLoop(*wnd), 0);
     EXPECT_EQ(wnd->ticks.size(), 1u);
 }
 
-TEST_F(Input, aPressHasItsPlaceWhateverMovesThePointerMeanwhile)
+TEST_F(Input, aPressHasItsOwnPosition)
 {
     queue().press(MouseButton::Left, InputQueue::Place{50, 60});
     queue().release(MouseButton::Left);
@@ -263,12 +263,12 @@ TEST_F(Input, aPressHasItsPlaceWhateverMovesThePointerMeanwhile)
     EXPECT_EQ(run(1), (Seen{"at 70,60 wheelup"}));
 }
 
-TEST_F(Input, aCancelledPressIsNoClick)
+TEST_F(Input, aCancelledPressIsNotAClick)
 {
     queue().press(MouseButton::Left);
     queue().cancel(MouseButton::Left);
     queue().press(MouseButton::Left);
-    EXPECT_EQ(run(3), (Seen{"down1", "down1", "down2"})) << "up and down again within a tick";
+    EXPECT_EQ(run(3), (Seen{"down1", "down1", "down2"})) << "released and pressed again within a tick";
     queue().cancel(MouseButton::Left);
     EXPECT_EQ(run(2), (Seen{"-", "-"}));
     queue().doubleClick(MouseButton::Left);
@@ -276,7 +276,7 @@ TEST_F(Input, aCancelledPressIsNoClick)
     EXPECT_EQ(run(2), (Seen{"double", "-"}));
 }
 
-TEST_F(Input, whatIsDroppedLeavesNoHalfOfAClick)
+TEST_F(Input, droppingEventsLeavesNoHalfClicks)
 {
     queue().press(MouseButton::Left);
     EXPECT_EQ(run(1), (Seen{"down1"}));
@@ -290,9 +290,9 @@ TEST_F(Input, whatIsDroppedLeavesNoHalfOfAClick)
     queue().key('B', 'b');
     queue().wheel(true);
     queue().dropFrom(kept);
-    queue().release(MouseButton::Middle); // of the press that was dropped
+    queue().release(MouseButton::Middle); // of the dropped press
     EXPECT_EQ(run(3), (Seen{"down2 key A=a", "at 5,5", "-"}))
-        << "the left button is let go of without a click";
+        << "the left button is released without a click";
     queue().press(MouseButton::Middle);
     queue().release(MouseButton::Middle);
     EXPECT_EQ(run(2), (Seen{"middle", "middleup"}));
@@ -309,7 +309,7 @@ TEST_F(Input, whatIsDroppedLeavesNoHalfOfAClick)
     EXPECT_EQ(run(1), (Seen{"-"}));
 }
 
-TEST_F(Input, anInvalidArgumentIsReportedOnceAndTheLoopGoesOn)
+TEST_F(Input, anInvalidArgumentIsReportedOnceAndTheLoopContinues)
 {
     wnd->inStartup = [] { AfxThrowInvalidArgException(); };
     wnd->inTick = [] { AfxThrowInvalidArgException(); };
@@ -322,11 +322,11 @@ TEST_F(Input, anInvalidArgumentIsReportedOnceAndTheLoopGoesOn)
     queue().key('B', 'b');
     EXPECT_EQ(runMainLoop(*wnd), 0);
     EXPECT_EQ(wnd->ticks, (Seen{"key A=a", "key B=b", "-", "-"}))
-        << "the input of a failed tick does not come again";
+        << "the input of a failed tick is not taken again";
     EXPECT_EQ(messages, (Seen{"invalid argument in a frame"}));
 }
 
-TEST(Pacer, makesUpAFewTicksAndNeverMore)
+TEST(Pacer, catchesUpOnlyAFewTicks)
 {
     constexpr std::int64_t period = Pacer::tickMicros;
     Pacer pacer;
@@ -335,13 +335,13 @@ TEST(Pacer, makesUpAFewTicksAndNeverMore)
     EXPECT_EQ(pacer.takeTicks(0), 0);
     EXPECT_EQ(pacer.takeTicks(2 * period), 2);
     EXPECT_EQ(pacer.takeTicks(1000 * period), Pacer::ticksAtOnce);
-    EXPECT_EQ(pacer.takeTicks(1000 * period), 0) << "the rest of the stall is forgotten";
+    EXPECT_EQ(pacer.takeTicks(1000 * period), 0) << "the rest of the stall is skipped";
     EXPECT_EQ(pacer.takeTicks(1001 * period), 1);
 
     int frames = 0;
     for (std::int64_t now = 0; now < 1'000'000; now += 500)
         frames += pacer.takeFrame(now);
-    EXPECT_NEAR(frames, 60, 1) << "60 at most, whatever the display does";
+    EXPECT_NEAR(frames, 60, 1) << "at most 60, even on a faster display";
     pacer.start(0, 30);
     frames = 0;
     for (std::int64_t now = 0; now < 1'000'000; now += 500)
@@ -350,10 +350,10 @@ TEST(Pacer, makesUpAFewTicksAndNeverMore)
     frames = 0;
     for (std::int64_t now = 1'000'000; now < 2'000'000; now += 500)
         frames += pacer.takeFrame(now, true);
-    EXPECT_NEAR(frames, 10, 1) << "of a window that nobody sees";
+    EXPECT_NEAR(frames, 10, 1) << "while the window cannot be seen";
 }
 
-TEST(ScreenFit, keepsTheShapeAndMapsThePointerBack)
+TEST(ScreenFit, keepsTheAspectRatioAndMapsThePointer)
 {
     const struct {
         const char* name;
@@ -362,11 +362,11 @@ TEST(ScreenFit, keepsTheShapeAndMapsThePointerBack)
         bool whole;
     } rows[] = {
         {"as large as the screen", 640, 480, 0, 0, 640, 480, true},
-        {"twice", 1280, 960, 0, 0, 1280, 960, true},
+        {"twice the size", 1280, 960, 0, 0, 1280, 960, true},
         {"wide", 1000, 480, 180, 0, 640, 480, true},
         {"tall", 320, 480, 0, 120, 320, 240, false},
         {"one pixel", 1, 1, 0, 0, 1, 1, false},
-        {"nothing", 0, 0, 0, 0, 1, 1, false},
+        {"no size", 0, 0, 0, 0, 1, 1, false},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -385,7 +385,7 @@ TEST(ScreenFit, keepsTheShapeAndMapsThePointerBack)
     const ScreenFit large = ScreenFit::of(640, 480, 1919, 1080);
     for (int x = 0; x < 640; x += 7) {
         const ScreenFit::Point place = large.toWindow(x, 100);
-        EXPECT_EQ(large.toScreen(place.x, place.y).x, x) << "where the toolkit put the pointer, there it is";
+        EXPECT_EQ(large.toScreen(place.x, place.y).x, x) << "the position maps back to the same pixel";
     }
 }
 

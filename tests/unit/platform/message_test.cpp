@@ -1,4 +1,4 @@
-// A message inside the game's own window.
+// The picture of a message in the game's own window.
 
 #include "platform/display/message_picture.h"
 
@@ -16,7 +16,7 @@ ImageRef plainScreen(int width, int height)
     return screen;
 }
 
-/// Rows of the picture that have text in them, from the first to the last, and how many pixels the text has.
+/// The first and last row of a picture that contain text, and the number of text pixels.
 struct Text {
     int top = -1, bottom = -1, pixels = 0;
 };
@@ -33,7 +33,7 @@ Text textOf(const Image& picture)
     return text;
 }
 
-TEST(MessagePicture, showsItsLinesOverADimmedScreen)
+TEST(MessagePicture, showsLinesOverADimmedScreen)
 {
     const ImageRef screen = plainScreen(320, 200);
     const ImageRef one = messagePicture(*screen, "cannot load x.bmp");
@@ -45,10 +45,10 @@ TEST(MessagePicture, showsItsLinesOverADimmedScreen)
     EXPECT_EQ(textOf(*two).pixels, 2 * textOf(*one).pixels);
     const ImageRef longer = messagePicture(*screen, std::string(10, 'a') + ' ' + std::string(50, 'b'));
     EXPECT_GT(textOf(*longer).bottom - textOf(*longer).top, textOf(*one).bottom - textOf(*one).top)
-        << "a word that does not fit goes to the next line";
+        << "a word that does not fit is moved to the next line";
 }
 
-TEST(MessagePicture, survivesAnyScreen)
+TEST(MessagePicture, worksOnAScreenOfAnySize)
 {
     std::string many;
     for (int i = 0; i < 100; ++i)

@@ -1,5 +1,5 @@
-// What the window's events make of the keys and buttons that are held. No window is needed: events are plain
-// values.
+// The effect of window events on the keys and buttons that are held. Needs no window, because events are
+// plain values.
 
 #include "platform/display/ddwin.h"
 #include "platform/host/headless/headless_host.h"
@@ -84,7 +84,7 @@ protected:
         event.cdevice.which = id;
         pads.handle(event, queue());
     }
-    /// Codes of the keys that are held when all input has been taken, ascending.
+    /// Returns the codes of the keys that are held after all input has been taken, in ascending order.
     std::vector<int> held()
     {
         keys->flush();
@@ -106,25 +106,25 @@ protected:
     SdlController pads;
 };
 
-TEST_F(SdlInputTest, AKeyLetsGoOfTheCodeThatItWentDownWith)
+TEST_F(SdlInputTest, AKeyReleasesTheCodeThatItWasPressedWith)
 {
     key(true, SDL_SCANCODE_KP_4, SDLK_KP_4);
     EXPECT_EQ(held(), Codes{VK_LEFT});
     key(false, SDL_SCANCODE_KP_4, SDLK_KP_4, KMOD_NUM);
-    EXPECT_EQ(held(), Codes{}) << "Num Lock was switched meanwhile";
+    EXPECT_EQ(held(), Codes{}) << "Num Lock was switched while the key was down";
 
     key(true, SDL_SCANCODE_Y, SDLK_y);
     key(false, SDL_SCANCODE_Y, SDLK_z);
-    EXPECT_EQ(held(), Codes{}) << "and here the layout";
+    EXPECT_EQ(held(), Codes{}) << "the layout was switched while the key was down";
 
     key(true, SDL_SCANCODE_Y, SDLK_y);
     key(true, SDL_SCANCODE_Y, SDLK_z);
-    EXPECT_EQ(held(), Codes{'Z'}) << "a repeat behind the switch";
+    EXPECT_EQ(held(), Codes{'Z'}) << "a repeat after the switch";
     key(false, SDL_SCANCODE_Y, SDLK_z);
     EXPECT_EQ(held(), Codes{});
 }
 
-TEST_F(SdlInputTest, KeysOfOneCodeHoldItTogether)
+TEST_F(SdlInputTest, AKeyCodeIsHeldWhileAnyOfItsKeysIs)
 {
     key(true, SDL_SCANCODE_LSHIFT, SDLK_LSHIFT);
     key(true, SDL_SCANCODE_RSHIFT, SDLK_RSHIFT);
@@ -133,10 +133,10 @@ TEST_F(SdlInputTest, KeysOfOneCodeHoldItTogether)
     key(false, SDL_SCANCODE_RSHIFT, SDLK_RSHIFT, KMOD_SHIFT);
     EXPECT_EQ(held(), Codes{});
     key(false, SDL_SCANCODE_A, SDLK_a);
-    EXPECT_EQ(held(), Codes{}) << "it went down before the window was there";
+    EXPECT_EQ(held(), Codes{}) << "the key went down before the window existed";
 }
 
-TEST_F(SdlInputTest, ALostFocusLetsGoOfAll)
+TEST_F(SdlInputTest, LosingTheFocusReleasesEverything)
 {
     key(true, SDL_SCANCODE_A, SDLK_a);
     mouse(true, SDL_BUTTON_LEFT, 30, 40);
@@ -145,16 +145,16 @@ TEST_F(SdlInputTest, ALostFocusLetsGoOfAll)
     pad(2, true, SDL_CONTROLLER_BUTTON_A);
     EXPECT_EQ(held(), (Codes{VK_RETURN, VK_LEFT, 'A'}));
     EXPECT_EQ(wnd->lButtonDown + wnd->rButtonDown, 2);
-    keys->letGo();
-    pads.letGo(queue());
+    keys->releaseAll();
+    pads.releaseAll(queue());
     EXPECT_EQ(held(), Codes{});
     EXPECT_EQ(wnd->lButtonDown + wnd->rButtonDown, 0);
     mouse(false, SDL_BUTTON_LEFT, 30, 40);
     pad(2, false, SDL_CONTROLLER_BUTTON_A);
-    EXPECT_TRUE(queue().empty()) << "what comes up later has been let go already";
+    EXPECT_TRUE(queue().empty()) << "later releases have no effect";
 }
 
-TEST_F(SdlInputTest, KeysOfOtherScriptsAndCommands)
+TEST_F(SdlInputTest, KeysOfOtherScriptsHaveCodesAndCommandsTypeNothing)
 {
     const struct {
         const char* name;
@@ -165,14 +165,15 @@ TEST_F(SdlInputTest, KeysOfOtherScriptsAndCommands)
         int code, character;
     } rows[] = {
         {"a letter", SDL_SCANCODE_Q, SDLK_a, 0, "a", 'A', 'a'},
-        {"a Cyrillic letter, by the key's place", SDL_SCANCODE_F, 0x430, 0, "\xD0\xB0", 'F', 0},
-        {"a Cyrillic letter beside the Latin ones", SDL_SCANCODE_SEMICOLON, 0x436, 0, "\xD0\xB6", 0xBA, 0},
+        {"a Cyrillic letter, by the key's position", SDL_SCANCODE_F, 0x430, 0, "\xD0\xB0", 'F', 0},
+        {"a Cyrillic letter on a punctuation key", SDL_SCANCODE_SEMICOLON, 0x436, 0, "\xD0\xB6", 0xBA, 0},
         {"an accented letter on a digit's key", SDL_SCANCODE_2, 0xE9, 0, "\xC3\xA9", '2', 0xE9},
         {"with Alt", SDL_SCANCODE_A, SDLK_a, KMOD_LALT, "a", 'A', 0},
         {"with Super", SDL_SCANCODE_A, SDLK_a, KMOD_LGUI, "a", 'A', 0},
         {"with Ctrl", SDL_SCANCODE_A, SDLK_a, KMOD_LCTRL, "a", 'A', 0},
         {"with AltGr", SDL_SCANCODE_Q, SDLK_q, KMOD_RALT, "@", 'Q', '@'},
-        {"with AltGr that comes with Ctrl", SDL_SCANCODE_Q, SDLK_q, KMOD_RALT | KMOD_LCTRL, "@", 'Q', '@'},
+        {"with AltGr that is reported with Ctrl", SDL_SCANCODE_Q, SDLK_q, KMOD_RALT | KMOD_LCTRL, "@", 'Q',
+         '@'},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -187,21 +188,21 @@ TEST_F(SdlInputTest, KeysOfOtherScriptsAndCommands)
     }
 }
 
-TEST_F(SdlInputTest, ADoubleClickIsTwoPressesOfOneButtonAtOnePlace)
+TEST_F(SdlInputTest, ADoubleClickIsTwoPressesOfOneButtonAtOnePosition)
 {
     const struct {
         const char* name;
         int button, x, y, clicks, isDouble;
     } rows[] = {
-        {"the first", SDL_BUTTON_LEFT, 100, 100, 1, 0},
-        {"the second, a little aside", SDL_BUTTON_LEFT, 104, 96, 2, 1},
-        {"a third begins again", SDL_BUTTON_LEFT, 104, 96, 3, 0},
-        {"and a fourth ends that", SDL_BUTTON_LEFT, 104, 96, 4, 1},
+        {"the first press", SDL_BUTTON_LEFT, 100, 100, 1, 0},
+        {"the second, slightly moved", SDL_BUTTON_LEFT, 104, 96, 2, 1},
+        {"the third is a first one again", SDL_BUTTON_LEFT, 104, 96, 3, 0},
+        {"the fourth completes it", SDL_BUTTON_LEFT, 104, 96, 4, 1},
         {"a row below", SDL_BUTTON_LEFT, 104, 116, 5, 0},
-        {"there again", SDL_BUTTON_LEFT, 104, 116, 6, 1},
+        {"again at that position", SDL_BUTTON_LEFT, 104, 116, 6, 1},
         {"too late", SDL_BUTTON_LEFT, 104, 116, 1, 0},
         {"another button", SDL_BUTTON_RIGHT, 104, 116, 1, 0},
-        {"the first one after the other", SDL_BUTTON_LEFT, 104, 116, 2, 0},
+        {"the left button after the right one", SDL_BUTTON_LEFT, 104, 116, 2, 0},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -213,9 +214,9 @@ TEST_F(SdlInputTest, ADoubleClickIsTwoPressesOfOneButtonAtOnePlace)
     }
 }
 
-TEST_F(SdlInputTest, BesideTheScreenThePointerIsOverNothing)
+TEST_F(SdlInputTest, OutsideTheScreenThePointerIsOverNothing)
 {
-    keys->setFit(ScreenFit::of(640, 480, 840, 480)); // 100 pixels of bar at each side
+    keys->setFit(ScreenFit::of(640, 480, 840, 480)); // a bar of 100 pixels on each side
     motion(50, 200);
     mouse(true, SDL_BUTTON_LEFT, 50, 200);
     held();
@@ -225,7 +226,7 @@ TEST_F(SdlInputTest, BesideTheScreenThePointerIsOverNothing)
     mouse(true, SDL_BUTTON_LEFT, 100, 200);
     motion(50, 200);
     held();
-    EXPECT_EQ(wnd->mouseX, 0) << "a lever that is held goes on to its end";
+    EXPECT_EQ(wnd->mouseX, 0) << "a held lever can still reach its end";
     EXPECT_EQ(wnd->lButtonDown, 1);
     mouse(false, SDL_BUTTON_LEFT, 50, 200);
     wnd->runTick();
@@ -235,7 +236,7 @@ TEST_F(SdlInputTest, BesideTheScreenThePointerIsOverNothing)
     EXPECT_EQ(wnd->mouseX, -1);
 }
 
-TEST_F(SdlInputTest, AControllerLetsGoOfWhatItHolds)
+TEST_F(SdlInputTest, AControllerKeyIsReleasedByItsLastHolder)
 {
     key(true, SDL_SCANCODE_RETURN, SDLK_RETURN);
     key(true, SDL_SCANCODE_HOME, SDLK_HOME);
@@ -243,14 +244,15 @@ TEST_F(SdlInputTest, AControllerLetsGoOfWhatItHolds)
     pad(2, true, SDL_CONTROLLER_BUTTON_DPAD_UP);
     pad(2, true, SDL_CONTROLLER_BUTTON_RIGHTSHOULDER);
     unplug(1);
-    EXPECT_EQ(held(), (Codes{VK_RETURN, VK_END, VK_HOME, VK_UP})) << "the keyboard and the other one hold on";
+    EXPECT_EQ(held(), (Codes{VK_RETURN, VK_END, VK_HOME, VK_UP}))
+        << "the keyboard and the other controller still hold theirs";
     unplug(2);
     EXPECT_EQ(held(), (Codes{VK_RETURN, VK_HOME}));
 
     stick(3, SDL_CONTROLLER_AXIS_LEFTX, 20000);
     pad(3, true, SDL_CONTROLLER_BUTTON_DPAD_RIGHT);
     stick(3, SDL_CONTROLLER_AXIS_LEFTX, 0);
-    EXPECT_EQ(held(), (Codes{VK_RETURN, VK_HOME, VK_RIGHT})) << "by the pad still";
+    EXPECT_EQ(held(), (Codes{VK_RETURN, VK_HOME, VK_RIGHT})) << "still held by the directional pad";
     pad(3, false, SDL_CONTROLLER_BUTTON_DPAD_RIGHT);
     EXPECT_EQ(held(), (Codes{VK_RETURN, VK_HOME}));
 }

@@ -33,7 +33,7 @@ protected:
         unsigned long value = 4711;
         if (getregistry(name, &value))
             return value;
-        EXPECT_EQ(value, 4711u) << "a value that is not stored stays as it was";
+        EXPECT_EQ(value, 4711u) << "the variable is unchanged if nothing is stored";
         return std::nullopt;
     }
     std::string fileText() const
@@ -47,7 +47,7 @@ protected:
     fs::path file;
 };
 
-TEST_F(Settings, comeBackFromTheFileOfTheirOwner)
+TEST_F(Settings, areReadBackFromTheFileOfTheirOwner)
 {
     file = base / "Harbour  Sons" / "Ships" / "settings.txt";
     EXPECT_EQ(stored("FullScreen"), std::nullopt);
@@ -57,7 +57,7 @@ TEST_F(Settings, comeBackFromTheFileOfTheirOwner)
     EXPECT_EQ(stored("FullScreen"), 0u);
     EXPECT_EQ(fileText(), "Depth=4294967295\nFullScreen=0\n");
     EXPECT_EQ(std::distance(fs::directory_iterator(file.parent_path()), {}), 1)
-        << "nothing is left beside it";
+        << "no temporary file is left";
 
     EXPECT_EQ(store("two\nlines", 1), 0);
     EXPECT_EQ(store("a=b", 1), 0);
@@ -65,7 +65,7 @@ TEST_F(Settings, comeBackFromTheFileOfTheirOwner)
     EXPECT_EQ(stored("Depth"), std::nullopt);
 }
 
-TEST_F(Settings, passOverWhatIsCorrupt)
+TEST_F(Settings, ignoreCorruptLines)
 {
     file = base / "Harbour  Sons" / "Ships" / "settings.txt";
     fs::create_directories(file.parent_path());
@@ -78,18 +78,18 @@ TEST_F(Settings, passOverWhatIsCorrupt)
     EXPECT_EQ(stored("Good too"), 8u);
     EXPECT_EQ(stored("NoEnd"), 9u);
     EXPECT_EQ(store("New", 1), 1);
-    EXPECT_EQ(fileText().find("abc"), std::string::npos) << "a corrupt line is not written again";
+    EXPECT_EQ(fileText().find("abc"), std::string::npos) << "corrupt lines are not kept";
     EXPECT_EQ(stored("Good"), 7u);
 }
 
-TEST_F(Settings, leaveTheOldFileWhereNothingCanBeWritten)
+TEST_F(Settings, cannotBeStoredWhereAFileBlocksTheFolder)
 {
     std::ofstream(base / "Harbour  Sons") << "a file where the folder should be";
     EXPECT_EQ(store("FullScreen", 1), 0);
     EXPECT_EQ(stored("FullScreen"), std::nullopt);
 }
 
-TEST_F(Settings, areNotKeptWithoutAProgram)
+TEST_F(Settings, areNotStoredWithoutAProgram)
 {
     for (const char* program : {"", "..", "///"}) {
         setSettingsOwner("Company", program);

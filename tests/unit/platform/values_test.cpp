@@ -1,4 +1,4 @@
-// Fixed-point operators, strings, resources and the texts that go to the user.
+// Fixed-point operators, strings, resources and messages to the user.
 
 #include "platform/display/message.h"
 #include "platform/display/message_text.h"
@@ -23,14 +23,15 @@ ZnFixed raw(int value)
     return ZnFixed::fromRaw(value);
 }
 
-TEST(ZnFixed, roundsToTheNearestAndStaysInside)
+TEST(ZnFixed, roundsToTheNearestAndSaturates)
 {
     const struct {
         const char* name;
         ZnFixed result;
         int expected;
     } rows[] = {
-        {"product beyond 32 bits on the way", ZnFixed::fromInt(1000) * ZnFixed::fromInt(100), 100000 * 4096},
+        {"product with more than 32 bits before rounding", ZnFixed::fromInt(1000) * ZnFixed::fromInt(100),
+         100000 * 4096},
         {"half rounds up", raw(1) * raw(2048), 1},
         {"half rounds down below zero", raw(-1) * raw(2048), -1},
         {"less than half is dropped", raw(1) * raw(2047), 0},
@@ -41,7 +42,7 @@ TEST(ZnFixed, roundsToTheNearestAndStaysInside)
         {"the two smallest", raw(INT_MIN) * raw(INT_MIN), INT_MAX},
         {"a third", ZnFixed::fromInt(1) / ZnFixed::fromInt(3), 1365},
         {"two thirds below zero", ZnFixed::fromInt(2) / ZnFixed::fromInt(-3), -2731},
-        {"half of a step", raw(1) / ZnFixed::fromInt(2), 1},
+        {"half of the smallest step", raw(1) / ZnFixed::fromInt(2), 1},
         {"quotient too large", raw(INT_MAX) / raw(1), INT_MAX},
         {"quotient too small", raw(INT_MIN) / raw(1), INT_MIN},
         {"division by zero", ZnFixed::fromInt(5) / raw(0), 0},
@@ -57,7 +58,7 @@ TEST(ZnFixed, roundsToTheNearestAndStaysInside)
     EXPECT_EQ(raw(-4097).toInt(), -1);
 }
 
-TEST(CString, partsAndPlacesAreHeldToTheString)
+TEST(CString, partsAndPositionsAreLimitedToTheString)
 {
     const CString text("harbour");
     EXPECT_EQ(text.Left(99), "harbour");
@@ -70,7 +71,7 @@ TEST(CString, partsAndPlacesAreHeldToTheString)
     EXPECT_THROW(text.GetAt(7), CInvalidArgException);
     EXPECT_LT(CString::compareNoCase("Quay", "quays"), 0);
     EXPECT_TRUE(CString::equalNoCase("QUAY", "quay"));
-    EXPECT_FALSE(CString::equalNoCase("\xC4", "\xE4")) << "only A to Z have a case";
+    EXPECT_FALSE(CString::equalNoCase("\xC4", "\xE4")) << "case is ignored only for A to Z";
 
     CString line("part");
     line.Format("%s of %s", static_cast<const char*>(line), std::string(3000, 'x').c_str());
@@ -89,7 +90,7 @@ TEST(CArray, aBadIndexThrowsAndChangesNothing)
     EXPECT_EQ(numbers[0], 1);
 }
 
-TEST(Resources, areFoundByTypeAndLowHalfOfTheId)
+TEST(Resources, areFoundByTypeAndTheLow16BitsOfTheId)
 {
     static const unsigned char bytes[] = {1, 2, 3};
     const HINSTANCE executable = GetModuleHandleA(nullptr);
@@ -104,7 +105,7 @@ TEST(Resources, areFoundByTypeAndLowHalfOfTheId)
         EXPECT_EQ(FindResourceA(GetModuleHandleA("other"), MAKEINTRESOURCEA(141), "TGXScript"), nullptr);
     }
     EXPECT_EQ(FindResourceA(executable, MAKEINTRESOURCEA(141), "TGXScript"), nullptr)
-        << "it died with its object";
+        << "the resource is removed with its object";
 }
 
 TEST(Extension, aLibraryRegistersOnce)
@@ -116,16 +117,16 @@ TEST(Extension, aLibraryRegistersOnce)
     EXPECT_EQ(AfxInitExtensionModule(module), 1);
 }
 
-TEST(Clock, virtualTimeStandsStillUntilItIsMoved)
+TEST(Clock, virtualTimeChangesOnlyByCalls)
 {
     setVirtualTime(0xFFFFFFFE);
     EXPECT_EQ(timeGetTime(), 0xFFFFFFFE);
     advanceVirtualTime(3);
-    EXPECT_EQ(timeGetTime(), 1u) << "it wraps as the machine's does";
+    EXPECT_EQ(timeGetTime(), 1u) << "it wraps like the real clock";
     useRealTime();
 }
 
-TEST(Messages, reachTheHostWhole)
+TEST(Messages, reachTheHostComplete)
 {
     auto headless = std::make_unique<HeadlessHost>();
     std::vector<std::string> shown;
@@ -142,7 +143,7 @@ TEST(Messages, reachTheHostWhole)
     displayhost::use(std::move(before));
 }
 
-TEST(Messages, areOneLineOnATerminal)
+TEST(Messages, arePrintedOnOneLine)
 {
     testing::internal::CaptureStderr();
     HeadlessHost().showMessage(CString("a\n\tb\\\r\x7F\xE9\0z", 10));
@@ -160,7 +161,7 @@ TEST(Messages, aCauseIsToldAfterTheFirstOfThem)
               "message: a\nnote: no folder x\nmessage: b\nmessage: c\n");
 }
 
-TEST(Messages, oneBoxListsTwentyAndCountsTheRest)
+TEST(Messages, aBoxListsTwentyAndCountsTheRest)
 {
     EXPECT_EQ(boxText({"one", "two"}), "one\ntwo");
     const std::string full = boxText(std::vector<std::string>(20, "m"));
@@ -170,7 +171,7 @@ TEST(Messages, oneBoxListsTwentyAndCountsTheRest)
               std::string(200, 'a') + "\n" + std::string(200, 'b') + "...");
 }
 
-TEST(CodePage, charactersComeInAndGoOut)
+TEST(CodePage, convertsToAndFromUtf8)
 {
     std::string_view typed = "e\xC3\xA9\xE2\x82\xAC\xE4\xB8\xAD\xFF";
     std::string kept;
@@ -178,7 +179,7 @@ TEST(CodePage, charactersComeInAndGoOut)
         if (const auto character = to1252(takeUtf8(typed)))
             kept += *character;
     }
-    EXPECT_EQ(kept, "e\xE9\x80") << "what the code page does not have is left out";
+    EXPECT_EQ(kept, "e\xE9\x80") << "characters that the code page does not have are omitted";
     EXPECT_EQ(utf8From1252(kept), "e\xC3\xA9\xE2\x82\xAC");
     EXPECT_EQ(utf8From1252("\x81"), "\xEF\xBF\xBD");
 }

@@ -8,7 +8,7 @@ namespace {
 
 class TreeCheck {
 public:
-    std::string fault; // the first one
+    std::string fault; // the first fault found
     std::set<const AWnd*> found;
 
     void note(const std::string& what, const AWnd* wnd)
@@ -24,9 +24,9 @@ public:
         for (int i = 0; i < holder.getWindowCount() && fault.empty(); ++i) {
             AWnd* child = holder.getWndFromIndex(i, "");
             if (!child)
-                note("an empty entry among the children of a window", &holder);
+                note("a null entry among the children of a window", &holder);
             else if (path.contains(child))
-                note("a window holds itself", child);
+                note("a window contains itself", child);
             else {
                 checkLinks(holder, *child);
                 walk(*child);
@@ -40,14 +40,14 @@ private:
 
     void checkLinks(AWnd& holder, AWnd& child)
     {
-        // A popup hangs under its opener and stays with its owner; a window in a second place belongs to the
-        // root.
+        // The parent of a popup is its opener, but its owner stays the same; a window that is shown in a
+        // second place belongs to the root.
         bool isPopup = child.getNotifyParent() != 0;
         bool isShared = child.getPointerCount() > 0;
         if (child.getParent() != &holder && !isPopup && !isShared)
-            note("a window does not know its holder as its parent", &child);
+            note("a window's parent is not the window that contains it", &child);
         if (child.getOwner() != &holder && !isShared)
-            note("a window is not owned by its holder", &child);
+            note("a window is not owned by the window that contains it", &child);
     }
 };
 
@@ -61,8 +61,8 @@ std::string checkInvariants(AMainWin& win)
         tree.walk(*root);
     auto mustBeInTree = [&](const char* what, const AWnd* wnd) {
         if (wnd && !tree.found.contains(wnd))
-            tree.note(std::string(what) + " is no window of the tree",
-                      nullptr); // it may be gone: do not touch it
+            tree.note(std::string(what) + " is not a window of the tree",
+                      nullptr); // it may be deleted, so its id must not be read
     };
     for (const AWnd* wnd : tree.found) {
         if (AWnd* parent = wnd->getParent())
@@ -75,9 +75,9 @@ std::string checkInvariants(AMainWin& win)
     for (int i = 0; i < win.getPopupWndCount(); ++i) {
         AWnd* popup = win.getPopupWnd(i);
         mustBeInTree("a popup", popup);
-        // One that is opened again from the middle of the list stands in it twice.
+        // A popup that is opened again from the middle of the list is in it twice.
         if (!popup)
-            tree.note("the popup list has an entry that is null", nullptr);
+            tree.note("the popup list has a null entry", nullptr);
         else if (tree.fault.empty() && !popup->getNotifyParent())
             tree.note("a popup does not report to its parent", popup);
     }
@@ -87,6 +87,6 @@ std::string checkInvariants(AMainWin& win)
     }
     AScreen* screen = tree.fault.empty() ? win.getActiveScreen() : nullptr;
     if (screen && (screen->getWindowType() != AWnd::WND_SCREEN || screen->getOwner() != root))
-        tree.note("the active window is no screen of the list", screen);
+        tree.note("the active window is not a screen of the list", screen);
     return tree.fault;
 }

@@ -4,7 +4,7 @@
 
 class AMainWin;
 
-/// What must always hold between a tick and the next: the tree has no cycle, parents and children agree,
-/// every pointer of the main window leads into the tree, popups and capture are consistent. Asks public
-/// operations only. The first thing that does not hold, or "".
+/// Checks what must always hold between two ticks: the tree has no cycle, parents and children agree, all
+/// pointers of the main window point into the tree, and popups and capture are consistent. Uses only public
+/// operations. Returns a description of the first fault, or "".
 std::string checkInvariants(AMainWin& win);

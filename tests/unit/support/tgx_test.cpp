@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Tells the main window what it sees.
+/// Records the clicks that it receives in the main window.
 class ScreenSpy : public AScreen {
 public:
     using AScreen::AScreen;
@@ -42,7 +42,7 @@ void putNumber(std::string& bytes, unsigned value, int count)
         bytes += static_cast<char>(value >> (8 * i));
 }
 
-/// colourAt(x) gives the column's colour, 0xRRGGBB.
+/// Makes a BMP. colourAt(x) returns the colour of a column, 0xRRGGBB.
 template<class ColourAt>
 std::string makeBmp(int width, int height, ColourAt colourAt)
 {
@@ -51,12 +51,12 @@ std::string makeBmp(int width, int height, ColourAt colourAt)
     std::string bytes = "BM";
     putNumber(bytes, 54 + pixelBytes, 4);
     putNumber(bytes, 0, 4);
-    putNumber(bytes, 54, 4); // where the pixels begin
-    putNumber(bytes, 40, 4); // size of the header from here on
+    putNumber(bytes, 54, 4); // offset of the pixels
+    putNumber(bytes, 40, 4); // size of the rest of the header
     putNumber(bytes, static_cast<unsigned>(width), 4);
     putNumber(bytes, static_cast<unsigned>(height), 4);
     putNumber(bytes, 1, 2);  // planes
-    putNumber(bytes, 24, 2); // bits a pixel
+    putNumber(bytes, 24, 2); // bits per pixel
     putNumber(bytes, 0, 4);  // not compressed
     putNumber(bytes, pixelBytes, 4);
     bytes.append(16, '\0');
@@ -89,7 +89,7 @@ std::string assembleScript(const std::string& text)
             } else if (statement) {
                 bytes += static_cast<char>(statement->id);
             } else {
-                ADD_FAILURE() << "no keyword " << word.text;
+                ADD_FAILURE() << "unknown keyword " << word.text;
             }
         }
         bytes += static_cast<char>(endOfLineToken);
@@ -113,7 +113,7 @@ void TestMainWin::drawscreen()
 void TestMainWin::OnMouseAction()
 {
     AMainWin::OnMouseAction();
-    EXPECT_EQ(checkInvariants(*this), "") << "behind a tick";
+    EXPECT_EQ(checkInvariants(*this), "") << "after a tick";
 }
 
 AWnd* TestMainWin::createNewWindow(const CString& id, int x, int y, int w, int h, const CString& className)
@@ -150,7 +150,7 @@ TgxTest::~TgxTest()
     std::error_code ignored;
     fs::remove_all(data.parent_path(), ignored);
     for (const std::string& text : announced)
-        ADD_FAILURE() << "announced, but did not come: " << text;
+        ADD_FAILURE() << "expected message was not reported: " << text;
 }
 
 void TgxTest::write(const std::string& name, const std::string& bytes)
@@ -187,7 +187,7 @@ void TgxTest::start(const std::string& scriptText, int width, int height)
         script(scriptText);
     options.width = width;
     options.height = height;
-    player.reset(); // of an earlier start: there is one main window at a time
+    player.reset(); // from an earlier start, because there can be only one main window
     auto makeWindow = [this](int w, int h, int depth) {
         auto made = std::make_unique<TestMainWin>(w, h, depth);
         mainWin = made.get();
@@ -204,12 +204,12 @@ void TgxTest::hear(const CString& message)
     if (expected != announced.end())
         announced.erase(expected);
     else
-        ADD_FAILURE() << "a message that was not announced: " << message.str();
+        ADD_FAILURE() << "unexpected message: " << message.str();
 }
 
 void TgxTest::playLine(const std::string& line)
 {
-    EXPECT_EQ(playWrong(line), "") << "at the events line: " << line;
+    EXPECT_EQ(playWrong(line), "") << "in the events line: " << line;
 }
 
 std::string TgxTest::playWrong(const std::string& line)
@@ -243,7 +243,7 @@ const char* TgxTest::idAt(int x, int y)
 
 Trace TgxTest::drawn(const std::string& id)
 {
-    win().drawnAlone = nullptr; // what was recorded since the last frame goes out first
+    win().drawnAlone = nullptr; // draws nothing, to finish what was recorded since the last frame
     win().runFrame();
     win().drawnAlone = wnd(id);
     win().runFrame();

@@ -12,7 +12,7 @@
 /// Makes a window for createNewWindow.
 using WndMaker = std::function<AWnd*(const CString& id, int x, int y, int w, int h)>;
 
-/// A main window that lets a test look in. Each tick ends with a check of what must always hold.
+/// A main window that records clicks and lets a test control drawing. Checks the invariants after each tick.
 class TestMainWin : public AMainWin {
 public:
     using AMainWin::AMainWin;
@@ -22,12 +22,12 @@ public:
     AWnd* createNewWindow(const CString& id, int x, int y, int w, int h, const CString& className) override;
     AScreen* addScreen(const CString& id, int x, int y, int w, int h) override;
 
-    std::map<std::string, WndMaker> classes; // by class name; for a screen the id
-    std::vector<std::string> clicks;         // ids that a screen has seen a click on, in order
-    std::vector<std::string> popupClicks;    // the same, of what handlePopupAction has told a screen
-    std::function<void()> duringFrame;       // called behind each frame's drawing
+    std::map<std::string, WndMaker> classes; // key: class name, or id for a screen
+    std::vector<std::string> clicks;      // ids of clicked windows, as passed to a screen's handleMouseAction
+    std::vector<std::string> popupClicks; // the same, as passed to handlePopupAction
+    std::function<void()> duringFrame;    // called after each frame's drawing
     std::optional<AWnd*>
-        drawnAlone; // if set, the next frame paints this window, or nothing, and moves nothing
+        drawnAlone; // if set, the next frame draws only this window, or nothing if null, without animation
 
     void setTargetFPS(int fps) { targetFPS = fps; }
     void setWipeEnabled(int enabled) { wipeEnabled = enabled; }
@@ -36,55 +36,56 @@ private:
     bool addsScreen = false;
 };
 
-/// A data directory of its own, a main window on a headless host, virtual time, and the events language. A
-/// message that the test has not announced fails it, as does one that was announced and did not come.
+/// A test with its own data directory, a main window on a headless host, virtual time, and the events
+/// language. It fails if a message was not expected with expectMessage, or if an expected message was not
+/// reported.
 class TgxTest : public testing::Test {
 protected:
     TgxTest();
     ~TgxTest() override;
 
-    // The world before the start.
+    // Before the start.
 
-    /// Writes a file of the data directory, its folders too.
+    /// Writes a file in the data directory and makes its folders.
     void write(const std::string& name, const std::string& bytes);
-    /// Writes UIG/name, assembled from text: a statement a line, keywords, numbers and "strings". Whatever
-    /// can be written down becomes bytes, right or wrong.
+    /// Writes UIG/name, assembled from text: one statement per line, with keywords, numbers and "strings".
+    /// Does not check the statements, so that tests can write wrong ones.
     void script(const std::string& text, const std::string& name = "script.tgx");
-    /// A 24-bit BMP. colour: 0xRRGGBB.
+    /// Writes a 24-bit BMP. colour: 0xRRGGBB.
     void bitmap(const std::string& name, int width, int height, unsigned colour = 0x808080);
-    /// Frames side by side, 1 pixel between them, each with a grey of its own.
+    /// Writes a strip: frames side by side, 1 pixel apart, each with a different grey.
     void strip(const std::string& name, int frameWidth, int frameHeight, int frames);
-    /// Starts the main window on script.tgx. Given a text, that is assembled first.
+    /// Starts the main window with script.tgx, after assembling scriptText if it is not empty.
     void start(const std::string& scriptText = "", int width = 640, int height = 480);
-    /// Announces a message; each announcement answers for one.
+    /// Expects one message with this text.
     void expectMessage(const std::string& text) { announced.push_back(text); }
 
-    // The run.
+    // After the start.
 
-    /// Carries out events lines; each must succeed.
+    /// Runs events lines; each must succeed.
     template<class... Lines>
     void play(const Lines&... lines)
     {
         (playLine(lines), ...);
     }
-    /// Why this events line is wrong; "" when it is not.
+    /// Runs an events line and returns its error message, or "" if it succeeds.
     std::string playWrong(const std::string& line);
-    /// Value of `call LINE`, as JSON.
+    /// Returns the value of `call LINE`, as JSON.
     std::string call(const std::string& line);
     TestMainWin& win() { return *mainWin; }
     Player& getPlayer() { return *player; }
-    /// Fails the test when there is none.
+    /// Returns the window with this id. Fails the test if there is none.
     AWnd* wnd(const std::string& id);
     AScreen* screen(const std::string& id) { return static_cast<AScreen*>(wnd(id)); }
-    /// Id of the deepest usable window of the active screen or popup under the point, or null.
+    /// Returns the id of the deepest usable window of the active screen or popup at the point, or null.
     const char* idAt(int x, int y);
-    /// Ids clicked since the last question.
+    /// Returns the ids clicked since the last call.
     std::vector<std::string> clicks() { return std::exchange(win().clicks, {}); }
-    /// What the window and those in it would draw now.
+    /// Draws the window with its children and returns the trace.
     Trace drawn(const std::string& id);
-    /// What the last frame drew.
+    /// Returns the trace of the last frame.
     Trace frameDrawn();
-    /// Gives a font of the table widths that a test can reckon with. Its pictures stay as they are.
+    /// Sets simple metrics for a font of the table. Its glyphs stay the same.
     void measureFont(int index, int advance = 10, int lineHeight = 16, int charHeight = 12);
     std::string readOutput(const std::string& name);
 
@@ -92,7 +93,7 @@ protected:
     std::filesystem::path data; // the data directory
     std::filesystem::path outputs;
     PlayOptions options;
-    std::ostringstream out; // values of calls
+    std::ostringstream out; // output of calls
     std::ostringstream err;
 
 private:
@@ -104,5 +105,5 @@ private:
     TestMainWin* mainWin = nullptr; // owned by player
 };
 
-/// Bytes of a compiled script from its text form, as TgxTest::script.
+/// Returns the bytes of a compiled script, from text as for TgxTest::script.
 std::string assembleScript(const std::string& text);
