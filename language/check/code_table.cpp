@@ -1,5 +1,4 @@
-// The table of findings. Errors are what makes a line fail or shows nonsense, warnings what is most probably
-// not meant.
+// The table of findings. An error makes a line fail or shows nonsense; a warning is probably a mistake.
 
 #include "language/check/codes.h"
 
@@ -81,7 +80,7 @@ constexpr Code rows[] = {
     {"subroutine-ring", error, "a subroutine that reaches itself",
      "It would call itself without end; the toolkit stops it 64 deep, and the line fails.",
      "SUBROUTINE \"A\"\nBEGIN\n  GOTO \"A\"\nEND", "SUBROUTINE \"A\"\nBEGIN\nEND"},
-    // What fails when it is read.
+    // Lines that fail when they are read.
     {"wrong-window", error, "a statement on the wrong kind of window",
      "Statements of lists, buttons, combo boxes and graphs stand in the block of such a window. Behind the "
      "window's line without a BEGIN they act on the window around it.",
@@ -301,7 +300,7 @@ constexpr Code rows[] = {
      "WINDOW \"MESSAGEBOX\" 0 0 200 100\nBEGIN\n  TEXTWND \"MESSAGEBOXTITLE\" 0 0 200 20 \"\"\n  TEXTWND "
      "\"MESSAGEBOXTEXT\" 0 20 200 40 \"\"\n  BUTTON \"TGX_OK\" 0 70 80 24 \"OK\"\n  TABORDER "
      "\"TGX_OK\"\nEND"},
-    // Of no use.
+    // Without effect, or unused.
     {"no-effect", warning, "a statement without effect",
      "Another line undoes it, the window ignores it, it has no arguments where it needs some, or arguments "
      "that are not read. BMPFILE takes back the frame size of a BMPINFO in front of it. Out of a script with "

@@ -1,4 +1,4 @@
-// Rules for lines by themselves.
+// Rules for single lines.
 
 #include "language/check/rules.h"
 #include "language/text/statement_form.h"
@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view controls[] = {"BUTTON",  "CHECKBOX", "RADIOBUTTON", "COMBOBOX",   "EDITBOX",
                                          "LISTBOX", "KEYBOARD", "TABCONTROL",  "HSCROLLBAR", "VSCROLLBAR"};
 constexpr std::string_view clickable[] = {"BUTTON", "CHECKBOX", "RADIOBUTTON", "USERDEF"};
-// By these the toolkit looks for parts of a control, ignoring case.
+// The ids by which the toolkit finds the parts of a control, ignoring case.
 constexpr std::string_view parts[] = {"checkboxstate", "radiostate", "combomenu", "combonext", "comboprev"};
 
 template<std::size_t N>
@@ -24,7 +24,7 @@ bool isOneOf(const std::string_view (&words)[N], std::string_view word)
     return std::find(std::begin(words), std::end(words), word) != std::end(words);
 }
 
-/// COLUMNS reads a word that has no width in front of it as the width 0.
+/// Finds words of COLUMNS that do not follow a width. The toolkit reads such a word as the width 0.
 void checkWidths(const Script& script, int line, Findings& findings)
 {
     const std::vector<script_text::Token>& tokens = script.line(line).tokens;
@@ -62,7 +62,7 @@ void checkSizes(const Script& script, int line, std::string_view keyword, Findin
         add(number(7) <= 0 ? 7 : 8, "a scroll bar's six frames need a size");
 }
 
-/// As parseFontStyle reads it, which passes over what it does not know.
+/// Finds words of a font style that parseFontStyle ignores.
 void checkStyle(const Script& script, int line, Findings& findings)
 {
     static const std::vector<std::string_view> known{"bold", "italic", "shadow"};
@@ -99,7 +99,7 @@ void checkReserved(const Script& script, int line, const Statement& statement, F
                      "controls look for their parts by " + inQuotes(id) + "; give this window another id");
 }
 
-/// The text has it in one line, be it that of the dump.
+/// Reports the line with the bytes of an incomplete last line, in the source or the dump.
 void reportUnfinished(const Script& script, Findings& findings)
 {
     for (const script_text::Inclusion& in : script.text.inclusions)
@@ -120,10 +120,10 @@ void checkLines(const Script& script, Findings& findings)
 {
     for (int line = 0; line < script.lineCount(); ++line) {
         const auto& tokens = script.line(line).tokens;
-        if (script.isCompiled || script.line(line).isAsItStands) // else the text has told them
+        if (script.isCompiled || script.line(line).isVerbatim) // otherwise the parser has reported them
             for (script_text::LineFault& each : script_text::lineFaults(tokens))
                 findings.add(each.code, script, line, static_cast<int>(each.token), std::move(each.text));
-        if (script.isKeyword(line, "COLUMNS") && !script.line(line).isAsItStands)
+        if (script.isKeyword(line, "COLUMNS") && !script.line(line).isVerbatim)
             checkWidths(script, line, findings);
     }
     if (script.isReported && !script.text.unfinished.empty())
@@ -132,7 +132,7 @@ void checkLines(const Script& script, Findings& findings)
 
 void checkScreenNames(const std::vector<Script*>& scripts, Findings& findings)
 {
-    std::set<std::string> classes; // compared exactly, as a factory does
+    std::set<std::string> classes; // compared exactly, as factories do
     for (const Script* script : scripts)
         for (int line = 0; line < script->lineCount(); ++line)
             if (script->isKeyword(line, "USERDEF"))
@@ -161,7 +161,7 @@ void checkArguments(const Script& script, Findings& findings)
         if (script.isKeyword(line, "ADDFONT"))
             checkStyle(script, line, findings);
         checkReserved(script, line, *statement, findings);
-        // ITEM alone is an empty row.
+        // ITEM without arguments is an empty row.
         if (statement->kind == StatementKind::Attribute && script.tokenCount(line) == 1 &&
             statement->counts.allow(1) && !script.isKeyword(line, "ITEM"))
             findings.add("no-effect", script, line,

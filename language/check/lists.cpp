@@ -1,4 +1,4 @@
-// Rules for lists and combo boxes: columns, what stands in their rows, icons.
+// Rules for lists and combo boxes: columns, rows and icons.
 
 #include "language/check/tree.h"
 #include "language/check/words.h"
@@ -13,12 +13,12 @@ namespace script_check {
 
 namespace {
 
-/// Looks into lists, which keep to themselves what their script has set.
+/// Reads protected fields of lists.
 struct ListAccess : AListBox {
     static const CArray<CString>& iconsOf(const AListBox& list) { return list.*(&ListAccess::iconFiles); }
 };
 
-/// ICON, a number, and perhaps F and a frame.
+/// Returns whether the cell is ICON and a number, optionally followed by F and a frame.
 bool isIcon(std::string_view cell)
 {
     const auto takeDigits = [&cell] {
@@ -37,7 +37,7 @@ bool isIcon(std::string_view cell)
 
 class ListRules {
 public:
-    ListRules(TreeCheck& treeCheck, AListBox& lookedAt) : check(treeCheck), list(lookedAt) {}
+    ListRules(TreeCheck& treeCheck, AListBox& checkedList) : check(treeCheck), list(checkedList) {}
 
     void run()
     {
@@ -137,7 +137,7 @@ private:
     void checkScrollBar()
     {
         if (const AScrollBar* bar = list.getScrollBar();
-            bar && check.hasData && !check.pictures.isThere(bar->getBmpFilename().str()))
+            bar && check.hasData && !check.pictures.exists(bar->getBmpFilename().str()))
             check.add("missing-bitmap", list,
                       describe(list) + " has more rows than its box and makes a scroll bar: no picture " +
                           inQuotes(bar->getBmpFilename().view()) + " in the data directory");
@@ -155,12 +155,12 @@ void checkCombo(TreeCheck& check, const AComboBox& combo)
                                "an item of a combo box is one text; what stands behind it is not read");
 }
 
-/// A COMBOMENU anywhere else than in a combo box.
+/// Finds a COMBOMENU outside of a combo box.
 void checkMenu(TreeCheck& check, const AWnd& menu, LineRef made)
 {
     const AWnd* parent = menu.getParent();
     if (made.script->isKeyword(made.line, "COMBOMENU") && parent &&
-        parent->getWindowType() != AWnd::WND_COMBOBOX && !check.reading.isOfGame(parent))
+        parent->getWindowType() != AWnd::WND_COMBOBOX && !check.reading.isGameWindow(parent))
         check.add("no-effect", menu, "no combo box is around this menu, so nothing opens it");
 }
 
@@ -170,7 +170,7 @@ void checkLists(TreeCheck& check, AWnd& root)
 {
     forEachBelow(root, [&](AWnd& wnd) {
         const WndLines* lines = check.reading.linesOf(&wnd);
-        if (!lines || !lines->made || check.reading.isOfGame(&wnd))
+        if (!lines || !lines->made || check.reading.isGameWindow(&wnd))
             return;
         checkMenu(check, wnd, lines->made);
         if (wnd.getWindowType() == AWnd::WND_LISTBOX)

@@ -1,4 +1,4 @@
-// Rules for what is right for the toolkit and looks wrong to a player.
+// Rules for scripts that are valid but probably look or behave wrong.
 
 #include "language/check/tree.h"
 #include "language/check/words.h"
@@ -18,7 +18,7 @@ namespace script_check {
 
 namespace {
 
-/// Pixels that stay between the borders.
+/// Returns how many of size pixels are left between the borders.
 int insideBorders(const AWnd& wnd, int size)
 {
     return size - (wnd.getBorder() ? 2 * wnd.getBorder()->getBorderWidth() : 0);
@@ -26,7 +26,8 @@ int insideBorders(const AWnd& wnd, int size)
 
 // Lists.
 
-/// A row is drawn when at least a pixel is left below it, and takes clicks without that.
+/// Finds a last row that takes clicks but is not drawn. A row is drawn only if at least one pixel is left
+/// below it.
 void checkLastRow(TreeCheck& check, AListBox& list)
 {
     const int room = insideBorders(list, list.getWndHeight());
@@ -59,7 +60,8 @@ void checkColumnsFit(TreeCheck& check, AListBox& list)
 
 // Combo boxes.
 
-/// A menu below the box is cut at the lower edge of the screen, and what is cut cannot be chosen.
+/// Finds a menu that opens below its box and extends below the screen. Items beyond the edge cannot be
+/// chosen.
 void checkMenuFits(TreeCheck& check, AComboBox& combo, const AWnd& top)
 {
     if (!combo.getMenuBelow() || !combo.getMenuAllowed() || combo.getItemCount() == 0 ||
@@ -132,7 +134,7 @@ void checkHiddenPages(TreeCheck& check, AWnd& tabs)
         const AWnd* child = tabs.getWndFromIndex(i, "");
         if (!child || AButton::isButton(child))
             continue;
-        if (check.reading.isOfGame(child) || child->isVisible(0))
+        if (check.reading.isGameWindow(child) || child->isVisible(0))
             return;
         ++pages;
     }
@@ -144,35 +146,36 @@ void checkHiddenPages(TreeCheck& check, AWnd& tabs)
 
 // Screens and boxes.
 
-/// Whether something in it takes clicks that the game may act on.
+/// Returns whether the window contains something to click.
 bool hasClickable(TreeCheck& check, AWnd& top)
 {
-    bool found = check.reading.isOfGame(&top);
-    forEachBelow(top, [&](AWnd& wnd) { found = found || isControl(wnd) || check.reading.isOfGame(&wnd); });
+    bool found = check.reading.isGameWindow(&top);
+    forEachBelow(top,
+                 [&](AWnd& wnd) { found = found || isControl(wnd) || check.reading.isGameWindow(&wnd); });
     return found;
 }
 
-/// canLeaveOthers: a screen before it has something to click, so clicks are what leads on in this interface.
-void checkScreen(TreeCheck& check, AWnd& screen, bool isFirst, bool& canLeaveOthers)
+/// hasSeenClickable: an earlier screen has something to click, so the player leaves screens by clicking.
+void checkScreen(TreeCheck& check, AWnd& screen, bool isFirst, bool& hasSeenClickable)
 {
     if (screen.getID().IsEmpty())
         check.add("unnamed-screen", screen,
                   isFirst ? "the first screen opens without a name too, but nothing can come back to it"
                           : "nothing can open a screen without a name");
-    if (check.reading.lacksLines() || check.reading.isOfGame(&screen) || screen.getWindowCount() == 0)
+    if (check.reading.lacksLines() || check.reading.isGameWindow(&screen) || screen.getWindowCount() == 0)
         return;
     if (hasClickable(check, screen))
-        canLeaveOthers = true;
-    else if (canLeaveOthers)
+        hasSeenClickable = true;
+    else if (hasSeenClickable)
         check.add("no-way-out", screen,
                   "nothing in " + describe(screen) +
                       " can be clicked; a button TGX_BACK leads back to the screen before");
 }
 
-/// The boxes that messageBox and queryBox open.
+/// Checks the boxes that messageBox and queryBox open.
 void checkBox(TreeCheck& check, AWnd& box)
 {
-    if (check.reading.lacksLines() || check.reading.isOfGame(&box) ||
+    if (check.reading.lacksLines() || check.reading.isGameWindow(&box) ||
         (!CString::equalNoCase(box.getID().view(), "MESSAGEBOX") &&
          !CString::equalNoCase(box.getID().view(), "QUERYBOX")))
         return;
@@ -180,7 +183,7 @@ void checkBox(TreeCheck& check, AWnd& box)
     bool closes = false;
     forEachBelow(box, [&](AWnd& wnd) {
         ids.push_back(wnd.getID().view());
-        closes = closes || check.reading.isOfGame(&wnd) || closesPopup(wnd.getID().view());
+        closes = closes || check.reading.isGameWindow(&wnd) || closesPopup(wnd.getID().view());
     });
     if (!closes)
         check.add("stuck-box", box,
@@ -196,7 +199,7 @@ void checkBox(TreeCheck& check, AWnd& box)
 void checkWindow(TreeCheck& check, AWnd& wnd, const AWnd& top)
 {
     const WndLines* lines = check.reading.linesOf(&wnd);
-    if (!lines || check.reading.isOfGame(&wnd))
+    if (!lines || check.reading.isGameWindow(&wnd))
         return;
     const AWnd* parent = wnd.getParent();
     auto* list = windowAs<AListBox>(&wnd);
@@ -221,13 +224,13 @@ void checkWindow(TreeCheck& check, AWnd& wnd, const AWnd& top)
 void checkTraps(TreeCheck& check, AWnd& root)
 {
     bool isFirst = true;
-    bool canLeaveOthers = false;
+    bool hasSeenClickable = false;
     for (int i = 0; i < root.getWindowCount(); ++i) {
         AWnd* top = root.getWndFromIndex(i, "");
         if (!top)
             continue;
         if (top->getWindowType() == AWnd::WND_SCREEN)
-            checkScreen(check, *top, std::exchange(isFirst, false), canLeaveOthers);
+            checkScreen(check, *top, std::exchange(isFirst, false), hasSeenClickable);
         else
             checkBox(check, *top);
         checkWindow(check, *top, *top);

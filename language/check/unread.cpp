@@ -1,4 +1,4 @@
-// Rules for what a line says and nothing reads.
+// Rules for arguments and lines that the toolkit does not read.
 
 #include "language/check/rules.h"
 
@@ -8,7 +8,7 @@ namespace script_check {
 
 namespace {
 
-/// Arguments that the form names; -1 where the last one may come again and again.
+/// Returns how many arguments the form names, or -1 if the last one may be repeated.
 int argumentsRead(const Statement& statement)
 {
     const std::string_view form = statement.form;
@@ -17,7 +17,7 @@ int argumentsRead(const Statement& statement)
     return form.empty() ? 0 : static_cast<int>(std::count(form.begin(), form.end(), ' ')) + 1;
 }
 
-/// Of statements that take any number of arguments and read the first of them.
+/// Checks statements that accept any number of arguments but only read the first ones.
 void checkRest(const Script& script, int line, const Statement& statement, Findings& findings)
 {
     const int read = argumentsRead(statement);
@@ -36,7 +36,7 @@ void checkUnread(const Script& script, Findings& findings)
     const bool isLibrary = !script.subroutines.empty() && !isMain(script);
     for (int line = 0; line < script.lineCount(); ++line) {
         const Statement* statement = script.statement(line);
-        if (!statement || script.line(line).isAsItStands)
+        if (!statement || script.line(line).isVerbatim)
             continue;
         checkRest(script, line, *statement, findings);
         const std::string_view keyword = statement->keyword;

@@ -17,8 +17,8 @@
 
 namespace {
 
-constexpr int wrongCall = 2;
-constexpr int wrongInput = 1;
+constexpr int usageError = 2;
+constexpr int inputError = 1;
 constexpr std::chrono::milliseconds watchInterval(200);
 
 struct BuildOptions {
@@ -32,7 +32,7 @@ struct BuildOptions {
 int refuse(const std::string& why)
 {
     std::cerr << "tgx build: " << why << '\n';
-    return wrongCall;
+    return usageError;
 }
 
 /// What one build came to, for the line that tells of it.
@@ -45,7 +45,7 @@ Outcome buildOnce(const BuildOptions& options, script_text::WatchedFiles& watche
 {
     const std::optional<std::string> text = readInput(options.input);
     if (!text)
-        return {wrongInput, "cannot be read"};
+        return {inputError, "cannot be read"};
     const auto read = [&](const std::string& path, std::string& reason) {
         watched.add(path); // before it is read: a change on the way is not missed
         return readIncluded(path, reason);
@@ -63,7 +63,7 @@ Outcome buildOnce(const BuildOptions& options, script_text::WatchedFiles& watche
                                           [](const script_text::Diagnostic& each) {
                                               return each.severity == script_text::Diagnostic::Error;
                                           });
-        return {wrongInput, counted(errors, "error") + ", " + options.output + " is left as it was"};
+        return {inputError, counted(errors, "error") + ", " + options.output + " is left as it was"};
     }
     const script_text::Emitted emitted = script_text::emit(script);
     std::vector<Output> outputs{{options.output, emitted.bytes}};
@@ -73,7 +73,7 @@ Outcome buildOnce(const BuildOptions& options, script_text::WatchedFiles& watche
         outputs.push_back(
             {options.depfile, script_text::dependencies(options.output, options.input, script)});
     if (!writeOutputs(outputs))
-        return {wrongInput, "not written"};
+        return {inputError, "not written"};
     return {0, counted(static_cast<std::ptrdiff_t>(emitted.bytes.size()), "byte") + " in " + options.output};
 }
 
@@ -87,8 +87,8 @@ int watch(const BuildOptions& options)
     while (!isInterrupted) {
         script_text::WatchedFiles watched({options.input});
         const Outcome outcome = buildOnce(options, watched);
-        if (outcome.status == wrongCall)
-            return wrongCall;
+        if (outcome.status == usageError)
+            return usageError;
         const std::time_t now = std::time(nullptr);
         char clock[16];
         std::strftime(clock, sizeof clock, "%H:%M:%S", std::localtime(&now));

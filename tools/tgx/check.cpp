@@ -19,8 +19,8 @@ namespace {
 
 using script_text::Diagnostic;
 
-constexpr int wrongCall = 2;
-constexpr int wrongInput = 1;
+constexpr int usageError = 2;
+constexpr int inputError = 1;
 
 struct CheckArguments {
     std::vector<std::string> inputs;
@@ -32,7 +32,7 @@ struct CheckArguments {
 int refuse(const std::string& why)
 {
     std::cerr << "tgx check: " << why << '\n';
-    return wrongCall;
+    return usageError;
 }
 
 std::string unknownCode(const std::string& name)
@@ -93,7 +93,7 @@ int check(const CheckArguments& arguments)
     for (const std::string& each : problems)
         std::cerr << each << '\n';
     if (scripts == 0)
-        return problems.empty() ? refuse("no script (*.tgs, *.tgx) found") : wrongInput;
+        return problems.empty() ? refuse("no script (*.tgs, *.tgx) found") : inputError;
 
     std::vector<const Diagnostic*> findings;
     for (const script_check::CheckReport& report : reports)
@@ -117,7 +117,7 @@ int check(const CheckArguments& arguments)
                   << " lines that are refused; how its lines work together has not been looked at\n";
     std::cerr << counted(errors, "error") << ", " << counted(warnings, "warning") << " in "
               << counted(scripts, "script") << '\n';
-    return !problems.empty() || errors > 0 || (arguments.warningsAreErrors && warnings > 0) ? wrongInput : 0;
+    return !problems.empty() || errors > 0 || (arguments.warningsAreErrors && warnings > 0) ? inputError : 0;
 }
 
 } // namespace

@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr int wrongInput = 1;
-constexpr int wrongCall = 2;
+constexpr int inputError = 1;
+constexpr int usageError = 2;
 
 /// One line; the command that it is about in front.
 std::string wrongCallText(const CLI::App* app, const CLI::Error& error)
@@ -24,7 +24,7 @@ std::string wrongCallText(const CLI::App* app, const CLI::Error& error)
 }
 
 /// Why there is no command of that name; "" when there is one.
-std::string whyNoCommand(const CLI::App& app, const std::string& name)
+std::string unknownCommandText(const CLI::App& app, const std::string& name)
 {
     std::vector<std::string> names;
     for (const CLI::App* each : app.get_subcommands({})) {
@@ -47,11 +47,11 @@ int parseAndRun(CLI::App& app, int argc, char** argv)
         if (!app.get_subcommands().empty())
             return 0;
         std::cerr << app.help();
-        return wrongCall;
+        return usageError;
     } catch (const CLI::RuntimeError& ended) {
         return ended.get_exit_code();
     } catch (const CLI::ParseError& ended) {
-        return app.exit(ended) == 0 ? 0 : wrongCall; // help and version end here too
+        return app.exit(ended) == 0 ? 0 : usageError; // help and version end here too
     }
 }
 
@@ -75,14 +75,14 @@ int run(int argc, char** argv)
     addReference(app);
 
     if (argc > 1 && argv[1][0] != '-') {
-        if (const std::string why = whyNoCommand(app, argv[1]); !why.empty()) {
+        if (const std::string why = unknownCommandText(app, argv[1]); !why.empty()) {
             std::cerr << "tgx: " << why << '\n';
-            return wrongCall;
+            return usageError;
         }
     }
     tgx::removeNewFilesOnSignals();
     const int status = parseAndRun(app, argc, argv);
-    return tgx::hasWrittenStdout("tgx") ? status : std::max(status, wrongInput);
+    return tgx::hasWrittenStdout("tgx") ? status : std::max(status, inputError);
 }
 
 } // namespace
@@ -92,5 +92,5 @@ try {
     return run(argc, argv);
 } catch (const std::bad_alloc&) {
     std::cerr << "tgx: out of memory\n";
-    return wrongCall;
+    return usageError;
 }

@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int wrongCall = 2;
+constexpr int usageError = 2;
 constexpr int colourBits = 32;
 
 volatile std::sig_atomic_t isInterrupted = 0; // the window closes, and a recording is written
@@ -49,7 +49,7 @@ public:
         AMainWin::startup();
         readScriptFile(CString(options.script), GetModuleHandleA(nullptr), mainScriptResource, "", 1);
         if (!hasOpened && getActiveScreen())
-            openWanted();
+            openRequestedScreen();
         return 1;
     }
     void drawscreen() override
@@ -77,19 +77,19 @@ public:
 
 private:
     /// Later the devtools bring the screens back.
-    void openWanted()
+    void openRequestedScreen()
     {
         hasOpened = true;
-        const CString wanted(options.screen);
-        if (wanted.IsEmpty() || getActiveScreen()->getID() == wanted)
+        const CString requested(options.screen);
+        if (requested.IsEmpty() || getActiveScreen()->getID() == requested)
             return;
         std::string others;
         for (int i = 0; i < getScreenList()->getWindowCount(); ++i) {
             const AWnd* screen = getWndFromIndex(i);
             if (screen->getWindowType() != AWnd::WND_SCREEN)
                 continue;
-            if (screen->getID() == wanted) {
-                changeScreen(wanted, 1, mainScriptResource, CString(options.script));
+            if (screen->getID() == requested) {
+                changeScreen(requested, 1, mainScriptResource, CString(options.script));
                 return;
             }
             others += ' ' + screen->getID().str();
@@ -114,7 +114,7 @@ std::string scriptName(const std::string& given)
 }
 
 /// Compiled or as text, right or wrong.
-bool isThere(const ViewOptions& options)
+bool scriptExists(const ViewOptions& options)
 {
     std::vector<std::string> folders = options.devTools.sources;
     folders.push_back(script_text::scriptFolder());
@@ -128,7 +128,7 @@ bool isThere(const ViewOptions& options)
 int refuse(const std::string& why)
 {
     std::cerr << "tgx view: " << why << '\n';
-    return wrongCall;
+    return usageError;
 }
 
 int view(ViewOptions& options)
@@ -138,7 +138,7 @@ int view(ViewOptions& options)
     for (const std::string& folder : options.devTools.sources)
         if (std::error_code failure; !fs::is_directory(folder, failure))
             return refuse("no folder " + folder + "; --source names a folder with scripts in text form");
-    if (!isThere(options))
+    if (!scriptExists(options))
         return refuse("no script " + options.script + " in " + (fs::path(options.data) / "UIG").string() +
                       ", neither compiled nor as text; --source names another folder with its text");
 
