@@ -79,17 +79,16 @@ public:
             if (const std::optional<std::string_view> codes = codesOf(line)) {
                 if (codes->empty())
                     report(in, number, line, rest, "unknown-code",
-                           "expected codes behind allow; --explain lists them all");
+                           "expected codes after allow; --explain lists all codes");
                 addAllowances(in, number, line, *codes, waiting);
             } else if (!rest.empty() && rest[0] != '#') {
                 for (const std::size_t each : waiting)
                     byTarget.try_emplace({file.name, number, allowances[each].code}, each);
                 waiting.clear();
                 if (const std::string_view comment = commentOf(line); codesOf(comment))
-                    report(
-                        in, number, line, comment, "unused-allowance",
-                        "this allows nothing: an allowance stands in a line of its own, in front of the one "
-                        "that it is for");
+                    report(in, number, line, comment, "unused-allowance",
+                           "this allows nothing: an allowance must be on a line of its own, before the line "
+                           "that it applies to");
             }
         }
     }
@@ -204,7 +203,7 @@ void applyAllowances(const std::deque<Script>& scripts, const CheckOptions& opti
         refused.push_back(
             {script_text::Diagnostic::Warning,
              {by.in, by.line, by.at},
-             script_text::shown(by.code) + " cannot be allowed here: the script cannot be built with it",
+             script_text::shown(by.code) + " cannot be allowed: the script does not build with this error",
              "unused-allowance"});
         return false;
     });
@@ -223,7 +222,7 @@ void applyAllowances(const std::deque<Script>& scripts, const CheckOptions& opti
                           "unknown-code"});
         } else if (!each.isUsed && usefulness.canBeJudged(each)) {
             findings.add({script_text::Diagnostic::Warning, place,
-                          "nothing to allow: the line behind has no finding " + shown, "unused-allowance"});
+                          "nothing to allow: the next line has no finding " + shown, "unused-allowance"});
         }
     }
 }

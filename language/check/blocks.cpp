@@ -76,10 +76,10 @@ public:
 private:
     void reportAfterBody(int line)
     {
-        findings.add("behind-body", script, line,
+        findings.add("after-body", script, line,
                      "the subroutine " + inQuotes(script.string(line - 2, 1)) + " ends with " +
                          lineNumber(script, line - 1) +
-                         ", and this is no part of it; a body of several lines stands between BEGIN and END");
+                         ", and this is not part of it; a body of several lines needs BEGIN and END");
     }
 
     void check(int line, const Statement& statement)
@@ -97,15 +97,15 @@ private:
             return;
         case StatementKind::Definition:
             if (place.depth > 0)
-                findings.add("nested-subroutine", script, line,
-                             "SUBROUTINE inside a block; it stands at the top level, best in a script of "
-                             "its own");
+                findings.add(
+                    "nested-subroutine", script, line,
+                    "SUBROUTINE inside a block; move it to the top level, preferably of a separate script");
             return;
         case StatementKind::Screen:
             if (place.depth > 0 && place.subroutine == LinePlace::none)
                 findings.add("nested-screen", script, line,
                              "a SCREEN inside the block that begins in " + lineNumber(script, place.block) +
-                                 "; it goes to the top level all the same. Is an END missing?");
+                                 "; it becomes a top-level window anyway. Is an END missing?");
             break;
         case StatementKind::Attribute:
             checkTarget(line, statement);
@@ -121,9 +121,9 @@ private:
         const bool isTooDeep = script.place(line).depth > deepestLevel(statement.kind);
         if (isTooDeep && !wasTooDeep)
             findings.add("too-deep", script, line,
-                         std::string(statement.keyword) + " stands inside " +
-                             std::to_string(script.place(line).depth) + " blocks; it may stand inside " +
-                             std::to_string(deepestLevel(statement.kind)));
+                         std::string(statement.keyword) + " is inside " +
+                             std::to_string(script.place(line).depth) + " blocks; at most " +
+                             std::to_string(deepestLevel(statement.kind)) + " are allowed");
         wasTooDeep = isTooDeep;
     }
 
@@ -158,10 +158,10 @@ private:
         }
         for (const auto& [begin, end] : misclosed)
             findings.add("begin-without-end", script, begin,
-                         "no END of its own closes this block: the one in " + lineNumber(script, end) +
-                             " does, and stands further to the left");
+                         "this block has no END of its own: it is closed by the one in " +
+                             lineNumber(script, end) + ", which is further to the left");
         for (const int begin : unclosed)
-            findings.add("begin-without-end", script, begin, "no END closes this block");
+            findings.add("begin-without-end", script, begin, "this block has no END");
     }
 
     void checkOpener(int begin)
@@ -172,8 +172,7 @@ private:
         if (begin + 1 < script.lineCount() && opener == LinePlace::none &&
             script.place(begin + 1).block == begin && !followsBody(script, begin))
             findings.add("block-without-window", script, begin,
-                         "no window stands in front of this block, so its lines act on the root of all "
-                         "windows");
+                         "no window precedes this block, so its lines act on the root of all windows");
     }
 
     void checkTarget(int line, const Statement& statement)
@@ -189,18 +188,18 @@ private:
             if (keyword != "FONT" && (fitsAnyWindow(statement) || isTabList(keyword)))
                 findings.add("outside-block", script, line,
                              keyword + " outside of all blocks acts on the root of all windows" +
-                                 (followsWindow ? "; for " + inQuotes(script.string(line - 1, 1)) +
-                                                      " it stands between BEGIN and END"
+                                 (followsWindow ? "; to apply it to " + inQuotes(script.string(line - 1, 1)) +
+                                                      ", put it between BEGIN and END"
                                                 : ""));
         } else if (followsWindow && fitsAnyWindow(statement) && script.place(line - 1).block == place.block &&
                    !(keyword == "FONT" && makesWindowAfter(line)) && !isForPopup(keyword, place)) {
             const std::string around = place.opener >= 0 && script.tokenCount(place.opener) > 1 &&
                                                !makesPart(*script.statement(place.opener))
                                            ? inQuotes(script.string(place.opener, 1))
-                                           : "the window around";
+                                           : "the enclosing window";
             findings.add("attribute-on-parent", script, line,
-                         keyword + " acts on " + around + " here; for " +
-                             inQuotes(script.string(line - 1, 1)) + " it stands between BEGIN and END");
+                         keyword + " acts on " + around + " here; to apply it to " +
+                             inQuotes(script.string(line - 1, 1)) + ", put it between BEGIN and END");
         }
     }
 
@@ -274,7 +273,7 @@ void checkOverridden(const Script& script, Findings& findings)
     const auto leave = [&] {
         if (levels.back().resetInfo >= 0)
             report(levels.back().resetInfo, levels.back().resetBy,
-                   " sets a frame size that is taken back by the BMPFILE in ");
+                   " sets a frame size that is reset by the BMPFILE in ");
         levels.pop_back();
     };
     const int font = statementByKeyword("FONT")->id;
@@ -303,7 +302,7 @@ void checkOverridden(const Script& script, Findings& findings)
         const auto [before, isFirst] = level.setters.try_emplace(statement->id, line);
         if (!isFirst) {
             if (setsAllOf(script, line, before->second))
-                report(before->second, line, " is undone by the same statement in ");
+                report(before->second, line, " is overridden by the same statement in ");
             before->second = line;
         }
         if (statement->id == bmpInfo)
@@ -330,9 +329,9 @@ void checkMissingBlocks(const Script& script, const PointerTargets& pointerTarge
         if (!next || name.empty() || name == "static" || next->kind == StatementKind::BlockBegin ||
             next->kind == StatementKind::BlockEnd || next->kind == StatementKind::Attribute)
             continue; // an attribute outside of blocks is reported
-        findings.add("without-block", script, line, 1,
-                     "a read of " + inQuotes(name) + " carries out " + lineNumber(script, line + 1) +
-                         " too, which is none of it; write BEGIN and END behind this line");
+        findings.add("missing-block", script, line, 1,
+                     "reading " + inQuotes(name) + " also executes " + lineNumber(script, line + 1) +
+                         ", which does not belong to it; add BEGIN and END after this line");
     }
 }
 
@@ -350,12 +349,12 @@ void checkTopNames(const Script& script, Findings& findings)
         const auto [other, isFirst] = defined.try_emplace(name, line);
         if (!isFirst) {
             findings.add("duplicate-id", script, line, 1,
-                         inQuotes(name) + " is defined already, in " + lineNumber(script, other->second) +
-                             "; a read of it takes that one");
+                         inQuotes(name) + " is already defined in " + lineNumber(script, other->second) +
+                             "; reading it always uses that definition");
         } else if (const int taker = first[name]; taker != line) {
             findings.add("name-taken", script, taker, 1,
-                         "a read of the window " + inQuotes(name) + ", which is defined in " +
-                             lineNumber(script, line) + ", begins here; give this another name");
+                         "reading the window " + inQuotes(name) + ", which is defined in " +
+                             lineNumber(script, line) + ", starts here; use another name here");
         }
     }
 }

@@ -152,8 +152,8 @@ private:
                     ring += inQuotes(nodes[step->node].subroutine->name) + " -> ";
                 if (path.end() - first > maxShown)
                     ring += "... -> ";
-                findings.add("subroutine-ring", *call.script, call.line, 1,
-                             "the subroutine reaches itself: " + ring + inQuotes(callee.subroutine->name));
+                findings.add("recursive-subroutine", *call.script, call.line, 1,
+                             "the subroutine calls itself: " + ring + inQuotes(callee.subroutine->name));
             }
         }
     }
@@ -178,22 +178,22 @@ void checkSubroutines(Script& script, Findings& findings)
         const bool isSecond = script.subroutine(each.name) != &each;
         if (isMain(script))
             findings.add("subroutine-in-main", script, each.line,
-                         "the game reads this script from top to bottom, and that fails here; keep "
-                         "subroutines in a script of their own");
+                         "the game reads this script from top to bottom, which fails here; move subroutines "
+                         "to a script of their own");
         if (isEmpty)
             findings.add("empty-subroutine", script, each.line, 1,
-                         inQuotes(each.name) + " has no body; expected a statement or a block behind it");
+                         inQuotes(each.name) + " has no body; expected a statement or a block after it");
         if (isSecond)
             findings.add("duplicate-subroutine", script, each.line, 1,
-                         "a SUBROUTINE " + inQuotes(each.name) + " stands in line " +
+                         "SUBROUTINE " + inQuotes(each.name) + " is already defined in line " +
                              std::to_string(script.numberOf(script.subroutine(each.name)->line)) +
-                             " already, and GOTO finds that one");
+                             "; GOTO always uses that one");
         else if (!each.isUsed && !isUnused)
             findings.add("unused-subroutine", script, each.line, 1, "no GOTO names " + inQuotes(each.name));
     }
     if (isUnused)
         findings.add("unused-script", script, script.subroutines[0].line,
-                     "no GOTO names a subroutine of this script, and it holds nothing else");
+                     "no GOTO names a subroutine of this script, which contains nothing else");
 }
 
 } // namespace

@@ -42,9 +42,9 @@ void checkTabs(TreeCheck& check, AWnd& control)
         if (child->getWindowType() == AWnd::WND_BUTTON) {
             hasButton = true;
             check.add("tab-pages", *child,
-                      describe(*child) + " stands among the tabs of " + describe(control) +
-                          " and is none of their group: a click on it turns the pages too, and none is its "
-                          "own. Tabs are radio buttons; other buttons stand in a page");
+                      describe(*child) + " is among the tabs of " + describe(control) +
+                          " but not in their group: a click on it also switches the pages, but it has no "
+                          "page of its own. Tabs must be radio buttons; put other buttons into a page");
         }
         (check.reading.isGameWindow(child) ? unknown : isRadio(child) ? tabs : pages) += 1;
         changes += i > 0 && isRadio(child) != wasTab;
@@ -59,7 +59,7 @@ void checkTabs(TreeCheck& check, AWnd& control)
     else if (changes > 1 && unknown == 0)
         check.add("tab-pages", control,
                   "tabs and pages of " + describe(control) +
-                      " are mixed; first stand all of the ones, then all of the others");
+                      " are mixed; put all tabs before or after all pages");
 }
 
 // Screens, popups and panels.
@@ -93,8 +93,8 @@ private:
         const auto [first, isFirst] = ids.try_emplace(folded(wnd.getID().view()), &wnd);
         if (!isFirst && !check.reading.isPointedTo(&wnd))
             check.add("duplicate-id", wnd,
-                      "a window " + inQuotes(wnd.getID().view()) + " stands in " + describe(top) +
-                          " already, in " + lineOf(check, *first->second) + ", and is found first");
+                      "another window " + inQuotes(wnd.getID().view()) + " is already in " + describe(top) +
+                          ", in " + lineOf(check, *first->second) + ", and is found first");
     }
 
     bool isShownElsewhere() const
@@ -147,8 +147,8 @@ private:
                     reached.insert(list.GetAt(i));
         } else if (const std::vector<LineRef> at = check.linesOn(top, keyword); !at.empty()) {
             check.findings.add("no-effect", *at[0].script, at[0].line, 1,
-                               std::string(keys) + " go to no list that begins with " + typeOf(first) +
-                                   ": a combo box or a radio button stands first");
+                               std::string(keys) + " do not reach a list that begins with " + typeOf(first) +
+                                   "; it must begin with a combo box or a radio button");
         }
     }
 
@@ -181,7 +181,7 @@ private:
                       "no key reaches the " +
                           (missed == 1 ? std::string("control") : std::to_string(missed) + " controls") +
                           " in " + describe(top) + ", " + (missed == 1 ? "" : "such as ") +
-                          describe(*firstMissed()) + "; name them in a TABORDER at the end of its block");
+                          describe(*firstMissed()) + "; add them to a TABORDER at the end of its block");
             return;
         }
         for (AWnd* wnd : controls)
@@ -193,8 +193,8 @@ private:
     {
         const auto inner = innerOrders.find(&wnd);
         if (inner != innerOrders.end())
-            return "it stands in the TABORDER of " + describe(*inner->second) + ", and Tab walks that of " +
-                   describe(top) + " alone";
+            return "it is in the TABORDER of " + describe(*inner->second) +
+                   ", but Tab only follows that of " + describe(top);
         return "no TABORDER of " + describe(top) + " names it";
     }
 

@@ -84,7 +84,7 @@ private:
         const bool isScreen = wnd.getWindowType() == AWnd::WND_SCREEN;
         if (!isTooLarge || (isScreen ? !check.isSizeGiven : wnd.getWindowType() != AWnd::WND_PLAIN))
             return false;
-        check.add("sticks-out", wnd,
+        check.add("outside-parent", wnd,
                   describe(wnd) + " is " + size(wnd.getWndWidth(), wnd.getWndHeight()) +
                       ", larger than the screen of " + size(check.screenWidth, check.screenHeight));
         return true;
@@ -115,14 +115,14 @@ private:
         if (!place.intersects(box)) {
             if (!wnd.isVisible(0))
                 return false; // probably moved into view when the game shows it
-            check.add("sticks-out", wnd, describe(wnd) + " lies outside of " + ancestorAndSize);
+            check.add("outside-parent", wnd, describe(wnd) + " is outside " + ancestorAndSize);
             return true;
         }
         if (!isControl(wnd) && !isText)
             return false;
-        check.add("sticks-out", wnd,
-                  describe(wnd) + " sticks out of " + ancestorAndSize + ' ' + sides(box, place) +
-                      (isControl(wnd) ? "; what lies outside takes no clicks" : ""));
+        check.add("outside-parent", wnd,
+                  describe(wnd) + " extends beyond " + ancestorAndSize + ' ' + sides(box, place) +
+                      (isControl(wnd) ? "; the part outside takes no clicks" : ""));
         return true;
     }
 
@@ -162,14 +162,14 @@ private:
                 continue;
             if (takesClicks && cover.takesClicks) {
                 check.add("covered", wnd,
-                          describe(wnd) + " lies wholly behind " + describe(*cover.wnd) + lineOf(*cover.wnd) +
-                              ", which takes its clicks");
+                          describe(wnd) + " is completely covered by " + describe(*cover.wnd) +
+                              lineOf(*cover.wnd) + ", which takes its clicks");
                 return;
             }
             if (shows && cover.isOpaque) {
                 check.add("covered", wnd,
                           describe(wnd) + " cannot be seen: " + describe(*cover.wnd) + lineOf(*cover.wnd) +
-                              " lies over it");
+                              " covers it");
                 return;
             }
         }

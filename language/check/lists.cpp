@@ -59,7 +59,7 @@ private:
                 if (++columns == AListBox::maxColumns + 1)
                     check.findings.add("no-effect", *at.script, at.line, token,
                                        "a list has at most " + std::to_string(AListBox::maxColumns) +
-                                           " columns; those from here on are left out");
+                                           " columns; it ignores the rest");
                 token += isWord(at, token + 1); // how this column is justified
             }
         const int count = list.getColumnCount();
@@ -68,7 +68,7 @@ private:
         for (const LineRef& at : check.linesOn(list, "TITLES"))
             if (at.script->tokenCount(at.line) > count + 1)
                 check.findings.add("no-effect", *at.script, at.line, count + 1,
-                                   columnCount + "; a title behind the last one is not shown");
+                                   columnCount + "; a title after the last column is not shown");
         for (const LineRef& at : check.linesOn(list, "LISTFIXEDCOLUMNS"))
             for (int token = 1; token < at.script->tokenCount(at.line); ++token)
                 if (const int column = at.script->number(at.line, token); column < 0 || column >= count)
@@ -93,8 +93,8 @@ private:
                     text.starts_with("ICON") && !isIcon(text))
                     check.findings.add("missing-icon", *at.script, at.line, token,
                                        inQuotes(text) +
-                                           " is read as an icon, for it begins with ICON; "
-                                           "expected a number behind that, as in ICON0 or ICON0F2");
+                                           " is read as an icon, because it begins with ICON; expected a "
+                                           "number after that, as in ICON0 or ICON0F2");
     }
 
     void checkIcons()
@@ -112,7 +112,7 @@ private:
                 const std::string place = "row " + std::to_string(row) + " of " + describe(list);
                 if (cell.icon < 0 || cell.icon >= files.GetSize()) {
                     lines.add("missing-icon", row, column,
-                              place + " shows icon " + std::to_string(cell.icon) + ", and LISTICONS names " +
+                              place + " shows icon " + std::to_string(cell.icon) + ", but LISTICONS names " +
                                   std::to_string(files.GetSize()));
                     continue;
                 }
@@ -139,7 +139,8 @@ private:
         if (const AScrollBar* bar = list.getScrollBar();
             bar && check.hasData && !check.pictures.exists(bar->getBmpFilename().str()))
             check.add("missing-bitmap", list,
-                      describe(list) + " has more rows than its box and makes a scroll bar: no picture " +
+                      describe(list) +
+                          " has more rows than fit and creates a scroll bar, but there is no picture " +
                           inQuotes(bar->getBmpFilename().view()) + " in the data directory");
     }
 
@@ -152,7 +153,7 @@ void checkCombo(TreeCheck& check, const AComboBox& combo)
     for (const LineRef& at : check.linesOn(combo, "ITEM"))
         if (at.script->tokenCount(at.line) > 2)
             check.findings.add("no-effect", *at.script, at.line, 2,
-                               "an item of a combo box is one text; what stands behind it is not read");
+                               "an item of a combo box is one text; the rest is ignored");
 }
 
 /// Finds a COMBOMENU outside of a combo box.
@@ -161,7 +162,7 @@ void checkMenu(TreeCheck& check, const AWnd& menu, LineRef made)
     const AWnd* parent = menu.getParent();
     if (made.script->isKeyword(made.line, "COMBOMENU") && parent &&
         parent->getWindowType() != AWnd::WND_COMBOBOX && !check.reading.isGameWindow(parent))
-        check.add("no-effect", menu, "no combo box is around this menu, so nothing opens it");
+        check.add("no-effect", menu, "this menu is not inside a combo box, so nothing opens it");
 }
 
 } // namespace

@@ -133,7 +133,7 @@ void checkUnusedFiles(const std::string& dataDirectory, const std::vector<Script
          unused) // not with findings.add, which would drop findings of the same code at one place
         findings.all.push_back({script_text::Diagnostic::Warning,
                                 {top.in, top.number, {}},
-                                "no script names the file " + script_text::shown(name),
+                                "no script uses the file " + script_text::shown(name),
                                 "unused-file"});
 }
 

@@ -67,7 +67,7 @@ private:
         const std::string line =
             lines && lines->made ? std::to_string(lines->made.script->numberOf(lines->made.line)) : "?";
         check.add("radio-group", child(b.first),
-                  describe(child(b.first)) + " begins a group of its own: " + describe(child(a.last + 1)) +
+                  describe(child(b.first)) + " starts a new group: " + describe(child(a.last + 1)) +
                       " of line " + line + " separates it from " + describe(child(a.last)));
     }
 

@@ -207,9 +207,9 @@ void Reading::readOnce(Script& script, const std::string& toWindow, long long wo
     ranTooLong = false;
     win->readScriptFile(CString(script.name), GetModuleHandleA(nullptr), noResource, CString(toWindow), 0);
     if (ranTooLong && lastLine)
-        findings.add("budget", *lastLine.script, lastLine.line,
-                     "the read of " + (toWindow.empty() ? script.name : inQuotes(toWindow)) +
-                         " runs too long and is ended here");
+        findings.add("limit-exceeded", *lastLine.script, lastLine.line,
+                     "reading " + (toWindow.empty() ? script.name : inQuotes(toWindow)) +
+                         " takes too long and is stopped here");
 }
 
 void Reading::handleMessage(const CString& message)
@@ -281,7 +281,7 @@ void Reading::recordLine(const ExecutedLine& executed, AWnd* target, LineRef at,
         return;
     if (isKnown && !statement.target.fits(target->getWindowType())) {
         findings.add("no-effect", *at.script, at.line,
-                     std::string(keyword) + " does nothing on " + describe(*target));
+                     std::string(keyword) + " has no effect on " + describe(*target));
         return;
     }
     if (!target)
@@ -295,12 +295,12 @@ void Reading::recordLine(const ExecutedLine& executed, AWnd* target, LineRef at,
         entry.border = at;
         if (isKnown && executed.count == 5 && target->getWindowType() != AWnd::WND_LISTBOX)
             findings.add("no-effect", *at.script, at.line, 4,
-                         "the second bitmap of a BORDER is for list boxes; " + describe(*target) +
-                             " does not read it");
+                         "the second bitmap of a BORDER is only for list boxes; " + describe(*target) +
+                             " ignores it");
     } else if (keyword == "COLUMNS" && isKnown && executed.count > 1 &&
                static_cast<AListBox*>(target)->getItemCount() > 0) {
         findings.add("late-columns", *at.script, at.line,
-                     describe(*target) + " has rows already; COLUMNS belongs in front of them");
+                     describe(*target) + " already has rows; COLUMNS must come before them");
     }
 }
 
@@ -320,9 +320,9 @@ void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef
         else
             add("wrong-window", 0,
                 std::string(keyword) + " acts on " + typesOf(statement.target) +
-                    (executed.current ? ", and " + (target->getID().IsEmpty() ? "this" : describe(*target)) +
+                    (executed.current ? ", but " + (target->getID().IsEmpty() ? "this" : describe(*target)) +
                                             " is " + typeOf(*target)
-                                      : ", and no window's block is around it"));
+                                      : ", but it is not in a window's block"));
     } else if (keyword == "FONT" || keyword == "LISTFONTS") {
         for (int i = 1; i < executed.count && knowsAllFonts; ++i)
             if (!win->getFont(executed.tokens[i].value))
@@ -336,20 +336,20 @@ void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef
         const Subroutine* body = called ? called->subroutine(executed.tokens[1].text.view()) : nullptr;
         // A missing or recursive subroutine is reported by the rules for calls.
         if (body && !body->reachesRing)
-            add("budget", 1,
-                "subroutines call each other more than " + std::to_string(limits::subroutineDepth) +
+            add("limit-exceeded", 1,
+                "calls of subroutines are nested more than " + std::to_string(limits::subroutineDepth) +
                     " deep here");
     } else if (keyword == "RADIOBUTTON") {
-        add("budget", 0, "the radio group has too many members, or windows lie too deep in each other");
+        add("limit-exceeded", 0, "the radio group has too many members, or windows are nested too deeply");
     } else if (makesWindow(statement)) {
-        add("budget", 0, "windows lie too deep in each other, or are shown in too many places");
+        add("limit-exceeded", 0, "windows are nested too deeply, or are shown in too many places");
     } else if (keyword == "ITEM") {
         const int columns = static_cast<AListBox*>(target)->getColumnCount();
         add("missing-column", std::min(executed.count - 1, columns + 1),
             "this row has more cells than " + describe(*target) +
-                " had columns when its rows began: " + std::to_string(columns));
+                " had columns before its first row: " + std::to_string(columns));
     } else {
-        add("line-fails", 0, std::string(keyword) + " fails when it is read");
+        add("line-fails", 0, std::string(keyword) + " fails when the toolkit reads it");
     }
 }
 
@@ -380,7 +380,7 @@ void Reading::explainMissingWindow(const ExecutedLine& executed, AWnd& target, L
         std::string text = "no window " + inQuotes(name) + " in " + describe(target) + " at this point";
         if (const int later = comesLater(name); later >= 0) {
             laterStops.insert(folded(name));
-            text += "; it comes in line " + std::to_string(at.script->numberOf(later));
+            text += "; it is defined later, in line " + std::to_string(at.script->numberOf(later));
         } else if (mayBeMade) {
             continue;
         } else if (const std::string_view near = findings.nearest(name, ids); !near.empty()) {
@@ -397,7 +397,8 @@ void Reading::explainPointer(LineRef at)
     const std::string& name = at.script->string(at.line, 1);
     if (win->getWnd(CString(name), 1)) {
         findings.add("pointer-inside", *at.script, at.line, 1,
-                     inQuotes(name) + " cannot be shown here: this is inside itself, or too deep");
+                     inQuotes(name) +
+                         " cannot be shown here: it would be inside itself, or nested too deeply");
         return;
     }
     if (endedEarly)
@@ -410,7 +411,7 @@ void Reading::explainPointer(LineRef at)
     if (!namesScript && !main)
         return; // the window may be in an embedded script
     std::string text =
-        "no window " + inQuotes(name) + " exists here, nor at the top level of " + script->name;
+        "no window " + inQuotes(name) + " exists at this point, nor at the top level of " + script->name;
     for (const Script* each : scripts)
         if (each != script)
             for (const int line : each->topWindows)
@@ -428,7 +429,7 @@ void Reading::checkMessages(LineRef at, bool hasFailed)
     const int count = win->getFontCount();
     if (at.script->isKeyword(at.line, "ADDFONT") && !hasFailed) {
         if (count == fontCount) {
-            findings.add("budget", *at.script, at.line,
+            findings.add("limit-exceeded", *at.script, at.line,
                          "the font table is full: it has " + std::to_string(limits::fonts) + " entries");
         } else if (!messages.empty()) {
             unknownFonts.insert(win->getFont(count - 1));
@@ -437,9 +438,9 @@ void Reading::checkMessages(LineRef at, bool hasFailed)
                 findings.add("missing-font", *at.script, at.line, 1,
                              "the font " + inQuotes(at.script->string(at.line, 1)) + " cannot be loaded" +
                                  (size < 1 || size > limits::fontPixels
-                                      ? " at this size; 1 to " + std::to_string(limits::fontPixels) + " fit"
+                                      ? " at this size; expected 1 to " + std::to_string(limits::fontPixels)
                                       : "") +
-                                 "; the built-in one takes its place" +
+                                 "; the built-in font is used instead" +
                                  fileHint(at.script->string(at.line, 1), findings));
         }
     }

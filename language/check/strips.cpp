@@ -102,11 +102,11 @@ private:
         if (reach.right <= picture.width && reach.bottom <= picture.height)
             return;
         const std::string count = frames.count == 1 ? "the frame" : std::to_string(frames.count) + " frames";
-        check.findings.add(
-            "strip-too-small", *at.script, at.line, bitmapToken(at),
-            inQuotes(nameIn(at)) + " is " + size(picture.width, picture.height) + " pixels, too small for " +
-                count + " of " + size(frames.width, frames.height) + " that " + describe(wnd) +
-                " takes from it; a row of them is " + size(step * frames.count, frames.height));
+        check.findings.add("strip-too-small", *at.script, at.line, bitmapToken(at),
+                           inQuotes(nameIn(at)) + " is " + size(picture.width, picture.height) +
+                               " pixels, too small for " + count + " of " +
+                               size(frames.width, frames.height) + " that " + describe(wnd) +
+                               " uses; a row of them is " + size(step * frames.count, frames.height));
     }
 
     void checkBorder(AWnd& wnd, LineRef at)

@@ -58,16 +58,16 @@ std::string misfit(const AWnd& wnd, std::string_view text, const bmpfont& font)
         if (!loss.word.empty())
             return "loses letters: " + inQuotes(loss.word) + " is " +
                    std::to_string(font.stringLength(loss.word)) + " pixels wide" + inFont +
-                   ", and a line has " + std::to_string(width);
+                   ", but a line has " + std::to_string(width);
         if (!loss.rest.empty())
-            return "has no room in " + size(width, height) + " pixels" + inFont + " from " +
-                   inQuotes(loss.rest) + " on";
+            return "does not fit into " + size(width, height) + " pixels" + inFont + ": it is cut before " +
+                   inQuotes(loss.rest);
     } else if (cutToWidth(&font, text, width, length).size() < text.size()) {
         return "is " + std::to_string(font.stringLength(text)) + " pixels wide" + inFont +
-               ", and its box has " + std::to_string(width);
+               ", but its box has " + std::to_string(width);
     }
     if (font.charHeight > wnd.getWndHeight())
-        return "is " + std::to_string(font.charHeight) + " pixels high" + inFont + ", and its box has " +
+        return "is " + std::to_string(font.charHeight) + " pixels high" + inFont + ", but its box has " +
                std::to_string(wnd.getWndHeight());
     return "";
 }
@@ -129,7 +129,7 @@ void checkCells(TreeCheck& check, AListBox& list)
                 lines.add("text-clipped", row, column,
                           "the text " + inQuotes(text) + " in row " + std::to_string(row) + " of " +
                               describe(list) + " is " + std::to_string(width) + " pixels wide in font " +
-                              std::to_string(font->getIndex()) + ", and column " + std::to_string(column) +
+                              std::to_string(font->getIndex()) + ", but column " + std::to_string(column) +
                               " has " + std::to_string(list.getColumnWidth(column)));
         }
 }
@@ -154,7 +154,7 @@ void checkTitles(TreeCheck& check, AListBox& list)
             check.findings.add("text-clipped", *at->script, at->line, column + 1,
                                "the title " + inQuotes(text) + " of " + describe(list) + " is " +
                                    std::to_string(width) + " pixels wide in font " +
-                                   std::to_string(font->getIndex()) + ", and column " +
+                                   std::to_string(font->getIndex()) + ", but column " +
                                    std::to_string(column) + " has " + std::to_string(room));
     }
 }

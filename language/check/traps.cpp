@@ -37,8 +37,8 @@ void checkLastRow(TreeCheck& check, AListBox& list)
         (rows > 0 && rows < list.getItemsPerPage()))
         return;
     check.add("hidden-last-row", list,
-              describe(list) + " has " + std::to_string(room) + " pixels for rows of " +
-                  std::to_string(rowHeight) + ", and the last one that fits is not drawn; make it " +
+              describe(list) + " has " + std::to_string(room) + " pixels for rows of height " +
+                  std::to_string(rowHeight) + ", and the last row that fits is not drawn; make it " +
                   std::to_string(list.getTextOffsetY() + 1 - room % rowHeight) + " higher");
 }
 
@@ -55,7 +55,7 @@ void checkColumnsFit(TreeCheck& check, AListBox& list)
     if (needed > room)
         check.findings.add("wide-columns", *lines.back().script, lines.back().line,
                            "the columns of " + describe(list) + " take " + std::to_string(needed) +
-                               " pixels with the gaps before them, and it has " + std::to_string(room));
+                               " pixels including the gaps before them, but it has " + std::to_string(room));
 }
 
 // Combo boxes.
@@ -74,7 +74,7 @@ void checkMenuFits(TreeCheck& check, AComboBox& combo, const AWnd& top)
         check.add("menu-off-screen", combo,
                   "the menu of " + describe(combo) + " ends at " + std::to_string(bottom) +
                       ", below the screen of " + std::to_string(check.screenHeight) +
-                      " pixels, and its last items cannot be chosen; let it open above, without COMBOBELOW");
+                      " pixels, so its last items cannot be chosen; remove COMBOBELOW to open it above");
 }
 
 // Buttons.
@@ -83,10 +83,10 @@ void checkDisabled(TreeCheck& check, AWnd& button)
 {
     for (const LineRef& at : check.linesOn(button, "ENABLED"))
         if (at.script->number(at.line, 1) % 2 == 0)
-            check.findings.add("no-effect", *at.script, at.line,
-                               describe(button) +
-                                   " enables itself when its screen opens; the game disables it with "
-                                   "setButtonState");
+            check.findings.add(
+                "no-effect", *at.script, at.line,
+                describe(button) +
+                    " enables itself when its screen opens; the game can disable it with setButtonState");
 }
 
 void checkStates(TreeCheck& check, AButton& button)
@@ -96,7 +96,7 @@ void checkStates(TreeCheck& check, AButton& button)
     if (radioState && boxState)
         check.add("no-effect", *boxState,
                   "the window \"RadioState\" of " + describe(button) +
-                      " carries its selection, and this state is left alone");
+                      " shows the selection, so this state is not used");
 }
 
 // Texts.
@@ -111,7 +111,7 @@ void checkLineBreaks(TreeCheck& check, AWnd& wnd, const WndLines& lines)
     check.findings.add("line-break", script, lines.text.line,
                        script.isKeyword(lines.text.line, "TEXT") ? 1 : 6,
                        "the text of " + describe(wnd) +
-                           " has a line break and stands on one line; let it wrap with TEXTWRAP 1");
+                           " has a line break but is drawn on one line; wrap it with TEXTWRAP 1");
 }
 
 void checkEditBoxHeight(TreeCheck& check, AWnd& wnd)
@@ -120,8 +120,8 @@ void checkEditBoxHeight(TreeCheck& check, AWnd& wnd)
     if (wnd.getWindowType() == AWnd::WND_EDITBOX && check.reading.isKnownFont(font) &&
         font->charHeight > wnd.getWndHeight())
         check.add("text-clipped", wnd,
-                  "what is typed into " + describe(wnd) + " is " + std::to_string(font->charHeight) +
-                      " pixels high in font " + std::to_string(font->getIndex()) + ", and its box has " +
+                  "the text typed into " + describe(wnd) + " is " + std::to_string(font->charHeight) +
+                      " pixels high in font " + std::to_string(font->getIndex()) + ", but its box has " +
                       std::to_string(wnd.getWndHeight()));
 }
 
@@ -141,7 +141,7 @@ void checkHiddenPages(TreeCheck& check, AWnd& tabs)
     if (pages > 0)
         check.add("tab-pages", tabs,
                   "all pages of " + describe(tabs) +
-                      " are hidden, so that none shows when it opens; leave the first one visible");
+                      " are hidden, so none is shown when it opens; make the first one visible");
 }
 
 // Screens and boxes.
@@ -160,7 +160,7 @@ void checkScreen(TreeCheck& check, AWnd& screen, bool isFirst, bool& hasSeenClic
 {
     if (screen.getID().IsEmpty())
         check.add("unnamed-screen", screen,
-                  isFirst ? "the first screen opens without a name too, but nothing can come back to it"
+                  isFirst ? "the first screen opens without a name, but nothing can return to it"
                           : "nothing can open a screen without a name");
     if (check.reading.lacksLines() || check.reading.isGameWindow(&screen) || screen.getWindowCount() == 0)
         return;
@@ -169,7 +169,7 @@ void checkScreen(TreeCheck& check, AWnd& screen, bool isFirst, bool& hasSeenClic
     else if (hasSeenClickable)
         check.add("no-way-out", screen,
                   "nothing in " + describe(screen) +
-                      " can be clicked; a button TGX_BACK leads back to the screen before");
+                      " can be clicked; a button TGX_BACK returns to the previous screen");
 }
 
 /// Checks the boxes that messageBox and queryBox open.
@@ -186,13 +186,13 @@ void checkBox(TreeCheck& check, AWnd& box)
         closes = closes || check.reading.isGameWindow(&wnd) || closesPopup(wnd.getID().view());
     });
     if (!closes)
-        check.add("stuck-box", box,
+        check.add("no-close-button", box,
                   "no button of " + describe(box) +
                       " closes it; TGX_OK, TGX_CANCEL, TGX_YES, TGX_NO and TGX_CLOSE do");
     for (const char* part : {"MESSAGEBOXTITLE", "MESSAGEBOXTEXT"})
         if (!box.getWnd(part, 1))
-            check.add("box-part", box,
-                      describe(box) + " has no window " + inQuotes(part) + ", so that text does not show" +
+            check.add("missing-box-part", box,
+                      describe(box) + " has no window " + inQuotes(part) + ", so that text is not shown" +
                           check.findings.didYouMean(part, ids));
 }
 

@@ -24,7 +24,7 @@ void checkRest(const Script& script, int line, const Statement& statement, Findi
     if (read >= 0 && statement.counts.allow(script.tokenCount(line)) && script.tokenCount(line) > read + 1)
         findings.add("no-effect", script, line, read + 1,
                      std::string(statement.keyword) + " reads " + std::to_string(read) +
-                         (read == 1 ? " argument" : " arguments") + "; what stands from here on is not read");
+                         (read == 1 ? " argument" : " arguments") + "; it ignores the rest");
 }
 
 } // namespace
@@ -48,11 +48,11 @@ void checkUnread(const Script& script, Findings& findings)
                              "; 0 is normal, 1 opaque, 2 half, 3 additive");
         else if (keyword == "BORDER" && script.tokenCount(line) > 1 && script.string(line, 1).empty())
             findings.add("missing-bitmap", script, line, 1,
-                         "a border is made of a picture, and this names none");
+                         "a border needs a picture, but this name is empty");
         else if (keyword == "FONT" && isLibrary && place.depth == 0 && place.subroutine == LinePlace::none)
             findings.add("no-effect", script, line,
-                         "out of a script with subroutines single windows are read, and this line in none of "
-                         "them; FONT stands in a window's block here");
+                         "windows are read one by one from a script with subroutines, and this line is not "
+                         "part of any; move the FONT into a window's block");
     }
 }
 

@@ -118,7 +118,7 @@ private:
         const std::string_view word = takeWord();
         close(at);
         if (const char* const invisible = invisibleIn(word)) {
-            fault(at, "this word holds " + std::string(invisible) + "; expected a blank or nothing there");
+            fault(at, "this word contains " + std::string(invisible) + "; use a blank or remove it");
             out.lexemes.push_back({Lexeme::Faulty, std::string(word), 0, at});
         } else if (word[0] == '-' || std::isdigit(static_cast<unsigned char>(word[0])))
             readNumber(word, at);
@@ -160,10 +160,9 @@ private:
         if (isOpen)
             fault({at.offset, at.column, 1},
                   std::string("this string has no end; expected \" before the end of the line") +
-                      (bytes.ends_with('"')
-                           ? "; \\\" is a quotation mark in the string, a backslash in front "
-                             "of its end is written \\\\"
-                           : ""));
+                      (bytes.ends_with('"') ? "; \\\" is a quotation mark inside the string, and a backslash "
+                                              "before its end is written \\\\"
+                                            : ""));
         out.lexemes.push_back({Lexeme::String, std::move(bytes), 0, at});
     }
 
@@ -178,7 +177,7 @@ private:
                   (others == 0   ? " has"
                    : others == 1 ? " and another one of this text have"
                                  : " and " + std::to_string(others) + " others of this text have") +
-                  " no byte in code page 1252; expected one that has, or \\x and two digits");
+                  " no byte in code page 1252; use another character, or \\x and two digits");
     }
 
     /// Returns the byte for the string's next character.

@@ -97,7 +97,7 @@ private:
         const std::size_t end = text.find('\r');
         if (end != std::string_view::npos && end + 1 < text.size() &&
             text.find('\n') == std::string_view::npos)
-            return "the lines end in CR alone; save the text with LF or CR LF";
+            return "the lines end with CR only; save the text with LF or CR LF";
         return nullptr;
     }
 
@@ -133,7 +133,7 @@ private:
         if (lexemes.empty())
             return;
         if (isUnfinished)
-            error("syntax", lexemes[0].at, "a line behind the unfinished one; that one comes last");
+            error("syntax", lexemes[0].at, "a line after the unfinished one, which must be the last");
 
         const std::string_view first = lexemes[0].kind == Lexeme::Word ? lexemes[0].text : std::string_view();
         if (first == includeWord)
@@ -149,11 +149,10 @@ private:
         StatementLine line{in, lineNumber, first.starts_with(verbatimMark), {}};
         const bool isMarked = first.size() == 1 && line.isVerbatim;
         if (isMarked && lexemes.size() == 1)
-            error("syntax", lexemes[0].at,
-                  "expected a line behind the @, which says to build it as it stands");
+            error("syntax", lexemes[0].at, "expected a line after the @, which builds it unchecked");
         const bool isEmptyLine = first == emptyLine;
         if (isEmptyLine && lexemes.size() > 1)
-            error("syntax", lexemes[0].at, "EMPTY is a line without a token; it stands alone");
+            error("syntax", lexemes[0].at, "EMPTY is a line without a token and takes no arguments");
         const Statement* statement = statementByKeyword(first);
         const std::size_t begin = isMarked || isEmptyLine ? 1 : 0;
         for (std::size_t i = begin; i < lexemes.size(); ++i)
@@ -212,13 +211,13 @@ private:
     {
         const std::string word = shown(lexeme.text);
         if (isKeyword(lexeme.text)) { // INCLUDE, DEFINE or EMPTY
-            error("syntax", lexeme.at, word + " begins a line of its own");
+            error("syntax", lexeme.at, word + " must be the first word of a line");
         } else if (!isNameLike(lexeme.text)) {
             error("syntax", lexeme.at, "expected a keyword, a \"string\" or a number, found " + word);
         } else if (position == 0) {
             error("unknown-keyword", lexeme.at,
                   definitions.contains(lexeme.text)
-                      ? word + " is a DEFINE, which stands for an argument; expected a keyword"
+                      ? word + " is a DEFINE, which is only valid as an argument; expected a keyword"
                       : "unknown keyword " + word + didYouMean(lexeme.text, keywords()));
         } else if (isIncludeMissing) { // the missing file may define it; one error is enough
             isLineValid = false;
@@ -227,7 +226,7 @@ private:
             std::string text = "unknown name " + word + suggestion;
             const char* divider = suggestion.empty() ? "; " : " "; // it ends with a question mark
             if (statement && argumentKind(*statement, static_cast<int>(position)) == ArgumentKind::String) {
-                text += std::string(divider) + "a string stands in quotes";
+                text += std::string(divider) + "a string needs quotes";
                 divider = "; ";
             }
             error("unknown-name", lexeme.at,
@@ -286,7 +285,7 @@ private:
             // Not an error if it is the same line, in a file that is included again.
             if (place.in->file != in->file || place.line != lineNumber)
                 error("define", name.at,
-                      shown(name.text) + " is defined already, at " + shown(place.in->file->name) + ':' +
+                      shown(name.text) + " is already defined at " + shown(place.in->file->name) + ':' +
                           std::to_string(place.line));
             return;
         }
@@ -343,16 +342,16 @@ private:
         for (const Inclusion* each = in; each; each = each->from, ++depth) {
             ring = shown(each->file->name) + " -> " + ring;
             if (each->file == &file) {
-                error("include", at, "a ring of includes: " + ring);
+                error("include", at, "files include each other: " + ring);
                 return false;
             }
         }
         if (depth > maxIncludeDepth)
             error("include", at,
-                  "more than " + std::to_string(maxIncludeDepth) + " files include each other");
+                  "INCLUDE lines are nested more than " + std::to_string(maxIncludeDepth) + " deep");
         else if (totalText + file.text.size() > maxTextBytes)
             error("include", at,
-                  "the script with all that it includes grows above " + std::to_string(maxTextBytes >> 20) +
+                  "the script and its included files are larger than " + std::to_string(maxTextBytes >> 20) +
                       " MiB");
         return isLineValid;
     }
@@ -363,14 +362,14 @@ private:
         const Span at{static_cast<int>(start), static_cast<int>(start) + 1,
                       static_cast<int>(unfinishedMark.size())};
         if (isUnfinished)
-            error("syntax", at, "a second unfinished line; there is one at most, and it comes last");
+            error("syntax", at, "a second unfinished line; there can be only one, at the end");
         isUnfinished = true;
         out.unfinished += lexBytes(line, start + unfinishedMark.size(), faults);
         for (Fault& each : faults)
             error("syntax", each.at, std::move(each.text));
         if (isLineValid && out.unfinished.empty())
             error("syntax", at,
-                  "expected bytes as two hexadecimal digits each behind the mark, such as 71 04");
+                  "expected bytes after the mark, as two hexadecimal digits each, such as 71 04");
     }
 
     void warnOfUnused()

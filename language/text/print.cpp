@@ -111,7 +111,7 @@ std::string print(std::string_view bytes)
 }
 
 const char* const notation = R"(The text form, in UTF-8:
-  One statement a line: a keyword, then its arguments, divided by blanks.
+  Each line is one statement: a keyword, then its arguments, separated by blanks.
     SCREEN "MENU" 0 0 640 480 "menu.bmp"
     BEGIN
         TEXTWND "TITLE" 10 10 300 40 "Harbour"   # a comment
@@ -119,20 +119,19 @@ const char* const notation = R"(The text form, in UTF-8:
             JUSTIFY CENTRE
         END
     END
-  "text"       a string of characters that code page 1252 has. In it \" is a quotation
-               mark, \\ a backslash and \xE9 the byte with that hexadecimal value; any
-               other backslash stands for itself, so that file names are written as they
-               are: "uig\bar.bmp"
+  "text"       a string of characters of code page 1252. \" is a quotation mark, \\ a
+               backslash, and \xE9 the byte with that hexadecimal value. Any other
+               backslash is literal, so file names rarely need escapes: "uig\bar.bmp"
   -12, 0x1F    a number, -32768 to 32767 or 0x0 to 0xFFFF
-  LEFT CENTRE RIGHT   words that JUSTIFY and COLUMNS take
-  # ...        a comment, to the end of the line; empty lines do nothing
-  DEFINE NAME value   from here on NAME, as an argument, is that number or string
-  INCLUDE "file"      the lines of that file stand here; it is sought from the folder of
-                      the file that names it
-What only a dump of an unusual script needs:
-  @ WINDOW 1   a line with arguments that the toolkit will refuse, built as it stands
-  @65          a keyword byte by its number
+  LEFT CENTRE RIGHT   words for JUSTIFY and COLUMNS
+  # ...        a comment, to the end of the line; empty lines are ignored
+  DEFINE NAME value   makes NAME stand for that number or string in the lines that follow
+  INCLUDE "file"      inserts the lines of that file; the path is relative to the folder
+                      of the file with the INCLUDE
+Used only in dumps of unusual scripts:
+  @ WINDOW 1   a line with arguments that the toolkit refuses, built unchecked
+  @65          a keyword's byte by its number
   EMPTY        a line without a token
-  #! unfinished: 71 04   the bytes of a last line that has no end; they come last)";
+  #! unfinished: 71 04   the bytes of an incomplete last line, at the end of the file)";
 
 } // namespace script_text

@@ -124,7 +124,7 @@ std::vector<LineFault> lineFaults(const std::vector<Token>& tokens)
         return {};
     const Statement* statement = statementById(tokens[0].id);
     if (!statement || statement->kind == StatementKind::ArgumentWord)
-        return {{0, "no statement begins so; expected a keyword", "unknown-keyword"}};
+        return {{0, "no statement begins like this; expected a keyword", "unknown-keyword"}};
     const int count = static_cast<int>(tokens.size());
     if (count > maxLineTokens)
         return {{static_cast<std::size_t>(maxLineTokens),
