@@ -35,7 +35,7 @@ struct CheckOptions {
 struct CheckReport {
     std::deque<Script> scripts;
     std::vector<script_text::Diagnostic> findings; // sorted by file and line
-    int broken = 0; // number of scripts that do not compile; only their lines have been checked one by one
+    int broken = 0; // number of scripts that do not compile, which are only checked line by line
 };
 
 /// Checks the scripts of one folder, which may use each other. read opens the files that INCLUDE names.

@@ -287,8 +287,7 @@ private:
     const script_text::ReadFile& read;
     std::vector<std::string>& problems;
     FoundFiles files;
-    std::map<fs::path, fs::path>
-        rootsOfNamedFolders; // by normalized path of the named folder
+    std::map<fs::path, fs::path> rootsOfNamedFolders; // by normalized path of the named folder
 };
 
 /// Adds compiled scripts of the data directory that the folder does not have.

@@ -20,7 +20,7 @@ void checkUnread(const Script& script, Findings& findings);
 /// Checks BEGIN and END, the depth of blocks, and statements that act on another window than they seem to.
 /// Returns false if a block has no END, which means that windows may end up in the wrong place.
 bool checkBlocks(const Script& script, Findings& findings);
-/// Finds lines that a later line of the same block undoes.
+/// Finds lines that a later line of the same block overrides.
 void checkOverridden(const Script& script, Findings& findings);
 /// Finds duplicate names of top-level windows, and lines that would be mistaken for the start of one.
 void checkTopNames(const Script& script, Findings& findings);

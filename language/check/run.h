@@ -55,7 +55,7 @@ public:
     bool isKnownFont(const bmpfont* font) const;
     /// Returns whether a POINTER shows the window.
     bool isPointedTo(const AWnd* wnd) const { return pointedTo.contains(wnd); }
-    /// Returns whether a tab list names the window, although that line has failed.
+    /// Returns whether a tab list that failed names, or may name, the window.
     bool isNamedStop(const AWnd& wnd) const;
 
     /// Returns whether a subroutine has ended early at a line that a class of the game may accept, so that
@@ -96,8 +96,7 @@ private:
     std::unordered_set<const AWnd*> gameWindows;
     std::unordered_set<const AWnd*> pointedTo;
     std::unordered_set<const AWnd*> namedStops;
-    std::unordered_set<std::string>
-        laterStops; // ids of windows that are made after the tab list that names them
+    std::unordered_set<std::string> laterStops; // ids in a tab list of windows that are made after it
     std::unordered_set<const bmpfont*> unknownFonts;
     std::vector<CString> messages; // since the previous line
     int fontCount = 0;             // after the previous line
