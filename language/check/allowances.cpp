@@ -24,7 +24,7 @@ struct Allowance {
     bool isUsed = false;
 };
 
-/// Where a code is allowed: file, line, code.
+/// A code at a line: file, line, code.
 using Target = std::tuple<std::string_view, int, std::string_view>;
 
 std::string_view skipBlanks(std::string_view text)
@@ -32,7 +32,8 @@ std::string_view skipBlanks(std::string_view text)
     return text.substr(std::min(text.find_first_not_of(blanks), text.size()));
 }
 
-/// The codes behind "# tgx: allow", which may be none; nothing for any other line.
+/// Returns the codes after "# tgx: allow", possibly an empty text, or nothing if the line is not an
+/// allowance.
 std::optional<std::string_view> codesOf(std::string_view line)
 {
     std::string_view rest = line;
@@ -47,7 +48,7 @@ std::optional<std::string_view> codesOf(std::string_view line)
     return skipBlanks(rest);
 }
 
-/// The comment behind what a line says.
+/// Returns the comment at the end of a line.
 std::string_view commentOf(std::string_view line)
 {
     bool isInString = false;
@@ -71,23 +72,23 @@ public:
     void read(const script_text::Inclusion& in)
     {
         const script_text::SourceFile& file = *in.file;
-        std::vector<std::size_t> waiting; // for the next line that says something
+        std::vector<std::size_t> waiting; // indices of allowances for the next line with a statement
         for (int number = 1; number <= file.lineCount(); ++number) {
             const std::string_view line = file.line(number);
             const std::string_view rest = skipBlanks(line);
             if (const std::optional<std::string_view> codes = codesOf(line)) {
                 if (codes->empty())
-                    tell(in, number, line, rest, "unknown-code",
-                         "expected codes behind allow; --explain lists them all");
-                take(in, number, line, *codes, waiting);
+                    report(in, number, line, rest, "unknown-code",
+                           "expected codes after allow; --explain lists all codes");
+                addAllowances(in, number, line, *codes, waiting);
             } else if (!rest.empty() && rest[0] != '#') {
                 for (const std::size_t each : waiting)
                     byTarget.try_emplace({file.name, number, allowances[each].code}, each);
                 waiting.clear();
                 if (const std::string_view comment = commentOf(line); codesOf(comment))
-                    tell(in, number, line, comment, "unused-allowance",
-                         "this allows nothing: an allowance stands in a line of its own, in front of the one "
-                         "that it is for");
+                    report(in, number, line, comment, "unused-allowance",
+                           "this allows nothing: an allowance must be on a line of its own, before the line "
+                           "that it applies to");
             }
         }
     }
@@ -102,14 +103,14 @@ private:
                 static_cast<int>(part.size())};
     }
 
-    void tell(const script_text::Inclusion& in, int number, std::string_view line, std::string_view part,
-              const char* code, const char* text)
+    void report(const script_text::Inclusion& in, int number, std::string_view line, std::string_view part,
+                const char* code, const char* text)
     {
         findings.add({script_text::Diagnostic::Warning, {&in, number, spanOf(line, part)}, text, code});
     }
 
-    void take(const script_text::Inclusion& in, int number, std::string_view line, std::string_view codes,
-              std::vector<std::size_t>& waiting)
+    void addAllowances(const script_text::Inclusion& in, int number, std::string_view line,
+                       std::string_view codes, std::vector<std::size_t>& waiting)
     {
         while (!(codes = skipBlanks(codes)).empty()) {
             const std::string_view code = codes.substr(0, codes.find_first_of(blanks));
@@ -124,44 +125,44 @@ private:
     Findings& findings;
 };
 
-/// Whether an allowance that silenced nothing is of no use. Where rules have not run, or scripts that use a
-/// line have not been read, nobody knows.
+/// Decides whether an allowance that silenced nothing can be called useless. It cannot if rules have not run,
+/// or if scripts that use the line have not been checked.
 class Usefulness {
 public:
     Usefulness(const std::deque<Script>& scripts, const CheckOptions& given) : options(given)
     {
         for (const Script& script : scripts) {
-            isAllLookedAt = isAllLookedAt && !script.isBroken && !script.isUnbalanced;
+            isAllChecked = isAllChecked && !script.isBroken && !script.isUnbalanced;
             hasUnreported = hasUnreported || !script.isReported;
             for (const script_text::Inclusion& in : script.text.inclusions) {
                 if (!script.isReported)
-                    ofUnreported.insert(in.file->name);
+                    filesOfUnreported.insert(in.file->name);
                 if (!script.subroutines.empty())
-                    withSubroutines.insert(in.file->name);
+                    filesWithSubroutines.insert(in.file->name);
             }
         }
     }
 
-    bool isKnown(const Allowance& allowance) const
+    bool canBeJudged(const Allowance& allowance) const
     {
-        constexpr std::string_view ofData[] = {"missing-bitmap", "missing-font", "strip-too-small",
-                                               "text-clipped", "covered"};
+        constexpr std::string_view needsData[] = {"missing-bitmap", "missing-font", "strip-too-small",
+                                                  "text-clipped", "covered"};
         if (allowance.code == "unused-file"
                 ? !options.unusedFiles
-                : options.dataDirectory.empty() &&
-                      std::find(std::begin(ofData), std::end(ofData), allowance.code) != std::end(ofData))
+                : options.dataDirectory.empty() && std::find(std::begin(needsData), std::end(needsData),
+                                                             allowance.code) != std::end(needsData))
             return false;
         const std::string_view file = allowance.in->file->name;
-        return isAllLookedAt && !ofUnreported.contains(file) &&
-               !(hasUnreported && withSubroutines.contains(file));
+        return isAllChecked && !filesOfUnreported.contains(file) &&
+               !(hasUnreported && filesWithSubroutines.contains(file));
     }
 
 private:
     const CheckOptions& options;
-    bool isAllLookedAt = true;
+    bool isAllChecked = true;
     bool hasUnreported = false;
-    std::set<std::string_view> ofUnreported;    // files
-    std::set<std::string_view> withSubroutines; // which other scripts run
+    std::set<std::string_view> filesOfUnreported;
+    std::set<std::string_view> filesWithSubroutines; // files with subroutines, which other scripts may run
 };
 
 } // namespace
@@ -170,8 +171,8 @@ void applyAllowances(const std::deque<Script>& scripts, const CheckOptions& opti
 {
     std::vector<Allowance> allowances;
     std::map<Target, std::size_t> byTarget;
-    std::set<std::string_view> seen; // a file that several scripts include is looked at once
-    std::set<Target> keepsFromBeingBuilt;
+    std::set<std::string_view> seen; // a file that several scripts include is read once
+    std::set<Target> buildErrors;
     for (const Script& script : scripts) {
         if (!script.isReported || script.isCompiled)
             continue;
@@ -180,14 +181,14 @@ void applyAllowances(const std::deque<Script>& scripts, const CheckOptions& opti
                 AllowanceReader(allowances, byTarget, findings).read(in);
         for (const script_text::Diagnostic& each : script.text.diagnostics)
             if (each.severity == script_text::Diagnostic::Error)
-                keepsFromBeingBuilt.insert({each.place.in->file->name, each.place.line, each.code});
+                buildErrors.insert({each.place.in->file->name, each.place.line, each.code});
     }
 
     std::erase_if(findings.all, [&](const script_text::Diagnostic& found) {
         const Target target{found.place.in->file->name, found.place.line, found.code};
         return std::find(options.allowed.begin(), options.allowed.end(), found.code) !=
                    options.allowed.end() &&
-               !keepsFromBeingBuilt.contains(target);
+               !buildErrors.contains(target);
     });
     std::vector<script_text::Diagnostic> refused;
     std::erase_if(findings.all, [&](const script_text::Diagnostic& found) {
@@ -197,12 +198,12 @@ void applyAllowances(const std::deque<Script>& scripts, const CheckOptions& opti
             return false;
         Allowance& by = allowances[allowed->second];
         by.isUsed = true;
-        if (!keepsFromBeingBuilt.contains(target))
+        if (!buildErrors.contains(target))
             return true;
         refused.push_back(
             {script_text::Diagnostic::Warning,
              {by.in, by.line, by.at},
-             script_text::shown(by.code) + " cannot be allowed here: the script cannot be built with it",
+             script_text::shown(by.code) + " cannot be allowed: the script does not build with this error",
              "unused-allowance"});
         return false;
     });
@@ -219,9 +220,9 @@ void applyAllowances(const std::deque<Script>& scripts, const CheckOptions& opti
             findings.add({script_text::Diagnostic::Warning, place,
                           "there is no code " + shown + findings.didYouMean(each.code, names),
                           "unknown-code"});
-        } else if (!each.isUsed && usefulness.isKnown(each)) {
+        } else if (!each.isUsed && usefulness.canBeJudged(each)) {
             findings.add({script_text::Diagnostic::Warning, place,
-                          "nothing to allow: the line behind has no finding " + shown, "unused-allowance"});
+                          "nothing to allow: the next line has no finding " + shown, "unused-allowance"});
         }
     }
 }

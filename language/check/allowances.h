@@ -7,9 +7,8 @@
 
 namespace script_check {
 
-/// Takes findings away whose codes options allows, or that a comment in the line before allows, "# tgx: allow
-/// CODE ...", and finds allowances that silence nothing or name no code. What keeps a script from being built
-/// stays.
+/// Removes the findings whose codes are allowed, by options or by a comment "# tgx: allow CODE ..." before
+/// the line, and reports allowances that silence nothing or name no code. Build errors cannot be allowed.
 void applyAllowances(const std::deque<Script>& scripts, const CheckOptions& options, Findings& findings);
 
 } // namespace script_check

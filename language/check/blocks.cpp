@@ -1,4 +1,4 @@
-// Rules for blocks: what belongs to which window.
+// Rules for blocks: which statements belong to which window.
 
 #include "language/check/pointers.h"
 #include "language/check/rules.h"
@@ -17,7 +17,7 @@ bool isTabList(std::string_view keyword)
     return keyword == "TABORDER" || keyword == "TABLIST1" || keyword == "TABLIST2";
 }
 
-/// An attribute of any window, which does not tell by itself which one is meant.
+/// Returns whether the attribute fits any window, so that a wrong target is not an error.
 bool fitsAnyWindow(const Statement& statement)
 {
     return statement.kind == StatementKind::Attribute && statement.target.types == TargetRule{}.types &&
@@ -34,8 +34,9 @@ int columnOf(const Script& script, int line)
     return script.line(line).tokens[0].at.column;
 }
 
-/// What stands behind a body of one line and looks as if it were part of it. Windows may begin there.
-bool isBehindBody(const Script& script, int line)
+/// Returns whether the line follows a one-line body of a subroutine and looks like part of it. A plain window
+/// does not count: it may well start there.
+bool followsBody(const Script& script, int line)
 {
     const Statement* statement = script.statement(line);
     if (!statement || line < 2 || script.place(line).depth > 0 ||
@@ -47,7 +48,7 @@ bool isBehindBody(const Script& script, int line)
     case StatementKind::Reference:
         return true;
     case StatementKind::Attribute:
-        return !script.isKeyword(line, "FONT"); // is told as one that stands outside
+        return !script.isKeyword(line, "FONT"); // reported as outside of all blocks
     case StatementKind::Window:
         return makesControl(*statement);
     default:
@@ -63,8 +64,8 @@ public:
     {
         for (int line = 0; line < script.lineCount(); ++line)
             if (const Statement* statement = script.statement(line)) {
-                if (isBehindBody(script, line))
-                    reportBehindBody(line);
+                if (followsBody(script, line))
+                    reportAfterBody(line);
                 check(line, *statement);
             }
         if (!open.empty())
@@ -73,12 +74,12 @@ public:
     }
 
 private:
-    void reportBehindBody(int line)
+    void reportAfterBody(int line)
     {
-        findings.add("behind-body", script, line,
+        findings.add("after-body", script, line,
                      "the subroutine " + inQuotes(script.string(line - 2, 1)) + " ends with " +
                          lineNumber(script, line - 1) +
-                         ", and this is no part of it; a body of several lines stands between BEGIN and END");
+                         ", and this is not part of it; a body of several lines needs BEGIN and END");
     }
 
     void check(int line, const Statement& statement)
@@ -87,7 +88,7 @@ private:
         switch (statement.kind) {
         case StatementKind::BlockBegin:
             open.push_back(line);
-            standing.push_back(line);
+            unclosed.push_back(line);
             if (place.subroutine == LinePlace::none || place.depth > 0)
                 checkOpener(line);
             return;
@@ -96,15 +97,15 @@ private:
             return;
         case StatementKind::Definition:
             if (place.depth > 0)
-                findings.add("nested-subroutine", script, line,
-                             "SUBROUTINE inside a block; it stands at the top level, best in a script of "
-                             "its own");
+                findings.add(
+                    "nested-subroutine", script, line,
+                    "SUBROUTINE inside a block; move it to the top level, preferably of a separate script");
             return;
         case StatementKind::Screen:
             if (place.depth > 0 && place.subroutine == LinePlace::none)
                 findings.add("nested-screen", script, line,
                              "a SCREEN inside the block that begins in " + lineNumber(script, place.block) +
-                                 "; it goes to the top level all the same. Is an END missing?");
+                                 "; it becomes a top-level window anyway. Is an END missing?");
             break;
         case StatementKind::Attribute:
             checkTarget(line, statement);
@@ -120,9 +121,9 @@ private:
         const bool isTooDeep = script.place(line).depth > deepestLevel(statement.kind);
         if (isTooDeep && !wasTooDeep)
             findings.add("too-deep", script, line,
-                         std::string(statement.keyword) + " stands inside " +
-                             std::to_string(script.place(line).depth) + " blocks; it may stand inside " +
-                             std::to_string(deepestLevel(statement.kind)));
+                         std::string(statement.keyword) + " is inside " +
+                             std::to_string(script.place(line).depth) + " blocks; at most " +
+                             std::to_string(deepestLevel(statement.kind)) + " are allowed");
         wasTooDeep = isTooDeep;
     }
 
@@ -133,34 +134,34 @@ private:
             return;
         }
         open.pop_back();
-        // A block that stands further to the right than its END has lost its own.
+        // A BEGIN that is indented further than the END is missing its own END.
         if (script.isCompiled)
             return;
-        for (; !standing.empty(); standing.pop_back()) {
-            const int each = standing.back();
+        for (; !unclosed.empty(); unclosed.pop_back()) {
+            const int each = unclosed.back();
             if (script.line(each).in != script.line(line).in ||
                 columnOf(script, each) <= columnOf(script, line))
                 break;
-            lost.emplace_back(each, line);
+            misclosed.emplace_back(each, line);
         }
-        if (!standing.empty())
-            standing.pop_back();
+        if (!unclosed.empty())
+            unclosed.pop_back();
     }
 
-    /// Where the indentation tells which blocks lost their END, those; else the ones that are open in the
-    /// end.
+    /// Reports the blocks that the indentation shows to be missing their END, or else those that are still
+    /// open.
     void reportUnclosed()
     {
-        if (lost.size() + standing.size() != open.size() || script.isCompiled) {
-            lost.clear();
-            standing = open;
+        if (misclosed.size() + unclosed.size() != open.size() || script.isCompiled) {
+            misclosed.clear();
+            unclosed = open;
         }
-        for (const auto& [begin, end] : lost)
+        for (const auto& [begin, end] : misclosed)
             findings.add("begin-without-end", script, begin,
-                         "no END of its own closes this block: the one in " + lineNumber(script, end) +
-                             " does, and stands further to the left");
-        for (const int begin : standing)
-            findings.add("begin-without-end", script, begin, "no END closes this block");
+                         "this block has no END of its own: it is closed by the one in " +
+                             lineNumber(script, end) + ", which is further to the left");
+        for (const int begin : unclosed)
+            findings.add("begin-without-end", script, begin, "this block has no END");
     }
 
     void checkOpener(int begin)
@@ -169,10 +170,9 @@ private:
         if (begin + 1 < script.lineCount())
             opener = script.place(begin + 1).opener;
         if (begin + 1 < script.lineCount() && opener == LinePlace::none &&
-            script.place(begin + 1).block == begin && !isBehindBody(script, begin))
+            script.place(begin + 1).block == begin && !followsBody(script, begin))
             findings.add("block-without-window", script, begin,
-                         "no window stands in front of this block, so its lines act on the root of all "
-                         "windows");
+                         "no window precedes this block, so its lines act on the root of all windows");
     }
 
     void checkTarget(int line, const Statement& statement)
@@ -181,36 +181,38 @@ private:
         const Statement* before = line > 0 ? script.statement(line - 1) : nullptr;
         const bool followsWindow = before && namesItsWindow(*before);
         const std::string keyword = statement.keyword;
-        if (isBehindBody(script, line))
+        if (followsBody(script, line))
             return;
         if (place.depth == 0 && place.subroutine == LinePlace::none) {
-            // What asks for a type of window fails there, which is told when it does.
+            // A statement that requires a type of window fails there and is reported then.
             if (keyword != "FONT" && (fitsAnyWindow(statement) || isTabList(keyword)))
                 findings.add("outside-block", script, line,
                              keyword + " outside of all blocks acts on the root of all windows" +
-                                 (followsWindow ? "; for " + inQuotes(script.string(line - 1, 1)) +
-                                                      " it stands between BEGIN and END"
+                                 (followsWindow ? "; to apply it to " + inQuotes(script.string(line - 1, 1)) +
+                                                      ", put it between BEGIN and END"
                                                 : ""));
         } else if (followsWindow && fitsAnyWindow(statement) && script.place(line - 1).block == place.block &&
-                   !(keyword == "FONT" && makesWindowBehind(line)) && !isForPopup(keyword, place)) {
+                   !(keyword == "FONT" && makesWindowAfter(line)) && !isForPopup(keyword, place)) {
             const std::string around = place.opener >= 0 && script.tokenCount(place.opener) > 1 &&
                                                !makesPart(*script.statement(place.opener))
                                            ? inQuotes(script.string(place.opener, 1))
-                                           : "the window around";
+                                           : "the enclosing window";
             findings.add("attribute-on-parent", script, line,
-                         keyword + " acts on " + around + " here; for " +
-                             inQuotes(script.string(line - 1, 1)) + " it stands between BEGIN and END");
+                         keyword + " acts on " + around + " here; to apply it to " +
+                             inQuotes(script.string(line - 1, 1)) + ", put it between BEGIN and END");
         }
     }
 
-    /// EASYCLOSE does something for a popup only, which is a window of the top level.
+    /// Returns whether the keyword is EASYCLOSE, which only has an effect on a popup, in the block of a
+    /// window that may be one.
     bool isForPopup(std::string_view keyword, const LinePlace& place) const
     {
         return keyword == "EASYCLOSE" && (place.depth == 1 || place.opener == LinePlace::caller);
     }
 
-    /// Whether a window that takes the font comes in the same block, or may come by a subroutine.
-    bool makesWindowBehind(int line) const
+    /// Returns whether the same block makes a window that takes the font after this line, or may do so
+    /// through a subroutine.
+    bool makesWindowAfter(int line) const
     {
         const LinePlace& place = script.place(line);
         for (int each = line + 1; each < script.lineCount() && script.place(each).depth >= place.depth;
@@ -225,21 +227,22 @@ private:
 
     const Script& script;
     Findings& findings;
-    std::vector<int> open;     // BEGIN lines
-    std::vector<int> standing; // those that no END has closed, by the indentation
-    /// BEGIN lines that lost their END, each with the END further left that closes it.
-    std::vector<std::pair<int, int>> lost;
+    std::vector<int> open;     // BEGIN lines without an END so far
+    std::vector<int> unclosed; // BEGIN lines without an END of the same indentation so far
+    /// BEGIN lines whose own END is missing, each with the END further left that closes it instead.
+    std::vector<std::pair<int, int>> misclosed;
     bool wasTooDeep = false;
 };
 
-/// A line that sets what another line of its kind would set again. Those that append have no fixed count.
+/// Returns whether a second line with this keyword replaces the values of the first one. Statements that
+/// append have no fixed count.
 bool setsOnce(const Statement& statement)
 {
     return statement.kind == StatementKind::Attribute && !statement.counts.allow(maxLineTokens);
 }
 
-/// Whether a line sets whatever the earlier one of its kind has set. One with fewer arguments may leave some
-/// of it, and negative numbers stand for what there is.
+/// Returns whether the line sets everything that the earlier line with the same keyword has set. With fewer
+/// arguments it may not, and negative numbers keep the present value.
 bool setsAllOf(const Script& script, int line, int earlier)
 {
     for (int token = 1; token < script.tokenCount(line); ++token)
@@ -262,15 +265,15 @@ void checkOverridden(const Script& script, Findings& findings)
                      std::string(script.statement(line)->keyword) + what + lineNumber(script, by));
     };
     struct Level {
-        std::unordered_map<int, int> setters; // by keyword, the last line
-        int resetInfo = -1;                   // a BMPINFO whose size a BMPFILE took back, and that one
+        std::unordered_map<int, int> setters; // last line of each keyword
+        int resetInfo = -1;                   // a BMPINFO whose size a BMPFILE has reset, and that BMPFILE
         int resetBy = -1;
     };
     std::vector<Level> levels(1);
     const auto leave = [&] {
         if (levels.back().resetInfo >= 0)
             report(levels.back().resetInfo, levels.back().resetBy,
-                   " sets a frame size that is taken back by the BMPFILE in ");
+                   " sets a frame size that is reset by the BMPFILE in ");
         levels.pop_back();
     };
     const int font = statementByKeyword("FONT")->id;
@@ -289,17 +292,17 @@ void checkOverridden(const Script& script, Findings& findings)
             continue;
         }
         Level& level = levels.back();
-        // Windows take the font that holds when they are made.
+        // Windows take the font that is set when they are made.
         if (makesWindow(*statement) || statement->kind == StatementKind::Command ||
             statement->kind == StatementKind::Reference)
             level.setters.erase(font);
-        // At the top level each FONT is for the windows behind it, and the rest acts on nothing.
+        // At the top level, each FONT is for the windows that follow, and other attributes have no effect.
         if (!setsOnce(*statement) || levels.size() == 1)
             continue;
         const auto [before, isFirst] = level.setters.try_emplace(statement->id, line);
         if (!isFirst) {
             if (setsAllOf(script, line, before->second))
-                report(before->second, line, " is undone by the same statement in ");
+                report(before->second, line, " is overridden by the same statement in ");
             before->second = line;
         }
         if (statement->id == bmpInfo)
@@ -314,7 +317,7 @@ void checkOverridden(const Script& script, Findings& findings)
         leave();
 }
 
-/// One with a backdrop may well show that alone, unless a control comes next.
+/// A screen with a backdrop may be meant to show only that, unless a control comes next.
 void checkEmptyScreens(const Script& script, Findings& findings)
 {
     for (const int line : script.topWindows) {
@@ -322,26 +325,28 @@ void checkEmptyScreens(const Script& script, Findings& findings)
         const bool hasBlock = next && next->kind == StatementKind::BlockBegin;
         const bool isMeantFull = script.string(line, 6).empty() || (next && makesControl(*next));
         if (script.isKeyword(line, "SCREEN") && !hasBlock && isMeantFull)
-            findings.add("empty-screen", script, line,
-                         "nothing is in this screen, as no block follows; its windows stand between BEGIN "
-                         "and END below this line");
+            findings.add(
+                "empty-screen", script, line,
+                "this screen is empty, because no block follows it; put its windows between BEGIN and "
+                "END after this line");
     }
 }
 
-void checkWithoutBlock(const Script& script, const PointerTargets& shown, Findings& findings)
+void checkMissingBlocks(const Script& script, const PointerTargets& pointerTargets, Findings& findings)
 {
     const bool isLibrary = !script.subroutines.empty() || folded(script.name) == commonScriptFile;
     for (const int line : script.topWindows) {
         const std::string& name = script.string(line, 1);
-        if (isMain(script) || !(isLibrary || shown.contains(script, name)) || isBehindBody(script, line))
+        if (isMain(script) || !(isLibrary || pointerTargets.contains(script, name)) ||
+            followsBody(script, line))
             continue;
         const Statement* next = line + 1 < script.lineCount() ? script.statement(line + 1) : nullptr;
         if (!next || name.empty() || name == "static" || next->kind == StatementKind::BlockBegin ||
             next->kind == StatementKind::BlockEnd || next->kind == StatementKind::Attribute)
-            continue; // an attribute outside of blocks is told
-        findings.add("without-block", script, line, 1,
-                     "a read of " + inQuotes(name) + " carries out " + lineNumber(script, line + 1) +
-                         " too, which is none of it; write BEGIN and END behind this line");
+            continue; // an attribute outside of blocks is reported
+        findings.add("missing-block", script, line, 1,
+                     "reading " + inQuotes(name) + " also executes " + lineNumber(script, line + 1) +
+                         ", which does not belong to it; add BEGIN and END after this line");
     }
 }
 
@@ -359,12 +364,12 @@ void checkTopNames(const Script& script, Findings& findings)
         const auto [other, isFirst] = defined.try_emplace(name, line);
         if (!isFirst) {
             findings.add("duplicate-id", script, line, 1,
-                         inQuotes(name) + " is defined already, in " + lineNumber(script, other->second) +
-                             "; a read of it takes that one");
+                         inQuotes(name) + " is already defined in " + lineNumber(script, other->second) +
+                             "; reading it always uses that definition");
         } else if (const int taker = first[name]; taker != line) {
             findings.add("name-taken", script, taker, 1,
-                         "a read of the window " + inQuotes(name) + ", which is defined in " +
-                             lineNumber(script, line) + ", begins here; give this another name");
+                         "reading the window " + inQuotes(name) + ", which is defined in " +
+                             lineNumber(script, line) + ", starts here; use another name here");
         }
     }
 }

@@ -12,7 +12,7 @@ namespace script_check {
 namespace {
 
 struct Call {
-    Script* script; // in which the GOTO stands
+    Script* script; // that contains the GOTO
     int line;
     std::size_t callee;
 };
@@ -39,7 +39,7 @@ public:
     void run()
     {
         for (Script* script : scripts) {
-            // Of the lines behind a SUBROUTINE, those of its body are its own.
+            // Only the lines of its body belong to a subroutine.
             int current = -1;
             std::size_t next = 0;
             for (int line = 0; line < script->lineCount(); ++line) {
@@ -59,7 +59,7 @@ public:
     }
 
 private:
-    /// The script that the second argument names; null when there is none, which is reported.
+    /// Returns the script that the second argument names, or null after reporting that there is none.
     Script* useScript(Script& script, int line)
     {
         const std::string& name = script.string(line, 2);
@@ -80,7 +80,7 @@ private:
         const std::string& name = script.string(line, 1);
         Script* target = script.tokenCount(line) > 2 ? useScript(script, line) : &script;
         if (!target) {
-            // An embedded script, which may well be one of these.
+            // An embedded script, which may be any of these.
             if (isResourceNumber(script.string(line, 2)))
                 for (Script* each : scripts)
                     if (Subroutine* body = each->subroutine(name))
@@ -116,7 +116,7 @@ private:
         findings.add("missing-subroutine", script, line, 1, std::move(text));
     }
 
-    /// Depth first, without calls of its own: chains may be long.
+    /// Searches depth first, without recursion, because chains of calls may be long.
     void findRings(std::size_t start)
     {
         struct Step {
@@ -147,13 +147,13 @@ private:
                 std::string ring;
                 const auto first = std::find_if(path.begin(), path.end(),
                                                 [&](const Step& step) { return step.node == call.callee; });
-                constexpr std::ptrdiff_t mostShown = 8;
-                for (auto step = first; step != path.end() && step - first < mostShown; ++step)
+                constexpr std::ptrdiff_t maxShown = 8;
+                for (auto step = first; step != path.end() && step - first < maxShown; ++step)
                     ring += inQuotes(nodes[step->node].subroutine->name) + " -> ";
-                if (path.end() - first > mostShown)
+                if (path.end() - first > maxShown)
                     ring += "... -> ";
-                findings.add("subroutine-ring", *call.script, call.line, 1,
-                             "the subroutine reaches itself: " + ring + inQuotes(callee.subroutine->name));
+                findings.add("recursive-subroutine", *call.script, call.line, 1,
+                             "the subroutine calls itself: " + ring + inQuotes(callee.subroutine->name));
             }
         }
     }
@@ -178,22 +178,22 @@ void checkSubroutines(Script& script, Findings& findings)
         const bool isSecond = script.subroutine(each.name) != &each;
         if (isMain(script))
             findings.add("subroutine-in-main", script, each.line,
-                         "the game reads this script from top to bottom, and that fails here; keep "
-                         "subroutines in a script of their own");
+                         "the game reads this script from top to bottom, which fails here; move subroutines "
+                         "to a script of their own");
         if (isEmpty)
             findings.add("empty-subroutine", script, each.line, 1,
-                         inQuotes(each.name) + " has no body; expected a statement or a block behind it");
+                         inQuotes(each.name) + " has no body; expected a statement or a block after it");
         if (isSecond)
             findings.add("duplicate-subroutine", script, each.line, 1,
-                         "a SUBROUTINE " + inQuotes(each.name) + " stands in line " +
+                         "SUBROUTINE " + inQuotes(each.name) + " is already defined in line " +
                              std::to_string(script.numberOf(script.subroutine(each.name)->line)) +
-                             " already, and GOTO finds that one");
+                             "; GOTO always uses that one");
         else if (!each.isUsed && !isUnused)
             findings.add("unused-subroutine", script, each.line, 1, "no GOTO names " + inQuotes(each.name));
     }
     if (isUnused)
         findings.add("unused-script", script, script.subroutines[0].line,
-                     "no GOTO names a subroutine of this script, and it holds nothing else");
+                     "no GOTO names a subroutine of this script, which contains nothing else");
 }
 
 } // namespace

@@ -16,9 +16,9 @@ namespace script_check {
 
 namespace {
 
-constexpr const char* nowhere = "/dev/null"; // a data directory in which nothing is found
-constexpr int usualWidth = 640;              // pixels, where no screen says another
-constexpr int usualHeight = 480;
+constexpr const char* noDataDirectory = "/dev/null"; // a data directory without files
+constexpr int defaultWidth = 640;                    // pixels, if no screen has a size
+constexpr int defaultHeight = 480;
 
 void parseAll(std::vector<ScriptFile>& files, const script_text::ReadFile& read, CheckReport& report)
 {
@@ -32,8 +32,8 @@ void parseAll(std::vector<ScriptFile>& files, const script_text::ReadFile& read,
     }
 }
 
-/// Those that add fonts come first, the main script in front of all others. Where there are several mains,
-/// what has no fonts of its own takes those of the one that has the most.
+/// Sorts scripts that add fonts to the front, and the main script before all others. If several scripts act
+/// as main script, scripts without fonts are read after the one with the most fonts and use those.
 void putInReadingOrder(std::vector<Script*>& scripts)
 {
     const auto rank = [](const Script* script) {
@@ -44,7 +44,7 @@ void putInReadingOrder(std::vector<Script*>& scripts)
                      [&](const Script* a, const Script* b) { return rank(a) < rank(b); });
 }
 
-/// The box of the first screen, where the call has not said the size.
+/// Sets the screen size to that of the first screen, unless the options give one.
 void findScreenSize(CheckOptions& options, const std::vector<Script*>& scripts)
 {
     for (const Script* script : scripts)
@@ -62,20 +62,21 @@ void checkTrees(const std::vector<Script*>& scripts, const ScriptSet& set, Check
     findScreenSize(options, scripts);
     const bool hasData = !options.dataDirectory.empty();
     Reading reading(scripts, set,
-                    {options.screenWidth > 0 ? options.screenWidth : usualWidth,
-                     options.screenHeight > 0 ? options.screenHeight : usualHeight, options.fonts, hasData,
+                    {options.screenWidth > 0 ? options.screenWidth : defaultWidth,
+                     options.screenHeight > 0 ? options.screenHeight : defaultHeight, options.fonts, hasData,
                      options.scriptLines, options.scriptWork},
                     findings);
     Pictures pictures(reading);
-    const PointerTargets shown(scripts, set);
-    TreeCheck tree{reading,    pictures, findings, shown, hasData, options.screenWidth, options.screenHeight,
-                   isSizeGiven};
+    const PointerTargets pointerTargets(scripts, set);
+    TreeCheck tree{
+        reading,    pictures, findings, pointerTargets, hasData, options.screenWidth, options.screenHeight,
+        isSizeGiven};
     for (Script* script : scripts) {
         if (script->isBroken || script->isUnbalanced || (!script->isReported && script->fontCount() == 0))
             continue;
         if (hasData)
             checkPictures(*script, pictures, findings);
-        checkWithoutBlock(*script, shown, findings);
+        checkMissingBlocks(*script, pointerTargets, findings);
         reading.read(*script);
         AWnd& root = *reading.window().getScreenList();
         checkControls(tree, root);
@@ -92,7 +93,7 @@ void checkTrees(const std::vector<Script*>& scripts, const ScriptSet& set, Check
 /// By place, but what may follow from a line that fails comes after what is found there.
 void sort(Findings& findings, const std::deque<Script>& scripts)
 {
-    std::map<std::string, std::size_t> order; // files as they come
+    std::map<std::string, std::size_t> order; // of the files
     for (const Script& script : scripts)
         for (const script_text::SourceFile& file : script.text.files)
             order.try_emplace(file.name, order.size());
@@ -118,7 +119,7 @@ CheckReport check(std::vector<ScriptFile> files, const script_text::ReadFile& re
 {
     CheckReport report;
     CheckOptions options = given;
-    const OtherDataDirectory other(options.dataDirectory.empty() ? nowhere : options.dataDirectory);
+    const OtherDataDirectory other(options.dataDirectory.empty() ? noDataDirectory : options.dataDirectory);
     parseAll(files, read, report);
 
     ScriptSet set;

@@ -10,36 +10,36 @@
 
 namespace script_check {
 
-/// A script as it lies in a file.
+/// A script file to check.
 struct ScriptFile {
-    std::string path;     // how messages name it
-    std::string contents; // text, or bytes of a compiled script
+    std::string path;     // the file's name in messages
+    std::string contents; // text form, or the bytes of a compiled script
     bool isCompiled;
-    bool isReported = true; // false: it is only there because the others use it
-    std::string name = "";  // by which others ask for it, "sub\\menu.tgx"; "": that of its file
+    bool isReported = true; // false: it was only loaded because other scripts use it
+    std::string name = ""; // by which other scripts refer to it, such as "sub\\menu.tgx"; "": the file's name
 };
 
 struct CheckOptions {
-    std::string dataDirectory; // where pictures and fonts lie; "": not known, and they are not looked for
-    int screenWidth = 0;       // pixels; 0: that of the first screen
+    std::string dataDirectory; // with pictures and fonts; "": unknown, and files are not checked
+    int screenWidth = 0;       // pixels; 0: the size of the first screen
     int screenHeight = 0;
-    int fonts = 0;                    // that the game adds before the scripts do
-    bool unusedFiles = false;         // look for pictures and fonts that nothing names
-    std::vector<std::string> allowed; // codes that are passed over everywhere
-    // What a read of one window may take; the toolkit's own limits.
+    int fonts = 0;                    // number of fonts that the game adds before the scripts do
+    bool unusedFiles = false;         // also report pictures and fonts that no script names
+    std::vector<std::string> allowed; // codes of findings to ignore everywhere
+    // Limits for reading one window; by default those of the toolkit.
     long scriptLines = limits::scriptLines;
     long long scriptWork = limits::scriptWork;
 };
 
-/// What was found, with the scripts to which the places lead. May be moved.
+/// The findings, and the scripts that their places refer to. Can be moved.
 struct CheckReport {
     std::deque<Script> scripts;
-    std::vector<script_text::Diagnostic> findings; // by file and line
-    int broken = 0; // scripts that do not compile: only their lines have been looked at
+    std::vector<script_text::Diagnostic> findings; // sorted by file and line
+    int broken = 0; // number of scripts that do not compile, which are only checked line by line
 };
 
-/// Checks scripts that lie in one folder and use each other. read opens what INCLUDE names. For a moment the
-/// toolkit's host and data directory are others; neither may be in use.
+/// Checks the scripts of one folder, which may use each other. read opens the files that INCLUDE names.
+/// Replaces the toolkit's host and data directory while it runs; neither may be in use.
 CheckReport check(std::vector<ScriptFile> files, const script_text::ReadFile& read,
                   const CheckOptions& options);
 

@@ -8,12 +8,12 @@ namespace {
 
 using script_text::Diagnostic;
 
-constexpr const char* head = R"(# What `tgx check` finds
+constexpr const char* head = R"(# Findings of `tgx check`
 
-<!-- Made by `tgx reference check` of the table of findings; write it anew with:
+<!-- Generated from the table of findings by `tgx reference check`. To regenerate:
      cmake --build build/release --target script_reference -->
 
-Every code, errors first. How the check is called, and how a finding is passed over, stands in [tool.md](tool.md#tgx-check-file-or-dir-).
+All codes, errors first. For how to run the check, and how to allow a finding, see [tool.md](tool.md#tgx-check-file-or-dir-).
 )";
 
 const char* nameOf(Diagnostic::Severity severity)
@@ -21,7 +21,7 @@ const char* nameOf(Diagnostic::Severity severity)
     return severity == Diagnostic::Error ? "error" : "warning";
 }
 
-/// Each line of text behind four blanks.
+/// Returns text with each line indented by four blanks.
 std::string indented(std::string_view text)
 {
     std::string out;
@@ -33,7 +33,7 @@ std::string indented(std::string_view text)
     return out.ends_with('\n') ? out : out + '\n';
 }
 
-/// Text in lines of at most width characters.
+/// Returns text wrapped to lines of at most width characters.
 std::string wrapped(std::string_view text, std::size_t width)
 {
     std::string out;

@@ -8,25 +8,26 @@
 
 namespace script_check {
 
-/// What a finding's code stands for. Codes stay as they are: scripts name them to have them passed over.
+/// Describes a kind of finding. Codes are stable, because allowances in scripts name them.
 struct Code {
     const char* name;
     script_text::Diagnostic::Severity severity;
-    const char* summary; // a line
+    const char* summary; // one line
     const char* more;    // why it matters and what to do
-    const char* wrong;   // a script that has it; "" where none can show it
-    const char* right;   // the same without
+    const char* wrong;   // an example script with this finding; "" if a script alone cannot show it
+    const char* right;   // the corrected example
 };
 
-/// All of them, errors first.
+/// Returns all codes, errors first.
 std::span<const Code> codes();
-/// Null when there is none.
+/// Returns the code of that name, or null if there is none.
 const Code* codeCalled(std::string_view name);
 
-/// For --explain: one of them, or a line for each.
+/// Returns the text of --explain CODE.
 std::string explain(const Code& code);
+/// Returns a line for each code, for --explain without a code.
 std::string explainAll();
-/// docs/check-reference.md.
+/// Returns the contents of docs/check-reference.md.
 std::string referenceDocument();
 
 } // namespace script_check

@@ -18,7 +18,7 @@ namespace {
 
 constexpr const char* sourceEnding = ".tgs";
 constexpr const char* compiledEnding = ".tgx";
-constexpr const char* scriptDirectory = "uig"; // in any case
+constexpr const char* scriptDirectory = "uig"; // compared without case
 
 std::string endingOf(const fs::path& path)
 {
@@ -31,15 +31,16 @@ bool isScript(const fs::path& path)
     return ending == sourceEnding || ending == compiledEnding;
 }
 
-/// The one way to write a path, links as they are: a script that two folders share is one of each.
-fs::path whole(const fs::path& path)
+/// Returns the absolute, normalized path. Does not resolve links: a script that is linked into two folders
+/// belongs to both.
+fs::path normalized(const fs::path& path)
 {
     std::error_code error;
     const fs::path out = fs::absolute(path, error).lexically_normal();
     return out.has_filename() ? out : out.parent_path();
 }
 
-/// The file itself, behind links.
+/// Returns the path of the file itself, with links resolved.
 std::string fileOf(const fs::path& path)
 {
     std::error_code error;
@@ -52,11 +53,12 @@ fs::path folderOf(const fs::path& file)
     return folder.empty() ? "." : folder;
 }
 
-/// The script directory that the folder lies in or is, else the folder.
+/// Returns the script directory (UIG) that is or contains the folder, or else the folder.
 fs::path rootOf(const fs::path& folder)
 {
     fs::path root = folder;
-    for (fs::path each = whole(folder); each.has_relative_path(); each = each.parent_path(), root /= "..")
+    for (fs::path each = normalized(folder); each.has_relative_path();
+         each = each.parent_path(), root /= "..")
         if (folded(each.filename().string()) == scriptDirectory)
             return root.lexically_normal().has_filename() ? root.lexically_normal()
                                                           : root.lexically_normal().parent_path();
@@ -65,7 +67,7 @@ fs::path rootOf(const fs::path& folder)
 
 bool isScriptDirectory(const fs::path& folder)
 {
-    return folded(whole(folder).filename().string()) == scriptDirectory;
+    return folded(normalized(folder).filename().string()) == scriptDirectory;
 }
 
 std::string dataDirectoryOf(const fs::path& root)
@@ -74,28 +76,30 @@ std::string dataDirectoryOf(const fs::path& root)
         return "";
     const fs::path above = root.lexically_normal().parent_path();
     return above.empty() || root.filename() == "." || root.filename() == ".."
-               ? whole(root).parent_path().string()
+               ? normalized(root).parent_path().string()
                : above.string();
 }
 
-/// By which the scripts of root ask for it: "sub\\menu.tgx".
+/// Returns the name by which scripts of root refer to the file, such as "sub\\menu.tgx".
 std::string nameBelow(const fs::path& root, const fs::path& file)
 {
-    std::string name =
-        whole(file).lexically_relative(whole(root)).replace_extension(compiledEnding).generic_string();
+    std::string name = normalized(file)
+                           .lexically_relative(normalized(root))
+                           .replace_extension(compiledEnding)
+                           .generic_string();
     std::replace(name.begin(), name.end(), '/', '\\');
     return name;
 }
 
 struct Found {
-    fs::path path; // as messages give it
+    fs::path path; // as in messages
     bool isReported = false;
-    bool isNamed = false; // in the call, as a file
+    bool isNamed = false; // in the arguments, as a file
     bool isStdin = false;
     bool isUnreadable = false;
-    std::optional<std::string> contents = {}; // once it has been read
+    std::optional<std::string> contents = {}; // empty until it has been read
 };
-using FoundFiles = std::map<fs::path, Found>; // by the whole path
+using FoundFiles = std::map<fs::path, Found>; // by normalized path
 
 class Collector {
 public:
@@ -107,19 +111,19 @@ public:
     {
         std::error_code error;
         if (argument == "-") {
-            Found& found = note("stdin", true);
+            Found& found = addFile("stdin", true);
             found.isNamed = found.isStdin = true;
         } else if (fs::is_directory(argument, error)) {
-            addBelow(argument, true);
+            addFolder(argument, true);
         } else {
-            note(argument, true).isNamed = true;
+            addFile(argument, true).isNamed = true;
         }
     }
 
-    /// What the scripts that are there may use.
+    /// Adds the scripts that those found so far may use.
     void addUsed()
     {
-        std::set<fs::path> ofFiles; // folders
+        std::set<fs::path> ofFiles; // folders of files named in the arguments
         std::set<fs::path> roots;
         for (const auto& [path, each] : files) {
             roots.insert(rootOf(folderOf(each.path)));
@@ -127,10 +131,10 @@ public:
                 ofFiles.insert(folderOf(each.path));
         }
         for (const fs::path& folder : ofFiles)
-            addBeside(folder);
+            addSiblings(folder);
         for (const fs::path& root : roots)
             if (isScriptDirectory(root))
-                addBelow(root, false);
+                addFolder(root, false);
             else
                 addNamedFolders(root);
     }
@@ -139,12 +143,12 @@ public:
     {
         std::map<fs::path, ScriptFolder> byRoot;
         for (auto& [path, each] : files) {
-            if (isOtherForm(path, each) || !load(each))
+            if (isReplacedByOtherForm(path, each) || !load(each))
                 continue;
             const fs::path folder = folderOf(each.path);
-            const auto joined = rootsOfNamed.find(whole(folder));
-            const fs::path root = joined != rootsOfNamed.end() ? joined->second : rootOf(folder);
-            ScriptFolder& out = byRoot[whole(root)];
+            const auto joined = rootsOfNamedFolders.find(normalized(folder));
+            const fs::path root = joined != rootsOfNamedFolders.end() ? joined->second : rootOf(folder);
+            ScriptFolder& out = byRoot[normalized(root)];
             if (out.files.empty())
                 out.path = root.string();
             out.files.push_back({each.path.string(), *each.contents, isCompiled(each), each.isReported,
@@ -158,19 +162,19 @@ public:
 
     bool isNamed(const std::string& path) const
     {
-        const auto found = files.find(whole(path));
+        const auto found = files.find(normalized(path));
         return found != files.end() && found->second.isNamed;
     }
 
 private:
-    Found& note(const fs::path& path, bool isReported)
+    Found& addFile(const fs::path& path, bool isReported)
     {
-        Found& found = files.try_emplace(whole(path), Found{path}).first->second;
+        Found& found = files.try_emplace(normalized(path), Found{path}).first->second;
         found.isReported = found.isReported || isReported;
         return found;
     }
 
-    void addBelow(const fs::path& folder, bool isReported)
+    void addFolder(const fs::path& folder, bool isReported)
     {
         std::vector<fs::path> waiting{folder};
         while (!waiting.empty()) {
@@ -185,52 +189,52 @@ private:
                 if (each->is_directory(ignored) && !each->is_symlink(ignored))
                     waiting.push_back(path);
                 else if (isScript(path) && each->is_regular_file(ignored))
-                    note(path, isReported);
+                    addFile(path, isReported);
             }
             if (error && isReported)
                 problems.push_back(at.string() + ": error: cannot read: " + error.message());
         }
     }
 
-    void addBeside(const fs::path& folder)
+    void addSiblings(const fs::path& folder)
     {
         std::error_code error, ignored;
         fs::directory_iterator each(folder, error);
         for (const fs::directory_iterator end; !error && each != end; each.increment(error)) {
-            // The same name as on the command line: "menu.tgs", not "./menu.tgs".
+            // As on the command line: "menu.tgs", not "./menu.tgs".
             const fs::path path = folder == "." ? each->path().filename() : each->path();
             if (isScript(path) && each->is_regular_file(ignored))
-                note(path, false);
+                addFile(path, false);
         }
     }
 
-    /// Folders in root that its scripts name: "sub\\parts.tgx" lies in sub.
+    /// Adds the subfolders of root that its scripts name, such as sub in "sub\\parts.tgx".
     void addNamedFolders(const fs::path& root)
     {
         std::deque<fs::path> waiting{root};
-        std::string texts; // of all that belong together so far
+        std::string texts; // contents of all scripts that belong together so far
         for (; !waiting.empty(); waiting.pop_front()) {
             const fs::path& folder = waiting.front();
             for (auto& [path, each] : files)
-                if (path.parent_path() == whole(folder) && load(each))
+                if (path.parent_path() == normalized(folder) && load(each))
                     texts += folded(*each.contents);
             std::error_code error, ignored;
             fs::directory_iterator each(folder, error);
             for (const fs::directory_iterator end; !error && each != end; each.increment(error)) {
                 if (!each->is_directory(ignored) ||
-                    !names(texts, whole(each->path()).lexically_relative(whole(root))))
+                    !mentionsFolder(texts, normalized(each->path()).lexically_relative(normalized(root))))
                     continue;
                 const fs::path named = folder == "." ? each->path().filename() : each->path();
-                if (rootsOfNamed.try_emplace(whole(named), root).second) {
-                    addBeside(named);
+                if (rootsOfNamedFolders.try_emplace(normalized(named), root).second) {
+                    addSiblings(named);
                     waiting.push_back(named);
                 }
             }
         }
     }
 
-    /// Whether a string in one of the texts begins with that folder.
-    static bool names(const std::string& texts, const fs::path& folder)
+    /// Returns whether a string in the texts begins with that folder.
+    static bool mentionsFolder(const std::string& texts, const fs::path& folder)
     {
         std::string name = folded(folder.generic_string());
         for (const char slash : {'/', '\\'}) {
@@ -244,7 +248,7 @@ private:
         return false;
     }
 
-    /// False when it cannot be read, which is told.
+    /// Reads the file once. Returns false if it cannot be read, which is added to the problems.
     bool load(Found& found)
     {
         if (found.contents || found.isUnreadable)
@@ -257,7 +261,8 @@ private:
         return !found.isUnreadable;
     }
 
-    /// What bears neither ending is compiled if it holds what no text has.
+    /// Returns whether the script is compiled. A file with neither extension is compiled if it contains a
+    /// byte that no text contains.
     static bool isCompiled(const Found& found)
     {
         const std::string ending = endingOf(found.path);
@@ -266,9 +271,9 @@ private:
                 found.contents->find(static_cast<char>(endOfLineToken)) != std::string::npos);
     }
 
-    /// Whether the script lies there in its other form too, and that one is to be taken: the text, unless the
-    /// compiled form alone is named on the command line.
-    bool isOtherForm(const fs::path& path, const Found& found) const
+    /// Returns whether the script's other form is in the same folder and is used instead. The text form is
+    /// preferred, unless only the compiled form is named on the command line.
+    bool isReplacedByOtherForm(const fs::path& path, const Found& found) const
     {
         const bool isText = endingOf(path) != compiledEnding;
         return std::any_of(files.begin(), files.end(), [&](const auto& other) {
@@ -282,10 +287,10 @@ private:
     const script_text::ReadFile& read;
     std::vector<std::string>& problems;
     FoundFiles files;
-    std::map<fs::path, fs::path> rootsOfNamed; // by the whole path of a folder that scripts above it name
+    std::map<fs::path, fs::path> rootsOfNamedFolders; // by normalized path of the named folder
 };
 
-/// Compiled scripts of the data directory that the folder does not have.
+/// Adds compiled scripts of the data directory that the folder does not have.
 void addFromData(ScriptFolder& folder, const script_text::ReadFile& read)
 {
     std::set<std::string> names;
@@ -312,7 +317,7 @@ void addFromData(ScriptFolder& folder, const script_text::ReadFile& read)
     }
 }
 
-/// Takes out what another one includes: it is checked there, with the names that it finds there.
+/// Removes texts that other scripts include: they are checked as part of those, with the names defined there.
 void dropIncluded(std::vector<ScriptFolder>& folders, const Collector& collector,
                   const script_text::ReadFile& read)
 {

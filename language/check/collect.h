@@ -7,18 +7,19 @@
 
 namespace script_check {
 
-/// Scripts that use each other.
+/// Scripts that belong together and may use each other.
 struct ScriptFolder {
     std::string path;
-    std::string dataDirectory; // "": not known
+    std::string dataDirectory; // "": unknown
     std::vector<ScriptFile> files;
 };
 
-/// The scripts that the arguments of a call name: files, "-" for stdin, and all scripts below folders. Those
-/// of a folder belong together, below a folder UIG those of all folders, elsewhere those of folders that a
-/// script names. With a file come the others that belong to it, unreported. A compiled script whose text lies
-/// beside it is left out, as are texts that others include. dataDirectory is that of all; without one a
-/// folder called UIG lies in its own. problems is what could not be read, a line each.
+/// Collects the scripts that the arguments name: files, "-" for stdin, and all scripts below folders. Scripts
+/// of one folder belong together: below a folder UIG also those of its subfolders, elsewhere those of
+/// subfolders that a script names. For a single file, the scripts that belong with it are added as
+/// unreported. Skips a compiled script whose text form is in the same folder, and texts that other scripts
+/// include. dataDirectory applies to all folders; if it is empty, the data directory is the parent of the
+/// folder UIG. Appends a line to problems for each file or folder that cannot be read.
 std::vector<ScriptFolder> collect(const std::vector<std::string>& arguments, const std::string& dataDirectory,
                                   const script_text::ReadFile& read, std::vector<std::string>& problems);
 

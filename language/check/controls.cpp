@@ -1,4 +1,4 @@
-// Rules for what belongs together: the ids of a screen, tabs and pages, tab stops.
+// Rules for windows that depend on each other: the ids of a screen, tabs and pages, tab stops.
 
 #include "language/check/tree.h"
 #include "language/check/words.h"
@@ -31,8 +31,8 @@ void checkTabs(TreeCheck& check, AWnd& control)
 {
     int tabs = 0;
     int pages = 0;
-    int unknown = 0; // of the game's classes: tabs or pages
-    int changes = 0; // from tab to page or back
+    int unknown = 0; // windows of the game's classes, which may be tabs or pages
+    int changes = 0; // transitions from tab to page or back
     bool hasButton = false;
     bool wasTab = false;
     for (int i = 0; i < control.getWindowCount(); ++i) {
@@ -42,16 +42,16 @@ void checkTabs(TreeCheck& check, AWnd& control)
         if (child->getWindowType() == AWnd::WND_BUTTON) {
             hasButton = true;
             check.add("tab-pages", *child,
-                      describe(*child) + " stands among the tabs of " + describe(control) +
-                          " and is none of their group: a click on it turns the pages too, and none is its "
-                          "own. Tabs are radio buttons; other buttons stand in a page");
+                      describe(*child) + " is among the tabs of " + describe(control) +
+                          " but not in their group: a click on it also switches the pages, but it has no "
+                          "page of its own. Tabs must be radio buttons; put other buttons into a page");
         }
-        (check.reading.isOfGame(child) ? unknown : isRadio(child) ? tabs : pages) += 1;
+        (check.reading.isGameWindow(child) ? unknown : isRadio(child) ? tabs : pages) += 1;
         changes += i > 0 && isRadio(child) != wasTab;
         wasTab = isRadio(child);
     }
     if (tabs + pages == 0 || hasButton)
-        return; // the game fills it, or it is told
+        return; // the game fills it, or it has been reported
     if (std::abs(tabs - pages) > unknown)
         check.add("tab-pages", control,
                   describe(control) + " has " + std::to_string(tabs) + (tabs == 1 ? " tab" : " tabs") +
@@ -59,10 +59,10 @@ void checkTabs(TreeCheck& check, AWnd& control)
     else if (changes > 1 && unknown == 0)
         check.add("tab-pages", control,
                   "tabs and pages of " + describe(control) +
-                      " are mixed; first stand all of the ones, then all of the others");
+                      " are mixed; put all tabs before or after all pages");
 }
 
-// One screen, popup or panel.
+// Screens, popups and panels.
 
 class TopRules {
 public:
@@ -78,7 +78,7 @@ public:
             if (isControl(wnd) && !isUnder(wnd))
                 controls.push_back(&wnd);
         });
-        // A panel that a POINTER shows has its stops in the screen that shows it.
+        // The tab stops of a panel that a POINTER shows belong to the screen that shows it.
         if (!isShownElsewhere()) {
             noteStops();
             checkReach();
@@ -93,19 +93,20 @@ private:
         const auto [first, isFirst] = ids.try_emplace(folded(wnd.getID().view()), &wnd);
         if (!isFirst && !check.reading.isPointedTo(&wnd))
             check.add("duplicate-id", wnd,
-                      "a window " + inQuotes(wnd.getID().view()) + " stands in " + describe(top) +
-                          " already, in " + lineOf(check, *first->second) + ", and is found first");
+                      "another window " + inQuotes(wnd.getID().view()) + " is already in " + describe(top) +
+                          ", in " + lineOf(check, *first->second) + ", and is found first");
     }
 
     bool isShownElsewhere() const
     {
         const WndLines* lines = check.reading.linesOf(&top);
         return check.reading.isPointedTo(&top) ||
-               (lines && lines->made && check.shown.contains(*lines->made.script, top.getID().view()));
+               (lines && lines->made &&
+                check.pointerTargets.contains(*lines->made.script, top.getID().view()));
     }
 
-    /// Tab walks the order of the screen or popup itself, and asks no window inside. One that is hidden the
-    /// game may open as a popup.
+    /// Notes tab orders of inner windows. Tab only uses the order of the screen or popup itself. A hidden
+    /// inner window may be one that the game opens as a popup.
     void noteInnerStops(AWnd& wnd)
     {
         const ATabStopInfo* stops = wnd.getTabStopInfo(0);
@@ -131,11 +132,11 @@ private:
         noteKeyList(stops->homeEndWnds, "TABLIST2", "Home and End");
     }
 
-    /// Keys go to a combo box that stands first, or to the first radio button that shows; else to where the
-    /// pointer is.
+    /// Notes the controls that the keys of TABLIST1 or TABLIST2 reach: a combo box at the start of the list,
+    /// or the radio buttons if one is at the start. Otherwise the keys depend on the pointer.
     void noteKeyList(const WndList& list, std::string_view keyword, const char* keys)
     {
-        if (list.IsEmpty() || !list.GetAt(0) || check.reading.isOfGame(list.GetAt(0)))
+        if (list.IsEmpty() || !list.GetAt(0) || check.reading.isGameWindow(list.GetAt(0)))
             return;
         AWnd& first = *list.GetAt(0);
         if (first.getWindowType() == AWnd::WND_COMBOBOX) {
@@ -146,12 +147,12 @@ private:
                     reached.insert(list.GetAt(i));
         } else if (const std::vector<LineRef> at = check.linesOn(top, keyword); !at.empty()) {
             check.findings.add("no-effect", *at[0].script, at[0].line, 1,
-                               std::string(keys) + " go to no list that begins with " + typeOf(first) +
-                                   ": a combo box or a radio button stands first");
+                               std::string(keys) + " do not reach a list that begins with " + typeOf(first) +
+                                   "; it must begin with a combo box or a radio button");
         }
     }
 
-    /// Inside another control, which leads to it.
+    /// Returns whether the window is inside another control, through which it is reached.
     bool isUnder(const AWnd& wnd) const
     {
         const AWnd* parent = wnd.getParent();
@@ -180,7 +181,7 @@ private:
                       "no key reaches the " +
                           (missed == 1 ? std::string("control") : std::to_string(missed) + " controls") +
                           " in " + describe(top) + ", " + (missed == 1 ? "" : "such as ") +
-                          describe(*firstMissed()) + "; name them in a TABORDER at the end of its block");
+                          describe(*firstMissed()) + "; add them to a TABORDER at the end of its block");
             return;
         }
         for (AWnd* wnd : controls)
@@ -192,8 +193,8 @@ private:
     {
         const auto inner = innerOrders.find(&wnd);
         if (inner != innerOrders.end())
-            return "it stands in the TABORDER of " + describe(*inner->second) + ", and Tab walks that of " +
-                   describe(top) + " alone";
+            return "it is in the TABORDER of " + describe(*inner->second) +
+                   ", but Tab only follows that of " + describe(top);
         return "no TABORDER of " + describe(top) + " names it";
     }
 
@@ -206,9 +207,10 @@ private:
     TreeCheck& check;
     AWnd& top;
     std::unordered_map<std::string, AWnd*> ids;
-    std::unordered_set<const AWnd*> reached;            // by a list of stops
-    std::unordered_map<const AWnd*, AWnd*> innerOrders; // what a TABORDER of a window inside names
-    std::vector<AWnd*> controls;                        // in the order of their lines
+    std::unordered_set<const AWnd*> reached; // by a TABORDER, TABLIST1 or TABLIST2
+    std::unordered_map<const AWnd*, AWnd*>
+        innerOrders;             // named by the TABORDER of an inner window, and that window
+    std::vector<AWnd*> controls; // in the order of their lines
 };
 
 } // namespace
@@ -218,7 +220,7 @@ void checkControls(TreeCheck& check, AWnd& root)
     forEachBelow(root, [&](AWnd& wnd) {
         if (wnd.getWindowType() == AWnd::WND_TABCONTROL && !check.reading.lacksLines())
             checkTabs(check, wnd);
-        if (!check.reading.isOfGame(&wnd) || wnd.getWindowCount() > 0)
+        if (!check.reading.isGameWindow(&wnd) || wnd.getWindowCount() > 0)
             checkRadioGroups(check, wnd);
     });
     for (int i = 0; i < root.getWindowCount(); ++i)

@@ -9,9 +9,9 @@ namespace script_check {
 
 namespace {
 
-// To look for what was meant takes time, and scripts with so many faults are none.
-constexpr int mostSuggestions = 200;
-constexpr std::size_t mostNames = 2000; // that are compared for one of them
+// Searching for suggestions takes time, and a file with more unknown names than this is not a script.
+constexpr int maxSuggestions = 200;
+constexpr std::size_t maxNames = 2000; // compared for one suggestion
 
 } // namespace
 
@@ -23,7 +23,7 @@ void Findings::add(const char* code, const Script& script, int line, int token, 
     const script_text::StatementLine& at = script.line(line);
     const auto last = static_cast<int>(at.tokens.size()) - 1;
     if (last < 0)
-        return; // a line without a token does nothing, right or wrong
+        return; // a line without a token cannot have findings
     const Code* row = codeCalled(code);
     add({row ? row->severity : script_text::Diagnostic::Error,
          at.placeOf(static_cast<std::size_t>(std::clamp(token, 0, last))), std::move(text), code},
@@ -53,7 +53,7 @@ std::optional<script_text::Place> Findings::causeOf(const script_text::Diagnosti
 
 std::string_view Findings::nearest(std::string_view word, const std::vector<std::string_view>& names)
 {
-    if (suggestions == mostSuggestions || names.size() > mostNames)
+    if (suggestions == maxSuggestions || names.size() > maxNames)
         return {};
     ++suggestions;
     return script_text::nearest(word, names);

@@ -11,11 +11,11 @@
 
 namespace script_check {
 
-/// Collects what is found. A place has each kind of fault once: a subroutine that runs often is told of once.
+/// Collects findings. Reports each code once per place, even if a subroutine runs more often.
 class Findings {
 public:
-    /// About a token of a line, 0 the keyword. code has to stand in the table of codes.
-    /// cause: a line that fails, which this may follow from; it is told of first.
+    /// Adds a finding about a token of a line, 0 for the keyword. code must be in the table of codes. cause:
+    /// a line that failed and may have led to this; its findings come first.
     void add(const char* code, const Script& script, int line, int token, std::string text,
              LineRef cause = {});
     void add(const char* code, const Script& script, int line, std::string text)
@@ -26,10 +26,10 @@ public:
     /// The end of the line that is the cause of a finding; nothing where none is known.
     std::optional<script_text::Place> causeOf(const script_text::Diagnostic& found) const;
 
-    /// The one of names that was meant, or nothing. To look takes time: after some hundreds it is always
-    /// nothing.
+    /// Returns the name that was probably meant, or an empty text. Searching takes time, so the number of
+    /// searches is limited; after that the result is always empty.
     std::string_view nearest(std::string_view word, const std::vector<std::string_view>& names);
-    /// "; did you mean X?", or nothing.
+    /// Returns "; did you mean X?", or an empty text.
     std::string didYouMean(std::string_view word, const std::vector<std::string_view>& names);
 
     std::vector<script_text::Diagnostic> all;
@@ -42,7 +42,7 @@ private:
     int suggestions = 0;
 };
 
-/// "; did you mean X?", or nothing for nothing.
+/// Returns "; did you mean X?", or an empty text if near is empty.
 std::string didYouMean(std::string_view near);
 
 } // namespace script_check

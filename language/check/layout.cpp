@@ -1,4 +1,4 @@
-// Rules for boxes: windows outside of others, and behind others.
+// Rules for boxes: windows that extend beyond their parents, and windows that others cover.
 
 #include "language/check/tree.h"
 #include "language/check/words.h"
@@ -10,21 +10,21 @@ namespace script_check {
 
 namespace {
 
-/// A window that lies on top of others. Of very many only the largest are kept.
+/// A window that may cover others. If there are very many, only the largest are kept.
 struct Cover {
     Box box; // screen pixels
     AWnd* wnd;
-    bool isOpaque; // nothing behind box can be seen
+    bool isOpaque; // nothing below it is visible within box
     bool takesClicks;
 };
-constexpr std::size_t mostCovers = 64;
+constexpr std::size_t maxCovers = 64;
 
-/// A window with others in it.
-struct Around {
+/// A window that contains the current one.
+struct Ancestor {
     AWnd* wnd;
-    Box box;      // screen pixels
-    bool isTold;  // it has a finding of its own
-    bool isMoved; // where it comes to stand the game says: what lies around it means nothing
+    Box box;             // screen pixels
+    bool hasFinding;     // has been reported itself
+    bool isPlacedByGame; // the game decides where it is, so that windows around it do not matter
 };
 
 class LayoutRules {
@@ -34,10 +34,10 @@ public:
     void run(AWnd& root)
     {
         forEachChild(root, [&](AWnd& top) {
-            const bool isTold = checkTop(top);
-            around.push_back({&top, boxOf(top), isTold, true});
-            enter({});
-            around.pop_back();
+            const bool hasFinding = checkTop(top);
+            ancestors.push_back({&top, boxOf(top), hasFinding, true});
+            checkChildren({});
+            ancestors.pop_back();
         });
     }
 
@@ -47,36 +47,36 @@ private:
     {
         for (int i = parent.getWindowCount() - 1; i >= 0; --i) {
             AWnd* child = parent.getWndFromIndex(i, "");
-            // A window that is shown here too is looked at in its first place.
+            // A window that is shown in several places is checked in its first one.
             if (child && child->getParent() == &parent && seen.insert(child).second)
                 visit(*child);
         }
     }
 
-    /// Looks at what stands in the innermost of those around.
-    void enter(std::vector<Cover> covers)
+    /// Checks the children of the innermost ancestor.
+    void checkChildren(std::vector<Cover> covers)
     {
-        AWnd& parent = *around.back().wnd;
-        const Box at = around.back().box;
+        AWnd& parent = *ancestors.back().wnd;
+        const Box at = ancestors.back().box;
         const bool showsOneAtATime = parent.getWindowType() == AWnd::WND_TABCONTROL;
         const std::size_t inherited = covers.size();
         forEachChild(parent, [&](AWnd& child) {
             Box box = boxOf(child);
             box.x += at.x;
             box.y += at.y;
-            const bool isTold = checkInside(child, box);
+            const bool hasFinding = checkInside(child, box);
             const bool shows = child.isVisible(0);
-            if (shows && !isTold)
+            if (shows && !hasFinding)
                 checkCovered(child, box, covers);
-            around.push_back({&child, box, isTold, !shows || check.reading.isOfGame(&child)});
-            enter(shows ? covers : std::vector<Cover>());
-            around.pop_back();
+            ancestors.push_back({&child, box, hasFinding, !shows || check.reading.isGameWindow(&child)});
+            checkChildren(shows ? covers : std::vector<Cover>());
+            ancestors.pop_back();
             if (shows && !showsOneAtATime)
-                putOnTop(child, box, covers, inherited);
+                addCover(child, box, covers, inherited);
         });
     }
 
-    /// A popup is put in the middle when it opens, so its position says nothing.
+    /// Checks the size only: a popup is centred when it opens, so its position does not matter.
     bool checkTop(AWnd& wnd)
     {
         const bool isTooLarge = check.screenWidth > 0 && (wnd.getWndWidth() > check.screenWidth ||
@@ -84,44 +84,45 @@ private:
         const bool isScreen = wnd.getWindowType() == AWnd::WND_SCREEN;
         if (!isTooLarge || (isScreen ? !check.isSizeGiven : wnd.getWindowType() != AWnd::WND_PLAIN))
             return false;
-        check.add("sticks-out", wnd,
+        check.add("outside-parent", wnd,
                   describe(wnd) + " is " + size(wnd.getWndWidth(), wnd.getWndHeight()) +
                       ", larger than the screen of " + size(check.screenWidth, check.screenHeight));
         return true;
     }
 
-    /// From the parent outwards; the first that does not hold it tells.
+    /// Compares the window with its ancestors, from the parent outwards, and reports the first that does not
+    /// contain it.
     bool checkInside(AWnd& wnd, const Box& box)
     {
-        // Where parts lie their control says, and what the game's classes do with their boxes nobody knows.
-        if (isPart(check, wnd) || check.reading.isOfGame(&wnd))
+        // A control places its own parts, and what the game's classes do with their boxes is unknown.
+        if (isPart(check, wnd) || check.reading.isGameWindow(&wnd))
             return false;
-        for (auto each = around.rbegin(); each != around.rend(); ++each) {
-            if (check.reading.isOfGame(each->wnd) || isControlWithParts(*each->wnd))
+        for (auto each = ancestors.rbegin(); each != ancestors.rend(); ++each) {
+            if (check.reading.isGameWindow(each->wnd) || isControlWithParts(*each->wnd))
                 return false;
-            if (!each->box.holds(box))
-                return tellOutside(wnd, *each->wnd, box, each->box);
-            if (each->isTold || each->isMoved)
+            if (!each->box.contains(box))
+                return reportOutside(wnd, *each->wnd, box, each->box);
+            if (each->hasFinding || each->isPlacedByGame)
                 return false;
         }
         return false;
     }
 
-    bool tellOutside(AWnd& wnd, AWnd& holder, const Box& box, const Box& place)
+    bool reportOutside(AWnd& wnd, AWnd& ancestor, const Box& box, const Box& place)
     {
         const bool isText = !wnd.getText().IsEmpty();
-        const std::string holderAndSize = describe(holder) + " (" + size(place.w, place.h) + ")";
-        if (!place.touches(box)) {
+        const std::string ancestorAndSize = describe(ancestor) + " (" + size(place.w, place.h) + ")";
+        if (!place.intersects(box)) {
             if (!wnd.isVisible(0))
-                return false; // it waits there to be shown
-            check.add("sticks-out", wnd, describe(wnd) + " lies outside of " + holderAndSize);
+                return false; // probably moved into view when the game shows it
+            check.add("outside-parent", wnd, describe(wnd) + " is outside " + ancestorAndSize);
             return true;
         }
         if (!isControl(wnd) && !isText)
             return false;
-        check.add("sticks-out", wnd,
-                  describe(wnd) + " sticks out of " + holderAndSize + ' ' + sides(box, place) +
-                      (isControl(wnd) ? "; what lies outside takes no clicks" : ""));
+        check.add("outside-parent", wnd,
+                  describe(wnd) + " extends beyond " + ancestorAndSize + ' ' + sides(box, place) +
+                      (isControl(wnd) ? "; the part outside takes no clicks" : ""));
         return true;
     }
 
@@ -132,16 +133,16 @@ private:
                type == AWnd::WND_RADIOBUTTON;
     }
 
-    /// "by 20 pixels on the right and 3 below".
-    static std::string sides(const Box& box, const Box& around)
+    /// Returns how far box extends beyond bounds, such as "by 20 pixels on the right and 3 below".
+    static std::string sides(const Box& box, const Box& bounds)
     {
         const struct {
             int pixels;
             const char* where;
-        } each[] = {{around.x - box.x, "on the left"},
-                    {box.right() - around.right(), "on the right"},
-                    {around.y - box.y, "above"},
-                    {box.bottom() - around.bottom(), "below"}};
+        } each[] = {{bounds.x - box.x, "on the left"},
+                    {box.right() - bounds.right(), "on the right"},
+                    {bounds.y - box.y, "above"},
+                    {box.bottom() - bounds.bottom(), "below"}};
         std::string out;
         for (const auto& side : each)
             if (side.pixels > 0)
@@ -152,23 +153,23 @@ private:
 
     void checkCovered(AWnd& wnd, const Box& box, const std::vector<Cover>& covers)
     {
-        if (box.w <= 0 || box.h <= 0 || check.reading.isOfGame(&wnd) || isPart(check, wnd))
+        if (box.w <= 0 || box.h <= 0 || check.reading.isGameWindow(&wnd) || isPart(check, wnd))
             return;
         const bool takesClicks = isControl(wnd) && wnd.getEnabled();
         const bool shows = !wnd.getBmpFilename().IsEmpty() || !wnd.getText().IsEmpty() || isControl(wnd);
         for (const Cover& cover : covers) {
-            if (!cover.box.holds(box))
+            if (!cover.box.contains(box))
                 continue;
             if (takesClicks && cover.takesClicks) {
                 check.add("covered", wnd,
-                          describe(wnd) + " lies wholly behind " + describe(*cover.wnd) + lineOf(*cover.wnd) +
-                              ", which takes its clicks");
+                          describe(wnd) + " is completely covered by " + describe(*cover.wnd) +
+                              lineOf(*cover.wnd) + ", which takes its clicks");
                 return;
             }
             if (shows && cover.isOpaque) {
                 check.add("covered", wnd,
                           describe(wnd) + " cannot be seen: " + describe(*cover.wnd) + lineOf(*cover.wnd) +
-                              " lies over it");
+                              " covers it");
                 return;
             }
         }
@@ -182,28 +183,28 @@ private:
                    : "";
     }
 
-    void putOnTop(AWnd& wnd, const Box& box, std::vector<Cover>& covers, std::size_t inherited)
+    void addCover(AWnd& wnd, const Box& box, std::vector<Cover>& covers, std::size_t inherited)
     {
-        // The game moves and hides its own, and a menu shows for a moment.
-        if (check.reading.isOfGame(&wnd) || isPart(check, wnd) || box.w <= 0 || box.h <= 0)
+        // The game may move and hide its own windows, and a menu is only shown for a moment.
+        if (check.reading.isGameWindow(&wnd) || isPart(check, wnd) || box.w <= 0 || box.h <= 0)
             return;
         Cover cover{box, &wnd, isOpaque(wnd), wnd.getEnabled() != 0};
         const auto area = [](const Cover& each) { return static_cast<long long>(each.box.w) * each.box.h; };
-        if (covers.size() < mostCovers) {
+        if (covers.size() < maxCovers) {
             covers.push_back(cover);
             return;
         }
-        const auto smallest = std::min_element(
-            covers.begin() + static_cast<std::ptrdiff_t>(std::min(inherited, mostCovers - 1)), covers.end(),
-            [&](const Cover& a, const Cover& b) { return area(a) < area(b); });
+        const auto smallest =
+            std::min_element(covers.begin() + static_cast<std::ptrdiff_t>(std::min(inherited, maxCovers - 1)),
+                             covers.end(), [&](const Cover& a, const Cover& b) { return area(a) < area(b); });
         if (area(*smallest) < area(cover))
             *smallest = cover;
     }
 
-    /// A picture of which each frame covers the whole box, up to and with its edge.
+    /// Returns whether the window's picture is opaque and each frame covers the whole box.
     bool isOpaque(AWnd& wnd)
     {
-        constexpr int halfMode = 2; // and above: what lies behind shows through
+        constexpr int halfMode = 2; // this mode and higher ones are translucent
         if (wnd.getBmpFilename().IsEmpty() || wnd.getBorder() || wnd.getBmpBlitMode() >= halfMode ||
             wnd.getWindowType() != AWnd::WND_PLAIN || wnd.getBmpOffsetX() || wnd.getBmpOffsetY())
             return false;
@@ -220,7 +221,7 @@ private:
         return wnd.getBmpStretch() || (width >= wnd.getWndWidth() && height >= wnd.getWndHeight());
     }
 
-    std::vector<Around> around; // outermost first
+    std::vector<Ancestor> ancestors; // outermost first
     TreeCheck& check;
     std::unordered_set<const AWnd*> seen;
 };

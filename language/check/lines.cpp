@@ -1,4 +1,4 @@
-// Rules for lines by themselves.
+// Rules for single lines.
 
 #include "language/check/rules.h"
 #include "language/text/statement_form.h"
@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view controls[] = {"BUTTON",  "CHECKBOX", "RADIOBUTTON", "COMBOBOX",   "EDITBOX",
                                          "LISTBOX", "KEYBOARD", "TABCONTROL",  "HSCROLLBAR", "VSCROLLBAR"};
 constexpr std::string_view clickable[] = {"BUTTON", "CHECKBOX", "RADIOBUTTON", "USERDEF"};
-// By these the toolkit looks for parts of a control, ignoring case.
+// The ids by which the toolkit finds the parts of a control, ignoring case.
 constexpr std::string_view parts[] = {"checkboxstate", "radiostate", "combomenu", "combonext", "comboprev"};
 
 template<std::size_t N>
@@ -24,14 +24,14 @@ bool isOneOf(const std::string_view (&words)[N], std::string_view word)
     return std::find(std::begin(words), std::end(words), word) != std::end(words);
 }
 
-/// COLUMNS reads a word that has no width in front of it as the width 0.
+/// Finds words of COLUMNS that do not follow a width. The toolkit reads such a word as the width 0.
 void checkWidths(const Script& script, int line, Findings& findings)
 {
     const std::vector<script_text::Token>& tokens = script.line(line).tokens;
     for (std::size_t i = 1; i < tokens.size(); ++i)
         if (tokens[i].id != numberToken && (i == 1 || tokens[i - 1].id != numberToken))
             findings.add("argument-kind", script, line, static_cast<int>(i),
-                         "this word has no width in front of it, and counts as a column of width 0");
+                         "this word does not follow a width, and counts as a column of width 0");
 }
 
 void checkSizes(const Script& script, int line, std::string_view keyword, Findings& findings)
@@ -42,27 +42,27 @@ void checkSizes(const Script& script, int line, std::string_view keyword, Findin
     };
     const bool isBitmapStrip = keyword == "BITMAP" && script.tokenCount(line) > 10;
     if (isOneOf(controls, keyword) && (number(4) <= 0 || number(5) <= 0)) {
-        add(number(4) <= 0 ? 4 : 5, "a control of this size cannot be hit");
+        add(number(4) <= 0 ? 4 : 5, "a control of this size cannot be clicked");
     } else if (keyword == "BORDER") {
         if (number(3) <= 0)
             add(3, "a border with pieces of this size is not drawn");
         else if (number(2) <= 0)
-            add(2, "with this width the picture lies under the border's pieces");
+            add(2, "with this width the border's pieces cover the picture");
     } else if (isBitmapStrip || keyword == "BMPINFO") {
         const int first = isBitmapStrip ? 7 : 1;
         if (number(first + 3) <= 0)
-            add(first + 3, "a picture of so many frames is not shown; a still one has 1");
+            add(first + 3, "a picture with this number of frames is not shown; a still picture has 1");
         else if (number(first + 3) > 1 && (number(first) <= 0 || number(first + 1) <= 0))
             add(number(first) <= 0 ? first : first + 1, "a strip of several frames needs the size of one");
     } else if (keyword == "LISTLOOK" && number(1) == 0) {
-        add(1, "rows of height 0 count as 1; a negative height keeps the one that there is");
+        add(1, "rows of height 0 count as 1; a negative height keeps the current one");
     }
     if (keyword.ends_with("SCROLLBAR") && !script.string(line, 6).empty() &&
         (number(7) <= 0 || number(8) <= 0))
         add(number(7) <= 0 ? 7 : 8, "a scroll bar's six frames need a size");
 }
 
-/// As parseFontStyle reads it, which passes over what it does not know.
+/// Finds words of a font style that parseFontStyle ignores.
 void checkStyle(const Script& script, int line, Findings& findings)
 {
     static const std::vector<std::string_view> known{"bold", "italic", "shadow"};
@@ -75,12 +75,12 @@ void checkStyle(const Script& script, int line, Findings& findings)
         const bool isColour = word[0] == '#';
         if (isColour && word.size() == 7 && word.find_first_not_of("0123456789abcdef", 1) == word.npos)
             continue;
-        findings.add("font-style", script, line, 2,
-                     isColour ? inQuotes(word) + " is no colour; expected # and six hexadecimal digits"
-                              : inQuotes(word) +
-                                    " is no word of a style; expected bold, italic, shadow or a "
-                                    "colour such as #2b3038" +
-                                    findings.didYouMean(word, known));
+        findings.add(
+            "font-style", script, line, 2,
+            isColour ? inQuotes(word) + " is not a colour; expected # and six hexadecimal digits"
+                     : inQuotes(word) +
+                           " is not a font style; expected bold, italic, shadow or a colour such as #2b3038" +
+                           findings.didYouMean(word, known));
     }
 }
 
@@ -93,13 +93,13 @@ void checkReserved(const Script& script, int line, const Statement& statement, F
     if ((leaves || closesPopup(id)) && !isOneOf(clickable, statement.keyword))
         findings.add("reserved-id", script, line, 1,
                      "a click on " + inQuotes(id) + (leaves ? " leaves the screen" : " closes the box") +
-                         ", and this is no button; for decoration write \"static\"");
+                         ", but this is not a button; for decoration use the id \"static\"");
     else if (isOneOf(parts, folded(id)) && statement.keyword != std::string_view("USERDEF"))
         findings.add("reserved-id", script, line, 1,
-                     "controls look for their parts by " + inQuotes(id) + "; give this window another id");
+                     inQuotes(id) + " is the id of a control's part; give this window another id");
 }
 
-/// The text has it in one line, be it that of the dump.
+/// Reports the line with the bytes of an incomplete last line, in the source or the dump.
 void reportUnfinished(const Script& script, Findings& findings)
 {
     for (const script_text::Inclusion& in : script.text.inclusions)
@@ -109,7 +109,7 @@ void reportUnfinished(const Script& script, Findings& findings)
             if (line.substr(start).starts_with(script_text::unfinishedMark))
                 findings.add({script_text::Diagnostic::Error,
                               {&in, number, {}},
-                              "the script ends inside a line, which the toolkit drops",
+                              "the script ends in the middle of a line, which the toolkit ignores",
                               "unfinished"});
         }
 }
@@ -120,10 +120,10 @@ void checkLines(const Script& script, Findings& findings)
 {
     for (int line = 0; line < script.lineCount(); ++line) {
         const auto& tokens = script.line(line).tokens;
-        if (script.isCompiled || script.line(line).isAsItStands) // else the text has told them
+        if (script.isCompiled || script.line(line).isVerbatim) // otherwise the parser has reported them
             for (script_text::LineFault& each : script_text::lineFaults(tokens))
                 findings.add(each.code, script, line, static_cast<int>(each.token), std::move(each.text));
-        if (script.isKeyword(line, "COLUMNS") && !script.line(line).isAsItStands)
+        if (script.isKeyword(line, "COLUMNS") && !script.line(line).isVerbatim)
             checkWidths(script, line, findings);
     }
     if (script.isReported && !script.text.unfinished.empty())
@@ -132,7 +132,7 @@ void checkLines(const Script& script, Findings& findings)
 
 void checkScreenNames(const std::vector<Script*>& scripts, Findings& findings)
 {
-    std::set<std::string> classes; // compared exactly, as a factory does
+    std::set<std::string> classes; // compared exactly, as factories do
     for (const Script* script : scripts)
         for (int line = 0; line < script->lineCount(); ++line)
             if (script->isKeyword(line, "USERDEF"))
@@ -143,7 +143,7 @@ void checkScreenNames(const std::vector<Script*>& scripts, Findings& findings)
                 script->isKeyword(line, "SCREEN") && !id.empty() && classes.contains(id))
                 findings.add("class-name", *script, line, 1,
                              "the game makes windows of the class " + inQuotes(id) +
-                                 ", and is asked for that class when this screen is opened");
+                                 ", and would be asked for that class when this screen opens");
 }
 
 bool makesControl(const Statement& statement)
@@ -161,7 +161,7 @@ void checkArguments(const Script& script, Findings& findings)
         if (script.isKeyword(line, "ADDFONT"))
             checkStyle(script, line, findings);
         checkReserved(script, line, *statement, findings);
-        // ITEM alone is an empty row.
+        // ITEM without arguments is an empty row.
         if (statement->kind == StatementKind::Attribute && script.tokenCount(line) == 1 &&
             statement->counts.allow(1) && !script.isKeyword(line, "ITEM"))
             findings.add("no-effect", script, line,

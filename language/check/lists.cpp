@@ -1,4 +1,4 @@
-// Rules for lists and combo boxes: columns, what stands in their rows, icons.
+// Rules for lists and combo boxes: columns, rows and icons.
 
 #include "language/check/tree.h"
 #include "language/check/words.h"
@@ -13,12 +13,12 @@ namespace script_check {
 
 namespace {
 
-/// Looks into lists, which keep to themselves what their script has set.
+/// Reads protected fields of lists.
 struct ListAccess : AListBox {
     static const CArray<CString>& iconsOf(const AListBox& list) { return list.*(&ListAccess::iconFiles); }
 };
 
-/// ICON, a number, and perhaps F and a frame.
+/// Returns whether the cell is ICON and a number, optionally followed by F and a frame.
 bool isIcon(std::string_view cell)
 {
     const auto takeDigits = [&cell] {
@@ -37,7 +37,7 @@ bool isIcon(std::string_view cell)
 
 class ListRules {
 public:
-    ListRules(TreeCheck& treeCheck, AListBox& lookedAt) : check(treeCheck), list(lookedAt) {}
+    ListRules(TreeCheck& treeCheck, AListBox& checkedList) : check(treeCheck), list(checkedList) {}
 
     void run()
     {
@@ -59,7 +59,7 @@ private:
                 if (++columns == AListBox::maxColumns + 1)
                     check.findings.add("no-effect", *at.script, at.line, token,
                                        "a list has at most " + std::to_string(AListBox::maxColumns) +
-                                           " columns; those from here on are left out");
+                                           " columns; it ignores the rest");
                 token += isWord(at, token + 1); // how this column is justified
             }
         const int count = list.getColumnCount();
@@ -68,7 +68,7 @@ private:
         for (const LineRef& at : check.linesOn(list, "TITLES"))
             if (at.script->tokenCount(at.line) > count + 1)
                 check.findings.add("no-effect", *at.script, at.line, count + 1,
-                                   columnCount + "; a title behind the last one is not shown");
+                                   columnCount + "; a title after the last column is not shown");
         for (const LineRef& at : check.linesOn(list, "LISTFIXEDCOLUMNS"))
             for (int token = 1; token < at.script->tokenCount(at.line); ++token)
                 if (const int column = at.script->number(at.line, token); column < 0 || column >= count)
@@ -93,8 +93,8 @@ private:
                     text.starts_with("ICON") && !isIcon(text))
                     check.findings.add("missing-icon", *at.script, at.line, token,
                                        inQuotes(text) +
-                                           " is read as an icon, for it begins with ICON; "
-                                           "expected a number behind that, as in ICON0 or ICON0F2");
+                                           " is read as an icon, because it begins with ICON; expected a "
+                                           "number after that, as in ICON0 or ICON0F2");
     }
 
     void checkIcons()
@@ -112,7 +112,7 @@ private:
                 const std::string place = "row " + std::to_string(row) + " of " + describe(list);
                 if (cell.icon < 0 || cell.icon >= files.GetSize()) {
                     lines.add("missing-icon", row, column,
-                              place + " shows icon " + std::to_string(cell.icon) + ", and LISTICONS names " +
+                              place + " shows icon " + std::to_string(cell.icon) + ", but LISTICONS names " +
                                   std::to_string(files.GetSize()));
                     continue;
                 }
@@ -137,9 +137,10 @@ private:
     void checkScrollBar()
     {
         if (const AScrollBar* bar = list.getScrollBar();
-            bar && check.hasData && !check.pictures.isThere(bar->getBmpFilename().str()))
+            bar && check.hasData && !check.pictures.exists(bar->getBmpFilename().str()))
             check.add("missing-bitmap", list,
-                      describe(list) + " has more rows than its box and makes a scroll bar: no picture " +
+                      describe(list) +
+                          " has more rows than fit and creates a scroll bar, but there is no picture " +
                           inQuotes(bar->getBmpFilename().view()) + " in the data directory");
     }
 
@@ -152,16 +153,16 @@ void checkCombo(TreeCheck& check, const AComboBox& combo)
     for (const LineRef& at : check.linesOn(combo, "ITEM"))
         if (at.script->tokenCount(at.line) > 2)
             check.findings.add("no-effect", *at.script, at.line, 2,
-                               "an item of a combo box is one text; what stands behind it is not read");
+                               "an item of a combo box is one text; the rest is ignored");
 }
 
-/// A COMBOMENU anywhere else than in a combo box.
+/// Finds a COMBOMENU outside of a combo box.
 void checkMenu(TreeCheck& check, const AWnd& menu, LineRef made)
 {
     const AWnd* parent = menu.getParent();
     if (made.script->isKeyword(made.line, "COMBOMENU") && parent &&
-        parent->getWindowType() != AWnd::WND_COMBOBOX && !check.reading.isOfGame(parent))
-        check.add("no-effect", menu, "no combo box is around this menu, so nothing opens it");
+        parent->getWindowType() != AWnd::WND_COMBOBOX && !check.reading.isGameWindow(parent))
+        check.add("no-effect", menu, "this menu is not inside a combo box, so nothing opens it");
 }
 
 } // namespace
@@ -170,7 +171,7 @@ void checkLists(TreeCheck& check, AWnd& root)
 {
     forEachBelow(root, [&](AWnd& wnd) {
         const WndLines* lines = check.reading.linesOf(&wnd);
-        if (!lines || !lines->made || check.reading.isOfGame(&wnd))
+        if (!lines || !lines->made || check.reading.isGameWindow(&wnd))
             return;
         checkMenu(check, wnd, lines->made);
         if (wnd.getWindowType() == AWnd::WND_LISTBOX)

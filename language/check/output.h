@@ -7,10 +7,10 @@
 
 namespace script_check {
 
-/// As `tgx build` prints it, with the code behind the text.
+/// Returns the finding as `tgx build` prints it, followed by its code.
 std::string asText(const script_text::Diagnostic& finding, script_text::Colour colour);
-/// One array for an editor: file, line, column, endColumn (from 1, in characters, the end excluded),
-/// severity, code, message, and includedFrom, the lines that brought it in.
+/// Returns a JSON array of objects with file, line, column, endColumn (in characters from 1, end exclusive),
+/// severity, code, message, and includedFrom (the INCLUDE lines that led there).
 std::string asJson(const std::vector<const script_text::Diagnostic*>& findings);
 
 } // namespace script_check

@@ -25,7 +25,7 @@ std::string withSlashes(std::string name)
     return name;
 }
 
-/// visit(line, token, name) for each picture and font that the script names.
+/// Calls visit(line, token, name) for each picture that the script names, and with fontsToo for each font.
 template<class Visit>
 void forEachFile(const Script& script, bool fontsToo, Visit visit)
 {
@@ -51,7 +51,7 @@ const std::string& Pictures::pathOf(const std::string& name)
     return entry->second;
 }
 
-bool Pictures::isThere(const std::string& name)
+bool Pictures::exists(const std::string& name)
 {
     return !pathOf(name).empty();
 }
@@ -72,7 +72,7 @@ const Picture* Pictures::find(const std::string& name)
     return entry->second ? &*entry->second : nullptr;
 }
 
-std::string otherFile(const std::string& name, Findings& findings)
+std::string fileHint(const std::string& name, Findings& findings)
 {
     std::string hint;
     if (std::any_of(name.begin(), name.end(), [](unsigned char c) { return c < 0x20 || c >= 0x7F; }))
@@ -95,9 +95,9 @@ void checkPictures(const Script& script, Pictures& pictures, Findings& findings)
         if (pictures.find(name))
             return;
         findings.add("missing-bitmap", script, line, token,
-                     pictures.isThere(name) ? inQuotes(name) + " cannot be read as a picture"
-                                            : "no picture " + inQuotes(name) + " in the data directory" +
-                                                  otherFile(name, findings));
+                     pictures.exists(name) ? inQuotes(name) + " cannot be read as a picture"
+                                           : "no picture " + inQuotes(name) + " in the data directory" +
+                                                 fileHint(name, findings));
     });
 }
 
@@ -128,11 +128,12 @@ void checkUnusedFiles(const std::string& dataDirectory, const std::vector<Script
             unused.push_back(path.lexically_relative(fs::path(dataDirectory).lexically_normal()).string());
     }
     std::sort(unused.begin(), unused.end());
-    const script_text::StatementLine& top = (*first)->line(0); // a comment in front of it can allow them
-    for (const std::string& name : unused) // all at one place, which findings.add would take for the same
+    const script_text::StatementLine& top = (*first)->line(0); // a comment before it can allow them
+    for (const std::string& name :
+         unused) // not with findings.add, which would drop findings of the same code at one place
         findings.all.push_back({script_text::Diagnostic::Warning,
                                 {top.in, top.number, {}},
-                                "no script names the file " + script_text::shown(name),
+                                "no script uses the file " + script_text::shown(name),
                                 "unused-file"});
 }
 

@@ -10,7 +10,7 @@
 
 namespace script_check {
 
-/// Windows of the top level that a POINTER shows inside others, in any of the scripts.
+/// The top-level windows that a POINTER in any of the scripts shows inside another window.
 class PointerTargets {
 public:
     PointerTargets(const std::vector<Script*>& scripts, const ScriptSet& set);
@@ -18,8 +18,8 @@ public:
     bool contains(const Script& script, std::string_view window) const;
 
 private:
-    std::map<const Script*, std::set<std::string>> named; // by a POINTER that names the script as well
-    std::set<std::string> anywhere;                       // by one that does not, or by an embedded script
+    std::map<const Script*, std::set<std::string>> named; // where the POINTER names the script
+    std::set<std::string> anywhere;                       // where it does not, or names an embedded script
 };
 
 } // namespace script_check

@@ -1,5 +1,5 @@
-// A radio group is a run of radio buttons without another window between: which of two runs are one that was
-// broken.
+// Finds radio groups that are broken in two. A radio group is a run of radio buttons without another window
+// between them.
 
 #include "language/check/tree.h"
 #include "language/check/words.h"
@@ -8,14 +8,14 @@ namespace script_check {
 
 namespace {
 
-/// A run of radio buttons, by their places among the children.
+/// A run of radio buttons, by index among the children.
 struct Group {
     int first, last;
 
     int count() const { return last - first + 1; }
 };
 
-/// What stands in front of the last underscore, or of digits at the end.
+/// Returns the id up to its last underscore, or without the digits at its end.
 std::string_view stem(std::string_view id)
 {
     const std::size_t underscore = id.rfind('_');
@@ -24,7 +24,7 @@ std::string_view stem(std::string_view id)
     return id.substr(0, id.find_last_not_of("0123456789") + 1);
 }
 
-Box turned(const Box& box)
+Box transposed(const Box& box)
 {
     return {box.y, box.x, box.h, box.w};
 }
@@ -45,14 +45,14 @@ public:
             else
                 groups.push_back({i, i});
         }
-        bool isRest = false; // the run before is the rest of another one
+        bool isContinuation = false; // the previous run continues another one
         for (std::size_t i = 1; i < groups.size(); ++i) {
             const Group& a = groups[i - 1];
             const Group& b = groups[i];
-            // One button alone is no choice.
-            const bool isAlone = (a.count() == 1 && !isRest) || b.count() == 1;
-            isRest = (isAlone || goesOn(a, b)) && !mayHoldMembers(a, b);
-            if (isRest)
+            // A single button offers no choice.
+            const bool isAlone = (a.count() == 1 && !isContinuation) || b.count() == 1;
+            isContinuation = (isAlone || continues(a, b)) && !mayContainMembers(a, b);
+            if (isContinuation)
                 report(a, b);
         }
     }
@@ -67,30 +67,32 @@ private:
         const std::string line =
             lines && lines->made ? std::to_string(lines->made.script->numberOf(lines->made.line)) : "?";
         check.add("radio-group", child(b.first),
-                  describe(child(b.first)) + " begins a group of its own: " + describe(child(a.last + 1)) +
-                      " of line " + line + " parts it from " + describe(child(a.last)));
+                  describe(child(b.first)) + " starts a new group: " + describe(child(a.last + 1)) +
+                      " of line " + line + " separates it from " + describe(child(a.last)));
     }
 
-    /// What a window of the game's class is nobody knows.
-    bool mayHoldMembers(const Group& a, const Group& b) const
+    /// Returns whether a window between the runs is of a class of the game. It may contain buttons of the
+    /// group.
+    bool mayContainMembers(const Group& a, const Group& b) const
     {
         for (int place = a.last + 1; place < b.first; ++place)
-            if (check.reading.isOfGame(parent.getWndFromIndex(place, "")))
+            if (check.reading.isGameWindow(parent.getWndFromIndex(place, "")))
                 return true;
         return false;
     }
 
-    /// Two groups side by side, or under headings of their own, are no fault. The second half of one goes on
-    /// in the same column or row, at about the same distance or with the same stem in its ids.
-    bool goesOn(const Group& a, const Group& b) const
+    /// Returns whether b looks like the second half of a: in the same column or row, and at about the same
+    /// distance or with the same stem in its ids. Two groups side by side, or with their own headings, are
+    /// correct.
+    bool continues(const Group& a, const Group& b) const
     {
-        return goesOnAlong(a, b, [](const Box& box) { return box; }) ||
-               goesOnAlong(a, b, [](const Box& box) { return turned(box); });
+        return continuesAlong(a, b, [](const Box& box) { return box; }) ||
+               continuesAlong(a, b, [](const Box& box) { return transposed(box); });
     }
 
-    /// Downwards, or to the right with all boxes turned.
+    /// Checks downwards, or to the right if turn transposes the boxes.
     template<class Turn>
-    bool goesOnAlong(const Group& a, const Group& b, Turn turn) const
+    bool continuesAlong(const Group& a, const Group& b, Turn turn) const
     {
         const auto box = [&](int place) { return turn(boxOf(child(place))); };
         const Box end = box(a.last);
@@ -98,7 +100,7 @@ private:
         if (start.x != end.x || start.y <= end.y)
             return false;
         for (int place = a.last + 1; place < b.first; ++place)
-            if (parts(place, end, box(place), start))
+            if (separates(place, end, box(place), start))
                 return false;
         const auto isStep = [&](const Group& group) {
             if (group.count() < 2)
@@ -111,13 +113,13 @@ private:
         return (common.size() > 1 && common == stem(child(b.first).getID().view())) || isStep(a) || isStep(b);
     }
 
-    /// Whether the window between is there to part them: a heading of the second group, which reaches
-    /// further than the first one, or a frame around it.
-    bool parts(int place, const Box& end, const Box& between, const Box& start) const
+    /// Returns whether the window between two groups separates them on purpose: a heading of the second
+    /// group, below the end of the first one, or a frame around the second.
+    bool separates(int place, const Box& end, const Box& between, const Box& start) const
     {
         const bool isText = !child(place).getText().IsEmpty();
         const int middle = between.y + between.h / 2;
-        return (isText && middle > end.bottom()) || (between.holds(start) && !between.holds(end));
+        return (isText && middle > end.bottom()) || (between.contains(start) && !between.contains(end));
     }
 
     TreeCheck& check;

@@ -7,38 +7,39 @@ namespace script_check {
 
 class PointerTargets;
 
-// What a script says without being read by the toolkit. Scripts that are broken are not looked at, but for
-// their lines.
+// Rules that work on the text of a script, without the toolkit reading it. Broken scripts are only checked
+// line by line.
 
-/// Lines that the toolkit refuses or reads otherwise: those of compiled scripts, and of texts that say them
-/// as they stand. Argument words without a width.
+/// Finds lines that the toolkit refuses or misreads, in compiled scripts and after @ in texts, and words of
+/// COLUMNS without a width.
 void checkLines(const Script& script, Findings& findings);
-/// Sizes of 0, reserved ids.
+/// Finds invalid arguments: sizes of 0, font styles, reserved ids.
 void checkArguments(const Script& script, Findings& findings);
-/// Arguments that their statement does not read, and the like.
+/// Finds arguments that their statement does not read, and similar.
 void checkUnread(const Script& script, Findings& findings);
-/// BEGIN and END, depth, what stands where it acts on another window than it seems to. False when a block has
-/// no END, so that windows stand elsewhere than they are meant to.
+/// Checks BEGIN and END, the depth of blocks, and statements that act on another window than they seem to.
+/// Returns false if a block has no END, which means that windows may end up in the wrong place.
 bool checkBlocks(const Script& script, Findings& findings);
-/// Lines that another line of the same block undoes.
+/// Finds lines that a later line of the same block overrides.
 void checkOverridden(const Script& script, Findings& findings);
-/// Names of the top level, and lines that a read of one window would begin at.
+/// Finds duplicate names of top-level windows, and lines that would be mistaken for the start of one.
 void checkTopNames(const Script& script, Findings& findings);
 
-/// Screens without a block that show nothing.
+/// Finds screens without a block that show nothing.
 void checkEmptyScreens(const Script& script, Findings& findings);
-/// Windows that are read one by one, and whose read goes on over the next line.
-void checkWithoutBlock(const Script& script, const PointerTargets& shown, Findings& findings);
+/// Finds windows without a block that are read one by one, so that reading them continues with the next line.
+void checkMissingBlocks(const Script& script, const PointerTargets& pointerTargets, Findings& findings);
 
-/// Calls between subroutines of all scripts, what they miss and what nothing calls. Marks what is used.
+/// Checks the calls between subroutines of all scripts, and finds missing and unused subroutines. Sets
+/// Subroutine::isUsed.
 void checkCalls(std::vector<Script*>& scripts, const ScriptSet& set, Findings& findings);
 
-/// Screens that bear the name of a class for USERDEF, of all scripts.
+/// Finds screens, in all scripts, with the name of a class that a USERDEF uses.
 void checkScreenNames(const std::vector<Script*>& scripts, Findings& findings);
 
-/// Whether the statement makes a window that a person clicks on, types into or chooses in.
+/// Returns whether the statement makes a window that the player clicks, types into or selects from.
 bool makesControl(const Statement& statement);
-/// Whether a GOTO's second argument can only be the number of an embedded script.
+/// Returns whether the second argument of a GOTO is the number of an embedded script.
 bool isResourceNumber(const std::string& script);
 
 } // namespace script_check

@@ -1,4 +1,4 @@
-// The toolkit reads the scripts, and its failures are explained.
+// Lets the toolkit read the scripts, and explains the lines that fail.
 
 #include "language/check/run.h"
 
@@ -19,17 +19,17 @@ namespace script_check {
 namespace {
 
 constexpr int pixelBits = 32;
-/// Windows of a library that are read one by one, and the least work that each may take.
-constexpr std::size_t mostReads = 2000;
-constexpr long long leastWork = 4'000'000;
-constexpr std::size_t mostMessages = 100; // that are kept between two lines
+/// The number of windows that are read one by one from a library, and the minimum work allowed for each.
+constexpr std::size_t maxReads = 2000;
+constexpr long long minWork = 4'000'000;
+constexpr std::size_t maxMessages = 100; // kept between two lines
 
 std::string memoryName(const Script& script)
 {
     return "UIG\\" + script.name;
 }
 
-/// Ids below a window, for a suggestion.
+/// Collects up to most ids of the windows below a window, for suggestions.
 void collectIds(AWnd& below, std::vector<std::string_view>& ids, std::size_t most)
 {
     for (int i = 0; i < below.getWindowCount() && ids.size() < most; ++i) {
@@ -44,7 +44,7 @@ void collectIds(AWnd& below, std::vector<std::string_view>& ids, std::size_t mos
 
 } // namespace
 
-/// Makes a plain window of each class of the game, and remembers which.
+/// A main window that makes a plain window for each class of the game and records these windows.
 class Reading::Window : public AMainWin, public ScriptObserver {
 public:
     explicit Window(Reading& owner)
@@ -56,18 +56,18 @@ public:
 
     AWnd* createNewWindow(const CString& id, int x, int y, int w, int h, const CString&) override
     {
-        if (addsScreen)
-            return nullptr; // a screen of the game's class is a screen all the same
+        if (isAddingScreen)
+            return nullptr; // a screen of a game's class is checked as a plain screen
         auto* wnd = new AWnd(AWnd::WND_PLAIN, id, x, y, w, h);
-        reading.ofGame.insert(wnd);
+        reading.gameWindows.insert(wnd);
         return wnd;
     }
     AScreen* addScreen(const CString& id, int x, int y, int w, int h) override
     {
-        const Swapped adding(addsScreen, true);
+        const Swapped adding(isAddingScreen, true);
         return AMainWin::addScreen(id, x, y, w, h);
     }
-    void lineExecuted(const ExecutedLine& line) override { reading.see(line); }
+    void lineExecuted(const ExecutedLine& line) override { reading.handleLine(line); }
     void allow(long maxLines, long long work)
     {
         scriptLines = maxLines;
@@ -76,7 +76,7 @@ public:
 
 private:
     Reading& reading;
-    bool addsScreen = false;
+    bool isAddingScreen = false;
 };
 
 Reading::Reading(const std::vector<Script*>& all, const ScriptSet& names, const Options& readingOptions,
@@ -89,7 +89,7 @@ Reading::Reading(const std::vector<Script*>& all, const ScriptSet& names, const 
         knowsAllFonts = knowsAllFonts && !script->isBroken && !script->mayAddMoreFonts;
     }
     auto host = std::make_unique<HeadlessHost>();
-    host->onMessage = [this](const CString& text) { hear(text); };
+    host->onMessage = [this](const CString& text) { handleMessage(text); };
     displayhost::use(std::move(host));
     for (const Script* script : scripts)
         setMemoryFile(memoryName(*script), script->bytes);
@@ -109,7 +109,7 @@ void Reading::openWindow()
     app->mainWin = win.get();
     unknownFonts = {nullptr};
     for (int i = 0; i < options.fonts; ++i) {
-        const int index = win->addNewFont("", "", 1, 0); // what the game adds is not known; the call fails
+        const int index = win->addNewFont("", "", 1, 0); // the game's font is unknown; the call fails
         unknownFonts.insert(win->getFont(index));
     }
     fontCount = win->getFontCount();
@@ -138,7 +138,7 @@ const WndLines* Reading::linesOf(const AWnd* wnd) const
 
 bool Reading::isNamedStop(const AWnd& wnd) const
 {
-    return isCutShort || namedStops.contains(&wnd) || laterStops.contains(folded(wnd.getID().view()));
+    return endedEarly || namedStops.contains(&wnd) || laterStops.contains(folded(wnd.getID().view()));
 }
 
 bool Reading::isKnownFont(const bmpfont* font) const
@@ -148,27 +148,28 @@ bool Reading::isKnownFont(const bmpfont* font) const
 
 void Reading::read(Script& script)
 {
-    if (isMainOfItsOwn(script))
+    if (actsAsMain(script))
         openWindow();
     else
         win->recreateScreenList();
     lines.clear();
     top = nullptr;
-    ofGame.clear();
+    gameWindows.clear();
     pointedTo.clear();
     namedStops.clear();
     laterStops.clear();
-    isCutShort = false;
-    // Reading down a script with subroutines fails at each of them: it is a library, out of which windows are
-    // read one at a time.
+    endedEarly = false;
+    // Reading a script from top to bottom fails at each SUBROUTINE. A script with subroutines is a library,
+    // from which windows are read one at a time.
     if (script.subroutines.empty())
         readWhole(script);
     else
         readWindows(script);
 }
 
-/// Without fonts in the main script each script that adds some is one.
-bool Reading::isMainOfItsOwn(const Script& script) const
+/// Returns whether the script is read with its own fonts only. If the main script has no fonts, this applies
+/// to each script that adds some.
+bool Reading::actsAsMain(const Script& script) const
 {
     return script.fontCount() > 0 && &script != main && !(main && main->fontCount() > 0);
 }
@@ -180,7 +181,7 @@ void Reading::readWhole(Script& script)
 
 void Reading::readWindows(Script& script)
 {
-    if (&script == main || isMainOfItsOwn(script))
+    if (&script == main || actsAsMain(script))
         for (const LineRef& at : script.fontLines) {
             win->addNewFont(CString(at.script->string(at.line, 1)), CString(at.script->string(at.line, 2)),
                             at.script->number(at.line, 3), at.script->number(at.line, 4));
@@ -189,11 +190,11 @@ void Reading::readWindows(Script& script)
     std::unordered_set<std::string_view> names;
     for (const int line : script.topWindows)
         if (const std::string& name = script.string(line, 1);
-            !name.empty() && name != "static" && names.size() < mostReads)
+            !name.empty() && name != "static" && names.size() < maxReads)
             names.insert(name);
     const long long work = std::min(
         options.work,
-        std::max(leastWork, options.work / static_cast<long long>(std::max<std::size_t>(names.size(), 1))));
+        std::max(minWork, options.work / static_cast<long long>(std::max<std::size_t>(names.size(), 1))));
     for (const int line : script.topWindows)
         if (names.erase(script.string(line, 1)) > 0 && !ranTooLong)
             readOnce(script, script.string(line, 1), work);
@@ -207,21 +208,22 @@ void Reading::readOnce(Script& script, const std::string& toWindow, long long wo
     ranTooLong = false;
     win->readScriptFile(CString(script.name), GetModuleHandleA(nullptr), noResource, CString(toWindow), 0);
     if (ranTooLong && lastLine)
-        findings.add("budget", *lastLine.script, lastLine.line,
-                     "the read of " + (toWindow.empty() ? script.name : inQuotes(toWindow)) +
-                         " runs too long and is ended here");
+        findings.add("limit-exceeded", *lastLine.script, lastLine.line,
+                     "reading " + (toWindow.empty() ? script.name : inQuotes(toWindow)) +
+                         " takes too long and is stopped here");
 }
 
-void Reading::hear(const CString& message)
+void Reading::handleMessage(const CString& message)
 {
     if (message.view().ends_with(" runs too long"))
         ranTooLong = true;
-    else if (messages.size() < mostMessages)
+    else if (messages.size() < maxMessages)
         messages.push_back(message);
 }
 
-/// Nothing for a line of no script that is looked at. Streams say no folder: of scripts of one name it is the
-/// first that has such a line there.
+/// Returns the script line that was executed, or nothing if it is not in a checked script. The toolkit does
+/// not report the folder; among scripts of the same name, the first with a matching line at that offset is
+/// chosen.
 LineRef Reading::lineOf(const ExecutedLine& executed) const
 {
     const auto find = [&](const Script* script) {
@@ -241,7 +243,7 @@ LineRef Reading::lineOf(const ExecutedLine& executed) const
     return {};
 }
 
-void Reading::see(const ExecutedLine& executed)
+void Reading::handleLine(const ExecutedLine& executed)
 {
     const LineRef at = lineOf(executed);
     const Statement* statement = statementById(executed.tokens[0].id);
@@ -259,11 +261,11 @@ void Reading::see(const ExecutedLine& executed)
         explainFailure(executed, target, at, *statement);
         lines[top].failed = at;
     } else {
-        note(executed, target, at, *statement);
+        recordLine(executed, target, at, *statement);
     }
 }
 
-void Reading::note(const ExecutedLine& executed, AWnd* target, LineRef at, const Statement& statement)
+void Reading::recordLine(const ExecutedLine& executed, AWnd* target, LineRef at, const Statement& statement)
 {
     const std::string_view keyword = statement.keyword;
     if (executed.made) {
@@ -279,12 +281,12 @@ void Reading::note(const ExecutedLine& executed, AWnd* target, LineRef at, const
         }
         return;
     }
-    const bool isKnown = target && !isOfGame(target);
+    const bool isKnown = target && !isGameWindow(target);
     if (statement.kind != StatementKind::Attribute && statement.kind != StatementKind::Window)
         return;
     if (isKnown && !statement.target.fits(target->getWindowType())) {
         findings.add("no-effect", *at.script, at.line,
-                     std::string(keyword) + " does nothing on " + describe(*target));
+                     std::string(keyword) + " has no effect on " + describe(*target));
         return;
     }
     if (!target)
@@ -298,12 +300,12 @@ void Reading::note(const ExecutedLine& executed, AWnd* target, LineRef at, const
         entry.border = at;
         if (isKnown && executed.count == 5 && target->getWindowType() != AWnd::WND_LISTBOX)
             findings.add("no-effect", *at.script, at.line, 4,
-                         "the second bitmap of a BORDER is for list boxes; " + describe(*target) +
-                             " does not read it");
+                         "the second bitmap of a BORDER is only for list boxes; " + describe(*target) +
+                             " ignores it");
     } else if (keyword == "COLUMNS" && isKnown && executed.count > 1 &&
                static_cast<AListBox*>(target)->getItemCount() > 0) {
         findings.add("late-columns", *at.script, at.line,
-                     describe(*target) + " has rows already; COLUMNS belongs in front of them");
+                     describe(*target) + " already has rows; COLUMNS must come before them");
     }
 }
 
@@ -313,19 +315,19 @@ void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef
     const std::string_view keyword = statement.keyword;
     if (!statement.counts.allow(executed.count) || !statement.handler ||
         executed.depth > deepestLevel(statement.kind) || !target)
-        return; // told by the rules for lines and blocks
+        return; // reported by the rules for lines and blocks
     const auto add = [&](const char* code, int token, std::string text) {
         findings.add(code, *at.script, at.line, token, std::move(text));
     };
     if (statement.kind != StatementKind::Command && !statement.target.fits(target->getWindowType())) {
-        if (isOfGame(target))
-            isCutShort = isCutShort || at.script->place(at.line).subroutine != LinePlace::none;
+        if (isGameWindow(target))
+            endedEarly = endedEarly || at.script->place(at.line).subroutine != LinePlace::none;
         else
             add("wrong-window", 0,
                 std::string(keyword) + " acts on " + typesOf(statement.target) +
-                    (executed.current ? ", and " + (target->getID().IsEmpty() ? "this" : describe(*target)) +
+                    (executed.current ? ", but " + (target->getID().IsEmpty() ? "this" : describe(*target)) +
                                             " is " + typeOf(*target)
-                                      : ", and no window's block is around it"));
+                                      : ", but it is not in a window's block"));
     } else if (keyword == "FONT" || keyword == "LISTFONTS") {
         for (int i = 1; i < executed.count && knowsAllFonts; ++i)
             if (!win->getFont(executed.tokens[i].value))
@@ -337,29 +339,29 @@ void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef
     } else if (keyword == "GOTO") {
         const Script* called = set.calledBy(*at.script, at.line);
         const Subroutine* body = called ? called->subroutine(executed.tokens[1].text.view()) : nullptr;
-        // That there is none, or a ring, is told by the rules for calls.
+        // A missing or recursive subroutine is reported by the rules for calls.
         if (body && !body->reachesRing)
-            add("budget", 1,
-                "subroutines call each other more than " + std::to_string(limits::subroutineDepth) +
+            add("limit-exceeded", 1,
+                "calls of subroutines are nested more than " + std::to_string(limits::subroutineDepth) +
                     " deep here");
     } else if (keyword == "RADIOBUTTON") {
-        add("budget", 0, "the radio group has too many members, or windows lie too deep in each other");
+        add("limit-exceeded", 0, "the radio group has too many members, or windows are nested too deeply");
     } else if (makesWindow(statement)) {
-        add("budget", 0, "windows lie too deep in each other, or are shown in too many places");
+        add("limit-exceeded", 0, "windows are nested too deeply, or are shown in too many places");
     } else if (keyword == "ITEM") {
         const int columns = static_cast<AListBox*>(target)->getColumnCount();
         add("missing-column", std::min(executed.count - 1, columns + 1),
             "this row has more cells than " + describe(*target) +
-                " had columns when its rows began: " + std::to_string(columns));
+                " had columns before its first row: " + std::to_string(columns));
     } else {
-        add("line-fails", 0, std::string(keyword) + " fails when it is read");
+        add("line-fails", 0, std::string(keyword) + " fails when the toolkit reads it");
     }
 }
 
 void Reading::explainMissingWindow(const ExecutedLine& executed, AWnd& target, LineRef at)
 {
     const LinePlace& place = at.script->place(at.line);
-    // The line of the same block, further down, that makes the window; -1 for none.
+    // Returns the later line of the same block that makes the window, or -1.
     const auto comesLater = [&](std::string_view name) {
         for (int line = at.line + 1;
              place.block >= 0 && line < at.script->lineCount() && at.script->place(line).depth >= place.depth;
@@ -370,11 +372,11 @@ void Reading::explainMissingWindow(const ExecutedLine& executed, AWnd& target, L
         return -1;
     };
     std::vector<std::string_view> ids;
-    constexpr std::size_t mostIds = 2001;
-    collectIds(target, ids, mostIds);
-    const bool mayBeMade = holdsWindowOfGame(target) || !hasAllScripts || isCutShort;
+    constexpr std::size_t maxIds = 2001;
+    collectIds(target, ids, maxIds);
+    const bool mayBeMade = containsGameWindow(target) || !hasAllScripts || endedEarly;
     for (int i = 1; i < executed.count; ++i) {
-        // The line lists nothing; what it names counts as listed all the same, for the rules about that.
+        // The line has failed, but the windows that it names count as listed, to avoid further findings.
         if (const AWnd* named = target.getWnd(executed.tokens[i].text, 1)) {
             namedStops.insert(named);
             continue;
@@ -383,7 +385,7 @@ void Reading::explainMissingWindow(const ExecutedLine& executed, AWnd& target, L
         std::string text = "no window " + inQuotes(name) + " in " + describe(target) + " at this point";
         if (const int later = comesLater(name); later >= 0) {
             laterStops.insert(folded(name));
-            text += "; it comes in line " + std::to_string(at.script->numberOf(later));
+            text += "; it is defined later, in line " + std::to_string(at.script->numberOf(later));
         } else if (mayBeMade) {
             continue;
         } else if (const std::string_view near = findings.nearest(name, ids); !near.empty()) {
@@ -400,20 +402,21 @@ void Reading::explainPointer(LineRef at)
     const std::string& name = at.script->string(at.line, 1);
     if (win->getWnd(CString(name), 1)) {
         findings.add("pointer-inside", *at.script, at.line, 1,
-                     inQuotes(name) + " cannot be shown here: this is inside itself, or too deep");
+                     inQuotes(name) +
+                         " cannot be shown here: it would be inside itself, or nested too deeply");
         return;
     }
-    if (isCutShort)
+    if (endedEarly)
         return;
     const bool namesScript = at.script->tokenCount(at.line) > 2;
     const std::string& file = at.script->string(at.line, 2);
     const Script* script = namesScript ? set.find(file) : main;
     if (namesScript && (!script || script->isBroken))
-        return; // told, or not known
+        return; // already reported, or unknown
     if (!namesScript && !main)
-        return; // it may stand in an embedded script
+        return; // the window may be in an embedded script
     std::string text =
-        "no window " + inQuotes(name) + " exists here, nor at the top level of " + script->name;
+        "no window " + inQuotes(name) + " exists at this point, nor at the top level of " + script->name;
     for (const Script* each : scripts)
         if (each != script)
             for (const int line : each->topWindows)
@@ -425,13 +428,13 @@ void Reading::explainPointer(LineRef at)
     findings.add("missing-pointer", *at.script, at.line, 1, std::move(text), lines[top].failed);
 }
 
-/// What the toolkit has said while it carried the line out.
+/// Reports problems with fonts, from the messages of the toolkit while it executed the line.
 void Reading::checkMessages(LineRef at, bool hasFailed)
 {
     const int count = win->getFontCount();
     if (at.script->isKeyword(at.line, "ADDFONT") && !hasFailed) {
         if (count == fontCount) {
-            findings.add("budget", *at.script, at.line,
+            findings.add("limit-exceeded", *at.script, at.line,
                          "the font table is full: it has " + std::to_string(limits::fonts) + " entries");
         } else if (!messages.empty()) {
             unknownFonts.insert(win->getFont(count - 1));
@@ -440,23 +443,24 @@ void Reading::checkMessages(LineRef at, bool hasFailed)
                 findings.add("missing-font", *at.script, at.line, 1,
                              "the font " + inQuotes(at.script->string(at.line, 1)) + " cannot be loaded" +
                                  (size < 1 || size > limits::fontPixels
-                                      ? " at this size; 1 to " + std::to_string(limits::fontPixels) + " fit"
+                                      ? " at this size; expected 1 to " + std::to_string(limits::fontPixels)
                                       : "") +
-                                 "; the built-in one takes its place" +
-                                 otherFile(at.script->string(at.line, 1), findings));
+                                 "; the built-in font is used instead" +
+                                 fileHint(at.script->string(at.line, 1), findings));
         }
     }
     fontCount = count;
     messages.clear();
 }
 
-/// Itself or below: such a window may make windows of its own.
-bool Reading::holdsWindowOfGame(AWnd& wnd) const
+/// Returns whether the window is, or contains, a window of the game's own class, which may make further
+/// windows.
+bool Reading::containsGameWindow(AWnd& wnd) const
 {
-    if (isOfGame(&wnd))
+    if (isGameWindow(&wnd))
         return true;
     for (int i = 0; i < wnd.getWindowCount(); ++i)
-        if (AWnd* child = wnd.getWndFromIndex(i, ""); child && holdsWindowOfGame(*child))
+        if (AWnd* child = wnd.getWndFromIndex(i, ""); child && containsGameWindow(*child))
             return true;
     return false;
 }

@@ -14,54 +14,54 @@ class displayhost;
 
 namespace script_check {
 
-/// The lines that made a window what it is.
+/// The script lines that made and changed a window.
 struct WndLines {
-    LineRef made;   // or brought it in first
-    LineRef text;   // the last one that set its text
-    LineRef bitmap; // and its bitmap
-    LineRef border;
-    LineRef failed;                       // the last one in it that failed, of a window at the top level
-    std::vector<LineRef> attributes = {}; // that acted on it, in order, those that failed too
+    LineRef made;                         // the line that made the window, or the first POINTER to it
+    LineRef text;                         // the last line that set its text
+    LineRef bitmap;                       // the last line that set its bitmap
+    LineRef border;                       // the last BORDER
+    LineRef failed;                       // the last line in it that failed, for a top-level window
+    std::vector<LineRef> attributes = {}; // lines that acted on it, in order, including those that failed
 };
 
-/// What the game would see of the scripts: the toolkit reads them, and what it says and makes is written
-/// down.
+/// Lets the toolkit read the scripts, as a game would, and records its messages and the windows that it
+/// makes.
 class Reading {
 public:
     struct Options {
-        int width, height; // of the screen
-        int fonts;         // that the game adds before the main script's
-        bool hasData;      // there is a data directory
-        long lines;        // that a read may execute
-        long long work;
+        int width, height; // of the screen, in pixels
+        int fonts;         // number of fonts that the game adds before those of the main script
+        bool hasData;      // whether there is a data directory
+        long lines;        // maximum number of lines that reading a window may execute
+        long long work;    // maximum work of reading a window, see AMainWin
     };
 
-    /// The scripts are put in front of those of the data directory.
+    /// The given scripts take precedence over those of the data directory.
     Reading(const std::vector<Script*>& scripts, const ScriptSet& set, const Options& options,
             Findings& findings);
     ~Reading();
     Reading(const Reading&) = delete;
     Reading& operator=(const Reading&) = delete;
 
-    /// Reads the windows of script into an empty tree. Fonts stay from read to read, unless the script has
-    /// its own.
+    /// Reads the windows of script into an empty tree. Keeps the fonts of previous reads, unless the script
+    /// adds its own.
     void read(Script& script);
 
     AMainWin& window();
-    /// Of the game's own class: how it looks and what it holds, nobody knows.
-    bool isOfGame(const AWnd* wnd) const { return ofGame.contains(wnd); }
-    /// Null for a window that no line has made.
+    /// Returns whether the window is of one of the game's own classes. Its look and contents are unknown.
+    bool isGameWindow(const AWnd* wnd) const { return gameWindows.contains(wnd); }
+    /// Returns the lines of a window, or null if no line made it.
     const WndLines* linesOf(const AWnd* wnd) const;
-    /// Whether its widths are those of the font that the game will show.
+    /// Returns whether the font's widths are those that the game will show.
     bool isKnownFont(const bmpfont* font) const;
-    /// Windows that a POINTER has brought in anywhere.
+    /// Returns whether a POINTER shows the window.
     bool isPointedTo(const AWnd* wnd) const { return pointedTo.contains(wnd); }
-    /// Named by a tab list that failed, at this name or another.
+    /// Returns whether a tab list that failed names, or may name, the window.
     bool isNamedStop(const AWnd& wnd) const;
 
-    /// A subroutine has ended at a line that the game's class may well take: windows and lists that come
-    /// behind it are missing.
-    bool lacksLines() const { return isCutShort; }
+    /// Returns whether a subroutine has ended early at a line that a class of the game may accept, so that
+    /// the windows and lists of its later lines are missing.
+    bool lacksLines() const { return endedEarly; }
 
 private:
     class Window;
@@ -71,40 +71,40 @@ private:
     void readWhole(Script& script);
     void readWindows(Script& script);
     void readOnce(Script& script, const std::string& toWindow, long long work);
-    void hear(const CString& message);
-    void see(const ExecutedLine& executed);
-    void note(const ExecutedLine& executed, AWnd* target, LineRef at, const Statement& statement);
+    void handleMessage(const CString& message);
+    void handleLine(const ExecutedLine& executed);
+    void recordLine(const ExecutedLine& executed, AWnd* target, LineRef at, const Statement& statement);
     void explainFailure(const ExecutedLine& executed, AWnd* target, LineRef at, const Statement& statement);
     void explainMissingWindow(const ExecutedLine& executed, AWnd& target, LineRef at);
     void explainPointer(LineRef at);
     void checkMessages(LineRef at, bool hasFailed);
     LineRef lineOf(const ExecutedLine& executed) const;
-    bool isMainOfItsOwn(const Script& script) const;
-    bool holdsWindowOfGame(AWnd& wnd) const;
+    bool actsAsMain(const Script& script) const;
+    bool containsGameWindow(AWnd& wnd) const;
 
     const std::vector<Script*>& scripts;
     const ScriptSet& set;
     Options options;
     Findings& findings;
-    Script* main = nullptr;    // the main script, if it is there
-    bool hasAllScripts = true; // none is broken
-    bool knowsAllFonts = true; // that the scripts add
+    Script* main = nullptr;    // the main script, or null
+    bool hasAllScripts = true; // no script is broken
+    bool knowsAllFonts = true; // all fonts that the scripts add are known
     std::unique_ptr<displayhost> hostBefore;
     std::unique_ptr<EmbeddedResource> mainResource;
     std::unique_ptr<AControlsApp> app;
     std::unique_ptr<Window> win;
     std::unordered_map<const AWnd*, WndLines> lines;
-    std::unordered_set<const AWnd*> ofGame;
+    std::unordered_set<const AWnd*> gameWindows;
     std::unordered_set<const AWnd*> pointedTo;
     std::unordered_set<const AWnd*> namedStops;
-    std::unordered_set<std::string> laterStops; // ids of windows that come behind the list
+    std::unordered_set<std::string> laterStops; // ids in a tab list of windows that are made after it
     std::unordered_set<const bmpfont*> unknownFonts;
-    std::vector<CString> messages; // since the line before
-    int fontCount = 0;             // behind the line before
-    const AWnd* top = nullptr;     // the window at the top level that is being made; it may be gone
+    std::vector<CString> messages; // since the previous line
+    int fontCount = 0;             // after the previous line
+    const AWnd* top = nullptr;     // the top-level window that is being made; it may have been deleted
     LineRef lastLine;
     bool ranTooLong = false;
-    bool isCutShort = false;
+    bool endedEarly = false;
 };
 
 } // namespace script_check

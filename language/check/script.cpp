@@ -12,11 +12,11 @@ namespace script_check {
 
 namespace {
 
-/// The block at hand while lines are gone through.
+/// A block that is open at the current line.
 struct Level {
-    int begin;  // its BEGIN
-    int opener; // the window that it belongs to
-    int last;   // the window that the latest statement in it has made
+    int begin;  // line of its BEGIN
+    int opener; // line of the window that it belongs to
+    int last;   // line of the window made by the previous statement in it
 };
 
 class Outliner {
@@ -27,15 +27,15 @@ public:
     {
         script.places.resize(script.text.lines.size());
         for (int line = 0; line < script.lineCount(); ++line) {
-            take(line);
-            // A body is one statement: a block up to its END, or a single line.
+            placeLine(line);
+            // A body is one statement: a block or a single line.
             if (subroutine != LinePlace::none && subroutine != line && levels.size() == 1)
                 leaveSubroutine();
         }
     }
 
 private:
-    void take(int line)
+    void placeLine(int line)
     {
         const Statement* statement = script.statement(line);
         const StatementKind kind = statement ? statement->kind : StatementKind::ArgumentWord;
@@ -47,7 +47,7 @@ private:
         script.places[static_cast<std::size_t>(line)] = {static_cast<int>(levels.size()) - 1, level.opener,
                                                          level.begin, subroutine};
         if (!statement || !statement->counts.allow(script.tokenCount(line)))
-            return; // it leaves the window stack alone
+            return; // the line fails and does not change the window stack
         if (kind == StatementKind::BlockBegin) {
             levels.push_back({line, level.last, LinePlace::none});
         } else if (makesWindow(*statement) || kind == StatementKind::Reference) {
@@ -75,10 +75,10 @@ private:
     Script& script;
     std::vector<Level> levels{{LinePlace::none, LinePlace::none, LinePlace::none}};
     int subroutine = LinePlace::none;
-    int topLast = LinePlace::none; // of the top level, while a subroutine is gone through
+    int topLast = LinePlace::none; // Level::last of the top level while in a subroutine
 };
 
-/// The same for all ways to write a name.
+/// Returns the same key for all spellings of a name.
 std::string keyOf(std::string_view name)
 {
     std::string key = folded(name);
@@ -101,7 +101,7 @@ Script::Script(std::string runtimeName, bool compiled, bool reported, script_tex
 {
     script_text::Emitted emitted = script_text::emit(text);
     offsets = std::move(emitted.offsets);
-    // Bytes behind the last whole line are in those that were given alone.
+    // Only the given bytes include those of an incomplete last line.
     bytes =
         std::make_shared<const std::string>(compiled ? std::move(compiledBytes) : std::move(emitted.bytes));
     isBroken = text.hasErrors() || isRefused(text);
@@ -147,7 +147,7 @@ void ScriptSet::add(Script& script)
 {
     const std::string key = keyOf(script.name);
     if (byName.try_emplace(key, &script).second)
-        byFile[key.substr(key.rfind('/') + 1)].push_back(&script); // 0 behind npos
+        byFile[key.substr(key.rfind('/') + 1)].push_back(&script); // npos + 1 is 0
 }
 
 Script* ScriptSet::find(std::string_view name) const
@@ -177,7 +177,7 @@ void findFonts(const std::vector<Script*>& scripts, const ScriptSet& set)
                                         return false;
                                     if (at.isKeyword(line, "ADDFONT"))
                                         script->fontLines.push_back({&at, line});
-                                    // Inside of windows a GOTO fills those.
+                                    // Inside a window's block, a GOTO does not add fonts.
                                     if (at.isKeyword(line, "GOTO") &&
                                         (isCalled || at.place(line).depth == 0) && !set.calledBy(at, line))
                                         script->mayAddMoreFonts = true;

@@ -11,30 +11,30 @@
 #include <utility>
 #include <vector>
 
-/// What can be found wrong with scripts without playing them.
+/// Static checks of interface scripts.
 namespace script_check {
 
-/// Where a line stands among the blocks of its script.
+/// The position of a line in the block structure of its script.
 struct LinePlace {
-    static constexpr int none = -1;   // no window: the root of all
-    static constexpr int caller = -2; // the window on which the subroutine runs
+    static constexpr int none = -1;   // no window: the root of all windows
+    static constexpr int caller = -2; // the window on which the subroutine is called
 
-    int depth = 0;         // of blocks around it, counted from its subroutine or from the top
-    int opener = none;     // line of the window in whose block it stands, or one of the above
-    int block = none;      // line of the BEGIN around it
-    int subroutine = none; // line of the SUBROUTINE whose body it is in, or that it is
+    int depth = 0;         // number of enclosing blocks within its subroutine or script
+    int opener = none;     // line of the window whose block contains it, or one of the constants above
+    int block = none;      // line of the enclosing BEGIN
+    int subroutine = none; // line of the SUBROUTINE that it belongs to
 };
 
 struct Subroutine {
     std::string name;
-    int line;                 // of the definition
-    bool isUsed;              // by a GOTO somewhere
-    bool reachesRing = false; // calls of its own lead to one that reaches itself
+    int line;                 // of the SUBROUTINE statement
+    bool isUsed;              // whether any GOTO names it
+    bool reachesRing = false; // whether it calls, directly or not, a recursive subroutine
 };
 
 struct Script;
 
-/// A line of a script. script is null for none.
+/// Refers to a line of a script. script is null if there is none.
 struct LineRef {
     const Script* script = nullptr;
     int line = 0;
@@ -42,28 +42,28 @@ struct LineRef {
     explicit operator bool() const { return script != nullptr; }
 };
 
-/// A script that is looked at, or that is there because others use it.
+/// A script that is checked, or that was loaded because others use it.
 struct Script {
     Script(std::string runtimeName, bool compiled, bool reported, script_text::ParsedScript parsed,
            std::string compiledBytes);
 
-    std::string name;          // by which scripts and the game ask for it: "menu.tgx", "sub\\menu.tgx"
-    bool isCompiled;           // it was given as bytes; text is what dump prints of them
-    bool isReported;           // else its own faults are nobody's business
-    bool isBroken;             // lines are missing or refused: what the others mean cannot be told
-    bool isUnbalanced = false; // a block has no END: its windows are not looked at
+    std::string name;          // by which scripts and the game refer to it: "menu.tgx", "sub\\menu.tgx"
+    bool isCompiled;           // was given as bytes; text is then the dump of these
+    bool isReported;           // whether its own findings are reported
+    bool isBroken;             // has invalid lines, so that the meaning of the others is uncertain
+    bool isUnbalanced = false; // a block has no END, so its windows are not checked
     script_text::ParsedScript text;
     std::shared_ptr<const std::string> bytes;
-    std::vector<std::size_t> offsets; // of each line in bytes
+    std::vector<std::size_t> offsets; // where each line starts in bytes
 
     // Filled by outline().
     std::vector<LinePlace> places; // one for each line
     std::vector<Subroutine> subroutines;
-    std::vector<int> topWindows; // lines
+    std::vector<int> topWindows; // lines that make top-level windows
 
     // Filled by findFonts().
-    std::vector<LineRef> fontLines; // each ADDFONT of a read from top to bottom
-    bool mayAddMoreFonts = false;   // in a script that is not known
+    std::vector<LineRef> fontLines; // each ADDFONT executed when the script is read from top to bottom
+    bool mayAddMoreFonts = false;   // whether it calls a script that is not available
 
     int lineCount() const { return static_cast<int>(text.lines.size()); }
     const script_text::StatementLine& line(int index) const
@@ -71,58 +71,60 @@ struct Script {
         return text.lines[static_cast<std::size_t>(index)];
     }
     const LinePlace& place(int index) const { return places[static_cast<std::size_t>(index)]; }
-    /// Null for a line without a known keyword.
+    /// Returns the vocabulary's row, or null for a line without a known keyword.
     const Statement* statement(int index) const { return line(index).statement(); }
     bool isKeyword(int index, std::string_view keyword) const
     {
         const Statement* row = statement(index);
         return row && row->keyword == keyword;
     }
-    /// Number of the line in its file, as messages give it.
+    /// Returns the number of the line in its file, for messages.
     int numberOf(int index) const { return line(index).number; }
     int tokenCount(int index) const { return static_cast<int>(line(index).tokens.size()); }
-    /// 0 and "" behind the line's end, as the toolkit reads it.
+    /// Returns the value of a number or string. A missing argument reads as 0 or "", as in the toolkit.
     int number(int index, int token) const;
     const std::string& string(int index, int token) const;
-    /// Fonts that a read from top to bottom adds.
+    /// Returns how many fonts are added when the script is read from top to bottom.
     int fontCount() const { return static_cast<int>(fontLines.size()); }
-    /// Line at that offset of bytes, or -1.
+    /// Returns the line that starts at that offset in bytes, or -1.
     int lineAt(std::size_t offset) const;
-    /// The first subroutine of that name, or null.
+    /// Returns the first subroutine of that name, or null.
     Subroutine* subroutine(std::string_view wanted)
     {
         return const_cast<Subroutine*>(std::as_const(*this).subroutine(wanted));
     }
     const Subroutine* subroutine(std::string_view wanted) const;
-    /// Behind the last line of its body.
+    /// Returns the line after the last one of the subroutine's body.
     int bodyEnd(const Subroutine& of) const;
 
-    std::map<std::string, std::size_t, std::less<>> subroutineByName; // the first of each name
+    std::map<std::string, std::size_t, std::less<>>
+        subroutineByName; // index of the first subroutine of each name
 };
 
-/// Finds blocks, subroutines and top-level windows.
+/// Determines the blocks, subroutines and top-level windows of script.
 void outline(Script& script);
 
-/// Scripts by the name that others use, ignoring case and the kind of slash.
+/// Looks up scripts by the name that other scripts use, ignoring case and the kind of slash.
 class ScriptSet {
 public:
     void add(Script& script);
     Script* find(std::string_view name) const;
-    /// All whose file bears the name, in whatever folder.
+    /// Returns all scripts with that file name, in any folder.
     const std::vector<Script*>& ofFile(std::string_view name) const;
-    /// In which the GOTO looks for its subroutine; null when there is none.
+    /// Returns the script in which the GOTO of that line looks for its subroutine, or null if it is not
+    /// available.
     const Script* calledBy(const Script& script, int line) const;
 
 private:
     std::map<std::string, Script*> byName;
-    std::map<std::string, std::vector<Script*>> byFile; // without folders
+    std::map<std::string, std::vector<Script*>> byFile; // by file name without folder
 };
 
-/// Finds the fonts that scripts add, also by way of subroutines. All of them are outlined.
+/// Finds the fonts that scripts add, also through subroutines. Call outline() for all scripts first.
 void findFonts(const std::vector<Script*>& scripts, const ScriptSet& set);
 
-/// visit(script, line, isCalled) for each line from first to below end and, where it gives true for a GOTO,
-/// for those of the subroutine that this calls. Each subroutine is gone through once.
+/// Calls visit(script, line, isCalled) for each line from first to end (exclusive). If visit returns true for
+/// a GOTO, continues with the lines of the called subroutine. Visits each subroutine once.
 template<class Visit>
 void forEachLineThroughCalls(const Script& script, int first, int end, const ScriptSet& set, Visit visit)
 {
@@ -148,16 +150,18 @@ void forEachLineThroughCalls(const Script& script, int first, int end, const Scr
     }
 }
 
-/// What an id means to the searches of the toolkit: its letters without case.
+/// Returns an id with its letters in lower case. The toolkit ignores case when it searches for ids.
 std::string folded(std::string_view text);
-/// Whether it is the one that a game reads first.
+/// Returns whether the script is the main script, which a game reads first.
 bool isMain(const Script& script);
-/// A text of a script as a message shows it, in quotes.
+/// Returns a text of a script in quotes, for messages.
 std::string inQuotes(std::string_view text);
-/// Whether the statement makes a window that bears a name of the script's own, which is its first argument.
+/// Returns whether the statement makes a window whose name is the first argument.
 bool namesItsWindow(const Statement& statement);
-/// Whether it makes the small window that a control finds by a fixed name: CHECKBOXSTATE, COMBOMENU.
+/// Returns whether the statement makes a part that a control finds by a fixed name, such as CHECKBOXSTATE or
+/// COMBOMENU.
 bool makesPart(const Statement& statement);
+/// Returns whether the statement makes a window or a screen.
 inline bool makesWindow(const Statement& statement)
 {
     return statement.kind == StatementKind::Window || statement.kind == StatementKind::Screen;

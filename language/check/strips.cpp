@@ -1,4 +1,4 @@
-// Strips against the pictures that they are cut from.
+// Rules for strips: whether the picture is large enough for its frames.
 
 #include "language/check/tree.h"
 #include "language/check/words.h"
@@ -12,7 +12,7 @@ namespace script_check {
 
 namespace {
 
-/// Looks into buttons, which keep to themselves what their script has set.
+/// Reads protected fields of buttons.
 struct ButtonAccess : AButton {
     static long long framesOf(const AButton& button)
     {
@@ -22,18 +22,19 @@ struct ButtonAccess : AButton {
     }
 };
 
-// In 64 bits: a script may give any 16-bit size and a button any number of frames.
+// 64 bits wide, because a script may set any 16-bit size, and a button any number of frames.
 struct Frames {
     long long width, height;
-    long long count; // that are shown, from the first on
+    long long count; // number of frames shown, from the first one on
 };
 
-/// The frame that lies last as it would lie in a picture large enough.
+/// The far edges of the last frame in a picture that is large enough.
 struct Reach {
     long long right, bottom;
 };
 
-/// A strip of more than two frames goes on in rows; a shorter one is a row alone.
+/// Returns where the last frame ends. In a picture more than two frames wide, frames continue in further
+/// rows; otherwise they form one row.
 Reach reachOf(const Frames& frames, const Picture& picture)
 {
     const long long step = frames.width + 1;
@@ -48,10 +49,10 @@ class StripRules {
 public:
     explicit StripRules(TreeCheck& treeCheck) : check(treeCheck) {}
 
-    void look(AWnd& wnd)
+    void checkWindow(AWnd& wnd)
     {
         const WndLines* lines = check.reading.linesOf(&wnd);
-        if (!lines || check.reading.isOfGame(&wnd))
+        if (!lines || check.reading.isGameWindow(&wnd))
             return;
         if (!wnd.getBmpFilename().IsEmpty() && lines->bitmap)
             checkBitmap(wnd, lines->bitmap);
@@ -65,7 +66,7 @@ private:
         const Picture* picture = check.pictures.find(wnd.getBmpFilename().str());
         if (!picture)
             return;
-        // As the toolkit works them out when it loads the picture.
+        // Calculated as the toolkit does when it loads the picture.
         Frames frames{wnd.getFrameWidth(), wnd.getFrameHeight(), wnd.getFirstFrame() + wnd.getFrameCount()};
         if (frames.width <= 0)
             frames.width = std::min(wnd.getWndWidth(), picture->width);
@@ -74,17 +75,17 @@ private:
 
         if (wnd.getWindowType() == AWnd::WND_SCROLLBAR) {
             constexpr int scrollBarFrames = 6;
-            if (wnd.getFrameWidth() > 0 && wnd.getFrameHeight() > 0) // else that is told
+            if (wnd.getFrameWidth() > 0 && wnd.getFrameHeight() > 0) // otherwise already reported
                 compare(wnd, at, *picture, {frames.width, frames.height, scrollBarFrames}, OneRow);
         } else if (wnd.getWindowType() == AWnd::WND_PROGRESSBAR) {
-            // The second frame, the empty bar, may be left out.
+            // The second frame, the empty bar, is optional.
             compare(wnd, at, *picture, {frames.width, frames.height, 1}, OneRow);
         } else {
             if (AButton::isButton(&wnd))
                 frames.count = ButtonAccess::framesOf(static_cast<AButton&>(wnd));
-            else if (frames.count > 1) // a BMPFRAME may begin behind the last one
+            else if (frames.count > 1) // a BMPFRAME may start after the last one
                 frames.count = std::max(frames.count, wnd.getCurrentFrame() + 1LL);
-            if (frames.count > 1) // a still picture is shown as far as it goes
+            if (frames.count > 1) // a single frame may be larger than the picture
                 compare(wnd, at, *picture, frames, Rows);
         }
     }
@@ -93,7 +94,7 @@ private:
     void compare(AWnd& wnd, LineRef at, const Picture& picture, const Frames& frames, Arrangement arrangement)
     {
         if (frames.width <= 0 || frames.height <= 0)
-            return; // the toolkit shows nothing of such a frame
+            return; // the toolkit does not draw such frames
         const long long step = frames.width + 1;
         const Reach reach = arrangement == Rows
                                 ? reachOf(frames, picture)
@@ -101,11 +102,11 @@ private:
         if (reach.right <= picture.width && reach.bottom <= picture.height)
             return;
         const std::string count = frames.count == 1 ? "the frame" : std::to_string(frames.count) + " frames";
-        check.findings.add(
-            "strip-too-small", *at.script, at.line, bitmapToken(at),
-            inQuotes(nameIn(at)) + " is " + size(picture.width, picture.height) + " pixels, too small for " +
-                count + " of " + size(frames.width, frames.height) + " that " + describe(wnd) +
-                " takes from it; a row of them is " + size(step * frames.count, frames.height));
+        check.findings.add("strip-too-small", *at.script, at.line, bitmapToken(at),
+                           inQuotes(nameIn(at)) + " is " + size(picture.width, picture.height) +
+                               " pixels, too small for " + count + " of " +
+                               size(frames.width, frames.height) + " that " + describe(wnd) +
+                               " uses; a row of them is " + size(step * frames.count, frames.height));
     }
 
     void checkBorder(AWnd& wnd, LineRef at)
@@ -116,7 +117,7 @@ private:
             compare(wnd, at, *picture, {piece, piece, pieces}, OneRow);
     }
 
-    /// The bitmap that the line names, and its token.
+    /// Returns the token of the line that names the bitmap.
     static int bitmapToken(LineRef at)
     {
         int token = 1;
@@ -125,6 +126,7 @@ private:
             ++token;
         return token;
     }
+    /// Returns the bitmap that the line names.
     static const std::string& nameIn(LineRef at) { return at.script->string(at.line, bitmapToken(at)); }
 
     TreeCheck& check;
@@ -135,7 +137,7 @@ private:
 void checkStrips(TreeCheck& check, AWnd& root)
 {
     StripRules rules(check);
-    forEachBelow(root, [&](AWnd& wnd) { rules.look(wnd); });
+    forEachBelow(root, [&](AWnd& wnd) { rules.checkWindow(wnd); });
 }
 
 } // namespace script_check

@@ -1,4 +1,4 @@
-// Texts against their boxes, measured as they are drawn.
+// Rules for texts that do not fit their boxes, measured as the toolkit draws them.
 
 #include "language/check/tree.h"
 #include "language/check/words.h"
@@ -21,21 +21,21 @@ bool isBlank(std::string_view text)
     return text.find_first_not_of(" \n") == std::string_view::npos;
 }
 
-/// What a text loses when it is broken into lines.
+/// The parts of a wrapped text that are not drawn.
 struct WrapLoss {
-    std::string_view word; // too wide for a line: it is cut, and a letter goes at each cut
-    std::string_view rest; // behind the last line that has room
+    std::string_view word; // too wide for a line; it is broken, and loses a letter at each break
+    std::string_view rest; // after the last line that fits
 };
 
 WrapLoss lossByWrapping(std::string_view text, const bmpfont& font, int width, int height)
 {
     WrapLoss loss;
-    std::size_t end = 0; // of the line before
+    std::size_t end = 0; // of the previous line
     for (TextWrap wrapped(text, &font, width, height); wrapped.next();) {
         const auto start = static_cast<std::size_t>(wrapped.getLineStart());
         const std::string_view gap = text.substr(end, std::max(start, end) - end);
         if (loss.word.empty() && end > 0 && !isBlank(gap) && gap != "\\n") {
-            const std::size_t first = text.find_last_of(" \n", end) + 1; // 0 behind npos
+            const std::size_t first = text.find_last_of(" \n", end) + 1; // npos + 1 is 0
             loss.word = text.substr(first, text.find_first_of(" \n", end) - first);
         }
         end = start + wrapped.line().size();
@@ -46,7 +46,7 @@ WrapLoss lossByWrapping(std::string_view text, const bmpfont& font, int width, i
     return loss;
 }
 
-/// What is wrong with the text in its box; "" when it fits.
+/// Returns how the text does not fit its box, or "" if it does.
 std::string misfit(const AWnd& wnd, std::string_view text, const bmpfont& font)
 {
     const std::string inFont = " in font " + std::to_string(font.getIndex());
@@ -58,16 +58,16 @@ std::string misfit(const AWnd& wnd, std::string_view text, const bmpfont& font)
         if (!loss.word.empty())
             return "loses letters: " + inQuotes(loss.word) + " is " +
                    std::to_string(font.stringLength(loss.word)) + " pixels wide" + inFont +
-                   ", and a line has " + std::to_string(width);
+                   ", but a line has " + std::to_string(width);
         if (!loss.rest.empty())
-            return "has no room in " + size(width, height) + " pixels" + inFont + " from " +
-                   inQuotes(loss.rest) + " on";
+            return "does not fit into " + size(width, height) + " pixels" + inFont + ": it is cut before " +
+                   inQuotes(loss.rest);
     } else if (cutToWidth(&font, text, width, length).size() < text.size()) {
         return "is " + std::to_string(font.stringLength(text)) + " pixels wide" + inFont +
-               ", and its box has " + std::to_string(width);
+               ", but its box has " + std::to_string(width);
     }
     if (font.charHeight > wnd.getWndHeight())
-        return "is " + std::to_string(font.charHeight) + " pixels high" + inFont + ", and its box has " +
+        return "is " + std::to_string(font.charHeight) + " pixels high" + inFont + ", but its box has " +
                std::to_string(wnd.getWndHeight());
     return "";
 }
@@ -83,10 +83,11 @@ void checkItems(TreeCheck& check, AComboBox& combo)
     }
 }
 
-/// Looks into lists, which keep to themselves what their script has set.
+/// Reads protected fields of lists.
 struct ListAccess : AListBox {
     static const CArray<CString>& titlesOf(const AListBox& list) { return list.*(&ListAccess::titles); }
-    /// A title that is not centred runs on over columns to its right that have none.
+    /// Returns the width for a title in pixels. A title that is not centred continues over columns to its
+    /// right that have none.
     static int roomOfTitle(const AListBox& list, int column, int length)
     {
         const bool isCentred = (list.*(&ListAccess::columnJustify)).GetAt(column) == TJ_CENTRE;
@@ -95,8 +96,8 @@ struct ListAccess : AListBox {
     }
 };
 
-/// Which rows the game puts into the list's other fonts nobody knows: what is cut in the narrowest is cut in
-/// all of them. Null when one of them is not known.
+/// Returns the list's font in which the text is narrowest, or null if one of the fonts is unknown. The game
+/// may use any of them for a row; a text that is cut in the narrowest one is cut in all.
 const bmpfont* narrowestFont(const TreeCheck& check, const AListBox& list, std::string_view text)
 {
     const bmpfont* narrowest = list.getFont();
@@ -128,7 +129,7 @@ void checkCells(TreeCheck& check, AListBox& list)
                 lines.add("text-clipped", row, column,
                           "the text " + inQuotes(text) + " in row " + std::to_string(row) + " of " +
                               describe(list) + " is " + std::to_string(width) + " pixels wide in font " +
-                              std::to_string(font->getIndex()) + ", and column " + std::to_string(column) +
+                              std::to_string(font->getIndex()) + ", but column " + std::to_string(column) +
                               " has " + std::to_string(list.getColumnWidth(column)));
         }
 }
@@ -153,7 +154,7 @@ void checkTitles(TreeCheck& check, AListBox& list)
             check.findings.add("text-clipped", *at->script, at->line, column + 1,
                                "the title " + inQuotes(text) + " of " + describe(list) + " is " +
                                    std::to_string(width) + " pixels wide in font " +
-                                   std::to_string(font->getIndex()) + ", and column " +
+                                   std::to_string(font->getIndex()) + ", but column " +
                                    std::to_string(column) + " has " + std::to_string(room));
     }
 }
@@ -161,9 +162,9 @@ void checkTitles(TreeCheck& check, AListBox& list)
 void checkText(TreeCheck& check, AWnd& wnd, const WndLines& lines)
 {
     const bmpfont* font = wnd.getFont();
-    // An edit box shows the part about the caret; raw text is not cut.
+    // An edit box shows the part around the caret; raw text is not cut.
     if (!check.reading.isKnownFont(font) || wnd.getTextRaw() || !lines.text ||
-        wnd.getWindowType() == AWnd::WND_EDITBOX || check.reading.isOfGame(&wnd))
+        wnd.getWindowType() == AWnd::WND_EDITBOX || check.reading.isGameWindow(&wnd))
         return;
     if (wnd.getWindowType() == AWnd::WND_LISTBOX) {
         checkCells(check, static_cast<AListBox&>(wnd));

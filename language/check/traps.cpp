@@ -1,4 +1,4 @@
-// Rules for what is right for the toolkit and looks wrong to a player.
+// Rules for scripts that are valid but probably look or behave wrong.
 
 #include "language/check/tree.h"
 #include "language/check/words.h"
@@ -18,7 +18,7 @@ namespace script_check {
 
 namespace {
 
-/// Pixels that stay between the borders.
+/// Returns how many of size pixels are left between the borders.
 int insideBorders(const AWnd& wnd, int size)
 {
     return size - (wnd.getBorder() ? 2 * wnd.getBorder()->getBorderWidth() : 0);
@@ -26,7 +26,8 @@ int insideBorders(const AWnd& wnd, int size)
 
 // Lists.
 
-/// A row is drawn when at least a pixel is left below it, and takes clicks without that.
+/// Finds a last row that takes clicks but is not drawn. A row is drawn only if at least one pixel is left
+/// below it.
 void checkLastRow(TreeCheck& check, AListBox& list)
 {
     const int room = insideBorders(list, list.getWndHeight());
@@ -36,8 +37,8 @@ void checkLastRow(TreeCheck& check, AListBox& list)
         (rows > 0 && rows < list.getItemsPerPage()))
         return;
     check.add("hidden-last-row", list,
-              describe(list) + " has " + std::to_string(room) + " pixels for rows of " +
-                  std::to_string(rowHeight) + ", and the last one that fits is not drawn; make it " +
+              describe(list) + " has " + std::to_string(room) + " pixels for rows of height " +
+                  std::to_string(rowHeight) + ", and the last row that fits is not drawn; make it " +
                   std::to_string(list.getTextOffsetY() + 1 - room % rowHeight) + " higher");
 }
 
@@ -54,12 +55,13 @@ void checkColumnsFit(TreeCheck& check, AListBox& list)
     if (needed > room)
         check.findings.add("wide-columns", *lines.back().script, lines.back().line,
                            "the columns of " + describe(list) + " take " + std::to_string(needed) +
-                               " pixels with the gaps before them, and it has " + std::to_string(room));
+                               " pixels including the gaps before them, but it has " + std::to_string(room));
 }
 
 // Combo boxes.
 
-/// A menu below the box is cut at the lower edge of the screen, and what is cut cannot be chosen.
+/// Finds a menu that opens below its box and extends below the screen. Items beyond the edge cannot be
+/// chosen.
 void checkMenuFits(TreeCheck& check, AComboBox& combo, const AWnd& top)
 {
     if (!combo.getMenuBelow() || !combo.getMenuAllowed() || combo.getItemCount() == 0 ||
@@ -72,7 +74,7 @@ void checkMenuFits(TreeCheck& check, AComboBox& combo, const AWnd& top)
         check.add("menu-off-screen", combo,
                   "the menu of " + describe(combo) + " ends at " + std::to_string(bottom) +
                       ", below the screen of " + std::to_string(check.screenHeight) +
-                      " pixels, and its last items cannot be chosen; let it open above, without COMBOBELOW");
+                      " pixels, so its last items cannot be chosen; remove COMBOBELOW to open it above");
 }
 
 // Buttons.
@@ -81,10 +83,10 @@ void checkDisabled(TreeCheck& check, AWnd& button)
 {
     for (const LineRef& at : check.linesOn(button, "ENABLED"))
         if (at.script->number(at.line, 1) % 2 == 0)
-            check.findings.add("no-effect", *at.script, at.line,
-                               describe(button) +
-                                   " enables itself when its screen opens; the game disables it with "
-                                   "setButtonState");
+            check.findings.add(
+                "no-effect", *at.script, at.line,
+                describe(button) +
+                    " enables itself when its screen opens; the game can disable it with setButtonState");
 }
 
 void checkStates(TreeCheck& check, AButton& button)
@@ -94,7 +96,7 @@ void checkStates(TreeCheck& check, AButton& button)
     if (radioState && boxState)
         check.add("no-effect", *boxState,
                   "the window \"RadioState\" of " + describe(button) +
-                      " carries its selection, and this state is left alone");
+                      " shows the selection, so this state is not used");
 }
 
 // Texts.
@@ -109,7 +111,7 @@ void checkLineBreaks(TreeCheck& check, AWnd& wnd, const WndLines& lines)
     check.findings.add("line-break", script, lines.text.line,
                        script.isKeyword(lines.text.line, "TEXT") ? 1 : 6,
                        "the text of " + describe(wnd) +
-                           " has a line break and stands on one line; let it wrap with TEXTWRAP 1");
+                           " has a line break but is drawn on one line; wrap it with TEXTWRAP 1");
 }
 
 void checkEditBoxHeight(TreeCheck& check, AWnd& wnd)
@@ -118,8 +120,8 @@ void checkEditBoxHeight(TreeCheck& check, AWnd& wnd)
     if (wnd.getWindowType() == AWnd::WND_EDITBOX && check.reading.isKnownFont(font) &&
         font->charHeight > wnd.getWndHeight())
         check.add("text-clipped", wnd,
-                  "what is typed into " + describe(wnd) + " is " + std::to_string(font->charHeight) +
-                      " pixels high in font " + std::to_string(font->getIndex()) + ", and its box has " +
+                  "the text typed into " + describe(wnd) + " is " + std::to_string(font->charHeight) +
+                      " pixels high in font " + std::to_string(font->getIndex()) + ", but its box has " +
                       std::to_string(wnd.getWndHeight()));
 }
 
@@ -132,47 +134,48 @@ void checkHiddenPages(TreeCheck& check, AWnd& tabs)
         const AWnd* child = tabs.getWndFromIndex(i, "");
         if (!child || AButton::isButton(child))
             continue;
-        if (check.reading.isOfGame(child) || child->isVisible(0))
+        if (check.reading.isGameWindow(child) || child->isVisible(0))
             return;
         ++pages;
     }
     if (pages > 0)
         check.add("tab-pages", tabs,
                   "all pages of " + describe(tabs) +
-                      " are hidden, so that none shows when it opens; leave the first one visible");
+                      " are hidden, so none is shown when it opens; make the first one visible");
 }
 
 // Screens and boxes.
 
-/// Whether something in it takes clicks that the game may act on.
+/// Returns whether the window contains something to click.
 bool hasClickable(TreeCheck& check, AWnd& top)
 {
-    bool found = check.reading.isOfGame(&top);
-    forEachBelow(top, [&](AWnd& wnd) { found = found || isControl(wnd) || check.reading.isOfGame(&wnd); });
+    bool found = check.reading.isGameWindow(&top);
+    forEachBelow(top,
+                 [&](AWnd& wnd) { found = found || isControl(wnd) || check.reading.isGameWindow(&wnd); });
     return found;
 }
 
-/// canLeaveOthers: a screen before it has something to click, so clicks are what leads on in this interface.
-void checkScreen(TreeCheck& check, AWnd& screen, bool isFirst, bool& canLeaveOthers)
+/// hasSeenClickable: an earlier screen has something to click, so the player leaves screens by clicking.
+void checkScreen(TreeCheck& check, AWnd& screen, bool isFirst, bool& hasSeenClickable)
 {
     if (screen.getID().IsEmpty())
         check.add("unnamed-screen", screen,
-                  isFirst ? "the first screen opens without a name too, but nothing can come back to it"
+                  isFirst ? "the first screen opens without a name, but nothing can return to it"
                           : "nothing can open a screen without a name");
-    if (check.reading.lacksLines() || check.reading.isOfGame(&screen) || screen.getWindowCount() == 0)
+    if (check.reading.lacksLines() || check.reading.isGameWindow(&screen) || screen.getWindowCount() == 0)
         return;
     if (hasClickable(check, screen))
-        canLeaveOthers = true;
-    else if (canLeaveOthers)
+        hasSeenClickable = true;
+    else if (hasSeenClickable)
         check.add("no-way-out", screen,
                   "nothing in " + describe(screen) +
-                      " can be clicked; a button TGX_BACK leads back to the screen before");
+                      " can be clicked; a button TGX_BACK returns to the previous screen");
 }
 
-/// The boxes that messageBox and queryBox open.
+/// Checks the boxes that messageBox and queryBox open.
 void checkBox(TreeCheck& check, AWnd& box)
 {
-    if (check.reading.lacksLines() || check.reading.isOfGame(&box) ||
+    if (check.reading.lacksLines() || check.reading.isGameWindow(&box) ||
         (!CString::equalNoCase(box.getID().view(), "MESSAGEBOX") &&
          !CString::equalNoCase(box.getID().view(), "QUERYBOX")))
         return;
@@ -180,23 +183,23 @@ void checkBox(TreeCheck& check, AWnd& box)
     bool closes = false;
     forEachBelow(box, [&](AWnd& wnd) {
         ids.push_back(wnd.getID().view());
-        closes = closes || check.reading.isOfGame(&wnd) || closesPopup(wnd.getID().view());
+        closes = closes || check.reading.isGameWindow(&wnd) || closesPopup(wnd.getID().view());
     });
     if (!closes)
-        check.add("stuck-box", box,
+        check.add("no-close-button", box,
                   "no button of " + describe(box) +
                       " closes it; TGX_OK, TGX_CANCEL, TGX_YES, TGX_NO and TGX_CLOSE do");
     for (const char* part : {"MESSAGEBOXTITLE", "MESSAGEBOXTEXT"})
         if (!box.getWnd(part, 1))
-            check.add("box-part", box,
-                      describe(box) + " has no window " + inQuotes(part) + ", so that text does not show" +
+            check.add("missing-box-part", box,
+                      describe(box) + " has no window " + inQuotes(part) + ", so that text is not shown" +
                           check.findings.didYouMean(part, ids));
 }
 
 void checkWindow(TreeCheck& check, AWnd& wnd, const AWnd& top)
 {
     const WndLines* lines = check.reading.linesOf(&wnd);
-    if (!lines || check.reading.isOfGame(&wnd))
+    if (!lines || check.reading.isGameWindow(&wnd))
         return;
     const AWnd* parent = wnd.getParent();
     auto* list = windowAs<AListBox>(&wnd);
@@ -221,13 +224,13 @@ void checkWindow(TreeCheck& check, AWnd& wnd, const AWnd& top)
 void checkTraps(TreeCheck& check, AWnd& root)
 {
     bool isFirst = true;
-    bool canLeaveOthers = false;
+    bool hasSeenClickable = false;
     for (int i = 0; i < root.getWindowCount(); ++i) {
         AWnd* top = root.getWndFromIndex(i, "");
         if (!top)
             continue;
         if (top->getWindowType() == AWnd::WND_SCREEN)
-            checkScreen(check, *top, std::exchange(isFirst, false), canLeaveOthers);
+            checkScreen(check, *top, std::exchange(isFirst, false), hasSeenClickable);
         else
             checkBox(check, *top);
         checkWindow(check, *top, *top);

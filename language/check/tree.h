@@ -17,35 +17,35 @@ struct Box {
 
     int right() const { return x + w; }
     int bottom() const { return y + h; }
-    bool holds(const Box& other) const
+    bool contains(const Box& other) const
     {
         return other.x >= x && other.y >= y && other.right() <= right() && other.bottom() <= bottom();
     }
-    bool touches(const Box& other) const
+    bool intersects(const Box& other) const
     {
         return other.x < right() && other.y < bottom() && other.right() > x && other.bottom() > y;
     }
 };
 
-/// What the rules for windows work with.
+/// The data that the rules for windows share.
 struct TreeCheck {
     Reading& reading;
     Pictures& pictures;
     Findings& findings;
-    const PointerTargets& shown; // of all scripts
-    bool hasData = false;        // there is a data directory
-    int screenWidth = 0;         // pixels; 0: not known
+    const PointerTargets& pointerTargets; // of all scripts together
+    bool hasData = false;                 // whether there is a data directory
+    int screenWidth = 0;                  // pixels; 0: unknown
     int screenHeight = 0;
-    bool isSizeGiven = false; // in the call; else it is that of the first screen
+    bool isSizeGiven = false; // given in the options; otherwise it is the size of the first screen
 
-    /// About the window, at the line that made it. Nothing for a window without one. Lines in it that failed
-    /// come first.
+    /// Adds a finding about a window at the line that made it. Does nothing if no line made it. Findings
+    /// about lines in it that failed come first.
     void add(const char* code, const AWnd& wnd, std::string text)
     {
         if (const WndLines* lines = reading.linesOf(&wnd); lines && lines->made)
             findings.add(code, *lines->made.script, lines->made.line, 0, std::move(text), lines->failed);
     }
-    /// The lines of that statement that acted on the window, in order.
+    /// Returns the lines with that keyword that acted on the window, in order.
     std::vector<LineRef> linesOn(const AWnd& wnd, std::string_view keyword) const
     {
         std::vector<LineRef> out;
@@ -56,16 +56,16 @@ struct TreeCheck {
     }
 };
 
-/// The ITEM lines of a list or combo box, which are its rows.
+/// Maps the rows of a list or combo box to its ITEM lines.
 class ItemLines {
 public:
     ItemLines(TreeCheck& treeCheck, const AWnd& listWnd, int rowCount)
         : check(treeCheck), list(listWnd), lines(check.linesOn(listWnd, "ITEM"))
     {
         if (lines.size() != static_cast<std::size_t>(rowCount))
-            lines.clear(); // which is which cannot be told
+            lines.clear(); // rows and lines cannot be matched
     }
-    /// About a cell, at its line, or at that of the list.
+    /// Adds a finding about a cell, at its ITEM line if known, else at the line of the list.
     void add(const char* code, int row, int column, std::string text)
     {
         if (lines.empty()) {
@@ -82,30 +82,32 @@ private:
     std::vector<LineRef> lines;
 };
 
-/// Whether a person clicks on it, types into it or chooses in it.
+/// Returns whether the player clicks the window, types into it or selects from it.
 bool isControl(const AWnd& wnd);
-/// Whether its line makes a part that a control finds by a fixed name.
+/// Returns whether the window is part of a control: made by the control itself, or found by it under a fixed
+/// name.
 bool isPart(const TreeCheck& check, const AWnd& wnd);
+/// Returns the window's box relative to its parent.
 Box boxOf(const AWnd& wnd);
 
-// Rules for all windows that a script has made. Each window is looked at once.
+// Rules for all windows that a script has made. Each window is checked once.
 
-/// Windows outside of others, and behind others.
+/// Finds windows that extend beyond their parents, and windows that others cover.
 void checkLayout(TreeCheck& check, AWnd& root);
-/// Texts that their boxes cut, those of rows and titles too.
+/// Finds texts that do not fit their boxes, including those of rows and titles.
 void checkTexts(TreeCheck& check, AWnd& root);
-/// Strips against the pictures that they are cut from.
+/// Finds strips that are too small for their frames.
 void checkStrips(TreeCheck& check, AWnd& root);
-/// Columns, cells and icons of lists, and what belongs to combo boxes.
+/// Checks columns, cells and icons of lists, and the items and menus of combo boxes.
 void checkLists(TreeCheck& check, AWnd& root);
-/// Ids of a screen, radio groups, tabs and pages, what the keyboard reaches.
+/// Checks ids, radio groups, tabs and pages, and which controls the keyboard reaches.
 void checkControls(TreeCheck& check, AWnd& root);
-/// What the toolkit does as it should and its author does not expect.
+/// Finds correct behaviour of the toolkit that the author probably does not expect.
 void checkTraps(TreeCheck& check, AWnd& root);
-/// Those among the children of parent.
+/// Checks the radio groups among the children of parent.
 void checkRadioGroups(TreeCheck& check, AWnd& parent);
 
-/// visit(wnd) for each window below, once, in the order of their lines.
+/// Calls visit(wnd) once for each window below root, in the order of their lines.
 template<class Visit>
 void forEachBelow(AWnd& root, Visit visit)
 {

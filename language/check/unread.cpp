@@ -1,4 +1,4 @@
-// Rules for what a line says and nothing reads.
+// Rules for arguments and lines that the toolkit does not read.
 
 #include "language/check/rules.h"
 
@@ -8,7 +8,7 @@ namespace script_check {
 
 namespace {
 
-/// Arguments that the form names; -1 where the last one may come again and again.
+/// Returns how many arguments the form names, or -1 if the last one may be repeated.
 int argumentsRead(const Statement& statement)
 {
     const std::string_view form = statement.form;
@@ -17,14 +17,14 @@ int argumentsRead(const Statement& statement)
     return form.empty() ? 0 : static_cast<int>(std::count(form.begin(), form.end(), ' ')) + 1;
 }
 
-/// Of statements that take any number of arguments and read the first of them.
+/// Checks statements that accept any number of arguments but only read the first ones.
 void checkRest(const Script& script, int line, const Statement& statement, Findings& findings)
 {
     const int read = argumentsRead(statement);
     if (read >= 0 && statement.counts.allow(script.tokenCount(line)) && script.tokenCount(line) > read + 1)
         findings.add("no-effect", script, line, read + 1,
                      std::string(statement.keyword) + " reads " + std::to_string(read) +
-                         (read == 1 ? " argument" : " arguments") + "; what stands from here on is not read");
+                         (read == 1 ? " argument" : " arguments") + "; it ignores the rest");
 }
 
 } // namespace
@@ -36,7 +36,7 @@ void checkUnread(const Script& script, Findings& findings)
     const bool isLibrary = !script.subroutines.empty() && !isMain(script);
     for (int line = 0; line < script.lineCount(); ++line) {
         const Statement* statement = script.statement(line);
-        if (!statement || script.line(line).isAsItStands)
+        if (!statement || script.line(line).isVerbatim)
             continue;
         checkRest(script, line, *statement, findings);
         const std::string_view keyword = statement->keyword;
@@ -48,11 +48,11 @@ void checkUnread(const Script& script, Findings& findings)
                              "; 0 is normal, 1 opaque, 2 half, 3 additive");
         else if (keyword == "BORDER" && script.tokenCount(line) > 1 && script.string(line, 1).empty())
             findings.add("missing-bitmap", script, line, 1,
-                         "a border is made of a picture, and this names none");
+                         "a border needs a picture, but this name is empty");
         else if (keyword == "FONT" && isLibrary && place.depth == 0 && place.subroutine == LinePlace::none)
             findings.add("no-effect", script, line,
-                         "out of a script with subroutines single windows are read, and this line in none of "
-                         "them; FONT stands in a window's block here");
+                         "windows are read one by one from a script with subroutines, and this line is not "
+                         "part of any; move the FONT into a window's block");
     }
 }
 

@@ -65,8 +65,9 @@ std::string describe(AWnd& wnd)
 std::string noFont(int number, AMainWin& window)
 {
     const int added = window.getFontCount() - 1;
-    return "no ADDFONT fills font " + std::to_string(number) + "; " +
-           (added > 0 ? "there are 0 to " + std::to_string(added) : "there is only 0, the built-in one");
+    return "no ADDFONT defines font " + std::to_string(number) + "; " +
+           (added > 0 ? "there are fonts 0 to " + std::to_string(added)
+                      : "there is only font 0, the built-in one");
 }
 
 std::string size(long long width, long long height)

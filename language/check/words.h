@@ -7,17 +7,17 @@
 
 namespace script_check {
 
-// Windows in words.
+// Descriptions of windows and values for messages.
 
-/// "a list box".
+/// Returns the type with an article, such as "a list box".
 std::string typeOf(const AWnd& wnd);
-/// "a list box or a combo box".
+/// Returns all types that the rule accepts, such as "a list box or a combo box".
 std::string typesOf(const TargetRule& rule);
-/// By its id, or by its type where it has none: "the plain window".
+/// Returns the id in quotes, or the type if it has none, such as "the plain window".
 std::string describe(AWnd& wnd);
-/// For a number that the font table does not hold.
+/// Returns the message for a number that is not in the font table.
 std::string noFont(int number, AMainWin& window);
-/// "120 x 40".
+/// Returns a size such as "120 x 40".
 std::string size(long long width, long long height);
 
 } // namespace script_check

@@ -1,4 +1,4 @@
-// What editors need to colour the text form.
+// Generates the syntax files with which editors highlight the text form.
 
 #include "language/reference/reference.h"
 
@@ -13,12 +13,12 @@ namespace script_text {
 
 namespace {
 
-constexpr const char* madeBy = "Made by `tgx reference` of the vocabulary. Write it anew with: "
-                               "cmake --build build/release --target script_reference";
+constexpr const char* madeBy = "Generated from the vocabulary by `tgx reference`. To regenerate: cmake "
+                               "--build build/release --target script_reference";
 
 using enum StatementKind;
 
-/// The keywords of statements of these kinds, by the alphabet, between dividers.
+/// Returns the keywords of statements of these kinds, in alphabetical order, separated by divider.
 std::string keywords(std::initializer_list<StatementKind> kinds, std::string_view divider)
 {
     std::vector<std::string_view> words;

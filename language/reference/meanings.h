@@ -2,26 +2,27 @@
 
 #include <span>
 
-/// What each statement does, in a line. It stands here and not in the vocabulary, which is part of every
+/// Short descriptions of the statements. They are kept out of the vocabulary, which is linked into every
 /// game.
 namespace script_text {
 
 enum class Family { Blocks, Windows, AnyWindow, TabStops, Buttons, Lists, Displays, Words };
 
 struct Meaning {
-    int id; // of the statement
+    int id; // id of the statement
     Family family;
     const char* text;
-    /// A script of examples/controls/ that shows it, without ending; its picture has the same name. Null for
-    /// none.
+    /// Name, without extension, of a script in examples/controls/ that shows it; its picture has the same
+    /// name. Null if there is none.
     const char* example = nullptr;
 };
 
-/// Family by family, in the order in which a reader meets them best.
+/// Returns all descriptions, grouped by family, in the order of the reference.
 std::span<const Meaning> meanings();
-/// Null when there is none.
+/// Returns the description of a statement, or null if there is none.
 const Meaning* meaningOf(int id);
 
+/// Returns the family's heading in the reference.
 const char* titleOf(Family family);
 
 } // namespace script_text

@@ -1,4 +1,4 @@
-// The script reference: every statement, family by family.
+// Generates the script reference: every statement, grouped by family.
 
 #include "language/reference/reference.h"
 
@@ -15,20 +15,20 @@ namespace {
 
 constexpr const char* head = R"(# Script reference
 
-<!-- Made by `tgx reference` of the vocabulary; write it anew with:
+<!-- Generated from the vocabulary by `tgx reference`. To regenerate:
      cmake --build build/release --target script_reference -->
 
-Every statement of interface scripts. How a script is written, and what windows and blocks are, stands in [script.md](script.md).
+Every statement of interface scripts. For how a script is written, and what windows and blocks are, see [script.md](script.md).
 
-How to read the forms: `"in quotes"` is a string, `lower` a number, `UPPER` a word, `a|B` a number or that word; `[ ]` may be left out, and `...` stands
-for more of the same. A `flag` is the lowest bit of its number. `x y width height` are pixels, from the corner of the window around. A window that a statement
-names is found whatever the case of its name; the name of a subroutine, and that of a window which is read alone out of a script, are compared
-exactly. **Arguments** tells how many a line may have, **byte** the statement's value in the compiled script.
+In the forms below, `"in quotes"` is a string, `lower` a number, `UPPER` a word, and `a|B` a number or that word; `[ ]` is optional, and `...` means
+more of the same. A `flag` is the lowest bit of its number. `x y width height` are in pixels, relative to the parent window. A window that a statement
+names is found regardless of case; the name of a subroutine, and that of a window that is read on its own from a script, are compared
+exactly. **Arguments** is the number of arguments that a line may have, **byte** the statement's value in the compiled script.
 
-The pictures are those of short scripts to begin with, [examples/controls](../examples/controls/README.md).
+The pictures are those of the short scripts in [examples/controls](../examples/controls/README.md).
 )";
 
-/// What GitHub makes of a heading.
+/// Returns the anchor that GitHub generates for a heading.
 std::string anchor(std::string_view heading)
 {
     std::string out;
@@ -64,7 +64,8 @@ const char* nameOf(int type)
     }
 }
 
-/// "Only on a list box or combo box; elsewhere the line fails.", or nothing.
+/// Returns "Only on a list box or combo box; elsewhere the line fails." or similar, or an empty text if the
+/// statement fits any window.
 std::string targetSentence(const TargetRule& rule)
 {
     std::vector<std::string> types;
@@ -80,7 +81,8 @@ std::string targetSentence(const TargetRule& rule)
                                                       : "; elsewhere the line does nothing.");
 }
 
-/// Link to the script that shows the statement, with its picture where the statement makes one.
+/// Returns a link to the script that shows the statement, with the script's picture if the statement makes a
+/// window.
 std::string exampleOf(const Statement& statement, const Meaning& meaning)
 {
     if (!meaning.example)
@@ -99,7 +101,7 @@ std::string entry(const Statement& statement, const Meaning& meaning)
                       "\n\n" + meaning.text + targetSentence(statement.target) + "\n\n";
     const std::string allowed = allowedArguments(statement.counts);
     if (statement.kind == StatementKind::ArgumentWord)
-        out += "Stands behind `JUSTIFY` and `COLUMNS`. Byte";
+        out += "Used after `JUSTIFY` and in `COLUMNS`. Byte";
     else
         out += "Arguments: " + (allowed == "no" ? "none" : allowed) + ". Byte";
     char hex[8];
@@ -107,7 +109,7 @@ std::string entry(const Statement& statement, const Meaning& meaning)
     return out + ": " + std::to_string(statement.id) + ", " + hex + ".\n" + exampleOf(statement, meaning);
 }
 
-/// Every keyword by the alphabet, as links.
+/// Returns links to all keywords, in alphabetical order.
 std::string index()
 {
     std::vector<const char*> keywords;

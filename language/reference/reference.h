@@ -4,16 +4,16 @@
 
 struct Statement;
 
-/// Documents that are made of the vocabulary.
+/// Documents that are generated from the vocabulary.
 namespace script_text {
 
-/// The reference shows a picture of what such a statement makes.
+/// Returns whether the statement makes or shows a window. The reference shows a picture for each of these.
 bool makesWindow(const Statement& statement);
-/// docs/script-reference.md.
+/// Returns the contents of docs/script-reference.md.
 std::string referenceDocument();
-/// editors/vim/syntax/tgs.vim.
+/// Returns the contents of editors/vim/syntax/tgs.vim.
 std::string vimSyntax();
-/// editors/textmate/tgs.tmLanguage.json.
+/// Returns the contents of editors/textmate/tgs.tmLanguage.json.
 std::string textMateGrammar();
 
 } // namespace script_text

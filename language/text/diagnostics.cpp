@@ -8,10 +8,10 @@ namespace script_text {
 
 namespace {
 
-// Of a long line only the part about the place is shown.
-constexpr std::size_t mostShown = 110;
-constexpr std::size_t shownBefore = 60;
-constexpr std::size_t longestWord = 60;
+// Of a long line, only the part around the place is shown. In bytes.
+constexpr std::size_t maxShown = 110;
+constexpr std::size_t contextBefore = 60;
+constexpr std::size_t maxWordLength = 60;
 
 constexpr std::string_view noColour = "\x1B[0m";
 constexpr std::string_view bold = "\x1B[1m";
@@ -24,7 +24,7 @@ bool continuesCharacter(char byte)
     return (byte & 0xC0) == 0x80;
 }
 
-/// The next character, as it stands when a terminal can be trusted with it.
+/// Removes the next character from text and returns it, or "?" if it could confuse a terminal.
 std::string takeShown(std::string_view& text)
 {
     const std::string_view before = text;
@@ -44,15 +44,15 @@ std::string in(std::string_view colour, const std::string& text, Colour wanted)
     return wanted == Colour::No ? text : std::string(colour) + text + std::string(noColour);
 }
 
-/// The line, and below it a mark under the place.
+/// Returns the source line and, below it, a mark under the place.
 std::string excerpt(const Place& place, Colour colour)
 {
     std::string_view line = place.in->file->line(place.line);
     const auto offset = std::min(static_cast<std::size_t>(place.at.offset), line.size());
-    std::size_t begin = offset > shownBefore && line.size() > mostShown ? offset - shownBefore : 0;
+    std::size_t begin = offset > contextBefore && line.size() > maxShown ? offset - contextBefore : 0;
     while (begin > 0 && continuesCharacter(line[begin]))
         --begin;
-    std::size_t end = std::min(begin + mostShown, line.size());
+    std::size_t end = std::min(begin + maxShown, line.size());
     while (end < line.size() && continuesCharacter(line[end]))
         ++end;
 
@@ -62,7 +62,7 @@ std::string excerpt(const Place& place, Colour colour)
     int marked = 0;
     while (!rest.empty()) {
         const std::size_t at = end - rest.size();
-        if (rest[0] == '\t') { // as wide in both lines
+        if (rest[0] == '\t') { // equally wide in both lines
             rest.remove_prefix(1);
             text += '\t';
             if (at < offset) {
@@ -77,7 +77,7 @@ std::string excerpt(const Place& place, Colour colour)
         else if (marked < place.at.length)
             mark += marked++ == 0 ? '^' : '~';
     }
-    if (marked == 0) // behind the line's last character
+    if (marked == 0) // the place is after the last character
         mark += '^';
     if (end < line.size())
         text += "...";
@@ -90,7 +90,7 @@ std::string excerpt(const Place& place, Colour colour)
 
 SourceFile::SourceFile(std::string name_, std::string text_) : name(std::move(name_)), text(std::move(text_))
 {
-    if (text.starts_with("\xEF\xBB\xBF")) // some editors begin a file so
+    if (text.starts_with("\xEF\xBB\xBF")) // some editors write a byte order mark
         text.erase(0, 3);
     for (std::size_t start = 0; start < text.size();) {
         lineStarts.push_back(start);
@@ -133,7 +133,7 @@ std::string describe(const Diagnostic& diagnostic, Colour colour)
 std::string shown(std::string_view word)
 {
     std::string out;
-    while (!word.empty() && out.size() < longestWord)
+    while (!word.empty() && out.size() < maxWordLength)
         out += takeShown(word);
     return word.empty() ? out : out + "...";
 }

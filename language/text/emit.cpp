@@ -1,4 +1,4 @@
-// Statements to bytes, and what goes with them.
+// Compiles statements to bytes, and writes the map and the depfile.
 
 #include "language/text/emit.h"
 
@@ -20,7 +20,7 @@ void append(std::string& bytes, const Token& token)
     }
 }
 
-/// A file name as make and ninja read it.
+/// Returns a file name escaped for make and ninja.
 std::string escaped(const std::string& path)
 {
     std::string out;

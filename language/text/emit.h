@@ -9,16 +9,17 @@ namespace script_text {
 
 struct Emitted {
     std::string bytes;
-    std::vector<std::size_t> offsets; // of each line in bytes
+    std::vector<std::size_t> offsets; // where each line starts in bytes
 };
 
-/// The compiled script. Only of a script without errors.
+/// Returns the compiled script. The script must have no errors.
 Emitted emit(const ParsedScript& script);
 
-/// The side map: a text line for each line of the compiled script, "OFFSET LINE FILE".
+/// Returns the map for `tgx build --map`: a text line "OFFSET LINE FILE" for each line of the compiled
+/// script.
 std::string sideMap(const ParsedScript& script, const Emitted& emitted);
 
-/// A rule of make: output depends on what the script includes, and on input.
+/// Returns a make rule that says that output depends on input and on the files that the script includes.
 std::string dependencies(const std::string& output, const std::string& input, const ParsedScript& script);
 
 } // namespace script_text

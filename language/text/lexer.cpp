@@ -1,4 +1,4 @@
-// A line of text to its pieces: words, numbers, strings.
+// Splits a line of text into words, numbers and strings.
 
 #include "language/text/lexer.h"
 
@@ -27,7 +27,7 @@ std::optional<unsigned char> hexByte(std::string_view digits)
     return value;
 }
 
-/// "U+00E9", or "0xE9".
+/// Formats value as "U+00E9" or "0xE9", depending on the format.
 std::string hex(const char* format, std::uint32_t value)
 {
     char out[16];
@@ -40,8 +40,8 @@ std::size_t utf8Length(std::uint32_t character)
     return character < 0x80 ? 1 : character < 0x800 ? 2 : character < 0x10000 ? 3 : 4;
 }
 
-/// What of word looks like a blank or like nothing, so that the word as such explains no message; null when
-/// there is none.
+/// Describes a character of the word that looks like a blank or is invisible, or returns null if there is
+/// none. A message that only quoted such a word would not explain the error.
 const char* invisibleIn(std::string_view word)
 {
     if (word.find("\xC2\xA0") != std::string_view::npos)
@@ -86,14 +86,14 @@ public:
     LexedLine out;
 
 private:
-    /// Where pos stands. Asked for from left to right only, so that a line is counted once.
+    /// Returns the position of pos. Called from left to right only, so that each line is counted once.
     Span here()
     {
         for (; counted < pos; ++counted)
             column += (line[counted] & 0xC0) != 0x80;
         return {static_cast<int>(pos), column, 1};
     }
-    /// Lets it reach to pos.
+    /// Ends the span at pos.
     void close(Span& span) { span.length = here().column - span.column; }
 
     void fault(const Span& at, std::string text) { out.faults.push_back({at, std::move(text)}); }
@@ -118,7 +118,7 @@ private:
         const std::string_view word = takeWord();
         close(at);
         if (const char* const invisible = invisibleIn(word)) {
-            fault(at, "this word holds " + std::string(invisible) + "; expected a blank or nothing there");
+            fault(at, "this word contains " + std::string(invisible) + "; use a blank or remove it");
             out.lexemes.push_back({Lexeme::Faulty, std::string(word), 0, at});
         } else if (word[0] == '-' || std::isdigit(static_cast<unsigned char>(word[0])))
             readNumber(word, at);
@@ -149,39 +149,38 @@ private:
         Span at = here();
         ++pos;
         std::string bytes;
-        isBroken = false;
-        foreignCount = 0;
+        hasInvalidUtf8 = false;
+        unencodableCount = 0;
         while (pos < line.size() && line[pos] != '"')
             bytes += takeCharacter();
-        reportForeign();
+        reportUnencodable();
         const bool isOpen = pos == line.size();
         pos += !isOpen;
         close(at);
         if (isOpen)
             fault({at.offset, at.column, 1},
                   std::string("this string has no end; expected \" before the end of the line") +
-                      (bytes.ends_with('"')
-                           ? "; \\\" is a quotation mark in the string, a backslash in front "
-                             "of its end is written \\\\"
-                           : ""));
+                      (bytes.ends_with('"') ? "; \\\" is a quotation mark inside the string, and a backslash "
+                                              "before its end is written \\\\"
+                                            : ""));
         out.lexemes.push_back({Lexeme::String, std::move(bytes), 0, at});
     }
 
-    /// Once for a string: a text in another language has many.
-    void reportForeign()
+    /// Reports characters that code page 1252 lacks once per string: a text in another script has many.
+    void reportUnencodable()
     {
-        if (foreignCount == 0)
+        if (unencodableCount == 0)
             return;
-        const int others = foreignCount - 1;
-        fault(firstForeign.at,
-              firstForeign.what +
+        const int others = unencodableCount - 1;
+        fault(firstUnencodable.at,
+              firstUnencodable.what +
                   (others == 0   ? " has"
                    : others == 1 ? " and another one of this text have"
                                  : " and " + std::to_string(others) + " others of this text have") +
-                  " no byte in code page 1252; expected one that has, or \\x and two digits");
+                  " no byte in code page 1252; use another character, or \\x and two digits");
     }
 
-    /// The byte that the string's next character stands for.
+    /// Returns the byte for the string's next character.
     char takeCharacter()
     {
         Span at = here();
@@ -197,7 +196,7 @@ private:
                 c = static_cast<char>(*byte);
             } else if (line[pos] == '"' || line[pos] == '\\') {
                 c = line[pos++];
-            } // else it stands for itself
+            } // otherwise the backslash is an ordinary character
         }
         if (c == 0) {
             close(at);
@@ -214,31 +213,31 @@ private:
         const std::string_view source = line.substr(pos, length);
         if (length != utf8Length(character) || (character == 0xFFFD && source != "\xEF\xBF\xBD")) {
             const auto byte = static_cast<unsigned char>(source[0]);
-            if (!isBroken) // a text in another encoding has many
+            if (!hasInvalidUtf8) // once per string: a text in another encoding has many
                 fault(at, "the byte " + hex("0x%02X", byte) +
                               " is not UTF-8; save the text as UTF-8, or write " + hex("\\x%02X", byte));
-            isBroken = true;
+            hasInvalidUtf8 = true;
             ++pos;
             return '?';
         }
         pos += length;
         const std::optional<char> byte = to1252(character);
-        if (!byte && foreignCount++ == 0)
-            firstForeign = {at, "the character " + shown(source) + " (" + hex("U+%04X", character) + ")"};
+        if (!byte && unencodableCount++ == 0)
+            firstUnencodable = {at, "the character " + shown(source) + " (" + hex("U+%04X", character) + ")"};
         return byte.value_or('?');
     }
 
     std::string_view line;
     std::size_t pos = 0;
-    std::size_t counted = 0; // bytes whose characters column has counted
+    std::size_t counted = 0; // bytes included in column
     int column = 1;
-    bool isBroken = false; // the string, its first broken byte reported
-    struct Foreign {
+    bool hasInvalidUtf8 = false; // the current string; its first invalid byte has been reported
+    struct Unencodable {
         Span at;
         std::string what;
     };
-    Foreign firstForeign;
-    int foreignCount = 0; // characters of the string that the code page does not have
+    Unencodable firstUnencodable;
+    int unencodableCount = 0; // characters of the current string that the code page does not have
 };
 
 } // namespace

@@ -8,13 +8,13 @@
 
 namespace script_text {
 
-/// A piece of a line: what can be told without knowing any keyword.
+/// A piece of a line, recognised without knowing any keyword.
 struct Lexeme {
     enum Kind { Word, Number, String, Faulty };
 
     Kind kind;
-    std::string text; // a word as it stands, the characters of a string in code page 1252
-    short value = 0;  // of a number
+    std::string text; // a word as written, or a string's characters in code page 1252
+    short value = 0;  // if it is a number
     Span at;
 };
 
@@ -23,16 +23,17 @@ struct Fault {
     std::string text;
 };
 
-/// A line, cut up to its comment.
+/// The pieces of a line, without its comment.
 struct LexedLine {
     std::vector<Lexeme> lexemes;
     std::vector<Fault> faults;
 };
 
+/// Splits a line into lexemes.
 LexedLine lex(std::string_view line);
 
-/// The unfinished line's bytes, written as two hexadecimal digits each, from offset to the line's end. Faults
-/// are appended.
+/// Reads bytes, written as two hexadecimal digits each, from offset to the end of the line. Appends to
+/// faults.
 std::string lexBytes(std::string_view line, std::size_t offset, std::vector<Fault>& faults);
 
 } // namespace script_text

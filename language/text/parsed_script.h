@@ -11,8 +11,8 @@
 
 struct Statement;
 
-/// The text form of scripts, read: its statements in the order in which they are compiled, each with its
-/// place. INCLUDE and DEFINE are resolved, comments and blank lines are gone.
+/// A parsed script in text form: its statements in the order in which they are compiled, each with its place.
+/// INCLUDE and DEFINE are resolved; comments and blank lines are removed.
 ///
 ///     ParsedScript script = parse("menu.tgs", text, readFile);
 ///     for (const StatementLine& line : script.lines)
@@ -22,38 +22,38 @@ struct Statement;
 ///         std::cerr << describe(each);
 namespace script_text {
 
-/// One token as it goes into the compiled script.
+/// One token of the compiled script.
 struct Token {
     unsigned char id = 0; // numberToken, stringToken or a keyword's id
-    short value = 0;      // of a number
-    std::string text;     // of a string: bytes of code page 1252, no 0 among them
-    Span at;              // where it stands; a DEFINE's value where its name is used
+    short value = 0;      // if it is a number
+    std::string text;     // if it is a string: bytes of code page 1252, none of them 0
+    Span at;              // position in the source; for the value of a DEFINE, where its name is used
 };
 
-/// What becomes one line of the compiled script.
+/// A source line that becomes one line of the compiled script.
 struct StatementLine {
     const Inclusion* in = nullptr;
-    int number = 0;            // of the line in its file, 1 for the first
-    bool isAsItStands = false; // begins with @: whoever wrote it knows that it is unusual
-    std::vector<Token> tokens; // the keyword first; none for the line EMPTY
+    int number = 0;            // of the line in its file, counted from 1
+    bool isVerbatim = false;   // begins with @: the author knows that it is unusual
+    std::vector<Token> tokens; // the keyword first; empty for the line EMPTY
 
-    /// Row of its keyword; null when it begins with none.
+    /// Returns the vocabulary's row for the line's keyword, or null if it does not begin with one.
     const Statement* statement() const;
-    /// For a message about that token, 0 the keyword. There has to be one.
+    /// Returns the place for a message about that token, which must exist. Token 0 is the keyword.
     Place placeOf(std::size_t token) const { return {in, number, tokens[token].at}; }
 };
 
-/// The text of the file at path, or nothing and why not.
+/// Returns the text of the file at path, or nothing and sets reason.
 using ReadFile = std::function<std::optional<std::string>(const std::string& path, std::string& reason)>;
 
 struct ParsedScript {
-    std::vector<StatementLine> lines; // those without an error
-    std::string unfinished;           // bytes of a last line that has no end
+    std::vector<StatementLine> lines; // the lines without an error
+    std::string unfinished;           // bytes of an incomplete last line
     std::vector<Diagnostic> diagnostics;
-    /// Each file that an INCLUDE names, once, also when it could not be read.
+    /// Every file that an INCLUDE names, once each, including files that could not be read.
     std::vector<std::string> included;
 
-    // What places point to: the script may be moved, and not copied.
+    // Places point to these, so the script can be moved but not copied.
     std::deque<SourceFile> files;
     std::deque<Inclusion> inclusions; // the script itself first
 
@@ -64,17 +64,17 @@ struct ParsedScript {
     bool hasErrors() const;
 };
 
-/// Reads text, which is UTF-8, with all that it includes. path is where it comes from and how messages name
-/// it; INCLUDE counts from its folder. A text without a file bears a name without a folder, "stdin".
+/// Parses text, which is UTF-8, and everything that it includes. path is the file's name in messages; INCLUDE
+/// is relative to its folder. For a text without a file, pass a name without a folder, such as "stdin".
 ParsedScript parse(const std::string& path, std::string text, const ReadFile& read);
 
-// Notation that parse and print share.
+// Notation shared by parse and print.
 
-/// A line without a token.
+/// Stands for a line without a token.
 constexpr std::string_view emptyLine = "EMPTY";
-/// The bytes behind the last whole line, which the toolkit's reader drops, as hexadecimal numbers.
+/// Precedes the hexadecimal bytes of an incomplete last line, which the toolkit's reader drops.
 constexpr std::string_view unfinishedMark = "#! unfinished:";
-/// Alone in front of a line: it is built as it stands. With a decimal number: the id of a keyword.
-constexpr char asItStands = '@';
+/// On its own before a line: the line is built unchecked. Followed by a decimal number: a keyword's id.
+constexpr char verbatimMark = '@';
 
 } // namespace script_text

@@ -1,4 +1,4 @@
-// Lines of text to statements: words become tokens, INCLUDE and DEFINE what they stand for.
+// Parses lines of text into statements: turns words into tokens, and resolves INCLUDE and DEFINE.
 
 #include "language/text/parsed_script.h"
 
@@ -25,11 +25,11 @@ constexpr std::string_view defineWord = "DEFINE";
 constexpr const char* includeForm = "expected: INCLUDE \"file\"";
 constexpr const char* defineForm = "expected: DEFINE NAME value";
 
-// A few lines that include each other's files twice would otherwise make a text without end.
-constexpr int deepestInclude = 64;
-constexpr std::size_t mostText = 4u << 20; // bytes
-// To look for what was meant takes time, and a text with so many faults is no script.
-constexpr int mostSuggestions = 200;
+// Without these limits a few files that include each other twice would produce an endless text.
+constexpr int maxIncludeDepth = 64;
+constexpr std::size_t maxTextBytes = 4u << 20; // bytes
+// Searching for suggestions takes time, and a text with more unknown words than this is not a script.
+constexpr int maxSuggestions = 200;
 
 struct Definition {
     Token value;
@@ -78,41 +78,41 @@ private:
                 const Span& at, std::string text)
     {
         Diagnostic diagnostic{severity, {&inclusion, number, at}, std::move(text), code};
-        // A file that is included twice has its faults once.
+        // The errors of a file that is included twice are reported once.
         if (!inclusion.from || reported.insert(headline(diagnostic)).second)
             out.diagnostics.push_back(std::move(diagnostic));
     }
-    /// In the present line, which is not built.
+    /// Reports an error in the current line, which is then not built.
     void error(const char* code, const Span& at, std::string text)
     {
-        isGood = false;
+        isLineValid = false;
         report(Diagnostic::Error, code, *in, lineNumber, at, std::move(text));
     }
 
-    /// Why a text has no lines to read; null when it has.
-    static const char* unreadable(std::string_view text)
+    /// Returns why a text cannot be read line by line, or null if it can.
+    static const char* whyUnreadable(std::string_view text)
     {
         if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF"))
             return "the text is UTF-16; save it as UTF-8";
         const std::size_t end = text.find('\r');
         if (end != std::string_view::npos && end + 1 < text.size() &&
             text.find('\n') == std::string_view::npos)
-            return "the lines end in CR alone; save the text with LF or CR LF";
+            return "the lines end with CR only; save the text with LF or CR LF";
         return nullptr;
     }
 
     void readFileLines(const Inclusion& inclusion)
     {
-        if (const char* const why = unreadable(inclusion.file->text)) {
+        if (const char* const why = whyUnreadable(inclusion.file->text)) {
             in = &inclusion;
             lineNumber = 1;
             error("syntax", {0, 1, 1}, why);
-            isIncludeMissing = true; // what it defines is not known
+            isIncludeMissing = true; // its DEFINEs are not known
             return;
         }
         const int count = inclusion.file->lineCount();
         for (int number = 1; number <= count; ++number) {
-            in = &inclusion; // an INCLUDE in the line before has changed them
+            in = &inclusion; // an INCLUDE in the previous line has changed both
             lineNumber = number;
             readLine(inclusion.file->line(number));
         }
@@ -120,7 +120,7 @@ private:
 
     void readLine(std::string_view line)
     {
-        isGood = true;
+        isLineValid = true;
         const std::size_t start = std::min(line.find_first_not_of(" \t"), line.size());
         if (line.substr(start).starts_with(unfinishedMark)) {
             readUnfinished(line, start);
@@ -133,7 +133,7 @@ private:
         if (lexemes.empty())
             return;
         if (isUnfinished)
-            error("syntax", lexemes[0].at, "a line behind the unfinished one; that one comes last");
+            error("syntax", lexemes[0].at, "a line after the unfinished one, which must be the last");
 
         const std::string_view first = lexemes[0].kind == Lexeme::Word ? lexemes[0].text : std::string_view();
         if (first == includeWord)
@@ -146,28 +146,27 @@ private:
 
     void readStatement(const std::vector<Lexeme>& lexemes, std::string_view first)
     {
-        StatementLine line{in, lineNumber, first.starts_with(asItStands), {}};
-        const bool isMarked = first.size() == 1 && line.isAsItStands;
+        StatementLine line{in, lineNumber, first.starts_with(verbatimMark), {}};
+        const bool isMarked = first.size() == 1 && line.isVerbatim;
         if (isMarked && lexemes.size() == 1)
-            error("syntax", lexemes[0].at,
-                  "expected a line behind the @, which says to build it as it stands");
+            error("syntax", lexemes[0].at, "expected a line after the @, which builds it unchecked");
         const bool isEmptyLine = first == emptyLine;
         if (isEmptyLine && lexemes.size() > 1)
-            error("syntax", lexemes[0].at, "EMPTY is a line without a token; it stands alone");
+            error("syntax", lexemes[0].at, "EMPTY is a line without a token and takes no arguments");
         const Statement* statement = statementByKeyword(first);
         const std::size_t begin = isMarked || isEmptyLine ? 1 : 0;
         for (std::size_t i = begin; i < lexemes.size(); ++i)
             if (std::optional<Token> token = resolve(lexemes[i], i - begin, statement))
                 line.tokens.push_back(std::move(*token));
-        if (isGood && !line.isAsItStands)
+        if (isLineValid && !line.isVerbatim)
             for (LineFault& each : lineFaults(line.tokens))
                 error(each.code, line.tokens[each.token].at, std::move(each.text));
-        if (isGood)
+        if (isLineValid)
             out.lines.push_back(std::move(line));
     }
 
-    /// Nothing when it stands for no token; that is reported. position is its own in the line, 0 the keyword;
-    /// statement is the line's, null when that is not known.
+    /// Returns the token for a lexeme, or nothing after reporting why there is none. position is the lexeme's
+    /// index in the line, 0 for the keyword; statement is that of the line, or null if unknown.
     std::optional<Token> resolve(const Lexeme& lexeme, std::size_t position, const Statement* statement)
     {
         switch (lexeme.kind) {
@@ -175,12 +174,12 @@ private:
             return Token{numberToken, lexeme.value, {}, lexeme.at};
         case Lexeme::String:
             return Token{stringToken, 0, lexeme.text, lexeme.at};
-        case Lexeme::Faulty: // reported; what follows keeps its position
+        case Lexeme::Faulty: // already reported; the following arguments keep their positions
             return Token{numberToken, 0, {}, lexeme.at};
         default:
             break;
         }
-        if (lexeme.text[0] == asItStands)
+        if (lexeme.text[0] == verbatimMark)
             return resolveId(lexeme);
         if (const Statement* keyword = statementByKeyword(lexeme.text))
             return Token{static_cast<unsigned char>(keyword->id), 0, {}, lexeme.at};
@@ -211,23 +210,23 @@ private:
     void reportUnknown(const Lexeme& lexeme, std::size_t position, const Statement* statement)
     {
         const std::string word = shown(lexeme.text);
-        if (isKeyword(lexeme.text)) { // one that only the tool knows
-            error("syntax", lexeme.at, word + " begins a line of its own");
+        if (isKeyword(lexeme.text)) { // INCLUDE, DEFINE or EMPTY
+            error("syntax", lexeme.at, word + " must be the first word of a line");
         } else if (!isNameLike(lexeme.text)) {
             error("syntax", lexeme.at, "expected a keyword, a \"string\" or a number, found " + word);
         } else if (position == 0) {
             error("unknown-keyword", lexeme.at,
                   definitions.contains(lexeme.text)
-                      ? word + " is a DEFINE, which stands for an argument; expected a keyword"
+                      ? word + " is a DEFINE, which is only valid as an argument; expected a keyword"
                       : "unknown keyword " + word + didYouMean(lexeme.text, keywords()));
-        } else if (isIncludeMissing) { // which may define it; one fault is enough
-            isGood = false;
+        } else if (isIncludeMissing) { // the missing file may define it; one error is enough
+            isLineValid = false;
         } else {
             const std::string suggestion = didYouMean(lexeme.text, argumentNames());
             std::string text = "unknown name " + word + suggestion;
             const char* divider = suggestion.empty() ? "; " : " "; // it ends with a question mark
             if (statement && argumentKind(*statement, static_cast<int>(position)) == ArgumentKind::String) {
-                text += std::string(divider) + "a string stands in quotes";
+                text += std::string(divider) + "a string needs quotes";
                 divider = "; ";
             }
             error("unknown-name", lexeme.at,
@@ -257,7 +256,7 @@ private:
 
     std::string didYouMean(std::string_view word, const std::vector<std::string_view>& names)
     {
-        if (suggestions == mostSuggestions)
+        if (suggestions == maxSuggestions)
             return "";
         ++suggestions;
         const std::string_view near = nearest(word, names);
@@ -283,18 +282,18 @@ private:
         const auto known = definitions.find(name.text);
         if (known != definitions.end()) {
             const Place& place = known->second.place;
-            // The same line, in a file that is included once more.
+            // Not an error if it is the same line, in a file that is included again.
             if (place.in->file != in->file || place.line != lineNumber)
                 error("define", name.at,
-                      shown(name.text) + " is defined already, at " + shown(place.in->file->name) + ':' +
+                      shown(name.text) + " is already defined at " + shown(place.in->file->name) + ':' +
                           std::to_string(place.line));
             return;
         }
         if (value && value->id != numberToken && value->id != stringToken)
             error("define", value->at, std::string("the value is a number or a string; ") + defineForm);
-        // A name whose value is wrong counts as defined: it is not reported again at each use.
+        // A name with an invalid value counts as defined, so that its uses are not reported too.
         definitions[name.text] = {
-            value.value_or(Token{numberToken, 0, {}, {}}), {in, lineNumber, name.at}, !isGood};
+            value.value_or(Token{numberToken, 0, {}, {}}), {in, lineNumber, name.at}, !isLineValid};
     }
 
     void include(const std::vector<Lexeme>& lexemes)
@@ -307,12 +306,12 @@ private:
             isIncludeMissing = true;
             return;
         }
-        if (!isGood)
+        if (!isLineValid)
             return;
         std::replace(name->text.begin(), name->text.end(), '\\', '/');
         const std::filesystem::path folder = std::filesystem::path(in->file->name).parent_path();
         const SourceFile* file = open(normal(folder / utf8From1252(name->text)), name->at);
-        if (!file || !mayEnter(*file, name->at)) {
+        if (!file || !canInclude(*file, name->at)) {
             isIncludeMissing = true;
             return;
         }
@@ -321,7 +320,7 @@ private:
         readFileLines(out.inclusions.back());
     }
 
-    /// Null when it cannot be read.
+    /// Returns null after reporting an error if the file cannot be read.
     const SourceFile* open(const std::string& path, const Span& at)
     {
         const auto [known, isNew] = filesByPath.emplace(path, nullptr);
@@ -336,24 +335,25 @@ private:
         return nullptr;
     }
 
-    bool mayEnter(const SourceFile& file, const Span& at)
+    bool canInclude(const SourceFile& file, const Span& at)
     {
         std::string ring = shown(file.name);
         int depth = 1;
         for (const Inclusion* each = in; each; each = each->from, ++depth) {
             ring = shown(each->file->name) + " -> " + ring;
             if (each->file == &file) {
-                error("include", at, "a ring of includes: " + ring);
+                error("include", at, "files include each other: " + ring);
                 return false;
             }
         }
-        if (depth > deepestInclude)
-            error("include", at, "more than " + std::to_string(deepestInclude) + " files include each other");
-        else if (totalText + file.text.size() > mostText)
+        if (depth > maxIncludeDepth)
             error("include", at,
-                  "the script with all that it includes grows above " + std::to_string(mostText >> 20) +
+                  "INCLUDE lines are nested more than " + std::to_string(maxIncludeDepth) + " deep");
+        else if (totalText + file.text.size() > maxTextBytes)
+            error("include", at,
+                  "the script and its included files are larger than " + std::to_string(maxTextBytes >> 20) +
                       " MiB");
-        return isGood;
+        return isLineValid;
     }
 
     void readUnfinished(std::string_view line, std::size_t start)
@@ -362,14 +362,14 @@ private:
         const Span at{static_cast<int>(start), static_cast<int>(start) + 1,
                       static_cast<int>(unfinishedMark.size())};
         if (isUnfinished)
-            error("syntax", at, "a second unfinished line; there is one at most, and it comes last");
+            error("syntax", at, "a second unfinished line; there can be only one, at the end");
         isUnfinished = true;
         out.unfinished += lexBytes(line, start + unfinishedMark.size(), faults);
         for (Fault& each : faults)
             error("syntax", each.at, std::move(each.text));
-        if (isGood && out.unfinished.empty())
+        if (isLineValid && out.unfinished.empty())
             error("syntax", at,
-                  "expected bytes as two hexadecimal digits each behind the mark, such as 71 04");
+                  "expected bytes after the mark, as two hexadecimal digits each, such as 71 04");
     }
 
     void warnOfUnused()
@@ -387,18 +387,18 @@ private:
 
     ParsedScript& out;
     const ReadFile& read;
-    std::unordered_map<std::string, const SourceFile*> filesByPath; // null: could not be read
+    std::unordered_map<std::string, const SourceFile*> filesByPath; // null if it could not be read
     std::map<std::string, Definition, std::less<>> definitions;
     std::unordered_set<std::string> reported; // headlines, in included files
-    std::size_t totalText = 0;                // bytes, each file as often as it is included
+    std::size_t totalText = 0;                // bytes; each file counts as often as it is included
     int suggestions = 0;
     bool isUnfinished = false;
-    bool isIncludeMissing = false; // what it would use is not known
+    bool isIncludeMissing = false; // its contents, and which names it uses, are unknown
 
-    // The present line.
+    // The current line.
     const Inclusion* in = nullptr;
     int lineNumber = 0;
-    bool isGood = true; // so far
+    bool isLineValid = true; // so far
 };
 
 } // namespace

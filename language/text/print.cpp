@@ -1,4 +1,4 @@
-// Bytes to text.
+// Prints a compiled script in text form.
 
 #include "language/text/print.h"
 
@@ -16,12 +16,12 @@ namespace {
 
 constexpr char hexDigits[] = "0123456789ABCDEF";
 
-/// Whether it can be seen, and stands in a string as it is.
+/// Returns whether the character is visible and can be printed in a string without an escape.
 bool isPlain(char c)
 {
     const auto byte = static_cast<unsigned char>(c);
-    const bool isUnseen = byte < 0x20 || byte == 0x7F || byte == 0xA0 || byte == 0xAD;
-    return !isUnseen && unicodeOf(byte) != 0;
+    const bool isInvisible = byte < 0x20 || byte == 0x7F || byte == 0xA0 || byte == 0xAD;
+    return !isInvisible && unicodeOf(byte) != 0;
 }
 
 std::string quoted(std::string_view text)
@@ -32,7 +32,7 @@ std::string quoted(std::string_view text)
         if (c == '"') {
             out += "\\\"";
         } else if (c == '\\') {
-            // Only where what follows would make an escape of it; file names stay as they are.
+            // Escaped only where the next character would make it an escape; file names stay readable.
             const char next = i + 1 < text.size() ? text[i + 1] : '"';
             out += next == '"' || next == '\\' || next == 'x' || !isPlain(next) ? "\\\\" : "\\";
         } else if (!isPlain(text[i])) {
@@ -44,7 +44,7 @@ std::string quoted(std::string_view text)
     return out += '"';
 }
 
-/// Collects a line's tokens.
+/// Collects the tokens of a line.
 struct LineReader {
     std::vector<Token> tokens;
 
@@ -62,7 +62,7 @@ std::string wordFor(const Token& token)
     if (token.id == stringToken)
         return quoted(token.text);
     const Statement* statement = statementById(token.id);
-    return statement ? statement->keyword : asItStands + std::to_string(token.id);
+    return statement ? statement->keyword : verbatimMark + std::to_string(token.id);
 }
 
 std::string lineOf(const std::vector<Token>& tokens)
@@ -72,8 +72,8 @@ std::string lineOf(const std::vector<Token>& tokens)
     std::string out = wordFor(tokens[0]);
     for (std::size_t i = 1; i < tokens.size(); ++i)
         out += ' ' + wordFor(tokens[i]);
-    if (out[0] != asItStands && !lineFaults(tokens).empty())
-        out = std::string{asItStands, ' '} + out;
+    if (out[0] != verbatimMark && !lineFaults(tokens).empty())
+        out = std::string{verbatimMark, ' '} + out;
     return out;
 }
 
@@ -93,8 +93,8 @@ std::string print(std::string_view bytes)
         pos = next;
         if (line.beginsWith(keyword::end))
             depth = std::max(depth - 1, 0);
-        // Deeper than statements can stand, more indentation only makes the text grow with the square of its
-        // lines.
+        // Statements cannot be nested deeper than this; further indentation would only make the text grow
+        // with the square of the number of lines.
         out.append(static_cast<std::size_t>(4 * std::min(depth, wndStackSize)), ' ');
         out += lineOf(line.tokens) + '\n';
         if (line.beginsWith(keyword::begin))
@@ -111,7 +111,7 @@ std::string print(std::string_view bytes)
 }
 
 const char* const notation = R"(The text form, in UTF-8:
-  One statement a line: a keyword, then its arguments, divided by blanks.
+  Each line is one statement: a keyword, then its arguments, separated by blanks.
     SCREEN "MENU" 0 0 640 480 "menu.bmp"
     BEGIN
         TEXTWND "TITLE" 10 10 300 40 "Harbour"   # a comment
@@ -119,20 +119,19 @@ const char* const notation = R"(The text form, in UTF-8:
             JUSTIFY CENTRE
         END
     END
-  "text"       a string of characters that code page 1252 has. In it \" is a quotation
-               mark, \\ a backslash and \xE9 the byte with that hexadecimal value; any
-               other backslash stands for itself, so that file names are written as they
-               are: "uig\bar.bmp"
+  "text"       a string of characters of code page 1252. \" is a quotation mark, \\ a
+               backslash, and \xE9 the byte with that hexadecimal value. Any other
+               backslash is literal, so file names rarely need escapes: "uig\bar.bmp"
   -12, 0x1F    a number, -32768 to 32767 or 0x0 to 0xFFFF
-  LEFT CENTRE RIGHT   words that JUSTIFY and COLUMNS take
-  # ...        a comment, to the end of the line; empty lines do nothing
-  DEFINE NAME value   from here on NAME, as an argument, is that number or string
-  INCLUDE "file"      the lines of that file stand here; it is sought from the folder of
-                      the file that names it
-What only a dump of an unusual script needs:
-  @ WINDOW 1   a line with arguments that the toolkit will refuse, built as it stands
-  @65          a keyword byte by its number
+  LEFT CENTRE RIGHT   words for JUSTIFY and COLUMNS
+  # ...        a comment, to the end of the line; empty lines are ignored
+  DEFINE NAME value   makes NAME stand for that number or string in the lines that follow
+  INCLUDE "file"      inserts the lines of that file; the path is relative to the folder
+                      of the file with the INCLUDE
+Used only in dumps of unusual scripts:
+  @ WINDOW 1   a line with arguments that the toolkit refuses, built unchecked
+  @65          a keyword's byte by its number
   EMPTY        a line without a token
-  #! unfinished: 71 04   the bytes of a last line that has no end; they come last)";
+  #! unfinished: 71 04   the bytes of an incomplete last line, at the end of the file)";
 
 } // namespace script_text

@@ -5,11 +5,11 @@
 
 namespace script_text {
 
-/// The text form of a compiled script, whatever its bytes are. parse and emit make the same bytes of it,
-/// without a message.
+/// Returns the text form of a compiled script. Works for any bytes: parse and emit reproduce them, without a
+/// message.
 std::string print(std::string_view bytes);
 
-/// The rules of the text form, for --help.
+/// Describes the text form, for --help.
 extern const char* const notation;
 
 } // namespace script_text

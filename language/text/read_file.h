@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-/// Nothing, and why, when it cannot be read.
+/// Returns the contents of a file, or nothing and sets reason if it cannot be read. The name "-" is stdin.
 std::optional<std::string> readFile(const std::string& name, std::string& reason);
-/// The same for a file that a script names: devices and pipes are refused, they may have no end.
+/// Does the same for a file that a script names. Refuses devices and pipes, which may be endless.
 std::optional<std::string> readIncluded(const std::string& name, std::string& reason);

@@ -19,13 +19,13 @@ std::string upper(std::string_view word)
     return out;
 }
 
-constexpr std::size_t mostCompared = 40; // letters of a word; what is longer is no keyword
+constexpr std::size_t maxCompared = 40; // letters of a word; no keyword is longer
 
-/// Letters to change, insert, leave out or swap with their neighbour to make b of a, both of mostCompared
-/// letters at most.
+/// Returns how many letters must be changed, inserted, removed or swapped with a neighbour to turn a into b.
+/// Both have at most maxCompared letters.
 std::size_t editDistance(std::string_view a, std::string_view b)
 {
-    using Row = std::array<std::size_t, mostCompared + 1>;
+    using Row = std::array<std::size_t, maxCompared + 1>;
     Row before{}, above{}, row{};
     std::iota(row.begin(), row.end(), std::size_t{0});
     for (std::size_t i = 1; i <= a.size(); ++i) {
@@ -70,13 +70,14 @@ bool fits(ArgumentKind kind, int id)
     }
 }
 
-/// How many arguments make sense. The toolkit itself takes a GOTO without a name, which goes nowhere.
+/// Returns whether a line may have this many tokens. Unlike the toolkit, rejects a GOTO without a name, which
+/// does nothing.
 bool allows(const Statement& statement, int tokens)
 {
     return statement.counts.allow(tokens) && (tokens > 1 || std::string_view(statement.keyword) != "GOTO");
 }
 
-/// The word of the form for that argument; empty after the last one.
+/// Returns the form's word for that argument, or an empty text after the last one.
 std::string_view formWord(std::string_view form, int argument)
 {
     for (; argument > 1 && !form.empty(); --argument)
@@ -94,7 +95,7 @@ std::string expectedForm(const Statement& statement)
     for (int argument = 1; !form.empty(); ++argument) {
         const std::string_view word = form.substr(0, form.find(' '));
         form.remove_prefix(std::min(word.size() + 1, form.size()));
-        // A line that may end in front of this one makes it and what follows optional.
+        // If the line may end before this argument, it and those after it are optional.
         const bool isOptional = word != "..." && allows(statement, argument);
         out += isOptional ? " [" : " ";
         open += isOptional;
@@ -123,7 +124,7 @@ std::vector<LineFault> lineFaults(const std::vector<Token>& tokens)
         return {};
     const Statement* statement = statementById(tokens[0].id);
     if (!statement || statement->kind == StatementKind::ArgumentWord)
-        return {{0, "no statement begins so; expected a keyword", "unknown-keyword"}};
+        return {{0, "no statement begins like this; expected a keyword", "unknown-keyword"}};
     const int count = static_cast<int>(tokens.size());
     if (count > maxLineTokens)
         return {{static_cast<std::size_t>(maxLineTokens),
@@ -156,13 +157,13 @@ std::vector<LineFault> lineFaults(const std::vector<Token>& tokens)
 
 std::string_view nearest(std::string_view word, const std::vector<std::string_view>& names)
 {
-    const std::string wanted = upper(word.substr(0, mostCompared));
+    const std::string wanted = upper(word.substr(0, maxCompared));
     std::size_t least = std::max<std::size_t>(2, wanted.size() / 3) + 1;
     std::string_view best;
     for (std::string_view name : names) {
-        const std::string other = upper(name.substr(0, mostCompared));
+        const std::string other = upper(name.substr(0, maxCompared));
         if (std::max(wanted.size(), other.size()) - std::min(wanted.size(), other.size()) >= least)
-            continue; // so many letters more cannot be near
+            continue; // the lengths differ too much
         const std::size_t distance = editDistance(wanted, other);
         if (distance < least) {
             least = distance;

@@ -7,25 +7,24 @@
 #include <string_view>
 #include <vector>
 
-/// What the vocabulary says of a line, in words.
+/// Messages about a line, made from the vocabulary.
 namespace script_text {
 
-/// The keyword and its arguments, those that may be left out in brackets:
-/// POINTER "window" ["script"].
+/// Returns the keyword and its arguments, with optional ones in brackets: POINTER "window" ["script"].
 std::string expectedForm(const Statement& statement);
-/// "6 or 10", "2 or more", "no".
+/// Returns the allowed numbers of arguments, such as "6 or 10", "2 or more" or "no".
 std::string allowedArguments(const TokenCounts& counts);
 
 struct LineFault {
-    std::size_t token; // the first one that is wrong, 0 the keyword
+    std::size_t token; // the first invalid token, 0 for the keyword
     std::string text;
-    const char* code; // as in Diagnostic
+    const char* code; // see Diagnostic::code
 };
-/// Why the toolkit would refuse a line of these tokens, or read an argument as 0 or as an empty text.
-/// Empty when it would not; also for no token at all.
+/// Returns the reasons why the toolkit would refuse a line of these tokens, or would read an argument as 0 or
+/// as an empty text. Returns nothing for a valid line and for an empty one.
 std::vector<LineFault> lineFaults(const std::vector<Token>& tokens);
 
-/// The one of names that word was probably meant to be; empty when none is near. Case counts for nothing.
+/// Returns the name that word was probably meant to be, or an empty text if none is similar. Ignores case.
 std::string_view nearest(std::string_view word, const std::vector<std::string_view>& names);
 
 } // namespace script_text

@@ -11,7 +11,7 @@ namespace script_text {
 
 namespace {
 
-/// As short as a message can name it from the working directory.
+/// Returns the path relative to the working directory if it is below it, else unchanged.
 std::string shortest(const fs::path& path)
 {
     std::error_code failure;

@@ -6,14 +6,14 @@
 
 namespace script_text {
 
-/// Of ASCII letters, as names of scripts are compared.
+/// Returns text with its ASCII letters in lower case, as names of scripts are compared.
 std::string lowered(std::string_view text);
-/// The files of that folder with that ending, in lower case with its dot, in the order of their names; none
-/// when it cannot be read. Named as short as the working directory allows.
+/// Returns the files of a folder with that ending (lower case, with the dot), sorted by name; none if the
+/// folder cannot be read. Paths are relative to the working directory where they are below it.
 std::vector<std::string> filesIn(const std::string& folder, std::string_view ending);
-/// The name below UIG that a text is compiled to: "menu.tgx" for "scripts/menu.tgs".
+/// Returns the name of the compiled script below UIG: "menu.tgx" for "scripts/menu.tgs".
 std::string compiledName(const std::string& textFile);
-/// UIG of the data directory as the machine names it, in whatever case; empty when there is none.
+/// Returns the path of the data directory's folder UIG, whatever its case; empty if there is none.
 std::string scriptFolder();
 
 } // namespace script_text

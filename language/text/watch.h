@@ -7,18 +7,18 @@
 
 namespace script_text {
 
-/// Tells whether files have changed since they were first looked at: written, replaced, removed or come.
+/// Detects files that have been written, replaced, removed or created since they were added.
 class WatchedFiles {
 public:
-    /// Looks at them now.
+    /// Records the current state of the files.
     explicit WatchedFiles(const std::vector<std::string>& paths);
-    /// Looks at one more now.
+    /// Records the current state of one more file.
     void add(const std::string& path);
     bool haveChanged() const;
 
 private:
     struct State {
-        std::filesystem::file_time_type time; // the smallest one when there is no file
+        std::filesystem::file_time_type time; // the earliest possible time if there is no file
         std::uintmax_t size;
 
         bool operator==(const State&) const = default;

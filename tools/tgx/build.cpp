@@ -18,8 +18,8 @@
 
 namespace {
 
-constexpr int wrongCall = 2;
-constexpr int wrongInput = 1;
+constexpr int usageError = 2;
+constexpr int inputError = 1;
 constexpr std::chrono::milliseconds watchInterval(200);
 
 struct BuildOptions {
@@ -33,10 +33,10 @@ struct BuildOptions {
 int refuse(const std::string& why)
 {
     std::cerr << "tgx build: " << why << '\n';
-    return wrongCall;
+    return usageError;
 }
 
-/// What one build came to, for the line that tells of it.
+/// The result of one build, for the line that --watch prints.
 struct Outcome {
     int status = 0;
     std::string summary;
@@ -46,9 +46,9 @@ Outcome buildOnce(const BuildOptions& options, script_text::WatchedFiles& watche
 {
     const std::optional<std::string> text = readInput(options.input);
     if (!text)
-        return {wrongInput, "cannot be read"};
+        return {inputError, "cannot be read"};
     const auto read = [&](const std::string& path, std::string& reason) {
-        watched.add(path); // before it is read: a change on the way is not missed
+        watched.add(path); // before it is read, so that no change is missed
         return readIncluded(path, reason);
     };
     const script_text::ParsedScript script =
@@ -64,7 +64,7 @@ Outcome buildOnce(const BuildOptions& options, script_text::WatchedFiles& watche
                                           [](const script_text::Diagnostic& each) {
                                               return each.severity == script_text::Diagnostic::Error;
                                           });
-        return {wrongInput, counted(errors, "error") + ", " + options.output + " is left as it was"};
+        return {inputError, counted(errors, "error") + ", " + options.output + " is unchanged"};
     }
     const script_text::Emitted emitted = script_text::emit(script);
     std::vector<Output> outputs{{options.output, emitted.bytes}};
@@ -74,13 +74,13 @@ Outcome buildOnce(const BuildOptions& options, script_text::WatchedFiles& watche
         outputs.push_back(
             {options.depfile, script_text::dependencies(options.output, options.input, script)});
     if (!writeOutputs(outputs))
-        return {wrongInput, "not written"};
+        return {inputError, "not written"};
     return {0, counted(static_cast<std::ptrdiff_t>(emitted.bytes.size()), "byte") + " in " + options.output};
 }
 
 volatile std::sig_atomic_t isInterrupted = 0;
 
-/// Until Ctrl-C.
+/// Builds whenever a file changes, until Ctrl-C. Returns the exit status.
 int watch(const BuildOptions& options)
 {
     for (int each : {SIGINT, SIGTERM})
@@ -88,8 +88,8 @@ int watch(const BuildOptions& options)
     while (!isInterrupted) {
         script_text::WatchedFiles watched({options.input});
         const Outcome outcome = buildOnce(options, watched);
-        if (outcome.status == wrongCall)
-            return wrongCall;
+        if (outcome.status == usageError)
+            return usageError;
         const std::time_t now = std::time(nullptr);
         char clock[16];
         std::strftime(clock, sizeof clock, "%H:%M:%S", std::localtime(&now));
@@ -100,14 +100,14 @@ int watch(const BuildOptions& options)
     return 0;
 }
 
-/// Whether a file is where games look for their scripts.
+/// Returns whether a file is where games look for their scripts.
 bool isAmongScripts(const std::string& file)
 {
     const std::filesystem::path path = std::filesystem::absolute(file).lexically_normal();
     return script_text::lowered(path.parent_path().filename().string()) == "uig";
 }
 
-/// Exit status.
+/// Returns the exit status.
 int build(BuildOptions options)
 {
     if (options.output.empty())
@@ -118,23 +118,24 @@ int build(BuildOptions options)
         options.map = options.output + ".map"; // where whoever plays the script looks for it
     std::vector<std::string> files{options.input};
     for (const std::string& target : {options.output, options.map, options.depfile}) {
-        if (target.empty() || (target == "-" && files.size() == 1)) // stdin is no target
+        if (target.empty() || (target == "-" && files.size() == 1)) // "-" as input and output is not one file
             continue;
         for (const std::string& other : files)
             if (isSameFile(target, other))
                 return refuse(other == options.input
-                                  ? target + " would be overwritten by its own output; name another with -o"
-                                  : "two outputs go to " + target);
+                                  ? target +
+                                        " would be overwritten by its own output; choose another name with -o"
+                                  : "two outputs have the name " + target);
         files.push_back(target);
     }
     if (!options.depfile.empty() && options.output == "-")
-        return refuse("--depfile names the output; give it a name with -o");
+        return refuse("--depfile needs the name of the output; set it with -o");
     if (!options.isWatching) {
         script_text::WatchedFiles none({});
         return buildOnce(options, none).status;
     }
     if (options.input == "-" || options.output == "-" || options.map == "-" || options.depfile == "-")
-        return refuse("--watch takes files only, not stdin or stdout");
+        return refuse("--watch only works with files, not with stdin or stdout");
     return watch(options);
 }
 
@@ -149,22 +150,21 @@ void addBuild(CLI::App& app)
         ->type_name("IN.tgs");
     command
         ->add_option("-o,--output", options->output,
-                     "Compiled script; - for stdout. IN with the ending .tgx if not given")
+                     "Compiled script; - for stdout. Defaults to IN with the extension .tgx")
         ->type_name("OUT.tgx");
     command
-        ->add_option(
-            "--map", options->map,
-            "Write where each line of the compiled script comes from: OFFSET LINE FILE, a line each. "
-            "OUT.tgx.map if OUT.tgx goes into a folder UIG")
+        ->add_option("--map", options->map,
+                     "Write the source of each line of the compiled script, one per line: OFFSET LINE FILE. "
+                     "Defaults to OUT.tgx.map if OUT.tgx goes into a folder UIG")
         ->type_name("FILE");
     command
         ->add_option("--depfile", options->depfile,
-                     "Write what the output depends on, as a rule that make and ninja read")
+                     "Write the dependencies of the output as a rule for make and ninja")
         ->type_name("FILE");
     command->add_flag("--watch", options->isWatching,
-                      "Build again whenever the script or what it includes changes, until Ctrl-C");
+                      "Build again whenever the script or an included file changes, until Ctrl-C");
     command->footer(std::string("Example: tgx build menu.tgs -o game/UIG/menu.tgx\n\n"
-                                "All errors are reported, and nothing is written when there is one.\n\n") +
+                                "Reports all errors. Nothing is written if there are any.\n\n") +
                     script_text::notation);
     command->callback([options] {
         if (const int status = build(*options))

@@ -19,8 +19,8 @@ namespace {
 
 using script_text::Diagnostic;
 
-constexpr int wrongCall = 2;
-constexpr int wrongInput = 1;
+constexpr int usageError = 2;
+constexpr int inputError = 1;
 
 struct CheckArguments {
     std::vector<std::string> inputs;
@@ -32,7 +32,7 @@ struct CheckArguments {
 int refuse(const std::string& why)
 {
     std::cerr << "tgx check: " << why << '\n';
-    return wrongCall;
+    return usageError;
 }
 
 std::string unknownCode(const std::string& name)
@@ -42,7 +42,7 @@ std::string unknownCode(const std::string& name)
         names.emplace_back(code.name);
     const std::string_view near = script_text::nearest(name, names);
     return "there is no code " + script_text::shown(name) +
-           (near.empty() ? "; --explain lists them all" : "; did you mean " + std::string(near) + "?");
+           (near.empty() ? "; --explain lists all codes" : "; did you mean " + std::string(near) + "?");
 }
 
 int explain(const std::string& name)
@@ -66,7 +66,7 @@ std::optional<std::string> readScript(const std::string& name, std::string& reas
 int check(const CheckArguments& arguments)
 {
     if (arguments.inputs.empty())
-        return refuse("expected a script or a folder of scripts; --help tells more");
+        return refuse("expected a script or a folder of scripts; see --help");
     for (const std::string& code : arguments.options.allowed)
         if (!script_check::codeCalled(code))
             return refuse(unknownCode(code));
@@ -93,7 +93,7 @@ int check(const CheckArguments& arguments)
     for (const std::string& each : problems)
         std::cerr << each << '\n';
     if (scripts == 0)
-        return problems.empty() ? refuse("no script (*.tgs, *.tgx) found") : wrongInput;
+        return problems.empty() ? refuse("no script (*.tgs, *.tgx) found") : inputError;
 
     std::vector<const Diagnostic*> findings;
     for (const script_check::CheckReport& report : reports)
@@ -111,64 +111,64 @@ int check(const CheckArguments& arguments)
     });
     const auto warnings = static_cast<std::ptrdiff_t>(findings.size()) - errors;
     if (lacksData)
-        std::cerr << "note: pictures and fonts are not looked at; name the data directory with --data\n";
+        std::cerr << "note: pictures and fonts are not checked; set the data directory with --data\n";
     if (broken > 0)
-        std::cerr << "note: " << counted(broken, "script") << (broken == 1 ? " has" : " have")
-                  << " lines that are refused; how its lines work together has not been looked at\n";
+        std::cerr << "note: " << counted(broken, "script") << " with invalid lines "
+                  << (broken == 1 ? "was" : "were") << " only checked line by line\n";
     std::cerr << counted(errors, "error") << ", " << counted(warnings, "warning") << " in "
               << counted(scripts, "script") << '\n';
-    return !problems.empty() || errors > 0 || (arguments.warningsAreErrors && warnings > 0) ? wrongInput : 0;
+    return !problems.empty() || errors > 0 || (arguments.warningsAreErrors && warnings > 0) ? inputError : 0;
 }
 
 } // namespace
 
 void addCheck(CLI::App& app)
 {
-    CLI::App* command = app.add_subcommand("check", "Find what is wrong with scripts, without playing them");
+    CLI::App* command = app.add_subcommand("check", "Find mistakes in scripts without playing them");
     auto arguments = std::make_shared<CheckArguments>();
     auto explained = std::make_shared<std::string>();
     command
-        ->add_option("input", arguments->inputs,
-                     "Scripts, source or compiled, and folders: all scripts below are checked; - for stdin")
+        ->add_option(
+            "input", arguments->inputs,
+            "Scripts, in text form or compiled, and folders, with all scripts below them; - for stdin")
         ->type_name("FILE-OR-DIR");
     command
-        ->add_option(
-            "--data", arguments->options.dataDirectory,
-            "Data directory, where pictures and fonts lie. The folder above UIG for scripts that lie in "
-            "a folder of that name")
+        ->add_option("--data", arguments->options.dataDirectory,
+                     "Data directory with pictures and fonts. Defaults to the parent of the folder UIG that "
+                     "contains the scripts")
         ->check(CLI::ExistingDirectory)
         ->type_name("DIR");
     addSizeOption(*command, arguments->options.screenWidth, arguments->options.screenHeight);
     command->get_option("--size")->description(
-        "Size of the screen in pixels; that of the first SCREEN if not given");
+        "Size of the screen in pixels. Defaults to that of the first SCREEN");
     command
         ->add_option("--fonts", arguments->options.fonts,
-                     "Fonts that the game adds in code, in front of the scripts'")
+                     "Number of fonts that the game adds in code before the scripts' fonts")
         ->check(CLI::Range(0, 255))
         ->type_name("N");
     command
         ->add_option(
             "--allow", arguments->options.allowed,
-            "Codes of findings to pass over everywhere, such as those of compiled scripts; may be given "
-            "again")
+            "Codes of findings to ignore everywhere, for example in compiled scripts; can be repeated")
         ->delimiter(',')
         ->type_name("CODE,...");
     command->add_flag("--unused-files", arguments->options.unusedFiles,
-                      "Also find pictures and fonts that no script names");
-    command->add_flag("--json", arguments->isJson, "Print the findings as one JSON array, for editors");
+                      "Also report pictures and fonts that no script names");
+    command->add_flag("--json", arguments->isJson, "Print the findings as a JSON array, for editors");
     command->add_flag("-W,--warnings-as-errors", arguments->warningsAreErrors,
-                      "Warnings make the exit status 1 too");
+                      "Exit with status 1 for warnings too");
     CLI::Option* explain_option =
         command
             ->add_option("--explain", *explained,
-                         "Tell more about a code of a finding; all of them without CODE")
+                         "Explain the code of a finding; without CODE, list all codes")
             ->expected(0, 1)
             ->type_name("[CODE]");
-    command->footer("Example: tgx check game/UIG\n"
-                    "         tgx check --explain text-clipped\n\n"
-                    "Findings go to stdout, each with its place and a code. A comment in the line before\n"
-                    "silences one: # tgx: allow CODE\n"
-                    "Exit status: 0 no error found, 1 an error (with -W also a warning), 2 a wrong call.");
+    command->footer(
+        "Example: tgx check game/UIG\n"
+        "         tgx check --explain text-clipped\n\n"
+        "Findings are printed to stdout, each with its place and a code. A comment on the line before\n"
+        "silences a finding: # tgx: allow CODE\n"
+        "Exit status: 0 no errors, 1 errors (with -W also warnings), 2 invalid usage.");
     command->callback([arguments, explained, explain_option] {
         const int status = explain_option->count() > 0 ? explain(*explained) : check(*arguments);
         if (status != 0)

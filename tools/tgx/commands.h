@@ -4,12 +4,12 @@ namespace CLI {
 class App;
 }
 
-// Each adds one subcommand to the program. Its callback ends with exit status 0, or throws CLI::RuntimeError
-// with another: 1 the input is at fault, 2 the call is.
+// Each function adds one subcommand to the program. The subcommand's callback returns for exit status 0, or
+// throws CLI::RuntimeError with status 1 (invalid input) or 2 (invalid usage).
 void addBuild(CLI::App& app);
 void addDump(CLI::App& app);
 void addCheck(CLI::App& app);
 void addPlay(CLI::App& app);
 void addTest(CLI::App& app);
 void addView(CLI::App& app);
-void addReference(CLI::App& app); // hidden: the build of this repository asks for it
+void addReference(CLI::App& app); // hidden; only the build of this repository uses it

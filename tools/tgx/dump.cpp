@@ -18,15 +18,17 @@ void addDump(CLI::App& app)
     command->add_option("input", options->input, "Compiled script; - for stdin")
         ->required()
         ->type_name("IN.tgx");
-    command->add_option("-o,--output", options->output, "Text; stdout if not given")->type_name("OUT.tgs");
+    command->add_option("-o,--output", options->output, "Script in text form; stdout by default")
+        ->type_name("OUT.tgs");
     command->footer(
-        std::string("Example: tgx dump game/UIG/menu.tgx -o menu.tgs\n\n"
-                    "Every file has a text form, and tgx build makes the same bytes of it again.\n\n") +
+        std::string(
+            "Example: tgx dump game/UIG/menu.tgx -o menu.tgs\n\n"
+            "Every compiled script has a text form from which tgx build makes the same bytes again.\n\n") +
         script_text::notation);
     command->callback([options] {
         if (options->input != "-" && isSameFile(options->input, options->output)) {
             std::cerr << "tgx dump: " << options->input
-                      << " would be overwritten by its own text; name another with -o\n";
+                      << " would be overwritten by its own text; choose another name with -o\n";
             throw CLI::RuntimeError(2);
         }
         const std::optional<std::string> bytes = readInput(options->input);

@@ -18,7 +18,7 @@ bool failed(const std::string& name, const std::string& reason)
     return false;
 }
 
-/// False for stdout, devices and pipes, which are written as they are.
+/// Returns false for stdout, devices and pipes, which are written directly.
 bool isReplaced(const std::string& name)
 {
     std::error_code none;

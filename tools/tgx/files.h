@@ -6,15 +6,17 @@
 #include <string>
 #include <vector>
 
-// Files of the command line; "-" is stdin or stdout. What goes wrong is told on stderr.
+// Files named on the command line; "-" is stdin or stdout. Errors are reported on stderr.
 
-/// Nothing when it cannot be read.
+/// Returns the contents of the file, or nothing if it cannot be read.
 std::optional<std::string> readInput(const std::string& name);
 struct Output {
     std::string name;
     std::string bytes;
 };
-/// Writes all of them or, where one cannot be written, none: beside each file, then renamed. False then.
+/// Writes all outputs, or returns false and writes none if one cannot be written. Each is written to a
+/// temporary file, which is then renamed.
 bool writeOutputs(const std::vector<Output>& outputs);
-/// Whether two names mean one file, also one that is not there yet. Empty names mean none.
+/// Returns whether two names refer to the same file, even if it does not exist yet. Empty names refer to no
+/// file.
 bool isSameFile(const std::string& a, const std::string& b);

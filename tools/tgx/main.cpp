@@ -10,21 +10,21 @@
 
 namespace {
 
-constexpr int wrongInput = 1;
-constexpr int wrongCall = 2;
+constexpr int inputError = 1;
+constexpr int usageError = 2;
 
-/// One line; the command that it is about in front.
+/// Returns a one-line message that starts with the command that it is about.
 std::string wrongCallText(const CLI::App* app, const CLI::Error& error)
 {
     const std::vector<const CLI::App*> commands = app->get_subcommands({});
     const auto chosen =
         std::find_if(commands.begin(), commands.end(), [](const CLI::App* each) { return each->parsed(); });
     const std::string name = chosen == commands.end() ? "tgx" : "tgx " + (*chosen)->get_name();
-    return name + ": " + error.what() + "; " + name + " --help tells more\n";
+    return name + ": " + error.what() + "; see " + name + " --help\n";
 }
 
-/// Why there is no command of that name; "" when there is one.
-std::string whyNoCommand(const CLI::App& app, const std::string& name)
+/// Returns a message if there is no command of that name, or "" if there is one.
+std::string unknownCommandText(const CLI::App& app, const std::string& name)
 {
     std::vector<std::string> names;
     for (const CLI::App* each : app.get_subcommands({})) {
@@ -33,13 +33,13 @@ std::string whyNoCommand(const CLI::App& app, const std::string& name)
         if (!each->get_group().empty()) // hidden
             names.push_back(each->get_name());
     }
-    std::string text = "no command " + script_text::shown(name) + "; there are";
+    std::string text = "no command " + script_text::shown(name) + "; the commands are";
     for (std::size_t i = 0; i < names.size(); ++i)
         text += (i == 0 ? " " : i + 1 == names.size() ? " and " : ", ") + names[i];
     return text;
 }
 
-/// Exit status.
+/// Returns the exit status.
 int parseAndRun(CLI::App& app, int argc, char** argv)
 {
     try {
@@ -47,24 +47,21 @@ int parseAndRun(CLI::App& app, int argc, char** argv)
         if (!app.get_subcommands().empty())
             return 0;
         std::cerr << app.help();
-        return wrongCall;
+        return usageError;
     } catch (const CLI::RuntimeError& ended) {
         return ended.get_exit_code();
     } catch (const CLI::ParseError& ended) {
-        return app.exit(ended) == 0 ? 0 : wrongCall; // help and version end here too
+        return app.exit(ended) == 0 ? 0 : usageError; // --help and --version also end here
     }
 }
 
 int run(int argc, char** argv)
 {
-    CLI::App app(
-        "The bench of whoever writes an interface: compiles its scripts, shows what is in them, checks and "
-        "plays them.",
-        "tgx");
+    CLI::App app("Compiles, dumps, checks, plays and shows interface scripts.", "tgx");
     app.set_version_flag("--version", "tgx " TGX_VERSION);
-    app.require_subcommand(0, 1); // that there is one is asked below: none at all gets the help
-    app.footer("tgx COMMAND --help tells more about each.\n"
-               "Exit status: 0 done, 1 the input is at fault, 2 the call is.");
+    app.require_subcommand(0, 1); // parseAndRun prints the help if there is none
+    app.footer("For details of a command, see tgx COMMAND --help.\n"
+               "Exit status: 0 success, 1 invalid input, 2 invalid usage.");
     app.failure_message(wrongCallText);
     addBuild(app);
     addDump(app);
@@ -75,14 +72,14 @@ int run(int argc, char** argv)
     addReference(app);
 
     if (argc > 1 && argv[1][0] != '-') {
-        if (const std::string why = whyNoCommand(app, argv[1]); !why.empty()) {
+        if (const std::string why = unknownCommandText(app, argv[1]); !why.empty()) {
             std::cerr << "tgx: " << why << '\n';
-            return wrongCall;
+            return usageError;
         }
     }
     tgx::removeNewFilesOnSignals();
     const int status = parseAndRun(app, argc, argv);
-    return tgx::hasWrittenStdout("tgx") ? status : std::max(status, wrongInput);
+    return tgx::hasWrittenStdout("tgx") ? status : std::max(status, inputError);
 }
 
 } // namespace
@@ -92,5 +89,5 @@ try {
     return run(argc, argv);
 } catch (const std::bad_alloc&) {
     std::cerr << "tgx: out of memory\n";
-    return wrongCall;
+    return usageError;
 }

@@ -14,13 +14,14 @@ void addReference(CLI::App& app)
         std::string output = "-";
     };
     CLI::App* command =
-        app.add_subcommand("reference", "Print what is made of the tables of statements and findings")
+        app.add_subcommand("reference",
+                           "Print documents generated from the tables of statements and findings")
             ->group("");
     auto options = std::make_shared<ReferenceOptions>();
-    command->add_option("form", options->form, "The document, or the syntax file of an editor")
+    command->add_option("form", options->form, "The document, or the editor whose syntax file to print")
         ->required()
         ->check(CLI::IsMember({"markdown", "check", "vim", "textmate"}));
-    command->add_option("-o,--output", options->output, "stdout if not given")->type_name("FILE");
+    command->add_option("-o,--output", options->output, "Output file; stdout by default")->type_name("FILE");
     command->callback([options] {
         const std::string text = options->form == "markdown" ? script_text::referenceDocument()
                                  : options->form == "check"  ? script_check::referenceDocument()

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <string>
 
-/// Yes when stream is a terminal that shows colours, and the user has not asked for none (NO_COLOR).
+/// Returns Yes if stream is a terminal with colours and the environment variable NO_COLOR is not set.
 script_text::Colour colourFor(std::FILE* stream);
-/// "1 error", "2 errors".
+/// Returns a count with its noun, such as "1 error" or "2 errors".
 std::string counted(std::ptrdiff_t count, const char* what);

@@ -8,7 +8,7 @@
 
 void addTest(CLI::App& app)
 {
-    CLI::App* command = app.add_subcommand("test", "Play every events file below a folder, side by side");
+    CLI::App* command = app.add_subcommand("test", "Play all events files below a folder, in parallel");
     auto options = std::make_shared<TestOptions>();
     addTestArguments(*command, *options);
     command->callback([options] {

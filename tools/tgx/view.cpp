@@ -19,10 +19,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int wrongCall = 2;
+constexpr int usageError = 2;
 constexpr int colourBits = 32;
 
-volatile std::sig_atomic_t isInterrupted = 0; // the window closes, and a recording is written
+volatile std::sig_atomic_t isInterrupted = 0; // by a signal: closes the window, so that a recording is saved
 
 struct ViewOptions {
     std::string data;
@@ -34,7 +34,7 @@ struct ViewOptions {
     DevToolsOptions devTools;
 };
 
-/// A game without classes or reactions of its own, which opens on the screen that was asked for.
+/// A game without classes or reactions of its own, which opens on the requested screen.
 class ViewWindow : public AMainWin {
 public:
     explicit ViewWindow(const ViewOptions& viewOptions)
@@ -49,7 +49,7 @@ public:
         AMainWin::startup();
         readScriptFile(CString(options.script), GetModuleHandleA(nullptr), mainScriptResource, "", 1);
         if (!hasOpened && getActiveScreen())
-            openWanted();
+            openRequestedScreen();
         return 1;
     }
     void drawscreen() override
@@ -59,14 +59,14 @@ public:
         AMainWin::drawscreen();
     }
 
-    /// A game's own classes are not here: what is of one shows as a plain window.
+    /// Makes a plain window, as the game's own classes are not available.
     AWnd* createNewWindow(const CString& id, int x, int y, int w, int h, const CString& className) override
     {
         if (isAddingScreen)
             return nullptr;
         if (unknownClasses.insert(className.str()).second)
             std::cerr << "tgx view: the class " << className.str()
-                      << " is the game's; its windows show as plain ones\n";
+                      << " belongs to the game; its windows are shown as plain windows\n";
         return new AWnd(AWnd::WND_PLAIN, id, x, y, w, h);
     }
     AScreen* addScreen(const CString& id, int x, int y, int w, int h) override
@@ -76,20 +76,20 @@ public:
     }
 
 private:
-    /// Later the devtools bring the screens back.
-    void openWanted()
+    /// Opens the requested screen at the start. After that, the devtools restore the screens.
+    void openRequestedScreen()
     {
         hasOpened = true;
-        const CString wanted(options.screen);
-        if (wanted.IsEmpty() || getActiveScreen()->getID() == wanted)
+        const CString requested(options.screen);
+        if (requested.IsEmpty() || getActiveScreen()->getID() == requested)
             return;
         std::string others;
         for (int i = 0; i < getScreenList()->getWindowCount(); ++i) {
             const AWnd* screen = getWndFromIndex(i);
             if (screen->getWindowType() != AWnd::WND_SCREEN)
                 continue;
-            if (screen->getID() == wanted) {
-                changeScreen(wanted, 1, mainScriptResource, CString(options.script));
+            if (screen->getID() == requested) {
+                changeScreen(requested, 1, mainScriptResource, CString(options.script));
                 return;
             }
             others += ' ' + screen->getID().str();
@@ -105,7 +105,7 @@ private:
     bool hasOpened = false;
 };
 
-/// "menu", "menu.tgs" and "menu.tgx" name the same script.
+/// Returns the name of the compiled script: "menu.tgx" for "menu", "menu.tgs" and "menu.tgx".
 std::string scriptName(const std::string& given)
 {
     const fs::path path(given);
@@ -113,8 +113,8 @@ std::string scriptName(const std::string& given)
     return ending == ".tgs" || ending.empty() ? fs::path(path).replace_extension(".tgx").string() : given;
 }
 
-/// Compiled or as text, right or wrong.
-bool isThere(const ViewOptions& options)
+/// Returns whether the script exists, compiled or in text form, valid or not.
+bool scriptExists(const ViewOptions& options)
 {
     std::vector<std::string> folders = options.devTools.sources;
     folders.push_back(script_text::scriptFolder());
@@ -128,7 +128,7 @@ bool isThere(const ViewOptions& options)
 int refuse(const std::string& why)
 {
     std::cerr << "tgx view: " << why << '\n';
-    return wrongCall;
+    return usageError;
 }
 
 int view(ViewOptions& options)
@@ -137,10 +137,10 @@ int view(ViewOptions& options)
     setDataDirectory(options.data);
     for (const std::string& folder : options.devTools.sources)
         if (std::error_code failure; !fs::is_directory(folder, failure))
-            return refuse("no folder " + folder + "; --source names a folder with scripts in text form");
-    if (!isThere(options))
+            return refuse("no folder " + folder + "; --source expects a folder with scripts in text form");
+    if (!scriptExists(options))
         return refuse("no script " + options.script + " in " + (fs::path(options.data) / "UIG").string() +
-                      ", neither compiled nor as text; --source names another folder with its text");
+                      ", neither compiled nor as text; use --source for another folder with its text");
 
     options.devTools.script = options.script;
     for (const int each : {SIGINT, SIGTERM})
@@ -157,30 +157,32 @@ int view(ViewOptions& options)
 void addView(CLI::App& app)
 {
     CLI::App* command =
-        app.add_subcommand("view", "Show an interface in a window, and show it anew when a file changes");
+        app.add_subcommand("view", "Show an interface in a window, and reload it when a file changes");
     auto options = std::make_shared<ViewOptions>();
-    command->add_option("DIR", options->data, "Data directory; scripts lie in its UIG/")
+    command->add_option("DIR", options->data, "Data directory; scripts are in its folder UIG/")
         ->required()
         ->check(CLI::ExistingDirectory);
     command
-        ->add_option("--script", options->script,
-                     "Main script, by its name below UIG/: its text form where there is one, else compiled")
+        ->add_option(
+            "--script", options->script,
+            "Main script, by its name below UIG/; its text form if there is one, else the compiled script")
         ->required()
         ->type_name("NAME");
-    command->add_option("--screen", options->screen, "Screen to open on [the first one]")->type_name("ID");
+    command->add_option("--screen", options->screen, "Screen to open at the start; the first one by default")
+        ->type_name("ID");
     command
         ->add_option("--source", options->devTools.sources,
-                     "Folder with scripts in text form, besides UIG/; may be given more than once")
+                     "Additional folder with scripts in text form, besides UIG/; can be repeated")
         ->type_name("FOLDER");
     addSizeOption(*command, options->width, options->height);
-    command->add_flag("--full-screen", options->isFullScreen, "Begin on the whole screen");
+    command->add_flag("--full-screen", options->isFullScreen, "Start in full screen");
     command
-        ->add_option("--out", options->devTools.outDirectory, "Where pictures and recordings are written [.]")
+        ->add_option("--out", options->devTools.outDirectory,
+                     "Folder for pictures and recordings; the working directory by default")
         ->type_name("DIR2");
-    command->footer(
-        "Keys: F12 inspector, once more for all windows; F11 whole screen; F10 picture; F9 begins and ends a "
-        "recording; F8 lists the screens and goes to one.\n"
-        "What has been chosen and typed stays when a script or a picture is read again.");
+    command->footer("Keys: F12 inspector, again for all windows; F11 full screen; F10 picture; F9 starts and "
+                    "stops a recording; F8 lists the screens and opens one.\n"
+                    "Selections and typed texts are kept when a script or a picture is reloaded.");
     command->callback([options] {
         if (int status = view(*options))
             throw CLI::RuntimeError(status);

@@ -1,5 +1,5 @@
 " Interface scripts of TGX in text form.
-" Made by `tgx reference` of the vocabulary. Write it anew with: cmake --build build/release --target script_reference
+" Generated from the vocabulary by `tgx reference`. To regenerate: cmake --build build/release --target script_reference
 
 if exists("b:current_syntax")
   finish

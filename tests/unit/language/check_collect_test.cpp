@@ -1,4 +1,4 @@
-// Which scripts a call looks at.
+// Which scripts a call of `tgx check` reads.
 
 #include "language/check/collect.h"
 #include "language/text/read_file.h"
@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST_F(Check, CollectsTheScriptsOfAFolder)
+TEST_F(Check, CollectsScripts)
 {
     write("UIG/script.tgs", "INCLUDE \"more.tgs\"");
     write("UIG/more.tgs", "FONT 0");
@@ -18,7 +18,7 @@ TEST_F(Check, CollectsTheScriptsOfAFolder)
     write("own/menu.tgs", "GOTO \"S\" \"sub/parts.tgx\"");
     write("own/sub/parts.tgs", "");
     write("own/apart/menu.tgs", "");
-    // Folder, its data directory, and its scripts; those that are only there for the others in brackets.
+    // Returns each folder, whether it has a data directory, and its scripts, unreported ones in brackets.
     const auto collected = [&](std::vector<std::string> arguments) {
         std::string list;
         std::vector<std::string> problems;
@@ -52,17 +52,17 @@ TEST_F(Check, CollectsTheScriptsOfAFolder)
         {"a file of a folder below UIG",
          {"UIG/sub/deep/parts.tgs"},
          "UIG (data): [old.tgx] [script.tgx (text)] sub\\deep\\parts.tgx (text)\n"},
-        {"a compiled script whose text is there, and a folder",
+        {"a compiled script with its text beside it, and a folder",
          {"UIG/script.tgx", "other"},
          "UIG (data): [more.tgx (text)] [old.tgx] script.tgx [sub\\deep\\parts.tgx (text)]\nother: menu.tgx "
          "(text)\n"},
         {"a file, with those of a folder that it names",
          {"own/menu.tgs"},
          "own: menu.tgx (text) [sub\\parts.tgx (text)]\n"},
-        {"names of one file",
+        {"several names of one file",
          {"other", "other/../other/menu.tgs", "other/menu.tgs"},
          "other: menu.tgx (text)\n"},
-        {"a file that is not there, and one that is",
+        {"a missing file, and an existing one",
          {"none/none.tgs", "other"},
          "other: menu.tgx (text)\nnone.tgs: error: cannot read: No such file or directory\n"},
     };

@@ -1,16 +1,16 @@
-// What belongs together: panels and pointers, keys, tabs and pages, radio groups, lists and their rows; and
-// what a line says to nobody.
+// Rules for panels and pointers, keys, tabs and pages, radio groups, lists and their rows, and for unread
+// arguments.
 
 #include "tests/unit/language/check_fixture.h"
 
 namespace {
 
-/// Each in a.tgs, where no other file is named. Nothing is to be said against them.
+/// Each script is a.tgs, unless another file is named. None has findings.
 const struct {
     const char* name;
     const char* text;
-} rightScripts[] = {
-    {"a panel of its own script, with its stops in the screen that shows it", R"(SCREEN "S" 0 0 640 480 ""
+} correctScripts[] = {
+    {"a panel of another script, with its tab stops in the screen that shows it", R"(SCREEN "S" 0 0 640 480 ""
 BEGIN
   POINTER "PANEL" "panel.tgx"
   TABORDER "GO"
@@ -20,7 +20,7 @@ WINDOW "PANEL" 0 0 90 90
 BEGIN
   BUTTON "GO" 0 0 80 24 ""
 END)"},
-    {"a panel that may be shown out of any script", R"(SCREEN "S" 0 0 640 480 ""
+    {"a panel that a POINTER to an embedded script may show", R"(SCREEN "S" 0 0 640 480 ""
 BEGIN
   POINTER "PANEL" "150"
 END
@@ -45,7 +45,7 @@ BEGIN
   END
   TABORDER "TAB3"
 END)"},
-    {"two groups whose ids have one stem, in two columns", R"(WINDOW "A" 0 0 400 90
+    {"two groups with a common stem of ids, in two columns", R"(WINDOW "A" 0 0 400 90
 BEGIN
   RADIOBUTTON "RADIO1" 10 0 90 20 ""
   RADIOBUTTON "RADIO2" 10 20 90 20 ""
@@ -85,14 +85,14 @@ BEGIN
   RADIOBUTTON "OFF" 300 0 90 20 ""
   TABORDER "EASY" "ON"
 END)"},
-    {"two radio buttons of the script about one of the game's", R"(WINDOW "A" 0 0 90 90
+    {"two radio buttons around a window of the game's class", R"(WINDOW "A" 0 0 90 90
 BEGIN
   RADIOBUTTON "A1" 0 0 90 20 ""
   USERDEF "A2" 0 20 90 20 "Choice"
   RADIOBUTTON "A3" 0 40 90 20 ""
   TABORDER "A1" "A3"
 END)"},
-    {"keys that go to a combo box, and to the radio buttons that show", R"(WINDOW "A" 0 0 90 90
+    {"keys that go to a combo box, and to radio buttons", R"(WINDOW "A" 0 0 90 90
 BEGIN
   COMBOBOX "B" 0 0 90 20 ""
   RADIOBUTTON "C1" 0 20 40 20 ""
@@ -103,7 +103,8 @@ BEGIN
   TABLIST1 "B"
   TABLIST2 "C1" "D1"
 END)"},
-    {"a hidden window with stops of its own, which the game may open as a popup", R"(SCREEN "S" 0 0 640 480 ""
+    {"a hidden window with its own tab stops, which the game may open as a popup",
+     R"(SCREEN "S" 0 0 640 480 ""
 BEGIN
   BUTTON "ASK" 0 0 80 24 ""
   WINDOW "BOX" 200 100 200 90
@@ -114,7 +115,7 @@ BEGIN
   END
   TABORDER "ASK"
 END)"},
-    {"titles that run on over columns without one", R"(WINDOW "A" 0 0 400 90
+    {"titles that continue over columns without a title", R"(WINDOW "A" 0 0 400 90
 BEGIN
   LISTBOX "L" 0 0 200 90
   BEGIN
@@ -123,7 +124,7 @@ BEGIN
   END
   TABORDER "L"
 END)"},
-    {"words that wrap at blanks and at marks", R"(WINDOW "A" 0 0 400 90
+    {"words that wrap at blanks and at line breaks", R"(WINDOW "A" 0 0 400 90
 BEGIN
   TEXTWND "B" 0 0 60 90 "a text of\nshort  words"
   BEGIN
@@ -138,7 +139,7 @@ BEGIN
   END
   TABORDER "L"
 END)"},
-    {"all arguments that there are", R"(WINDOW "A" 0 0 400 90
+    {"statements with all their arguments", R"(WINDOW "A" 0 0 400 90
 BEGIN
   LISTBOX "L" 0 0 400 90
   BEGIN
@@ -172,16 +173,16 @@ BEGIN
 END)"},
 };
 
-TEST_F(Check, SaysNothingAgainstControlsThatAreRight)
+TEST_F(Check, FindsNothingInCorrectControls)
 {
-    for (const auto& row : rightScripts) {
+    for (const auto& row : correctScripts) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(found(row.text), "");
     }
 }
 
 const CheckRow wrongScripts[] = {
-    {"a panel of that name in another script than the POINTER names", R"(SCREEN "S" 0 0 640 480 ""
+    {"a panel with the POINTER's name in another script", R"(SCREEN "S" 0 0 640 480 ""
 BEGIN
   POINTER "PANEL" "panel.tgx"
   TABORDER "GO"
@@ -196,10 +197,9 @@ WINDOW "PANEL" 0 0 90 90
 BEGIN
   BUTTON "GO" 0 0 80 24 ""
 END)",
-     "other.tgs:1:1: warning: no key reaches the control in \"PANEL\", \"GO\"; name them in a TABORDER at "
-     "the "
+     "other.tgs:1:1: warning: no key reaches the control in \"PANEL\", \"GO\"; add them to a TABORDER at the "
      "end of its block [unreachable]\n"},
-    {"tab orders of windows inside, and keys that go nowhere", R"(SCREEN "S" 0 0 640 480 ""
+    {"tab orders of inner windows, and keys without a target", R"(SCREEN "S" 0 0 640 480 ""
 BEGIN
   WINDOW "INNER" 0 0 200 90
   BEGIN
@@ -214,15 +214,13 @@ BEGIN
   TABLIST1 "C" "E"
   TABLIST2 "D" "C"
 END)",
-     "a.tgs:6:5: warning: no key reaches \"B\": it stands in the TABORDER of \"INNER\", and Tab walks that "
-     "of "
-     "\"S\" alone [unreachable]\n"
+     "a.tgs:6:5: warning: no key reaches \"B\": it is in the TABORDER of \"INNER\", but Tab only follows "
+     "that of \"S\" [unreachable]\n"
      "a.tgs:9:3: warning: no key reaches \"C\": no TABORDER of \"S\" names it [unreachable]\n"
      "a.tgs:11:3: warning: no key reaches \"E\": no TABORDER of \"S\" names it [unreachable]\n"
-     "a.tgs:13:12: warning: Insert and Delete go to no list that begins with a button: a combo box or a "
-     "radio "
-     "button stands first [no-effect]\n"},
-    {"buttons among the tabs, and more pages than the game's tabs can make up for", R"(WINDOW "A" 0 0 200 200
+     "a.tgs:13:12: warning: Insert and Delete do not reach a list that begins with a button; it must begin "
+     "with a combo box or a radio button [no-effect]\n"},
+    {"buttons among the tabs, and more pages than tabs of the game's class", R"(WINDOW "A" 0 0 200 200
 BEGIN
   TABCONTROL "T" 0 0 200 90
   BEGIN
@@ -241,11 +239,11 @@ BEGIN
   END
   TABORDER "T1" "T3"
 END)",
-     "a.tgs:7:5: error: \"T3\" stands among the tabs of \"T\" and is none of their group: a click on it "
-     "turns the pages too, and none is its own. Tabs are radio buttons; other buttons stand in a page "
-     "[tab-pages]\n"
+     "a.tgs:7:5: error: \"T3\" is among the tabs of \"T\" but not in their group: a click on it also "
+     "switches the pages, but it has no page of its own. Tabs must be radio buttons; put other buttons into "
+     "a page [tab-pages]\n"
      "a.tgs:12:3: error: \"U\" has 0 tabs and 2 pages [tab-pages]\n"},
-    {"a group that goes on in its column at another step, and one with a note beside it",
+    {"a group that continues in its column at another distance, and one with a note beside it",
      R"(WINDOW "A" 0 0 400 90
 BEGIN
   RADIOBUTTON "RED" 0 0 90 20 ""
@@ -261,12 +259,11 @@ BEGIN
   RADIOBUTTON "P_4" 380 0 20 20 ""
   TABORDER "RED" "GREEN" "P_1" "P_3"
 END)",
-     "a.tgs:6:3: warning: \"GREEN\" begins a group of its own: the plain window of line 5 parts it from "
+     "a.tgs:6:3: warning: \"GREEN\" starts a new group: the plain window of line 5 separates it from "
      "\"BLUE\" [radio-group]\n"
-     "a.tgs:12:3: warning: \"P_3\" begins a group of its own: the plain window of line 11 parts it from "
-     "\"P_2\" "
+     "a.tgs:12:3: warning: \"P_3\" starts a new group: the plain window of line 11 separates it from \"P_2\" "
      "[radio-group]\n"},
-    {"each row, title and item that is cut", R"(WINDOW "A" 0 0 400 90
+    {"rows, titles and items that are cut", R"(WINDOW "A" 0 0 400 90
 BEGIN
   LISTBOX "L" 0 0 200 90
   BEGIN
@@ -286,19 +283,19 @@ BEGIN
   END
   TABORDER "L" "C"
 END)",
-     "a.tgs:8:12: warning: the title \"a title that is long\" of \"L\" is 87 pixels wide in font 0, and "
+     "a.tgs:8:12: warning: the title \"a title that is long\" of \"L\" is 87 pixels wide in font 0, but "
      "column 0 has 40 [text-clipped]\n"
-     "a.tgs:8:35: warning: the title \"another title\" of \"L\" is 60 pixels wide in font 0, and column 1 "
+     "a.tgs:8:35: warning: the title \"another title\" of \"L\" is 60 pixels wide in font 0, but column 1 "
      "has 40 [text-clipped]\n"
-     "a.tgs:9:10: warning: the text \"a long text\" in row 0 of \"L\" is 54 pixels wide in font 0, and "
+     "a.tgs:9:10: warning: the text \"a long text\" in row 0 of \"L\" is 54 pixels wide in font 0, but "
      "column 0 has 40 [text-clipped]\n"
-     "a.tgs:12:18: warning: the text \"a long text\" in row 2 of \"L\" is 54 pixels wide in font 0, and "
+     "a.tgs:12:18: warning: the text \"a long text\" in row 2 of \"L\" is 54 pixels wide in font 0, but "
      "column 1 has 40 [text-clipped]\n"
-     "a.tgs:16:10: warning: the item \"a long item\" of \"C\" is 54 pixels wide in font 0, and its box has "
+     "a.tgs:16:10: warning: the item \"a long item\" of \"C\" is 54 pixels wide in font 0, but its box has "
      "40 [text-clipped]\n"
-     "a.tgs:17:10: warning: the item \"another item\" of \"C\" is 62 pixels wide in font 0, and its box has "
+     "a.tgs:17:10: warning: the item \"another item\" of \"C\" is 62 pixels wide in font 0, but its box has "
      "40 [text-clipped]\n"},
-    {"a text in a font that the game may put into any row", R"(WINDOW "A" 0 0 400 90
+    {"a text in a font that the game may use for any row", R"(WINDOW "A" 0 0 400 90
 BEGIN
   LISTBOX "L" 0 0 200 90
   BEGIN
@@ -310,9 +307,9 @@ BEGIN
 END
 == script.tgs
 ADDFONT "none.ttf" "" 12)",
-     "script.tgs:1:9: error: the font \"none.ttf\" cannot be loaded; the built-in one takes its place "
+     "script.tgs:1:9: error: the font \"none.ttf\" cannot be loaded; the built-in font is used instead "
      "[missing-font]\n"},
-    {"words that lose letters, and wrapped lines in a low box", R"(WINDOW "A" 0 0 400 90
+    {"words that lose letters, and wrapped lines in a box that is too low", R"(WINDOW "A" 0 0 400 90
 BEGIN
   TEXTWND "B" 0 0 40 90 "so Unbelievablyincomprehensible"
   BEGIN
@@ -324,10 +321,10 @@ BEGIN
   END
 END)",
      "a.tgs:3:25: warning: the text of \"B\" loses letters: \"Unbelievablyincomprehensible\" is 143 pixels "
-     "wide in font 0, and a line has 40 [text-clipped]\n"
-     "a.tgs:7:26: warning: the text of \"C\" is 13 pixels high in font 0, and its box has 8 "
+     "wide in font 0, but a line has 40 [text-clipped]\n"
+     "a.tgs:7:26: warning: the text of \"C\" is 13 pixels high in font 0, but its box has 8 "
      "[text-clipped]\n"},
-    {"cells that are icons and do not look it", R"(WINDOW "A" 0 0 400 90
+    {"words that are read as icons", R"(WINDOW "A" 0 0 400 90
 BEGIN
   LISTBOX "L" 0 0 200 90
   BEGIN
@@ -337,15 +334,15 @@ BEGIN
   END
   TABORDER "L"
 END)",
-     "a.tgs:6:10: error: \"ICONIC\" is read as an icon, for it begins with ICON; expected a number behind "
+     "a.tgs:6:10: error: \"ICONIC\" is read as an icon, because it begins with ICON; expected a number after "
      "that, as in ICON0 or ICON0F2 [missing-icon]\n"
-     "a.tgs:6:28: error: \"ICON0F\" is read as an icon, for it begins with ICON; expected a number behind "
+     "a.tgs:6:28: error: \"ICON0F\" is read as an icon, because it begins with ICON; expected a number after "
      "that, as in ICON0 or ICON0F2 [missing-icon]\n"
-     "a.tgs:7:10: error: \"ICON\" is read as an icon, for it begins with ICON; expected a number behind "
+     "a.tgs:7:10: error: \"ICON\" is read as an icon, because it begins with ICON; expected a number after "
      "that, as in ICON0 or ICON0F2 [missing-icon]\n"
-     "a.tgs:7:27: error: \"ICON1 F2\" is read as an icon, for it begins with ICON; expected a number behind "
-     "that, as in ICON0 or ICON0F2 [missing-icon]\n"},
-    {"rows that need a scroll bar, whose picture is not there", R"(WINDOW "A" 0 0 400 90
+     "a.tgs:7:27: error: \"ICON1 F2\" is read as an icon, because it begins with ICON; expected a number "
+     "after that, as in ICON0 or ICON0F2 [missing-icon]\n"},
+    {"rows that need a scroll bar without a picture", R"(WINDOW "A" 0 0 400 90
 BEGIN
   LISTBOX "L" 0 0 200 42
   BEGIN
@@ -356,7 +353,7 @@ BEGIN
   END
   TABORDER "L"
 END)",
-     "a.tgs:3:3: error: \"L\" has more rows than its box and makes a scroll bar: no picture "
+     "a.tgs:3:3: error: \"L\" has more rows than fit and creates a scroll bar, but there is no picture "
      "\"uig\\scroll1.bmp\" in the data directory [missing-bitmap]\n"},
     {"arguments that nothing reads", R"(WINDOW "A" 0 0 400 90
 BEGIN
@@ -394,31 +391,29 @@ SUBROUTINE "S"
 BEGIN
   BORDER "" 4 8
 END)",
-     "a.tgs:5:21: warning: LISTLOOK reads 3 arguments; what stands from here on is not read [no-effect]\n"
-     "a.tgs:6:21: warning: LISTOPTIONS reads 2 arguments; what stands from here on is not read [no-effect]\n"
-     "a.tgs:7:23: warning: LISTFONTS reads 4 arguments; what stands from here on is not read [no-effect]\n"
-     "a.tgs:9:15: warning: a list has at most 20 columns; those from here on are left out [no-effect]\n"
+     "a.tgs:5:21: warning: LISTLOOK reads 3 arguments; it ignores the rest [no-effect]\n"
+     "a.tgs:6:21: warning: LISTOPTIONS reads 2 arguments; it ignores the rest [no-effect]\n"
+     "a.tgs:7:23: warning: LISTFONTS reads 4 arguments; it ignores the rest [no-effect]\n"
+     "a.tgs:9:15: warning: a list has at most 20 columns; it ignores the rest [no-effect]\n"
      "a.tgs:11:25: warning: \"L\" has 20 columns, counted from 0; there is no column 20 [no-effect]\n"
      "a.tgs:11:28: warning: \"L\" has 20 columns, counted from 0; there is no column -1 [no-effect]\n"
      "a.tgs:12:17: warning: there is no mode 77; 0 is normal, 1 opaque, 2 half, 3 additive [no-effect]\n"
-     "a.tgs:17:16: warning: \"M\" has 1 column; a title behind the last one is not shown [no-effect]\n"
-     "a.tgs:21:14: warning: an item of a combo box is one text; what stands behind it is not read "
-     "[no-effect]\n"
-     "a.tgs:25:31: warning: GRAPHINFO reads 7 arguments; what stands from here on is not read [no-effect]\n"
-     "a.tgs:27:3: warning: no combo box is around this menu, so nothing opens it [no-effect]\n"
-     "a.tgs:28:24: warning: GOTO reads 2 arguments; what stands from here on is not read [no-effect]\n"
-     "parts.tgs:1:1: warning: out of a script with subroutines single windows are read, and this line in "
-     "none of them; FONT stands in a window's block here [no-effect]\n"
-     "parts.tgs:4:10: error: a border is made of a picture, and this names none [missing-bitmap]\n"},
+     "a.tgs:17:16: warning: \"M\" has 1 column; a title after the last column is not shown [no-effect]\n"
+     "a.tgs:21:14: warning: an item of a combo box is one text; the rest is ignored [no-effect]\n"
+     "a.tgs:25:31: warning: GRAPHINFO reads 7 arguments; it ignores the rest [no-effect]\n"
+     "a.tgs:27:3: warning: this menu is not inside a combo box, so nothing opens it [no-effect]\n"
+     "a.tgs:28:24: warning: GOTO reads 2 arguments; it ignores the rest [no-effect]\n"
+     "parts.tgs:1:1: warning: windows are read one by one from a script with subroutines, and this line is "
+     "not part of any; move the FONT into a window's block [no-effect]\n"
+     "parts.tgs:4:10: error: a border needs a picture, but this name is empty [missing-bitmap]\n"},
     {"frames of extreme sizes", R"(CHECKBOX "B" 0 0 90 9 ""
 BEGIN
   CHECKBOXSTATE 0 0 -1 -1 "three.bmp"
 END
 BITMAP "C" 0 0 9 9 "three.bmp" 32767 10 0 32767)",
      "a.tgs:5:20: error: \"three.bmp\" is 63 x 10 pixels, too small for 32767 frames of 32767 x 10 that "
-     "\"C\" "
-     "takes from it; a row of them is 1073709056 x 10 [strip-too-small]\n"},
-    {"a strip that begins behind its last frame", R"(WINDOW "A" 0 0 400 90
+     "\"C\" uses; a row of them is 1073709056 x 10 [strip-too-small]\n"},
+    {"a strip that starts after its last frame", R"(WINDOW "A" 0 0 400 90
 BEGIN
   BITMAP "B" 0 0 20 10 "three.bmp" 20 10 0 3
   BEGIN
@@ -429,11 +424,11 @@ BEGIN
     BMPFRAME 2
   END
 END)",
-     "a.tgs:3:24: error: \"three.bmp\" is 63 x 10 pixels, too small for 8 frames of 20 x 10 that \"B\" takes "
-     "from it; a row of them is 168 x 10 [strip-too-small]\n"},
+     "a.tgs:3:24: error: \"three.bmp\" is 63 x 10 pixels, too small for 8 frames of 20 x 10 that \"B\" uses; "
+     "a row of them is 168 x 10 [strip-too-small]\n"},
 };
 
-TEST_F(Check, TellsWhatIsWrongWithControlsAndLists)
+TEST_F(Check, ReportsMistakesInControlsAndLists)
 {
     for (const CheckRow& row : wrongScripts) {
         SCOPED_TRACE(row.name);

@@ -9,8 +9,8 @@
 #include <utility>
 #include <vector>
 
-/// Divides a text into files at lines such as "== parts.tgs"; "== [parts.tgs]" is one that is only there for
-/// the others.
+/// Splits a text into files at lines such as "== parts.tgs". A file "== [parts.tgs]" is not reported, only
+/// used by the others.
 inline Sources divided(std::string text, const std::string& firstName)
 {
     Sources out;
@@ -28,15 +28,15 @@ inline Sources divided(std::string text, const std::string& firstName)
     }
 }
 
-/// Pictures of known sizes in a data directory: wide.bmp 400 x 300, one.bmp 20 x 10, and the strip three.bmp,
-/// frames of 20 x 10.
+/// Provides a data directory with pictures of known sizes: wide.bmp 400 x 300, one.bmp 20 x 10, the strip
+/// three.bmp with frames of 20 x 10, and eight.bmp with eight pieces of 8 x 8.
 class Check : public TgxTest {
 protected:
     Check()
     {
         bitmap("wide.bmp", 400, 300);
         bitmap("one.bmp", 20, 10);
-        bitmap("three.bmp", 63, 10); // a pixel lies behind the last frame too
+        bitmap("three.bmp", 63, 10); // the last frame is also followed by a pixel
         strip("eight.bmp", 8, 8, 8);
         write("text.png", "no picture");
         options.dataDirectory = data.string();
@@ -57,7 +57,7 @@ protected:
             files,
             [&](const std::string& path, std::string& reason) {
                 const auto found = sources.files.find(path);
-                reason = "there is none";
+                reason = "no such file";
                 return found == sources.files.end() ? std::optional<std::string>() : found->second;
             },
             options);
@@ -74,7 +74,7 @@ protected:
     script_check::CheckOptions options;
 };
 
-/// A row of a table: scripts, and what is found in them, each headline with its code in brackets.
+/// A table row: scripts, and the headlines of their findings, each with its code in brackets.
 struct CheckRow {
     const char* name;
     std::string text;

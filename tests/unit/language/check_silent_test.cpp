@@ -1,15 +1,15 @@
-// Scripts that are right, and look as if they were not.
+// Correct scripts that resemble mistakes.
 
 #include "tests/unit/language/check_fixture.h"
 
 namespace {
 
-/// Each in a.tgs, where no other file is named.
+/// Each script is a.tgs, unless another file is named.
 const struct {
     const char* name;
     const char* text;
-} rightScripts[] = {
-    {"a FONT for the windows behind it",
+} correctScripts[] = {
+    {"a FONT for the windows after it",
      R"(WINDOW "A" 0 0 90 90
 BEGIN
   TEXTWND "B" 0 0 90 20 "b"
@@ -23,7 +23,7 @@ BEGIN
 END
 SUBROUTINE "LABELS"
 TEXTWND "static" 0 40 90 20 "c")"},
-    {"fonts that come by subroutines, and a main script that is only there for the others",
+    {"fonts that subroutines add, and a main script that is not reported",
      R"(WINDOW "A" 0 0 90 90
 BEGIN
   FONT 2
@@ -53,7 +53,7 @@ BEGIN
   # tgx: allow missing-font
   ADDFONT "" "" 9
 END)"},
-    {"fonts of a main script that has subroutines too, though it is none of the game",
+    {"fonts of a script with subroutines, without a main script",
      R"(# tgx: allow missing-font
 ADDFONT "" "" 12
 WINDOW "A" 0 0 90 90
@@ -69,7 +69,7 @@ WINDOW "A" 0 0 90 90
 BEGIN
   FONT 3
 END)"},
-    {"a subroutine that may be run as one of an embedded script",
+    {"a subroutine that may be called as one of an embedded script",
      R"(WINDOW "A" 0 0 90 90
 BEGIN
   GOTO "PANEL" "150"
@@ -77,7 +77,7 @@ END
 == parts.tgs
 SUBROUTINE "PANEL"
 TEXTRAW 1)"},
-    {"scripts in folders of their own, one of them of the same name",
+    {"scripts in subfolders, one of them with the same name",
      R"(WINDOW "A" 0 0 90 90
 BEGIN
   GOTO "S" "sub\a.tgx"
@@ -93,7 +93,7 @@ END
 WINDOW "MAP" 0 0 90 90
 BEGIN
 END)"},
-    {"what a class of the game may make, and where its parts lie",
+    {"windows that a class of the game may make, and positions of its parts",
      R"(SCREEN "A" 0 0 640 480 ""
 BEGIN
   USERDEF "MAP" 0 0 0 0 "Map"
@@ -107,7 +107,7 @@ BEGIN
   USERDEF "ComboMenu" 0 40 90 90 "Menu"
   TABORDER "TOWN1" "TOWN2"
 END)"},
-    {"a list of the game's own class, which a subroutine fills",
+    {"a list of the game's own class that a subroutine fills",
      R"(SCREEN "A" 0 0 640 480 ""
 BEGIN
   USERDEF "U" 0 0 90 90 "MyList"
@@ -139,7 +139,7 @@ BEGIN
 END
 == script.tgs
 FONT 0)"},
-    {"a panel that waits outside to be shown",
+    {"a hidden panel outside of the screen",
      R"(SCREEN "A" 0 0 640 480 ""
 BEGIN
   WINDOW "P" 640 0 200 480
@@ -152,7 +152,7 @@ END)"},
     {"a screen that is larger than the first one",
      R"(SCREEN "A" 0 0 320 200 "wide.bmp"
 SCREEN "B" 0 0 640 480 "wide.bmp")"},
-    {"lines that leave something of the ones before",
+    {"lines that override earlier ones only in part",
      R"(WINDOW "A" 0 0 200 200
 BEGIN
   LISTBOX "L" 0 0 90 90
@@ -173,19 +173,19 @@ BEGIN
     BMPSTRETCH 0
   END
 END)"},
-    {"a body of one line, and a window of the top level behind it",
+    {"a body of one line, followed by a top-level window",
      R"(SUBROUTINE "S"
 TEXTRAW 1
 WINDOW "A" 0 0 90 90
 BEGIN
   GOTO "S"
 END)"},
-    {"windows without blocks where all is read",
+    {"windows without blocks in a script that is read as a whole",
      R"(WINDOW "A" 0 0 90 90
 WINDOW "B" 0 0 90 90
 BEGIN
 END)"},
-    {"an allowance for what only another script finds in an included file",
+    {"an allowance in an included file for a finding of another script",
      R"(INCLUDE "d.inc"
 WINDOW "W" 0 0 90 90
 BEGIN
@@ -200,7 +200,7 @@ BEGIN
 END
 == [b.tgs]
 INCLUDE "d.inc")"},
-    {"an allowance in a subroutine that scripts run which are not looked at",
+    {"an allowance in a subroutine that unreported scripts call",
      R"(SUBROUTINE "S"
 BEGIN
   # tgx: allow wrong-window
@@ -211,28 +211,27 @@ WINDOW "W" 0 0 90 90
 BEGIN
   GOTO "S" "a.tgx"
 END)"},
-    {"an allowance for files that are not looked for",
+    {"an allowance for unused files, without --unused-files",
      R"(# tgx: allow unused-file
 FONT 0)"},
 };
 
-TEST_F(Check, FindsNothingInRightScripts)
+TEST_F(Check, FindsNothingInCorrectScripts)
 {
-    for (const auto& row : rightScripts) {
+    for (const auto& row : correctScripts) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(found(row.text), "");
     }
 }
 
-TEST_F(Check, DoesNotAskForAllowancesWhereRulesHaveNotRun)
+TEST_F(Check, AcceptsUnusedAllowancesIfRulesHaveNotRun)
 {
     const std::string text = "# tgx: allow text-clipped\nWINDOW \"A\" 0 0 90 90\nBEGIN\nEND";
-    EXPECT_EQ(found(text),
-              "a.tgs:1:14: warning: nothing to allow: the line behind has no finding text-clipped "
-              "[unused-allowance]\n");
+    EXPECT_EQ(found(text), "a.tgs:1:14: warning: nothing to allow: the next line has no finding text-clipped "
+                           "[unused-allowance]\n");
     EXPECT_EQ(found(text + "\nWINDOW \"B\" 0 0 90 90\nBEGIN"),
-              "a.tgs:6:1: error: no END closes this block [begin-without-end]\n");
-    options.dataDirectory.clear(); // fonts of files are not known
+              "a.tgs:6:1: error: this block has no END [begin-without-end]\n");
+    options.dataDirectory.clear(); // fonts from files are unknown
     EXPECT_EQ(found(text), "");
 }
 

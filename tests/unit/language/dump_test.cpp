@@ -10,7 +10,7 @@ using script_text::print;
 
 namespace {
 
-TEST(Dump, PrintsWhatBuildReads)
+TEST(Dump, PrintsTextThatBuildsToTheSameBytes)
 {
     const struct {
         const char* name;
@@ -21,15 +21,15 @@ TEST(Dump, PrintsWhatBuildReads)
          "\x71\4PANEL\0\3\x0A\0\3\xFE\xFF\3\x2C\1\3\xC8\0\7\x0F\7"s,
          "SCREEN \"MENU\" 0 0 640 480 \"menu.bmp\"\nBEGIN\n    WINDOW \"PANEL\" 10 -2 300 200\nEND\n"},
         {"argument words", "\x33\3\x64\0\x59\3\x32\0\7"s, "COLUMNS 100 RIGHT 50\n"},
-        {"a backslash as it stands, and where it must be escaped", "\x69\4uig\\a.bmp\\x41\\\"\\\\\\\x81\0\7"s,
+        {"literal backslashes, and escaped ones", "\x69\4uig\\a.bmp\\x41\\\"\\\\\\\x81\0\7"s,
          R"(TEXT "uig\a.bmp\\x41\\\"\\\\\\\x81")"
          "\n"},
-        {"characters, and bytes that are none or cannot be seen",
+        {"characters, and bytes that are undefined or invisible",
          "\x69\4\xE9\x80\\\xE9\7\x81\xA0\xAD\x7F\n\0\7"s, "TEXT \"é€\\é\\x07\\x81\\xA0\\xAD\\x7F\\x0A\"\n"},
-        {"lines that the toolkit refuses or reads otherwise",
+        {"lines that the toolkit refuses or misreads",
          "\7\x41\x71\0\7\4a\0\3\1\0\7\3\5\0\7\x71\7\x3D\4x\0\7\x49\7\x0E\x0E\7\x0F\7"s,
          "EMPTY\n@65 WINDOW @0\n@ \"a\" 1\n@ 5\n@ WINDOW\n@ FONT \"x\"\n@ LEFT\n@ BEGIN BEGIN\nEND\n"},
-        {"an END too many", "\x0F\7\x0E\7\x0E\7"s, "END\nBEGIN\n    BEGIN\n"},
+        {"an extra END", "\x0F\7\x0E\7\x0E\7"s, "END\nBEGIN\n    BEGIN\n"},
         {"an unfinished line", "\x0F\7\x71\4P"s, "END\n#! unfinished: 71 04 50\n"},
         {"nothing", "", ""},
     };
@@ -41,10 +41,10 @@ TEST(Dump, PrintsWhatBuildReads)
     }
 }
 
-TEST(Dump, EveryStreamComesThroughItAndBuild)
+TEST(Dump, EveryStreamSurvivesDumpAndBuild)
 {
     std::mt19937 random(20240607);
-    // Bytes that mean something come often, the rest is anything; and half of the streams are whole lines.
+    // Bytes with a meaning are frequent, the others random; half of the streams consist of complete lines.
     const std::string likely = "\3\4\7\0\\\"x41\x0E\x0F\x71\n\r#@\x81\x96"s;
     const auto anyByte = [&] {
         return random() % 3 ? likely[random() % likely.size()] : static_cast<char>(random() % 256);

@@ -1,15 +1,11 @@
-// A script that uses every statement of the language goes through the whole of the toolkit: it is built,
-// dumped, built again and played, and what comes of it is kept in tests/golden: window tree, drawing
-// operations and pictures of whole screens, taken where all_statements.events says. It is also a seed of the
-// fuzz target.
+// Builds, dumps, rebuilds and plays a script that uses every statement of the language. The results are
+// compared with files in tests/golden: window tree, drawing operations and pictures of whole screens, taken
+// by all_statements.events. The script is also a seed of the fuzz target. The test fails if drawing changes.
+// The actual results, and pictures of the difference, are then in the folder "golden" of the test's working
+// directory, build/.../tests under ctest. If the change is intended, update the files with:
 //
-// A change of what is drawn makes the test fail. What came instead, and pictures of the difference, are then
-// in the folder "golden" of the directory that the test ran in, build/.../tests under ctest. If the change is
-// meant, this writes the kept files anew:
-//
-//     TGX_UPDATE_GOLDEN=1 ctest --test-dir build/release -R unit.tool
-//
-// Look at the pictures before they are committed.
+//     TGX_UPDATE_GOLDEN=1 ctest --test-dir build/release -R unit.language
+// Look at the pictures before you commit them.
 
 #include "language/text/print.h"
 #include "platform/media/image_file.h"
@@ -47,8 +43,8 @@ protected:
         bytes = emit(parsed).bytes;
     }
 
-    /// Frames side by side, each a plate with a light and a dark edge that is brighter from frame to frame
-    /// and fades downwards; none is the same upside down, or with its sides changed.
+    /// Writes a picture of frames side by side. Each is a plate with a light and a dark edge that fades
+    /// downwards, brighter from frame to frame, and not symmetric in any direction.
     void frames(const std::string& name, int width, int height, int count, std::uint32_t colour)
     {
         const ImageRef image = makeImage(count > 1 ? (width + 1) * count : width, height);
@@ -107,25 +103,25 @@ TEST_F(GoldenTest, TheScriptUsesEveryStatement)
         for (const auto& token : line.tokens)
             used.insert(token.id);
     for (const Statement& row : vocabulary())
-        EXPECT_TRUE(used.contains(row.id)) << row.keyword << " stands nowhere in all_statements.tgs";
+        EXPECT_TRUE(used.contains(row.id)) << row.keyword << " is not used in all_statements.tgs";
 }
 
-TEST_F(GoldenTest, BuildAndDumpGiveTheSameBytes)
+TEST_F(GoldenTest, DumpAndBuildReproduceTheBytes)
 {
     const std::string dump = script_text::print(bytes);
     EXPECT_EQ(build(parse(dump)), bytes);
     EXPECT_EQ(script_text::print(build(parse(dump))), dump);
 }
 
-TEST_F(GoldenTest, TheFuzzTargetKnowsIt)
+TEST_F(GoldenTest, IsASeedOfTheFuzzTarget)
 {
     const std::string seed = TGX_SOURCE_DIR "/tests/fuzz/corpus/all_statements.tgx";
     if (isUpdate())
         std::ofstream(seed, std::ios::binary) << bytes;
-    EXPECT_TRUE(readFile(seed) == bytes) << seed << " is not what all_statements.tgs gives";
+    EXPECT_TRUE(readFile(seed) == bytes) << seed << " differs from the compiled all_statements.tgs";
 }
 
-TEST_F(GoldenTest, PlaysAsKept)
+TEST_F(GoldenTest, MatchesTheGoldenFiles)
 {
     makePictures();
     write("UIG/script.tgx", bytes);

@@ -15,17 +15,17 @@
 
 namespace {
 
-TEST(Reference, TellsOfEveryStatementOnce)
+TEST(Reference, DescribesEveryStatementOnce)
 {
     for (const Statement& row : vocabulary()) {
         const script_text::Meaning* meaning = script_text::meaningOf(row.id);
         EXPECT_TRUE(meaning && *meaning->text)
             << row.keyword << " has no line in language/reference/meanings.cpp";
     }
-    std::set<int> told;
+    std::set<int> described;
     for (const script_text::Meaning& row : script_text::meanings()) {
-        EXPECT_TRUE(statementById(row.id)) << row.id << " is no statement: " << row.text;
-        EXPECT_TRUE(told.insert(row.id).second) << row.id << " has a second line: " << row.text;
+        EXPECT_TRUE(statementById(row.id)) << row.id << " is not a statement: " << row.text;
+        EXPECT_TRUE(described.insert(row.id).second) << row.id << " has a second line: " << row.text;
     }
 }
 
@@ -42,7 +42,7 @@ bool hasWord(const std::string& text, const std::string& word)
            std::istream_iterator<std::string>();
 }
 
-TEST(Reference, ExamplesShowTheirStatement)
+TEST(Reference, ExamplesUseTheirStatement)
 {
     for (const Statement& row : vocabulary()) {
         const script_text::Meaning* meaning = script_text::meaningOf(row.id);
@@ -54,7 +54,7 @@ TEST(Reference, ExamplesShowTheirStatement)
         const std::string name = meaning->example, folder = "examples/controls/";
         EXPECT_TRUE(readFile(folder + name + ".png").starts_with("\x89PNG"))
             << row.keyword << ": no picture " << folder << name << ".png";
-        // What an example calls by GOTO stands in the script of the shared parts.
+        // Subroutines that an example calls are in the script of the shared parts.
         const bool isCalled = row.kind == StatementKind::Definition;
         const std::string script = folder + (isCalled ? "parts" : name) + ".tgs";
         EXPECT_TRUE(hasWord(readFile(script), row.keyword)) << script << " does not use " << row.keyword;
@@ -74,8 +74,8 @@ TEST(Reference, DocumentsAreUpToDate)
     };
     for (const auto& row : rows) {
         const std::string kept = readFile(row.file);
-        // Not EXPECT_EQ: the whole documents would be printed.
-        EXPECT_TRUE(kept == row.text) << row.file << " is out of date; write it anew with\n"
+        // EXPECT_EQ would print the whole documents.
+        EXPECT_TRUE(kept == row.text) << row.file << " is out of date; regenerate it with\n"
                                       << "    cmake --build build/release --target script_reference";
     }
 }

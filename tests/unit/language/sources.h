@@ -6,7 +6,7 @@
 #include <map>
 #include <string>
 
-/// Scripts in text form that stand in the test itself.
+/// Scripts in text form, by file name.
 struct Sources {
     std::map<std::string, std::string> files;
 
@@ -14,18 +14,19 @@ struct Sources {
     {
         return script_text::parse(name, files.at(name), [this](const std::string& path, std::string& reason) {
             const auto found = files.find(path);
-            reason = "there is none";
+            reason = "no such file";
             return found == files.end() ? std::optional<std::string>() : found->second;
         });
     }
 };
 
+/// Parses text as the file a.tgs.
 inline script_text::ParsedScript parse(const std::string& text)
 {
     return Sources{{{"a.tgs", text}}}.parse("a.tgs");
 }
 
-/// The first lines of all messages.
+/// Returns the first lines of all messages.
 inline std::string headlines(const script_text::ParsedScript& script)
 {
     std::string out;
@@ -34,7 +35,7 @@ inline std::string headlines(const script_text::ParsedScript& script)
     return out;
 }
 
-/// The compiled script, or what is wrong with it.
+/// Returns the compiled script, or the headlines of its errors.
 inline std::string build(const script_text::ParsedScript& script)
 {
     return script.hasErrors() ? headlines(script) : emit(script).bytes;

@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-TEST(Watch, SeesAFileWrittenReplacedRemovedOrNew)
+TEST(Watch, DetectsFilesThatAreWrittenReplacedRemovedOrCreated)
 {
     const fs::path folder = fs::path(testing::TempDir()) / "tgx_watch_test";
     fs::remove_all(folder);
@@ -25,13 +25,13 @@ TEST(Watch, SeesAFileWrittenReplacedRemovedOrNew)
         std::function<void()> change;
         bool isSeen;
     } rows[] = {
-        {"nothing", [] {}, false},
+        {"no change", [] {}, false},
         {"other text, another time", [&] { touch("menu", 2000); }, true},
-        {"other text of the same time", [&] { write("menu", "abc"), touch("menu", 1000); }, true},
+        {"other text, same time", [&] { write("menu", "abc"), touch("menu", 1000); }, true},
         {"another file in its place",
          [&] { touch("same", 500), fs::rename(folder / "same", folder / "menu"); }, true},
-        {"gone", [&] { fs::remove(folder / "menu"); }, true},
-        {"come", [&] { write("gone", ""); }, true},
+        {"removed", [&] { fs::remove(folder / "menu"); }, true},
+        {"created", [&] { write("gone", ""); }, true},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);

@@ -1,4 +1,4 @@
-// The program itself, as a shell runs it: exit status, what it says, and that it writes all or nothing.
+// The program as a shell runs it: exit status, messages, and that it writes all outputs or none.
 
 #include "tests/unit/language/sources.h"
 #include "tests/unit/support/tgx_test.h"
@@ -18,9 +18,9 @@ namespace {
 const struct Row {
     const char* arguments;
     int status;
-    const char* out;     // the first line begins so; "" where nothing is said at all
-    const char* err;     // likewise
-    const char* written; // files that are new or other than before
+    const char* out;     // beginning of the first line; "" if there is no output
+    const char* err;     // the same for stderr
+    const char* written; // files that are new or changed
 } rows[] = {
     {"build good.tgs", 0, "", "", "good.tgx"},
     {"build good.tgs -o other.tgx --map good.map --depfile good.d", 0, "", "", "good.d good.map other.tgx"},
@@ -36,7 +36,7 @@ const struct Row {
     {"build good.tgs --depfile none/good.d", 1, "", "none/good.d: error: cannot write: ", ""},
     {"build good.tgs -o good.tgs", 2, "", "tgx build: good.tgs would be overwritten by its own output", ""},
     {"build including.tgs -o ./good.tgs", 2, "", "tgx build: ./good.tgs is included and would be", ""},
-    {"build good.tgs --map good.tgx", 2, "", "tgx build: two outputs go to good.tgx", ""},
+    {"build good.tgs --map good.tgx", 2, "", "tgx build: two outputs have the name good.tgx", ""},
     {"build", 2, "", "tgx build: ", ""},
     {"build good.tgs --nothing", 2, "", "tgx build: ", ""},
 
@@ -49,9 +49,9 @@ const struct Row {
     {"dump", 2, "", "tgx dump: ", ""},
 
     {"check good.tgs --data .", 0, "", "0 errors, 0 warnings in 1 script", ""},
-    {"check good.tgs", 0, "", "note: pictures and fonts are not looked at", ""},
-    {"check warned.tgs --data .", 0, "warned.tgs:3:3: warning: TEXTRAW is undone", "0 errors, 1 warning in 1",
-     ""},
+    {"check good.tgs", 0, "", "note: pictures and fonts are not checked", ""},
+    {"check warned.tgs --data .", 0, "warned.tgs:3:3: warning: TEXTRAW is overridden",
+     "0 errors, 1 warning in 1", ""},
     {"check -W warned.tgs --data .", 1, "warned.tgs:3:3: warning: ", "0 errors, 1 warning in 1", ""},
     {"check -W warned.tgs --data . --allow no-effect", 0, "", "0 errors, 0 warnings in 1 script", ""},
     {"check good.tgs --allow no-efect", 2, "",
@@ -67,12 +67,13 @@ const struct Row {
     {"check --nothing", 2, "", "tgx check: ", ""},
     {"check good.tgs --fonts many", 2, "", "tgx check: --fonts: ", ""},
     {"check good.tgs --data none", 2, "", "tgx check: --data: ", ""},
-    {"check --explain budget", 0, "budget (error): ", "", ""},
-    {"check --explain bugdet", 2, "", "tgx check: there is no code bugdet; did you mean budget?", ""},
+    {"check --explain limit-exceeded", 0, "limit-exceeded (error): ", "", ""},
+    {"check --explain limit-exceded", 2, "",
+     "tgx check: there is no code limit-exceded; did you mean limit-exceeded?", ""},
 
-    // Disks that are full, inputs that fail or never end.
+    // Full disks, and inputs that fail or are endless.
     {"dump good1.tgx > /dev/full", 1, "", "stdout: error: cannot write: ", ""},
-    {"check --explain budget > /dev/full", 1, "", "tgx: cannot write to standard output: ", ""},
+    {"check --explain limit-exceeded > /dev/full", 1, "", "tgx: cannot write to standard output: ", ""},
     {"play . --script none.tgx --events calls.events > /dev/full", 1, "", "message: no screen", ""},
     {"build good.tgs; ulimit -f 1; trap '' XFSZ; tgx build big.tgs -o good1.tgx", 1, "",
      "good1.tgx: error: cannot write: ", "good.tgx"},
@@ -86,13 +87,13 @@ const struct Row {
     {"dump /dev/zero", 1, "", "/dev/zero: error: cannot read: it has more than 16777216 bytes", ""},
     {"check - < /dev/zero", 1, "", "stdin: error: cannot read: it has more than 16777216 bytes", ""},
 
-    {"", 2, "", "The bench of whoever writes an interface", ""},
+    {"", 2, "", "Compiles, dumps, checks, plays and shows", ""},
     {"bild good.tgs", 2, "", "tgx: no command bild", ""},
 };
 
 class CommandLine : public TgxTest {
 protected:
-    /// Names and contents of the files in the folder.
+    /// Returns names and contents of the files in the folder.
     static std::map<std::string, std::string> filesIn(const fs::path& folder)
     {
         std::map<std::string, std::string> files;
@@ -117,7 +118,7 @@ protected:
     }
 };
 
-TEST_F(CommandLine, EndsWithAStatusAndWritesAllOrNothing)
+TEST_F(CommandLine, ReturnsAStatusAndWritesAllOutputsOrNone)
 {
     const fs::path folder = data.parent_path() / "shell";
     const fs::path outFile = outputs / "out";

@@ -31,7 +31,7 @@ protected:
         fs::create_directories((folder / name).parent_path());
         std::ofstream(folder / name, std::ios::binary) << lines;
     }
-    /// Exit status; out and err take what was said, without the path of the tests' folder.
+    /// Returns the exit status. out and err get the output, with paths relative to the tests' folder.
     int run(const MainWinFactory& factory = nullptr)
     {
         std::ostringstream said;
@@ -52,7 +52,7 @@ protected:
     TestOptions tests;
 };
 
-TEST_F(TestCommandTest, EachFileHasALineAndWhatItSaidBelowIt)
+TEST_F(TestCommandTest, PrintsALineForEachFileFollowedByItsMessages)
 {
     events("b/holds.events",
            "# A heading.\n\n# tgx: play ../../data --script script.tgx\nexpect active MENU\n");
@@ -71,14 +71,14 @@ TEST_F(TestCommandTest, EachFileHasALineAndWhatItSaidBelowIt)
         SCOPED_TRACE(jobs);
         tests.jobs = jobs;
         EXPECT_EQ(run(), 1);
-        EXPECT_EQ(out.str(), report) << "in the order of their names, whatever ends first";
+        EXPECT_EQ(out.str(), report) << "sorted by name, whichever ends first";
     }
     tests.filter = "holds";
     EXPECT_EQ(run(), 0);
     EXPECT_EQ(out.str(), "ok    b/holds.events\n1 file, 1 ok, 0 failed\n");
 }
 
-TEST_F(TestCommandTest, WhatAFileIsPlayedOn)
+TEST_F(TestCommandTest, TakesDataAndScriptFromTheFileOrTheCommandLine)
 {
     tests.play.dataDirectory = data.string();
     tests.play.script = "script.tgx";
@@ -86,20 +86,20 @@ TEST_F(TestCommandTest, WhatAFileIsPlayedOn)
     const struct {
         const char* name;
         std::string lines;
-        std::string said; // below its line; "" when it passes
+        std::string said; // messages below the file's line; "" if it passes
     } rows[] = {
-        {"by its own line, and what that leaves out by the command line",
+        {"its own line, completed by the command line",
          "# tgx: play --script other.tgx\nexpect active OTHER\n", ""},
         {"no such folder", "# tgx: play ../gone\n",
          "      play: no data directory \"" + (data.parent_path() / "gone").string() + "\"\n"},
         {"an unknown word", "# tgx: run ../data\n",
          "      t.events:1: expected # tgx: play DATA --script NAME, found # tgx: run ../data\n"},
-        {"an argument that is none", "#\n# tgx: play ../data --events x\n",
+        {"an invalid argument", "#\n# tgx: play ../data --events x\n",
          "      t.events:2: The following arguments were not expected: x --events\n"},
-        {"a size that is none", "# tgx: play --size 3\n",
+        {"an invalid size", "# tgx: play --size 3\n",
          "      t.events:1: --size: expected WIDTHxHEIGHT with sides from 1 to 32767, found 3\n"},
         {"not among the first lines", "frame\n# tgx: play ../gone\nexpect active MENU\n", ""},
-        {"a message that no line expected", "frame\ncall BOX setBmp gone\n",
+        {"an unexpected message", "frame\ncall BOX setBmp gone\n",
          "      t.events:2: the message \"cannot load gone\" was not expected\n"},
     };
     script("SCREEN \"OTHER\" 0 0 64 48 \"\"\n", "other.tgx");
@@ -120,7 +120,7 @@ TEST_F(TestCommandTest, WhatAFileIsPlayedOn)
         std::string::npos);
 }
 
-TEST_F(TestCommandTest, FilesOfEachGoToAFolderOfItsOwn)
+TEST_F(TestCommandTest, WritesTheFilesOfEachTestToItsOwnFolder)
 {
     events("x/one.events", "# tgx: play ../../data --script script.tgx\ntree t.json\nexpect tree e.json\n");
     events("two.events", std::string(header) + "tree t.json\n");
@@ -135,7 +135,7 @@ TEST_F(TestCommandTest, FilesOfEachGoToAFolderOfItsOwn)
     EXPECT_EQ(run(), 0);
 }
 
-TEST_F(TestCommandTest, AFileThatCrashesFailsAlone)
+TEST_F(TestCommandTest, ACrashFailsOnlyItsOwnFile)
 {
     struct Crashing : AMainWin {
         using AMainWin::AMainWin;
@@ -165,7 +165,7 @@ TEST_F(TestCommandTest, AFileThatCrashesFailsAlone)
                   suite + "\" name=\"good.events\"/>\n</testsuite>\n");
 }
 
-TEST_F(TestCommandTest, ACallThatTestsNothingIsWrong)
+TEST_F(TestCommandTest, RejectsACallThatTestsNothing)
 {
     EXPECT_EQ(run(), 2);
     EXPECT_EQ(err.str(), "test: no folder \"" + folder.string() + "\"\n");
@@ -182,7 +182,7 @@ TEST_F(TestCommandTest, ACallThatTestsNothingIsWrong)
     EXPECT_EQ(err.str(), "test: cannot write \"gone/j.xml\"\n");
 }
 
-TEST_F(TestCommandTest, AGamesOwnPlayerTestsToo)
+TEST_F(TestCommandTest, AGamesOwnPlayerRunsTests)
 {
     events("a.events", "expect active X <&\"\n");
     events("b.events", "expect active MENU\n");
@@ -210,10 +210,10 @@ TEST_F(TestCommandTest, AGamesOwnPlayerTestsToo)
 }
 
 #ifdef __linux__
-TEST_F(TestCommandTest, ARunEndsWithItsSuite)
+TEST_F(TestCommandTest, ARunEndsWhenItsSuiteIsKilled)
 {
     events("long.events", std::string(header) + "tree begun.json\nframe 2000000000\n");
-    prctl(PR_SET_CHILD_SUBREAPER, 1); // what loses its parent becomes ours
+    prctl(PR_SET_CHILD_SUBREAPER, 1); // orphaned processes become children of this one
     const pid_t suite = fork();
     if (suite == 0)
         _exit(run());
