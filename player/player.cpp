@@ -36,7 +36,7 @@ PointerAct actOf(PlayedInput::Kind kind)
 
 struct Player::Surroundings {
     std::unique_ptr<displayhost> host;
-    OtherDataDirectory data; // puts the one before back at the end
+    OtherDataDirectory data; // restores the previous one at the end
 };
 
 Player::Player(const PlayOptions& playOptions, const MainWinFactory& mainWinFactory, std::ostream& outStream,
@@ -108,7 +108,7 @@ void Player::showMessage(const CString& text)
     messages.push_back({text.str(), place()});
     if (onMessage)
         onMessage(text);
-    else if (!options.messagesFail) // else told with the part's end, unless a line expected it
+    else if (!options.messagesFail) // else reported at the end of the part, unless a line expected it
         err << "message: " << oneLine(text.view()) << '\n' << std::flush;
 }
 
@@ -123,12 +123,12 @@ void Player::tick(int count)
             throw;
         }
         if (!reached.empty() &&
-            host->input().empty()) // else the tick before had not ended, so this one took nothing
+            host->input().empty()) // else the previous tick has not ended yet, so this one took nothing
             err << reached << std::flush;
     }
 }
 
-/// Hands the next input to the host; the line about what it reaches, "" without --log-input.
+/// Passes the next input to the host. Returns the line about what it reaches, "" without --log-input.
 std::string Player::logOfNextTick()
 {
     const PlayedInput::Next& next = input.handTo(host->input());

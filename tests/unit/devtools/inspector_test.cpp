@@ -154,7 +154,7 @@ TEST_F(InspectorTest, TellsStatesThatAnAuthorLooksFor)
     wnd("PANEL")->setEnabled(0);
     wnd("PICTURE")->deleteBmp();
     wnd("COVER")->setShrinkAnimation(ZnFixed::fromInt(1));
-    EXPECT_TRUE(has("GO", "state\tis disabled with \"PANEL\", which it lies in"));
+    EXPECT_TRUE(has("GO", "state\tis disabled because \"PANEL\" is disabled"));
     EXPECT_TRUE(has("PANEL", "state\tis disabled"));
     EXPECT_TRUE(has("PICTURE", "bitmap\tstrip.bmp, not loaded"));
     EXPECT_TRUE(has("COVER", "state\tis moving"));
