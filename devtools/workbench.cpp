@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// A change shows within a second, and looking costs little beside a frame.
+// Changes appear within a second, and checking for them is cheap compared with a frame.
 constexpr std::uint32_t lookMillis = 200;
 constexpr std::uint32_t pictureLookMillis = 500; // there may be many of them
 
@@ -41,7 +41,7 @@ Workbench::Workbench(AMainWin& mainWin, DevToolsOptions toolOptions)
     game.setScriptObserver(&origins);
     notices.tell(describeKeys(options));
     fullScreenBefore = game.fullScreen;
-    displayhost::current(); // chosen now, if none was
+    displayhost::current(); // makes the default host, if none is in use
     auto watching = std::make_unique<WatchingHost>(displayhost::use(nullptr), *this);
     host = watching.get();
     displayhost::use(std::move(watching));
@@ -132,15 +132,15 @@ void Workbench::measure(const Image& screen, std::span<const tagRECT> changed)
     }
 }
 
-/// In the panel instead of a box that holds the game up.
+/// Shows a message in the panel instead of a box that blocks the game.
 void Workbench::showMessage(const CString& text)
 {
     if (text.view().starts_with("Encountered an error on line "))
-        return; // showFaults tells of the line, with its place
+        return; // showFaults reports the line with its place
     std::string message = oneLine(text.view());
     std::cerr << "message: " << message << '\n';
     if (message.starts_with(missingFile)) {
-        missing.insert(std::move(message)); // until it is mended
+        missing.insert(std::move(message)); // until the next reload
         faultsAreStale = true;
     } else {
         notices.tell(std::move(message));
@@ -177,7 +177,7 @@ void Workbench::switchFullScreen()
     displayhost::current().followFullScreen(game);
 }
 
-/// The first free one of STEM-1ENDING, STEM-2ENDING and so on.
+/// Returns the path of the first file that does not exist yet: STEM1ENDING, STEM2ENDING and so on.
 std::string Workbench::outPath(const char* stem, const char* ending) const
 {
     for (int number = 1;; ++number) {
@@ -231,13 +231,13 @@ void Workbench::saveRecording()
     makeFoldersOf(path);
     const bool isWritten = writeWhole(path, recorder->events());
     if (!isWritten)
-        std::cerr << recorder->events(); // not lost
+        std::cerr << recorder->events(); // so that it is not lost
     tellWritten("recording", path, isWritten);
     recorder.reset();
     notices.setStatus("");
 }
 
-// Reading anew
+// Reloading
 
 void Workbench::lookForChanges()
 {
@@ -245,12 +245,12 @@ void Workbench::lookForChanges()
     if (now - lastLook < lookMillis)
         return;
     lastLook = now;
-    // What is at fault stays as it was until it is mended.
+    // A script with an error keeps its last good form.
     bool isChanged = sources.haveChanged() && buildSources();
     if (now - lastPictureLook >= pictureLookMillis) {
         lastPictureLook = now;
         if (pictures.haveChanged(game)) {
-            game.reloadsurfaces(); // those of the game itself
+            game.reloadsurfaces(); // also those that the game itself made
             isChanged = true;
         }
     }
@@ -267,7 +267,7 @@ bool Workbench::buildSources()
     return isChanged;
 }
 
-/// Of the text, of lines that failed when they were read, and of files that are missing.
+/// Shows errors in text, lines that failed when they were read, and missing files.
 void Workbench::showFaults()
 {
     const std::vector<std::string>& failures = origins.getFailures();
