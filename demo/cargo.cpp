@@ -13,8 +13,8 @@ namespace {
 
 enum QuayColumn { QuayIcon, QuayLot, QuayTons };
 enum HoldColumn { HoldIcon, HoldLot, HoldPlace, HoldTons };
-constexpr int goodsIcons = 0;  // of the lists: goods.png
-constexpr int stowedIcons = 0; // of the plan: stowed.png, an empty place and then the goods
+constexpr int goodsIcons = 0;  // index of goods.png in the lists
+constexpr int stowedIcons = 0; // index of stowed.png in the plan; its frame 0 is an empty place
 
 constexpr const char* comboBoxes[] = {"BOUND", "DUNNAGE", "GANG"};
 constexpr const char* arrivals[] = {"At St Brannoc on Wednesday", "At Quill Haven on Wednesday",
@@ -23,7 +23,7 @@ constexpr const char* arrivals[] = {"At St Brannoc on Wednesday", "At Quill Have
 constexpr int dunnageMinutes[] = {10, 20, 40, 0};
 constexpr int hands[] = {4, 6, 8, 10};
 
-/// The frame in an icon cell as a script's row has made it.
+/// Returns the frame number from the text of an icon cell.
 int frameOf(const CString& cell)
 {
     static const CString mark("##FRAME##");
@@ -35,7 +35,7 @@ std::string twoDigits(int number)
     return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
 }
 
-/// Scrolls so that the page begins with that row, or as far as there are rows.
+/// Scrolls so that the page begins with that row, or to the end if there are too few rows.
 void scrollTo(AListBox& list, int row)
 {
     const int hidden = list.getItemCount() - list.getItemsPerPage();
@@ -45,7 +45,7 @@ void scrollTo(AListBox& list, int row)
     list.scrollTo(ZnFixed::fromInt(100) * share);
 }
 
-/// Empties a list, lets fill add its rows, and scrolls it to where it was.
+/// Empties a list, lets fill add its rows, and restores its scroll position.
 template<class Fill>
 void refill(AListBox& list, Fill fill)
 {
@@ -74,11 +74,11 @@ void CargoScreen::startup()
 void CargoScreen::returned()
 {
     HarbourScreen::returned();
-    getMainWin()->setKeepListSelection(1); // a change of screens gives that up
+    getMainWin()->setKeepListSelection(1); // a change of screens resets it
     showChoice();
 }
 
-/// The script's rows are what there is at first.
+/// Reads the initial lots from the rows in the script.
 void CargoScreen::readLots()
 {
     AListBox& quay = list("QUAY_LOTS");
@@ -91,7 +91,7 @@ void CargoScreen::readLots()
         stowage.lots.push_back({hold.getItemText(row, HoldLot).str(),
                                 frameOf(hold.getItemText(row, HoldIcon)),
                                 std::atoi(hold.getItemText(row, HoldTons)),
-                                Stowage::placeCalled(hold.getItemText(row, HoldPlace).str())});
+                                Stowage::findPlace(hold.getItemText(row, HoldPlace).str())});
 }
 
 void CargoScreen::fillLists()
@@ -136,7 +136,7 @@ void CargoScreen::fillPlan()
     }
 }
 
-/// The lot that is chosen in that list.
+/// Returns the lot that is selected in that list.
 int CargoScreen::choiceIn(const char* listName)
 {
     AListBox& from = list(listName);
@@ -168,15 +168,15 @@ void CargoScreen::choose(int lot)
     }
 }
 
-/// The crane's panel, its button and the plan follow what is chosen in the lists.
+/// Updates the crane's panel, its button and the plan to the lot that is selected in the lists.
 void CargoScreen::showChoice()
 {
     const int chosen = chosenLot();
     auto& button = part<AButton>("MOVE");
     AListBox& plan = list("PLAN");
     if (chosen == Stowage::nothing) {
-        tell("CHOSEN", "No lot is chosen");
-        tell("CHOSEN_TONS", "");
+        showText("CHOSEN", "No lot is chosen");
+        showText("CHOSEN_TONS", "");
         if (button.getButtonState() != AButton::BS_DISABLED)
             button.setButtonState(AButton::BS_DISABLED);
         plan.setSelectedItem(-1);
@@ -184,11 +184,11 @@ void CargoScreen::showChoice()
     }
     const Stowage::Lot& lot = stowage.at(chosen);
     const bool onQuay = lot.place == Stowage::ashore;
-    tell("CHOSEN", lot.name.c_str());
-    tell("CHOSEN_TONS",
-         (std::to_string(lot.tons) + " t, " + (onQuay ? "ashore" : "in " + Stowage::placeName(lot.place)))
-             .c_str());
-    tell("MOVE", onQuay ? "Stow it" : "Land it");
+    showText("CHOSEN", lot.name.c_str());
+    showText("CHOSEN_TONS",
+             (std::to_string(lot.tons) + " t, " + (onQuay ? "ashore" : "in " + Stowage::placeName(lot.place)))
+                 .c_str());
+    showText("MOVE", onQuay ? "Stow it" : "Land it");
     if (button.getButtonState() == AButton::BS_DISABLED)
         button.setButtonState(AButton::BS_NORMAL);
     plan.setSelectedItem(onQuay ? -1 : lot.place / Stowage::placesInRow);
@@ -198,24 +198,24 @@ void CargoScreen::showChoice()
 void CargoScreen::showOrders()
 {
     const int tons = stowage.tonsStowed(), men = hands[orders[2]];
-    constexpr int begin = 6 * 60, minutesAHandAndTon = 15;
-    const int end = begin + dunnageMinutes[orders[1]] + tons * minutesAHandAndTon / men;
-    tell("LOADED", ("Loaded by " + twoDigits(end / 60) + "." + twoDigits(end % 60)).c_str());
-    tell("ARRIVES", arrivals[orders[0]]);
+    constexpr int begin = 6 * 60, minutesPerTonAndHand = 15;
+    const int end = begin + dunnageMinutes[orders[1]] + tons * minutesPerTonAndHand / men;
+    showText("LOADED", ("Loaded by " + twoDigits(end / 60) + "." + twoDigits(end % 60)).c_str());
+    showText("ARRIVES", arrivals[orders[0]]);
 }
 
 void CargoScreen::showState()
 {
     const int lots = stowage.lotsStowed();
-    tell("STOWED", (std::to_string(stowage.tonsStowed()) + " tons in " + std::to_string(lots) +
-                    (lots == 1 ? " place" : " places") + (unsaved ? ", not signed" : ", signed"))
-                       .c_str());
+    showText("STOWED", (std::to_string(stowage.tonsStowed()) + " tons in " + std::to_string(lots) +
+                        (lots == 1 ? " place" : " places") + (unsaved ? ", not signed" : ", signed"))
+                           .c_str());
 }
 
 void CargoScreen::setUnsaved(bool set)
 {
     unsaved = set;
-    canExit = !set; // the way back asks first
+    canExit = !set; // leaving asks first
     showState();
 }
 
@@ -223,7 +223,7 @@ void CargoScreen::move(int lot, int newPlace)
 {
     stowage.at(lot).place = newPlace;
     for (const char* listName : {"QUAY_LOTS", "HOLD_LOTS"})
-        list(listName).setGradualReveal(0); // that is for the opening; from now on rows are there at once
+        list(listName).setGradualReveal(0); // only the first rows appear gradually
     fillLists();
     fillPlan();
     choose(lot);
@@ -250,18 +250,19 @@ void CargoScreen::update()
 int CargoScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
     if (action == MA_KEY && wnd && (subject == "ComboPrev" || subject == "ComboNext")) {
-        // All boxes would step at a key that is told of one box's button.
+        // Passed on as it is, a key on one box's button would step all boxes.
         AWnd* box = wnd->getParent();
         return handleMouseAction(box->getID(), box, x, y, action);
     }
     if (action == MA_KEY && subject == "PLAN" && leavePlan())
         return 1;
-    if (clicksTitles(list("QUAY_LOTS"), wnd, y, action) || clicksTitles(list("HOLD_LOTS"), wnd, y, action))
+    if (isClickOnTitles(list("QUAY_LOTS"), wnd, y, action) ||
+        isClickOnTitles(list("HOLD_LOTS"), wnd, y, action))
         return 1;
     if (HarbourScreen::handleMouseAction(subject, wnd, x, y, action))
         return 1;
     const AWnd* pointed = getMainWin()->getCurFocusWnd();
-    giveArrowsTo(pointed && pointed->getID() == "PLAN");
+    setArrowsOnPlan(pointed && pointed->getID() == "PLAN");
     if (action == MA_LBUTTONUP)
         click(subject);
     if (action != MA_LBUTTONDOWN)
@@ -303,28 +304,28 @@ int CargoScreen::handlePopupAction(const CString& subject, AWnd* wnd, int x, int
     return result;
 }
 
-/// Left and right lead from tab stop to tab stop, except on a table of cells that is the only one. So the
-/// plan is that, for as long as the pointer is on it.
-void CargoScreen::giveArrowsTo(bool plan)
+/// Left and right move between tab stops, unless a table of cells is the only tab stop. So the plan is made
+/// the only one while the pointer is on it.
+void CargoScreen::setArrowsOnPlan(bool set)
 {
-    if (plan == onPlan)
+    if (set == arrowsOnPlan)
         return;
-    onPlan = plan;
+    arrowsOnPlan = set;
     WndList& order = getTabStopInfo(1)->tabOrderWnds;
-    if (plan) {
+    if (set) {
         for (int i = 0; i < order.GetSize(); ++i)
-            wholeOrder.Add(order[i]);
+            fullTabOrder.Add(order[i]);
         order.RemoveAll();
         order.Add(&list("PLAN"));
     } else {
         order.RemoveAll();
-        for (int i = 0; i < wholeOrder.GetSize(); ++i)
-            order.Add(wholeOrder[i]);
-        wholeOrder.RemoveAll();
+        for (int i = 0; i < fullTabOrder.GetSize(); ++i)
+            order.Add(fullTabOrder[i]);
+        fullTabOrder.RemoveAll();
     }
 }
 
-/// Tab leads away from the plan, and so does an arrow at its edge.
+/// Leaves the plan on Tab, and on an arrow key at its edge.
 bool CargoScreen::leavePlan()
 {
     AMainWin* main = getMainWin();
@@ -336,7 +337,7 @@ bool CargoScreen::leavePlan()
                         : main->keyCode == VK_RIGHT && plan.getHotColumn() == Stowage::placesInRow - 1;
     if (!back && !on)
         return false;
-    giveArrowsTo(false);
+    setArrowsOnPlan(false);
     main->setMousePosOnNextTabStop(this, &plan, back, 0);
     return true;
 }

@@ -5,14 +5,14 @@
 
 class AComboBox;
 
-/// The cargo of the Alma: lots on the quay and in the hold, and a plan of the hold. What is chosen in one of
-/// the lists is moved to the other by a button, or to a place in the hold by a click on the plan.
+/// The cargo of the Alma: lots on the quay and in the hold, and a plan of the hold. A button moves the lot
+/// that is selected in one list to the other, and a click on the plan moves it to a place in the hold.
 class CargoScreen : public HarbourScreen {
 public:
     using HarbourScreen::HarbourScreen;
     void startup() override;
     void returned() override;
-    /// After a choice in a combo box.
+    /// Called after a selection in a combo box.
     void update() override;
     int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
     int handlePopupAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
@@ -31,12 +31,12 @@ private:
     void move(int lot, int newPlace);
     void click(const CString& subject);
     void setUnsaved(bool set);
-    void giveArrowsTo(bool plan);
+    void setArrowsOnPlan(bool set);
     bool leavePlan();
 
     Stowage stowage;
-    int orders[3] = {};  // what is chosen in the combo boxes
-    WndList wholeOrder;  // the tab order of the script, while the plan alone is in it
-    bool onPlan = false; // the arrows go to the plan
+    int orders[3] = {};        // selected items of the combo boxes
+    WndList fullTabOrder;      // the script's tab order, while only the plan is a tab stop
+    bool arrowsOnPlan = false; // the arrow keys move on the plan
     bool unsaved = false;
 };

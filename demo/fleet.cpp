@@ -8,7 +8,7 @@
 namespace {
 
 enum Column { KindIcon, Name, LiesAt, Signal, Tons, Condition, Coal };
-enum Icon { Kinds, Signals, ConditionGauge, CoalGauge }; // as LISTICONS names them
+enum Icon { Kinds, Signals, ConditionGauge, CoalGauge }; // in the order of LISTICONS
 
 } // namespace
 
@@ -17,24 +17,23 @@ void FleetScreen::startup()
     HarbourScreen::startup();
     if (AListBox* table = getListBox("VESSELS", 1))
         fillIn(*table);
-    keepChoice();
+    keepSelection();
 }
 
 void FleetScreen::returned()
 {
     HarbourScreen::returned();
-    keepChoice();
+    keepSelection();
 }
 
-/// A click elsewhere is not to take the choice away. A change of screens gives that up, so it is asked for
-/// again.
-void FleetScreen::keepChoice()
+/// Keeps a row selected when the user clicks elsewhere. A change of screens resets this, so it is set again.
+void FleetScreen::keepSelection()
 {
     getMainWin()->setKeepListSelection(1);
     AListBox* table = getListBox("VESSELS", 1);
     if (!table)
         return;
-    constexpr int first = 1; // behind the heading
+    constexpr int first = 1; // after the heading
     table->setSelectedItem(shown < 0 ? first : shown);
     show(*table, table->getSelectedItem());
 }
@@ -48,7 +47,7 @@ void FleetScreen::fillIn(AListBox& table)
         sum = 0;
     };
     for (int row = 0; row < table.getItemCount(); ++row) {
-        const Vessel* vessel = vesselCalled(table.getItemText(row, Name).view());
+        const Vessel* vessel = findVessel(table.getItemText(row, Name).view());
         if (!vessel) {
             endGroup();
             heading = row;
@@ -63,28 +62,28 @@ void FleetScreen::fillIn(AListBox& table)
         all += vessel->tons;
         ++count;
     }
-    // The last of these rows stands below all groups, and has a font of its own.
+    // The last of these rows is the total below all groups, which has a font of its own.
     sum = all;
     endGroup();
     table.addFontRow2(heading);
-    tell("FLEET_COUNT", (std::to_string(count) + " keels, more or less dry").c_str());
+    showText("FLEET_COUNT", (std::to_string(count) + " keels, more or less dry").c_str());
 }
 
 void FleetScreen::show(AListBox& table, int row)
 {
-    const Vessel* vessel = vesselCalled(table.getItemText(row, Name).view());
+    const Vessel* vessel = findVessel(table.getItemText(row, Name).view());
     if (!vessel || row == shown)
         return;
     shown = row;
     if (AWnd* picture = getWnd("VESSEL_PICTURE", 1))
         picture->setBmp(CString(vessel->picture));
-    tell("VESSEL_NAME", vessel->name);
-    tell("VESSEL_KIND",
-         (std::string(vessel->kind) + (vessel->tons ? ", " + std::to_string(vessel->tons) + " tons" : ""))
-             .c_str());
-    tell("VESSEL_MASTER", vessel->master);
-    tell("VESSEL_BUILT", vessel->built);
-    tell("VESSEL_SIGNAL", vessel->signal);
+    showText("VESSEL_NAME", vessel->name);
+    showText("VESSEL_KIND",
+             (std::string(vessel->kind) + (vessel->tons ? ", " + std::to_string(vessel->tons) + " tons" : ""))
+                 .c_str());
+    showText("VESSEL_MASTER", vessel->master);
+    showText("VESSEL_BUILT", vessel->built);
+    showText("VESSEL_SIGNAL", vessel->signal);
     AListBox* log = getListBox("LOG", 1);
     if (!log)
         return;
@@ -101,7 +100,7 @@ void FleetScreen::show(AListBox& table, int row)
 int FleetScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
     AListBox* table = getListBox("VESSELS", 1);
-    if (table && clicksTitles(*table, wnd, y, action))
+    if (table && isClickOnTitles(*table, wnd, y, action))
         return 1;
     if (HarbourScreen::handleMouseAction(subject, wnd, x, y, action))
         return 1;
@@ -109,7 +108,7 @@ int FleetScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, int
         return 0;
     if (table->getSelectedItem() >= 0)
         show(*table, table->getSelectedItem());
-    else if (action != MA_LBUTTONDOWN) // a press on a heading has taken the choice away
+    else if (action != MA_LBUTTONDOWN) // a press on a heading has cleared the selection
         table->setSelectedItem(shown);
     return 0;
 }

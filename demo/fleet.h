@@ -2,7 +2,7 @@
 
 #include "demo/game.h"
 
-/// The fleet: a table of vessels. The one that is chosen in it is shown beside it; some vessel always is.
+/// The fleet: a table of vessels. One vessel is always selected, and is shown beside the table.
 class FleetScreen : public HarbourScreen {
 public:
     using HarbourScreen::HarbourScreen;
@@ -11,9 +11,9 @@ public:
     int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
 
 private:
-    /// Tons, condition and coal of each vessel, and the sums in the rows between.
+    /// Fills in tons, condition and coal of each vessel, and the sums in the heading rows.
     void fillIn(AListBox& table);
-    void keepChoice();
+    void keepSelection();
     void show(AListBox& table, int row);
 
     int shown = -1; // row of the vessel that is shown

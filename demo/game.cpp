@@ -44,7 +44,7 @@ const struct ScreenOfDemo {
     {"OPTIONS", make<OptionsScreen>, "script.tgx"}, {"NEWGAME", make<HarbourScreen>, "script.tgx"},
 };
 
-const ScreenOfDemo* screenCalled(const CString& name)
+const ScreenOfDemo* findScreen(const CString& name)
 {
     for (const ScreenOfDemo& screen : screens)
         if (name == screen.name)
@@ -64,15 +64,16 @@ AWnd* HarbourWindow::createNewWindow(const CString& id, int x, int y, int w, int
         return new SlidingPanel(id, x, y, w, h, SlidingPanel::Below);
     if (className == "Ship")
         return new SailingShip(id, x, y, w, h);
-    const ScreenOfDemo* screen = screenCalled(className);
+    const ScreenOfDemo* screen = findScreen(className);
     return screen ? screen->make(id, x, y, w, h) : nullptr;
 }
 
-/// Whoever asks for a screen, also for one to go back to, names the main script.
+/// Reads the script that contains the screen. Callers always pass the main script, also to return to a
+/// screen.
 AWnd* HarbourWindow::readScriptFile(const CString& name, HINSTANCE instance, unsigned resourceId,
                                     const CString& toWindow, int finalRead)
 {
-    const ScreenOfDemo* screen = screenCalled(toWindow);
+    const ScreenOfDemo* screen = findScreen(toWindow);
     return AMainWin::readScriptFile(screen ? CString(screen->script) : name, instance, resourceId, toWindow,
                                     finalRead);
 }
@@ -129,7 +130,7 @@ void SlidingPanel::brake()
     APhysicalAnim* movement = getAnim();
     if (!movement)
         return;
-    // A sixth of what is left each tick, whole pixels; the last few pixels one by one.
+    // Each tick covers a sixth of the remaining distance in whole pixels, the last few pixels one by one.
     auto step = [](int offset) {
         int pixels = std::max(std::abs(offset) / 6, 1);
         return ZnFixed::fromInt(offset > 0 ? -pixels : offset < 0 ? pixels : 0);
@@ -138,7 +139,7 @@ void SlidingPanel::brake()
     setMoveAnimation(x, y, 0, 0, step(x), step(y), 1);
 }
 
-/// What has slid under a resting pointer is pointed at: the next tick counts as a movement of the pointer.
+/// Makes the next tick count as a movement of the pointer, so that a button that slid under it becomes hot.
 void SlidingPanel::arrive()
 {
     sliding = 0;
@@ -170,21 +171,21 @@ int HarbourScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, i
         return 1;
     }
     if (subject.Left(3) == "GO_") {
-        if (screenCalled(subject.Mid(3)))
+        if (findScreen(subject.Mid(3)))
             getMainWin()->changeScreen(subject.Mid(3), 0, 141, "script.tgx");
         return 1;
     }
     return 0;
 }
 
-void HarbourScreen::tell(const char* window, const char* text)
+void HarbourScreen::showText(const char* window, const char* text)
 {
     AWnd* shown = getWnd(window, 1);
     if (shown && shown->getWindowText() != text)
         shown->setWindowText(text);
 }
 
-bool HarbourScreen::clicksTitles(const AListBox& titled, const AWnd* wnd, int y, E_MOUSEACTION action)
+bool HarbourScreen::isClickOnTitles(const AListBox& titled, const AWnd* wnd, int y, E_MOUSEACTION action)
 {
     const bool clicks = action == MA_LBUTTONDOWN || action == MA_LBUTTONUP || action == MA_LBUTTONDBLCLK;
     return clicks && wnd == &titled && y < titled.getItemsStartPosY(1) + titled.getRowHeight();
@@ -197,7 +198,7 @@ const struct PortNotes {
     const char* name;
     const char* trade;
     const char* notes;
-    const char* ship; // picture of the one that calls there
+    const char* ship; // picture of the ship that calls there
 } ports[] = {
     {"PORT_ELLERY", "Port Ellery", "Home port", "Our own quay, and the office above the chandler's.",
      "art\\biddy.png"},
@@ -222,9 +223,9 @@ int ChartScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, int
     for (const PortNotes& port : ports) {
         if (subject != port.id)
             continue;
-        tell("PORT_NAME", port.name);
-        tell("PORT_TRADE", port.trade);
-        tell("PORT_NOTES", port.notes);
+        showText("PORT_NAME", port.name);
+        showText("PORT_TRADE", port.trade);
+        showText("PORT_NOTES", port.notes);
         if (AWnd* ship = getWnd("PORT_SHIP", 1))
             ship->setBmp(CString(port.ship));
         return 1;
@@ -238,8 +239,8 @@ namespace {
 
 const struct Dial {
     const char* bar;
-    const char* value; // the window that tells it
-    int percent;       // at the start
+    const char* value; // window that shows the value
+    int percent;       // initial value
 } dials[] = {
     {"SOUND_SEA", "SOUND_SEA_NOW", 60},    {"SOUND_ENGINE", "SOUND_ENGINE_NOW", 35},
     {"SOUND_GULLS", "SOUND_GULLS_NOW", 5}, {"LIGHT_LAMP", "LIGHT_LAMP_NOW", 25},
@@ -251,7 +252,7 @@ const struct Dial {
 void OptionsScreen::startup()
 {
     HarbourScreen::startup();
-    // A button that starts is at rest, so it is disabled behind that.
+    // Startup resets a button's state, so it is disabled afterwards.
     if (AButton* keep = getButton("KEEP", 1))
         keep->setButtonState(AButton::BS_DISABLED);
     for (const Dial& dial : dials) {
@@ -262,10 +263,10 @@ void OptionsScreen::startup()
 
 void OptionsScreen::draw(int frameStep)
 {
-    // A held bar keeps the mouse to itself, so its value is read here.
+    // A bar whose lever is held captures the mouse, so the values are read in each frame.
     for (const Dial& dial : dials) {
         if (auto* bar = windowAs<AScrollBar>(getWnd(dial.bar, 1)))
-            tell(dial.value, (std::to_string(bar->getPercentage().toInt()) + " %").c_str());
+            showText(dial.value, (std::to_string(bar->getPercentage().toInt()) + " %").c_str());
     }
     HarbourScreen::draw(frameStep);
 }
@@ -281,16 +282,16 @@ int OptionsScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, i
     if (family == "RULE_" || family == "COIN_" || subject.Left(4) == "SKY_") {
         if (keep->getButtonState() == AButton::BS_DISABLED)
             keep->setButtonState(AButton::BS_NORMAL);
-        tell("NOTE", "Changed, and not yet kept.");
+        showText("NOTE", "Changed, and not yet kept.");
         return 1;
     }
     if (subject == "KEEP" && keep->isEnabled()) {
         keep->setButtonState(AButton::BS_DISABLED);
-        tell("NOTE", "Kept, in ink.");
+        showText("NOTE", "Kept, in ink.");
         return 1;
     }
     if (subject == "HORN") {
-        tell("NOTE", "Somewhere in the fog, another horn answers.");
+        showText("NOTE", "Somewhere in the fog, another horn answers.");
         return 1;
     }
     return 0;

@@ -4,13 +4,13 @@
 #include "tgx/wnd/screen.h"
 #include "tgx/wnd/window_cast.h"
 
-/// Where the demo's scripts, pictures and fonts lie: the first command line argument that is no option, else
-/// the environment's TGX_DEMO_DATA, else the build tree. To be called before the main window is made.
+/// Sets the directory of the demo's scripts, pictures and fonts: the first command line argument that is not
+/// an option, else the environment variable TGX_DEMO_DATA, else the build tree. Must be called before the
+/// main window is made.
 void useDemoData(int argc, char** argv);
 
-/// A panel that comes in from off the screen and slows down towards its place. It starts with the first frame
-/// behind initialise or returned, so that whoever asks for its position before then gets the place where it
-/// will rest.
+/// A panel that slides in from off the screen and slows down towards its place. It starts with the first
+/// frame after initialise or returned; until then its position is the place where it will come to rest.
 class SlidingPanel : public AWnd {
 public:
     enum From { Left, Right, Below };
@@ -29,23 +29,23 @@ private:
     unsigned sliding : 1 = 0;
 };
 
-/// A ship that crosses the picture at one pixel a tick and drops anchor at its place.
+/// A ship that crosses the picture at one pixel per tick and drops anchor at its place.
 class SailingShip : public AWnd {
 public:
     SailingShip(const CString& name, int x, int y, int width, int height);
     void initialise() override;
 };
 
-/// A screen of the demo. A click on a window whose id is "GO_" and the name of a screen opens that screen, if
-/// there is one.
+/// A screen of the demo. A click on a window whose id is "GO_" followed by the name of a screen opens that
+/// screen.
 class HarbourScreen : public AScreen {
 public:
     using AScreen::AScreen;
     int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
 
 protected:
-    /// A window that the screen cannot do without. A script that leaves it out, or makes it of another class,
-    /// ends the tick or frame that asks, by the exception for an invalid argument.
+    /// Returns a window that the screen cannot do without. If the script leaves it out or makes it of another
+    /// class, throws the exception for an invalid argument, which ends the tick or frame.
     template<class T>
     T& part(const char* name)
     {
@@ -54,21 +54,21 @@ protected:
             AfxThrowInvalidArgException();
         return *found;
     }
-    /// Writes text into the window of that id, if there is one.
-    void tell(const char* window, const char* text);
-    /// Whether this is a press or click on the titles of that list: it is not to reach the row that may have
-    /// been scrolled away behind them.
-    static bool clicksTitles(const AListBox& titled, const AWnd* wnd, int y, E_MOUSEACTION action);
+    /// Shows text in the window with that id, if there is one.
+    void showText(const char* window, const char* text);
+    /// Returns whether this is a press or click on the titles of that list. It must not reach the row that
+    /// may have been scrolled away below them.
+    static bool isClickOnTitles(const AListBox& titled, const AWnd* wnd, int y, E_MOUSEACTION action);
 };
 
-/// The chart: what is pointed at is told in the panel beside it.
+/// The chart. A panel beside it describes the port under the pointer.
 class ChartScreen : public HarbourScreen {
 public:
     using HarbourScreen::HarbourScreen;
     int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
 };
 
-/// The options: the values of the bars are written beside them, and a change can be kept.
+/// The options. The values of the bars are shown beside them, and changes can be saved.
 class OptionsScreen : public HarbourScreen {
 public:
     using HarbourScreen::HarbourScreen;
@@ -77,7 +77,7 @@ public:
     int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
 };
 
-/// The demo's main window: it knows the classes that the scripts name, and which script holds a screen.
+/// The demo's main window. It knows the classes that the scripts name, and which script contains a screen.
 class HarbourWindow : public AMainWin {
 public:
     using AMainWin::AMainWin;
@@ -86,7 +86,7 @@ public:
                          const CString& toWindow, int finalRead) override;
 };
 
-/// The main window as the game runs it: it reads its script by itself.
+/// The main window of the game itself, which reads its script at startup.
 class HarbourGame : public HarbourWindow {
 public:
     HarbourGame() : HarbourWindow(1024, 768, 32) {}

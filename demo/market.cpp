@@ -22,11 +22,11 @@ constexpr int fullLevel = 1000;
 const struct Goods {
     const char* name;
     std::uint32_t colour;
-    const char* bar; // of the warehouse, and the window that tells its tons
-    const char* tons;
-    int stock;               // thousandths, at first
-    int newYear[years];      // crowns a ton
-    int rise[years][months]; // above that, at each month's end
+    const char* bar;         // progress bar in the warehouse
+    const char* tons;        // window that shows the tons
+    int stock;               // initial stock, thousandths
+    int newYear[years];      // price at the start of the year, crowns per ton
+    int rise[years][months]; // price above that at the end of each month
 } market[] = {
     {"Coal",
      palette::cream,
@@ -58,7 +58,7 @@ const struct Goods {
      {{3, 8, 13, 17, 24, 30, 27, 19, 12, 10, 14, 22}, {5, 9, 6, 11, 16, 21, 28, 24, 17, 9, 8, 11}}},
 };
 
-/// What a line tells at a month: a word, or a mark: "|" ice in the Sound, "^" an auction.
+/// A remark at a month of a line: a word, or a mark: "|" for ice in the Sound, "^" for an auction.
 constexpr struct Remark {
     int year, goods, month;
     const char* text;
@@ -71,7 +71,7 @@ constexpr struct Remark {
 constexpr struct Tank {
     const char* bar;
     const char* value;
-    int pumped; // thousandths, when the pump has run
+    int pumped; // level after pumping, thousandths
 } oil[] = {
     {"TANK_1", "TANK_1_NOW", 960},
     {"TANK_2", "TANK_2_NOW", 740},
@@ -81,8 +81,8 @@ constexpr struct Tank {
 
 constexpr int warehouseTons = 400;
 constexpr int lighterLoad = 150, cartLoad = 120, sale = 30; // thousandths
-constexpr int ticksASale = 150;
-constexpr int ticksANews = 120;
+constexpr int ticksPerSale = 150;
+constexpr int ticksPerNews = 120;
 constexpr int longestName = 12;
 
 constexpr const char* news[] = {
@@ -95,13 +95,13 @@ constexpr const char* news[] = {
     "St Brannoc: the second piano has been heard, and answered.",
 };
 
-/// 0xRRGGBB with red in the low byte, as graphs and getcol take it.
+/// Converts 0xRRGGBB to red in the low byte, as graphs and getcol expect.
 unsigned redLow(std::uint32_t rgb)
 {
     return (rgb & 0xFF) << 16 | (rgb & 0xFF00) | rgb >> 16;
 }
 
-/// That share of the colour, in percent, over the dark of a panel.
+/// Blends percent of the colour over the dark of a panel.
 std::uint32_t dimmed(std::uint32_t rgb, int percent)
 {
     std::uint32_t result = 0;
@@ -153,7 +153,7 @@ void MarketScreen::startup()
         tanks[i] = {0, oil[i].pumped};
     fillLines();
     fillBars();
-    ticksToSale = ticksASale;
+    ticksToSale = ticksPerSale;
     shipName = getWnd("PLATE", 1)->getWindowText();
 }
 
@@ -166,7 +166,7 @@ void MarketScreen::fillLines()
             lines.addData(market[i].rise[year][month], CString(remarkAt(year, i, month)), 0, i);
 }
 
-/// The month that was dearest has the goods' own colour.
+/// The dearest month is shown in the full colour of the goods, the others dimmed.
 void MarketScreen::fillBars()
 {
     AGraph& bars = graph("BARS");
@@ -179,22 +179,22 @@ void MarketScreen::fillBars()
         const std::uint32_t colour = dimmed(shown.colour, each == dearest ? 100 : 58);
         bars.addData(price, CString(std::to_string(price)), getMainWin()->getcol(redLow(colour)), 0);
     }
-    tell("BARS_OF", year == 0 ? "crowns in 1882" : "crowns in 1881");
+    showText("BARS_OF", year == 0 ? "crowns in 1882" : "crowns in 1881");
 }
 
 void MarketScreen::draw(int frameStep)
 {
     if (naming)
         endNaming();
-    goOn(frameStep);
+    advance(frameStep);
     HarbourScreen::draw(frameStep);
 }
 
-void MarketScreen::goOn(int ticks)
+void MarketScreen::advance(int ticks)
 {
     ticksToSale -= ticks;
     if (ticksToSale <= 0) {
-        ticksToSale = ticksASale;
+        ticksToSale = ticksPerSale;
         sell();
     }
     ticksToNews -= ticks;
@@ -217,15 +217,15 @@ void MarketScreen::showLevel(const char* bar, const char* value, const Level& le
 {
     if (auto* shown = windowAs<AProgressBar>(getWnd(bar, 1)))
         shown->setPercentage(ZnFixed::fromInt(level.now) / ZnFixed::fromInt(fullLevel / 100));
-    tell(value, (std::to_string(level.now * most / fullLevel) + unit).c_str());
+    showText(value, (std::to_string(level.now * most / fullLevel) + unit).c_str());
 }
 
-/// News may come at any time: they put off what would have been next.
+/// Prints news. This may happen at any time and postpones the next regular news.
 void MarketScreen::print(const CString& text)
 {
     if (AWnd* wire = getWnd("WIRE", 1))
         wire->setWindowText(text);
-    ticksToNews = ticksANews;
+    ticksToNews = ticksPerNews;
 }
 
 void MarketScreen::sell()
@@ -257,7 +257,7 @@ void MarketScreen::sendOut()
             .c_str()));
 }
 
-/// Open, they level the oil out; the pump sets it up again.
+/// Open valves level the tanks out; closing them starts the pump, which restores the levels.
 void MarketScreen::turnValves()
 {
     valvesOpen = !valvesOpen;
@@ -266,7 +266,7 @@ void MarketScreen::turnValves()
         sum += each.pumped;
     for (int i = 0; i < tankCount; ++i)
         tanks[i].wanted = valvesOpen ? sum / tankCount : oil[i].pumped;
-    tell("VALVES", valvesOpen ? "Pump it up" : "Open valves");
+    showText("VALVES", valvesOpen ? "Pump it up" : "Open valves");
     print(valvesOpen ? "Valves open: the oil finds its level, as oil and rumours do."
                      : "Two men at the pump, and one who counts.");
 }
@@ -308,7 +308,7 @@ void MarketScreen::click(const CString& subject)
 
 // The name of the new ship
 
-/// The box leaves her stern free, where the name shows while it is written.
+/// Opens the keyboard. Its box does not cover the ship's stern, where the name appears while it is typed.
 void MarketScreen::openNaming()
 {
     AMainWin* main = getMainWin();
@@ -327,7 +327,7 @@ void MarketScreen::openNaming()
     nameKept = true;
 }
 
-/// "OK" on the keyboard closes its box without another word.
+/// Called in each frame while naming, because "OK" on the keyboard closes its box without calling the screen.
 void MarketScreen::endNaming()
 {
     if (getMainWin()->isInPopupList("NAMING"))
@@ -336,7 +336,7 @@ void MarketScreen::endNaming()
     const CString written = getWnd("PLATE", 1)->getWindowText();
     const bool blank = written.str().find_first_not_of(' ') == std::string::npos;
     if (!nameKept || blank || written == shipName) {
-        tell("PLATE", shipName);
+        showText("PLATE", shipName);
         return;
     }
     shipName = written;

@@ -5,7 +5,8 @@
 class AGraph;
 class AProgressBar;
 
-/// Something that fills and empties, in thousandths. It follows what is wanted of it, fast at first.
+/// The level of something that fills and empties, in thousandths. It approaches the wanted level, fast at
+/// first.
 struct Level {
     int now = 0;
     int wanted = 0;
@@ -13,14 +14,14 @@ struct Level {
     void follow(int ticks);
 };
 
-/// The market: prices as lines and bars, what lies in the warehouse and in the oil tanks, the news as it
-/// comes over the wire, and the new ship, who gets her name on a keyboard of its own.
+/// The market: prices as lines and bars, the stock in the warehouse and in the oil tanks, the news from the
+/// telegraph, and the new ship, whose name the user types on an on-screen keyboard.
 class MarketScreen : public HarbourScreen {
 public:
     using HarbourScreen::HarbourScreen;
     void startup() override;
     void draw(int frameStep) override;
-    /// After a choice in the combo box.
+    /// Called after a selection in the combo box.
     void update() override;
     int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
     int handlePopupAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
@@ -35,10 +36,10 @@ private:
     void unload();
     void sendOut();
     void turnValves();
-    /// A good goes over the counter, each in its turn.
+    /// Sells some of the next kind of goods, each kind in turn.
     void sell();
-    /// Levels and news go on by so many ticks.
-    void goOn(int ticks);
+    /// Advances levels and news by that many ticks.
+    void advance(int ticks);
     void showLevel(const char* bar, const char* value, const Level& level, int most, const char* unit);
     void print(const CString& news);
     void openNaming();
@@ -46,7 +47,7 @@ private:
     AGraph& graph(const char* name);
 
     int year = 0;
-    int goods = 0; // whose prices the bars show
+    int goods = 0; // the kind whose prices the bars show
     Level stock[goodsCount];
     Level tanks[tankCount];
     bool valvesOpen = false;
@@ -54,7 +55,7 @@ private:
     int nextSale = 0;
     int ticksToNews = 0;
     int nextNews = 0;
-    CString shipName;    // as it is painted on the stern
-    bool naming = false; // the keyboard is open
-    bool nameKept = false;
+    CString shipName;      // as painted on the stern
+    bool naming = false;   // the keyboard is open
+    bool nameKept = false; // closing the keyboard keeps the new name
 };

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-/// The demo's one palette, 0xRRGGBB: a harbour before sunrise. Pictures take their colours from here and mix
-/// between them; the fonts in scripts/script.tgs name the same values.
+/// The demo's palette, 0xRRGGBB: a harbour before sunrise. Pictures use and mix these colours; the fonts in
+/// scripts/script.tgs repeat the values.
 namespace palette {
 
 constexpr std::uint32_t night = 0x0D1826;   // panels, silhouettes in front
@@ -14,7 +14,7 @@ constexpr std::uint32_t sea = 0x2F6270;     // water, the chart's sea
 constexpr std::uint32_t lagoon = 0x6BB1C4;  // slate's line and bar
 constexpr std::uint32_t foam = 0xBFD8D2;    // light on water
 constexpr std::uint32_t rose = 0xD9816B;    // dawn above the horizon
-constexpr std::uint32_t amber = 0xF2B866;   // sun, headings, what the pointer is on
+constexpr std::uint32_t amber = 0xF2B866;   // sun, headings, items under the pointer
 constexpr std::uint32_t cream = 0xF5E8CF;   // text on dark
 constexpr std::uint32_t paper = 0xE6D3AC;   // the chart
 constexpr std::uint32_t brass = 0xB98F4E;   // frames

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-// The demo as `tgx play` would run it, with the demo's own window classes.
+// Plays the demo like `tgx play`, with the demo's own window classes.
 int main(int argc, char** argv)
 {
     return playMain(argc, argv, [](int width, int height, int depth) {

@@ -7,8 +7,8 @@ namespace {
 
 enum Goods { Slate, Coal, Timber, Wool, Casks, Glass, Mail, Piano };
 
-constexpr int heavy = 30;      // tons; what is fragile does not bear as much
-constexpr int tolerated = 100; // tons times places that she may be out of balance
+constexpr int heavy = 30;      // tons; too much on top of fragile goods
+constexpr int tolerated = 100; // tolerated imbalance, tons times places
 
 bool isFragile(int kind)
 {
@@ -39,7 +39,7 @@ std::string Stowage::placeName(int place)
     return {static_cast<char>('A' + place / placesInRow), static_cast<char>('1' + place % placesInRow)};
 }
 
-int Stowage::placeCalled(const std::string& name)
+int Stowage::findPlace(const std::string& name)
 {
     for (int place = 0; place < places; ++place)
         if (placeName(place) == name)

@@ -181,7 +181,7 @@ const Vessel vessels[] = {
 
 } // namespace
 
-const Vessel* vesselCalled(std::string_view name)
+const Vessel* findVessel(std::string_view name)
 {
     for (const Vessel& vessel : vessels)
         if (name == vessel.name)

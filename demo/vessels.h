@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-/// What the company knows of a vessel beyond its row in the fleet's table.
+/// Details of a vessel beyond its row in the fleet's table.
 struct Vessel {
     static constexpr int burnsNone = -1;
 
@@ -19,5 +19,5 @@ struct Vessel {
     std::array<std::array<const char*, 2>, 2> log; // date and entry
 };
 
-/// Null for a name that is no vessel's.
-const Vessel* vesselCalled(std::string_view name);
+/// Returns the vessel with that name, or null if there is none.
+const Vessel* findVessel(std::string_view name);

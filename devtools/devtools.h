@@ -11,17 +11,16 @@ class AMainWin;
 class Workbench;
 
 struct DevToolsOptions {
-    /// The game's main script, by its name below UIG.
+    /// Name of the game's main script below UIG.
     std::string script = "script.tgx";
-    /// Whether it is read behind startup when the interface is read anew: for a game whose startup does not
-    /// read it.
+    /// Whether a reload reads the main script after startup, for a game whose startup does not read it.
     bool readsScript = false;
-    /// Folders with the text form of scripts, besides UIG itself: where one holds "menu.tgs", what is
-    /// compiled of that stands in for "menu.tgx", which need not be there.
+    /// Folders with the text form of scripts, in addition to UIG itself. A "menu.tgs" in one of them is
+    /// compiled in memory and replaces "menu.tgx", which need not exist.
     std::vector<std::string> sources = {};
-    /// Where pictures and recordings go; empty: the working directory.
+    /// Folder for pictures and recordings; empty: the working directory.
     std::string outDirectory = {};
-    /// Whether a changed script or picture is read again.
+    /// Whether changed scripts and pictures are reloaded.
     bool reloads = true;
 
     // Virtual key codes; 0: none.
@@ -32,20 +31,21 @@ struct DevToolsOptions {
     int screensKey = VK_F8;
 };
 
-/// What an author of an interface sees while a game runs: the interface is read again when a script or a
-/// picture changes, an inspector names windows, input is recorded as events for tgx play. The game takes no
-/// notice of it: its keys do not reach the game, and what it shows is in no picture, trace or tree of it.
+/// Tools for the author of an interface while the game runs: they reload the interface when a script or a
+/// picture changes, show an inspector, and record input as events for tgx play. The game does not notice
+/// them: their keys do not reach it, and nothing that they show appears in its pictures, traces or trees.
 ///
 ///     MyGame game;
 ///     DevTools devTools(game);
 ///     app.mainWin = &game;
 ///     return app.Run();
 ///
-/// One at a time. It stands between the game and the host: made before the window is opened, or while it is.
+/// Only one may exist at a time. It is inserted between the game and the host, before the window is opened or
+/// while it is open.
 class TGX_DEVTOOLS_API DevTools {
 public:
-    /// game is not owned and has to live longer. Raises std::runtime_error for a folder of sources that is
-    /// not there.
+    /// Does not own game, which must live longer. Raises std::logic_error if it has devtools already. A
+    /// missing folder of sources is reported over the game's picture.
     explicit DevTools(AMainWin& game, DevToolsOptions options = {});
     ~DevTools();
     DevTools(const DevTools&) = delete;

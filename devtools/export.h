@@ -1,4 +1,4 @@
 #pragma once
 
-/// Marks what the devtools library exports. Everything else is hidden (-fvisibility=hidden).
+/// Marks what the devtools library exports. All other symbols are hidden (-fvisibility=hidden).
 #define TGX_DEVTOOLS_API __attribute__((visibility("default")))

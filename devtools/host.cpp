@@ -32,7 +32,7 @@ void WatchingHost::show(const Image& screen, std::span<const tagRECT> changed)
 {
     const Image& picture = watcher.pictureOf(screen, changed);
     const tagRECT whole{0, 0, picture.width, picture.height};
-    // A picture with something painted over it is made anew each time.
+    // A picture with an overlay is completely repainted each time.
     if (&picture != &screen || &picture != shown)
         inner->show(picture, {&whole, 1});
     else
@@ -45,7 +45,7 @@ void WatchingHost::pump(ddwin& window)
     inner->pump(window);
     closeRequested = closeRequested || inner->closeRequested;
     userWantsToClose = std::exchange(inner->userWantsToClose, false) || userWantsToClose;
-    // What the watcher does may bring more: a window that changes lets go of what is held.
+    // The watcher may cause more input: a window that changes releases the keys and buttons that are held.
     while (!inner->input().empty())
         if (const InputQueue::Event event = inner->input().take(); !watcher.takesInput(event))
             input().add(event);

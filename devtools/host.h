@@ -2,29 +2,29 @@
 
 #include "platform/display/host.h"
 
-/// Who stands behind a WatchingHost.
+/// Receives what passes through a WatchingHost.
 class HostWatcher {
 public:
     virtual ~HostWatcher() = default;
-    /// Input that has arrived. True: it does not go on to the game.
+    /// Handles input that has arrived. Returns true to keep it from the game.
     virtual bool takesInput(const InputQueue::Event& event) = 0;
-    /// What stands at the head of next is what the tick takes, if it takes new input.
+    /// Called before each tick. If the tick takes new input, it takes it from the head of next.
     virtual void tickBegins(const InputQueue& next, bool takesNew) = 0;
-    /// Outside of any handler: here the interface may be taken down.
+    /// Called before each frame, outside any handler, so the interface may be deleted here.
     virtual void frameBegins() = 0;
-    /// The picture that is shown instead of screen, or screen itself; all of it is shown when it is another
-    /// one than that of the frame before.
+    /// Returns the picture to show instead of screen, or screen itself. All of it is shown if it is a
+    /// different object than in the previous frame.
     virtual const Image& pictureOf(const Image& screen, std::span<const tagRECT> changed) = 0;
     /// cause: what the message and others may follow from; "" for none that is known.
     virtual void showMessage(const CString& text, const std::string& cause) = 0;
 };
 
-/// Stands in front of the host that was in use and shows a watcher all that passes.
+/// Wraps the host that was in use and shows a watcher everything that passes.
 class WatchingHost : public displayhost {
 public:
-    /// watcher is not owned and has to live longer.
+    /// Does not own watcher, which must live longer.
     WatchingHost(std::unique_ptr<displayhost> watched, HostWatcher& watcher);
-    /// The host behind, for use without this one; what waits goes over to it.
+    /// Returns the wrapped host, for use without this one. Passes waiting input to it.
     std::unique_ptr<displayhost> release();
 
     bool open(ddwin& window) override;
@@ -44,5 +44,5 @@ public:
 private:
     std::unique_ptr<displayhost> inner;
     HostWatcher& watcher;
-    const Image* shown = nullptr; // last; compared, never read
+    const Image* shown = nullptr; // picture of the last frame; compared, never dereferenced
 };

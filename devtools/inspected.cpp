@@ -12,25 +12,25 @@
 
 namespace {
 
-constexpr std::size_t shownOfText = 80;  // characters
-constexpr std::size_t shownOfPath = 8;   // windows
-constexpr std::size_t shownOfPlace = 40; // characters
-constexpr std::size_t shownOfParents = 4;
+constexpr std::size_t maxTextLength = 80;  // characters
+constexpr std::size_t maxPathWindows = 8;  // windows
+constexpr std::size_t maxPlaceLength = 40; // characters
+constexpr std::size_t maxParents = 4;
 
 constexpr std::uint32_t warningColour = 0xFFB060;
 constexpr std::uint32_t quietColour = 0x9FB2C6;
 
-const CString here; // for getWndFromIndex, which is asked for thousands
+const CString emptyId; // made once, because getWndFromIndex is called thousands of times
 
 template<class Visit>
 void forEachChild(AWnd& wnd, const Visit& visit)
 {
     for (int i = 0; i < wnd.getWindowCount(); ++i)
-        if (AWnd* child = wnd.getWndFromIndex(i, here))
+        if (AWnd* child = wnd.getWndFromIndex(i, emptyId))
             visit(*child);
 }
 
-/// Front first, the active screen last.
+/// Returns the open popups from front to back, then the active screen.
 std::vector<AWnd*> shownTops(const AMainWin& game)
 {
     std::vector<AWnd*> tops;
@@ -47,7 +47,7 @@ bool isOneOf(const std::vector<AWnd*>& tops, const AWnd& wnd)
     return std::find(tops.begin(), tops.end(), &wnd) != tops.end();
 }
 
-/// The last in drawing order, so the topmost.
+/// Finds the topmost window at a point, which is the last one in drawing order.
 void findShown(AWnd& wnd, int x, int y, AWnd*& found)
 {
     if (!wnd.isVisible(1))
@@ -62,7 +62,7 @@ std::string idOf(const AWnd& wnd)
     return wnd.getID().IsEmpty() ? "(no id)" : wnd.getID().str();
 }
 
-/// Control characters as \n, \t or \xNN, the others as they are.
+/// Writes control characters as \n, \t or \xNN.
 std::string shownText(std::string_view text)
 {
     constexpr char digits[] = "0123456789ABCDEF";
@@ -87,22 +87,23 @@ std::string rectangle(int x, int y, int width, int height)
            std::to_string(height);
 }
 
-/// The windows above it and itself, a line each, further in at each step.
+/// Adds a line for each window from the top level down to wnd, each more indented.
 void addPath(std::vector<PanelLine>& lines, const AMainWin& game, const AWnd& wnd)
 {
     std::vector<const AWnd*> path;
     for (const AWnd* step = &wnd; step && step != game.getScreenList(); step = step->getParent())
         path.push_back(step);
     std::reverse(path.begin(), path.end());
-    const std::size_t left = path.size() > shownOfPath ? path.size() - shownOfPath : 0; // out, behind the top
+    const std::size_t omitted =
+        path.size() > maxPathWindows ? path.size() - maxPathWindows : 0; // after the top
     std::string indent;
     for (std::size_t i = 0; i < path.size(); ++i) {
-        if (left > 0 && i == 1) {
-            lines.push_back({indent + "... " + std::to_string(left) + " more", quietColour});
+        if (omitted > 0 && i == 1) {
+            lines.push_back({indent + "... " + std::to_string(omitted) + " more", quietColour});
             indent += "  ";
-            i += left;
+            i += omitted;
         }
-        lines.push_back({indent + titleOf(*path[i]), path[i] == &wnd ? pointedColour : quietColour});
+        lines.push_back({indent + titleOf(*path[i]), path[i] == &wnd ? hoveredColour : quietColour});
         indent += "  ";
     }
 }
@@ -124,7 +125,7 @@ const char* nameOfState(const AButton& button)
     return "";
 }
 
-/// "is disabled with "PANEL", moving".
+/// Returns "is disabled because "PANEL" is disabled, is moving", or "" if neither applies.
 std::string stateOf(AWnd& wnd)
 {
     std::string state = whyDisabled(wnd);
@@ -142,19 +143,19 @@ std::string buttonStateOf(const AWnd& wnd)
     return std::string(nameOfState(*button)) + (button->getSelected() ? ", selected" : "");
 }
 
-/// Its end where it is long: there the line stands.
+/// Shortens a long place to its end, because the line number is there.
 std::string shownPlace(const std::string& place)
 {
     if (place.empty())
         return "no script";
-    return place.size() > shownOfPlace ? "..." + place.substr(place.size() - shownOfPlace) : place;
+    return place.size() > maxPlaceLength ? "..." + place.substr(place.size() - maxPlaceLength) : place;
 }
 
 std::string bitmapOf(const AWnd& wnd)
 {
     if (!wnd.getBmp())
         return wnd.getBmpFilename().IsEmpty() ? "" : wnd.getBmpFilename().str() + ", not loaded";
-    return (wnd.getBmpFilename().IsEmpty() ? "from no file" : wnd.getBmpFilename().str()) + ", frame " +
+    return (wnd.getBmpFilename().IsEmpty() ? "not from a file" : wnd.getBmpFilename().str()) + ", frame " +
            std::to_string(wnd.getCurrentFrame());
 }
 
@@ -163,10 +164,11 @@ std::string fontOf(const AMainWin& game, const AWnd& wnd)
     if (!wnd.getFont())
         return "none";
     const int index = game.getFontIndex(wnd.getFont());
-    return index < 0 ? "one that the table has no more" : std::to_string(index);
+    return index < 0 ? "no longer in the table" : std::to_string(index);
 }
 
-/// "2 of 5 in "PANEL"": its place in the tab order of the nearest window that lists it.
+/// Returns the position in the tab order of the nearest window that lists it, such as "2 of 5 in "PANEL"", or
+/// "".
 std::string tabStopOf(AWnd& wnd)
 {
     for (AWnd* holder = &wnd; holder; holder = holder->getParent()) {
@@ -179,7 +181,7 @@ std::string tabStopOf(AWnd& wnd)
     return "";
 }
 
-/// Where input at that point goes instead; "" when it comes to wnd.
+/// Returns where input at that point goes instead, or "" if it goes to wnd.
 std::string inputAt(AMainWin& game, const AWnd& wnd, int x, int y)
 {
     const Reach reach = reachAt(game, x, y, PointerAct::Point);
@@ -208,7 +210,7 @@ WindowKind kindOf(const AWnd& wnd)
     }
 }
 
-/// Parts that controls make and look for in themselves: each has its own.
+/// Returns whether id is that of a part that controls look for in themselves. Each control has its own.
 bool isPartOfControl(std::string_view id)
 {
     constexpr std::string_view parts[] = {"CheckboxState", "RadioState", "ComboPrev",
@@ -217,14 +219,14 @@ bool isPartOfControl(std::string_view id)
                        [&](std::string_view part) { return CString::equalNoCase(part, id); });
 }
 
-/// An id where a search would meet it.
+/// An id together with the window below which a search would find it.
 struct PlacedId {
-    const AWnd* below; // of the search
+    const AWnd* searchRoot;
     std::string_view id;
 
     bool operator==(const PlacedId& other) const
     {
-        return below == other.below && CString::equalNoCase(id, other.id);
+        return searchRoot == other.searchRoot && CString::equalNoCase(id, other.id);
     }
 };
 
@@ -232,9 +234,9 @@ struct PlacedIdHash {
     std::size_t operator()(const PlacedId& placed) const
     {
         constexpr std::uint64_t prime = 0x100000001B3; // FNV-1a
-        std::uint64_t hash = 0xCBF29CE484222325 ^ reinterpret_cast<std::uintptr_t>(placed.below);
+        std::uint64_t hash = 0xCBF29CE484222325 ^ reinterpret_cast<std::uintptr_t>(placed.searchRoot);
         for (const char c : placed.id)
-            hash = (hash ^ (static_cast<unsigned char>(c) & ~0x20u)) * prime; // one for both cases
+            hash = (hash ^ (static_cast<unsigned char>(c) & ~0x20u)) * prime; // the same for both cases
         return static_cast<std::size_t>(hash ^ hash >> 32);
     }
 };
@@ -260,21 +262,21 @@ private:
 
     void visit(AWnd& wnd)
     {
-        // It may stand in several places and is one window all the same, with all that it holds.
+        // A shared window may appear in several places, but is counted only once, together with its children.
         if (wnd.getPointerCount() > 0 && !shared.insert(&wnd).second)
             return;
         if (wnd.isVisible(1))
             census.shown.push_back({&wnd, &wnd == searched ? WindowKind::Top : kindOf(wnd)});
         else
             ++census.hidden;
-        enterId(wnd);
+        addId(wnd);
         forEachChild(wnd, [&](AWnd& child) {
-            if (!isOneOf(tops, child)) // a popup that hangs in the screen comes in its own turn
+            if (!isOneOf(tops, child)) // an open popup is visited by itself, even if its parent is the screen
                 visit(child);
         });
     }
 
-    void enterId(AWnd& wnd)
+    void addId(AWnd& wnd)
     {
         const std::string_view id = wnd.getID().view();
         if (id.empty())
@@ -292,7 +294,7 @@ private:
     }
 
     const std::vector<AWnd*>& tops;
-    AWnd* searched = nullptr; // the screen or popup whose turn it is
+    AWnd* searched = nullptr; // the screen or popup that is being visited
     std::unordered_map<PlacedId, Seen, PlacedIdHash> ids;
     std::unordered_set<const AWnd*> shared;
     Census census;
@@ -305,16 +307,16 @@ const char* nameOfKind(WindowKind kind)
     return names[static_cast<int>(kind)];
 }
 
-/// "id GO\t3 times: in PANEL, in (no id), in CARD"
+/// Returns a line such as "id GO\t3 times: in PANEL, in (no id), in CARD".
 std::string describeDuplicate(const DuplicateId& duplicate)
 {
     std::string text = "id " + shownText(idOf(*duplicate.wnds.front())) + '\t' +
                        std::to_string(duplicate.wnds.size()) + " times: ";
-    for (std::size_t i = 0; i < std::min(duplicate.wnds.size(), shownOfParents); ++i) {
+    for (std::size_t i = 0; i < std::min(duplicate.wnds.size(), maxParents); ++i) {
         const AWnd* parent = duplicate.wnds[i]->getParent();
         text += (i > 0 ? ", in " : "in ") + (parent ? shownText(idOf(*parent)) : "no window");
     }
-    return duplicate.wnds.size() > shownOfParents ? text + ", ..." : text;
+    return duplicate.wnds.size() > maxParents ? text + ", ..." : text;
 }
 
 } // namespace
@@ -346,7 +348,7 @@ std::vector<PanelLine> describeWindow(AMainWin& game, AWnd& wnd, int x, int y, c
     add("on screen", rectangle(wnd.left(), wnd.top(), wnd.width(), wnd.height()));
     add("in parent", rectangle(wnd.wndX(), wnd.wndY(), wnd.getWndWidth(), wnd.getWndHeight()));
     if (const std::string& text = wnd.getText().str(); !text.empty())
-        add("text", '"' + text.substr(0, shownOfText) + '"' + (text.size() > shownOfText ? "..." : ""));
+        add("text", '"' + text.substr(0, maxTextLength) + '"' + (text.size() > maxTextLength ? "..." : ""));
     add("font", fontOf(game, wnd));
     add("bitmap", bitmapOf(wnd));
     add("button", buttonStateOf(wnd));

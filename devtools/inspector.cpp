@@ -35,7 +35,7 @@ std::string nameOfKey(int code)
     return "key " + std::to_string(code);
 }
 
-/// With a comma at each thousand.
+/// Writes a number with a comma at each thousand.
 std::string grouped(long number)
 {
     std::string digits = std::to_string(number);
@@ -63,7 +63,7 @@ void paintOutlines(Overlay& overlay, const Census& census)
             }
 }
 
-/// Above the box, else below it, else inside; not under the pointer if that can be.
+/// Places a tag above the box, else below it, else inside; not under the pointer if possible.
 Box placeOfTag(const Overlay& overlay, const Box& box, int width, int height, int pointerX, int pointerY)
 {
     const int x = std::clamp(box.x0, 0, std::max(0, overlay.width() - width));
@@ -103,7 +103,7 @@ std::string describeKeys(const DevToolsOptions& keys)
         int code;
         const char* meaning;
     } rows[] = {
-        {keys.inspectorKey, "inspector"}, {keys.fullScreenKey, "whole screen"}, {keys.pictureKey, "picture"},
+        {keys.inspectorKey, "inspector"}, {keys.fullScreenKey, "full screen"}, {keys.pictureKey, "picture"},
         {keys.recorderKey, "record"},     {keys.screensKey, "screens"},
     };
     std::string help;
@@ -119,7 +119,7 @@ Inspector::Inspector(AMainWin& mainWin, const Origins& madeBy, const DevToolsOpt
 
 void Inspector::next()
 {
-    setting = setting == Off ? Pointed : setting == Pointed ? All : Off;
+    setting = setting == Off ? Hovered : setting == Hovered ? All : Off;
 }
 
 void Inspector::paint(Overlay& overlay, const FrameCost& cost) const
@@ -139,9 +139,9 @@ void Inspector::paint(Overlay& overlay, const FrameCost& cost) const
         append(lines, describeCensus(census));
     }
     if (wnd)
-        paintPointed(overlay, *wnd);
+        paintHovered(overlay, *wnd);
 
-    // In the half of the screen that the pointer is not in.
+    // Panels are in the half of the screen without the pointer.
     const int middle = overlay.width() / 2;
     const bool isPointerLeft = game.mouseX < middle;
     Box room = isPointerLeft ? Box{middle, 0, overlay.width(), overlay.height()}
@@ -155,13 +155,13 @@ void Inspector::paint(Overlay& overlay, const FrameCost& cost) const
     paintPanel(overlay, lines, corner, room);
 }
 
-/// Its outline, to be seen on any ground, and its name.
-void Inspector::paintPointed(Overlay& overlay, const AWnd& wnd) const
+/// Paints the window's outline, visible on any background, and its name.
+void Inspector::paintHovered(Overlay& overlay, const AWnd& wnd) const
 {
     const Box box = boxOf(wnd);
     overlay.outline(grown(box, 1), shadeColour);
     overlay.outline(grown(box, -1), shadeColour);
-    overlay.outline(box, pointedColour);
+    overlay.outline(box, hoveredColour);
 
     const int padding = tagPadding * overlay.scale();
     const std::string name = overlay.fitted(titleOf(wnd) + "  " + std::to_string(wnd.width()) + " x " +
@@ -170,5 +170,5 @@ void Inspector::paintPointed(Overlay& overlay, const AWnd& wnd) const
     const Box tag = placeOfTag(overlay, box, overlay.textWidth(name) + 2 * padding,
                                overlay.lineHeight() + padding, game.mouseX, game.mouseY);
     overlay.fill(tag, shadeColour, tagShare);
-    overlay.text(tag.x0 + padding, tag.y0 + padding / 2, name, pointedColour);
+    overlay.text(tag.x0 + padding, tag.y0 + padding / 2, name, hoveredColour);
 }

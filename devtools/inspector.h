@@ -10,32 +10,32 @@ class AMainWin;
 class AWnd;
 class Origins;
 
-/// What the last frame cost.
+/// The cost of the last frame.
 struct FrameCost {
-    long micros = 0;        // the frame without waiting
-    long averageMicros = 0; // over about a second
-    int commands = 0;       // of the display list
-    long changedPixels = 0; // that went to the window
+    long micros = 0;        // duration of the frame without waiting
+    long averageMicros = 0; // average over about a second
+    int commands = 0;       // commands in the display list
+    long changedPixels = 0; // pixels sent to the window
 };
-/// screenPixels: of the whole screen.
+/// Returns lines about the cost. screenPixels is the number of pixels of the whole screen.
 std::vector<PanelLine> describeCost(const FrameCost& cost, long screenPixels);
-/// Which key does what, of those that are set.
+/// Returns a help line for the keys that are set.
 std::string describeKeys(const DevToolsOptions& keys);
 
-/// Names what is under the pointer. Three settings, one behind the other: off, the window under the pointer,
-/// and that with the outline of every window and the ids that stand twice.
+/// Describes the window under the pointer. It has three settings in turn: off, the window under the pointer,
+/// and the same with the outlines of all windows and the duplicate ids.
 class Inspector {
 public:
-    /// Neither game nor origins is owned. keys: for the help.
+    /// Owns neither game nor origins. keys is for the help line.
     Inspector(AMainWin& game, const Origins& origins, const DevToolsOptions& keys = {});
-    void next(); // setting
+    void next(); // switches to the next setting
     bool isOn() const { return setting != Off; }
     void paint(Overlay& overlay, const FrameCost& cost) const;
 
 private:
-    enum Setting { Off, Pointed, All };
+    enum Setting { Off, Hovered, All };
 
-    void paintPointed(Overlay& overlay, const AWnd& wnd) const;
+    void paintHovered(Overlay& overlay, const AWnd& wnd) const;
 
     AMainWin& game;
     const Origins& origins;

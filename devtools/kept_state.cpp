@@ -16,7 +16,7 @@
 
 namespace {
 
-/// A change of screens takes a few frames; a game may take longer over it, but not for ever.
+/// A change of screens takes a few frames, and a game may take longer, but not indefinitely.
 constexpr int framesToWait = 120;
 
 KeptValues valuesOf(AWnd& wnd)
@@ -73,8 +73,8 @@ void setValues(AWnd& wnd, const KeptValues& values)
     }
 }
 
-/// Visits root and all below it, each with its place: "MENU/PANEL/OK", and with a number behind an id that
-/// stands before it among the same children. What is shown in a second place is visited in its own.
+/// Visits root and all windows below it, each with its place, such as "MENU/PANEL/OK". A repeated id among
+/// siblings is numbered. A window that is also shown in a second place is only visited in its own.
 void visit(AWnd& wnd, const std::string& place, const std::function<void(AWnd&, const std::string&)>& visitor)
 {
     visitor(wnd, place);
@@ -89,7 +89,7 @@ void visit(AWnd& wnd, const std::string& place, const std::function<void(AWnd&, 
     }
 }
 
-/// What differs from first; an empty one where nothing does.
+/// Returns the values that differ from first.
 KeptValues changesSince(const KeptValues& first, KeptValues now)
 {
     const auto dropSame = [](auto& value, const auto& before) {
@@ -120,8 +120,8 @@ InterfaceState::Values InterfaceState::valuesBelow(AWnd& root)
     return values;
 }
 
-/// The active screen, once it has opened, and the popups over it.
-std::vector<AWnd*> InterfaceState::opened() const
+/// Returns the active screen, if it has opened already, and the popups over it.
+std::vector<AWnd*> InterfaceState::openWindows() const
 {
     std::vector<AWnd*> result;
     if (AScreen* screen = game.getActiveScreen(); screen && screen->isOpen())
@@ -133,26 +133,26 @@ std::vector<AWnd*> InterfaceState::opened() const
 
 void InterfaceState::follow()
 {
-    std::erase_if(atFirst, [](const First& first) { return first.wnd.get() == nullptr; });
-    for (AWnd* wnd : opened())
-        if (std::none_of(atFirst.begin(), atFirst.end(),
-                         [&](const First& first) { return first.wnd == wnd; }))
-            atFirst.push_back({wnd, valuesBelow(*wnd)});
+    std::erase_if(initialStates, [](const InitialState& first) { return first.wnd.get() == nullptr; });
+    for (AWnd* wnd : openWindows())
+        if (std::none_of(initialStates.begin(), initialStates.end(),
+                         [&](const InitialState& first) { return first.wnd == wnd; }))
+            initialStates.push_back({wnd, valuesBelow(*wnd)});
     if (isRestoring())
-        goOnRestoring();
+        continueRestoring();
 }
 
 void InterfaceState::keep()
 {
-    // What has not come back yet still counts, and so does what stood on the screens that there were last.
-    if (isComingBack || !game.getActiveScreen())
+    // A state that is still being restored remains valid, and so does the last one if no screen is active.
+    if (restoring || !game.getActiveScreen())
         return;
     kept.clear();
     screens.clear();
     popups.clear();
     pointerX = game.mouseX;
     pointerY = game.mouseY;
-    for (const First& first : atFirst) {
+    for (const InitialState& first : initialStates) {
         if (!first.wnd)
             continue;
         for (auto& [place, now] : valuesBelow(*first.wnd)) {
@@ -162,21 +162,24 @@ void InterfaceState::keep()
                 kept.insert_or_assign(place, std::move(changes));
         }
     }
-    // From the active screen back to the one without a caller; a ring ends where it closes.
+    // From the active screen back along the callers, until there is no caller or they form a ring.
     for (AScreen* screen = game.getActiveScreen(); screen;) {
         const std::string id = screen->getID().str();
-        if (std::any_of(screens.begin(), screens.end(), [&](const Opened& each) { return each.id == id; }))
+        if (std::any_of(screens.begin(), screens.end(),
+                        [&](const OpenWindow& each) { return each.id == id; }))
             break;
         screens.insert(screens.begin(), {id, origins.scriptOf(*screen), ""});
         const CString& caller = screen->getCaller();
         screen = caller.IsEmpty() ? nullptr : windowAs<AScreen>(game.getWnd(caller, 0));
     }
-    // Those behind open first; of one parent's the one in front, and the others queue up behind it.
+    // Popups at the back are opened first; among those of one parent the front one, because the others queue
+    // after it.
     std::string lastParent;
     std::size_t firstOfParent = 0;
     for (int i = game.getPopupWndCount() - 1; i >= 0; --i) {
         AWnd* popup = game.getPopupWnd(i);
-        // Boxes that the game renamed, and menus, belong to what was going on when they opened.
+        // Boxes that the game renamed and menus depend on the situation in which they were opened, so they
+        // are left out.
         const std::string script = origins.scriptOf(*popup);
         if (script.empty() || popup->isEasyClose())
             continue;
@@ -191,17 +194,17 @@ void InterfaceState::keep()
 
 void InterfaceState::restore()
 {
-    isComingBack = true;
-    screensAsked = 0;
-    popupsAsked = 0;
+    restoring = true;
+    screensRequested = 0;
+    popupsRequested = 0;
     alreadySet.clear();
     framesLeft = framesToWait;
 }
 
-void InterfaceState::setValuesOfOpened()
+void InterfaceState::setValuesOfOpenWindows()
 {
     bool isSet = false;
-    for (AWnd* root : opened()) {
+    for (AWnd* root : openWindows()) {
         if (std::find(alreadySet.begin(), alreadySet.end(), root) != alreadySet.end())
             continue;
         alreadySet.emplace_back(root);
@@ -212,47 +215,47 @@ void InterfaceState::setValuesOfOpened()
             }
         });
     }
-    // As behind a choice of the player: what depends on it follows.
-    if (AWnd* told = isSet ? game.getActiveWnd() : nullptr)
-        told->update();
+    // As after input by the user, so that the game updates whatever depends on these values.
+    if (AWnd* active = isSet ? game.getActiveWnd() : nullptr)
+        active->update();
 }
 
-void InterfaceState::goOnRestoring()
+void InterfaceState::continueRestoring()
 {
     if (--framesLeft < 0) {
-        isComingBack = false;
-        // Without a screen all of it is kept for the next read.
-        if (game.getActiveScreen() && screensAsked > 0)
-            lost.push_back("the screen " + screens[screensAsked - 1].id + " did not come back");
+        restoring = false;
+        // Without a screen the state is kept for the next reload.
+        if (game.getActiveScreen() && screensRequested > 0)
+            lost.push_back("the screen " + screens[screensRequested - 1].id + " could not be opened again");
         return;
     }
     AScreen* active = game.getActiveScreen();
     if (!game.getPendingScreen().IsEmpty() || !active || !active->isOpen())
         return;
-    setValuesOfOpened();
+    setValuesOfOpenWindows();
     framesLeft = framesToWait;
-    if (screensAsked > 0 && active->getID() != CString(screens[screensAsked - 1].id)) {
-        lost.push_back("the screen " + screens[screensAsked - 1].id + " did not come back");
-        isComingBack = false;
+    if (screensRequested > 0 && active->getID() != CString(screens[screensRequested - 1].id)) {
+        lost.push_back("the screen " + screens[screensRequested - 1].id + " could not be opened again");
+        restoring = false;
         return;
     }
-    if (screensAsked < screens.size()) {
-        const Opened& next = screens[screensAsked];
-        // One that had no caller takes the place of the screen that the script begins with.
-        const int closesCurrent = screensAsked == 0;
-        ++screensAsked;
+    if (screensRequested < screens.size()) {
+        const OpenWindow& next = screens[screensRequested];
+        // The first one had no caller, so it replaces the screen that the script begins with.
+        const int closesCurrent = screensRequested == 0;
+        ++screensRequested;
         if (active->getID() != CString(next.id))
             game.changeScreen(CString(next.id), closesCurrent, mainScriptResource,
                               next.script.empty() ? CString(mainScriptFile) : CString(next.script));
         return;
     }
-    if (popupsAsked < popups.size()) {
-        const Opened& next = popups[popupsAsked++];
+    if (popupsRequested < popups.size()) {
+        const OpenWindow& next = popups[popupsRequested++];
         AWnd* parent = next.parent.empty() ? nullptr : game.getWnd(CString(next.parent), 1);
         if (!game.setPopupWnd(CString(next.id), parent, mainScriptResource, CString(next.script)))
-            lost.push_back("the popup " + next.id + " did not come back");
+            lost.push_back("the popup " + next.id + " could not be opened again");
         return;
     }
-    isComingBack = false;
-    game.setMousePos(pointerX, pointerY, 0); // an opening screen has put it on its first tab stop
+    restoring = false;
+    game.setMousePos(pointerX, pointerY, 0); // opening a screen has moved it to the first tab stop
 }

@@ -13,8 +13,8 @@ class AMainWin;
 class AWnd;
 class Origins;
 
-/// What a person can set in a window. Of these only what has been set is kept, so that a changed script shows
-/// where nobody has touched it.
+/// The values of a window that the user can change. Only values that were changed are kept, so that the
+/// others come from the changed script.
 struct KeptValues {
     std::optional<int> selected; // of a button
     std::optional<std::string> text;
@@ -25,55 +25,56 @@ struct KeptValues {
     bool operator==(const KeptValues&) const = default;
 };
 
-/// Carries the state of an interface over into the one that is read anew: open screens, popups, and what has
-/// been set in their windows since they opened. Windows are known by their place: the ids from the screen
-/// down.
+/// Carries the state of an interface over a reload: open screens, popups, and the values that were changed in
+/// their windows since they opened. Windows are identified by their place: the ids from the screen down.
 class InterfaceState {
 public:
-    /// Neither is owned.
+    /// Owns neither.
     InterfaceState(AMainWin& game, const Origins& origins);
-    /// Between the frames: takes note of what has opened, and goes on with what restore has begun.
+    /// Called between frames: records the values of screens and popups that have opened, and continues
+    /// restoring.
     void follow();
-    /// What is open and set now. Before the interface is taken down.
+    /// Stores what is open and changed now. Called before the interface is deleted.
     void keep();
-    /// Begins to bring it back. Behind the read.
+    /// Begins to restore the stored state. Called after the scripts have been read.
     void restore();
-    /// Screens and popups open one after the other, which takes some frames.
-    bool isRestoring() const { return isComingBack; }
-    /// What did not come back, since the last call.
+    /// Returns whether restoring is still going on: screens and popups open one after the other, over several
+    /// frames.
+    bool isRestoring() const { return restoring; }
+    /// Returns messages about what could not be restored since the last call.
     std::vector<std::string> takeLost() { return std::exchange(lost, {}); }
 
 private:
     using Values = std::map<std::string, KeptValues>; // by place
-    struct First {
+    struct InitialState {
         WndRef wnd; // a screen or popup
         Values values;
     };
-    struct Opened {
+    struct OpenWindow {
         std::string id;
         std::string script;
-        std::string parent; // id, of a popup; empty for none
+        std::string parent; // id of a popup's parent; empty for none
     };
     static Values valuesBelow(AWnd& root);
-    std::vector<AWnd*> opened() const;
-    void setValuesOfOpened();
-    void goOnRestoring();
+    std::vector<AWnd*> openWindows() const;
+    void setValuesOfOpenWindows();
+    void continueRestoring();
 
     AMainWin& game;
     const Origins& origins;
-    std::vector<First> atFirst; // what is open, as it opened
+    std::vector<InitialState> initialStates; // of the screens and popups that are open
 
-    // As it was kept, until all of it is back.
+    // The stored state.
     Values kept;
-    std::vector<Opened> screens; // the first one first
-    std::vector<Opened> popups;  // in the order in which they open
+    std::vector<OpenWindow> screens; // from the first to the active one
+    std::vector<OpenWindow> popups;  // in the order in which they are opened
     short pointerX = 0;
     short pointerY = 0;
 
-    bool isComingBack = false;
-    std::size_t screensAsked = 0;
-    std::size_t popupsAsked = 0;
-    std::vector<WndRef> alreadySet; // screens and popups that have their values
-    int framesLeft = 0;             // until the wait for the next one is given up
+    bool restoring = false;
+    std::size_t screensRequested = 0;
+    std::size_t popupsRequested = 0;
+    std::vector<WndRef> alreadySet; // screens and popups whose values are restored
+    int framesLeft = 0;             // until waiting for the next one is given up
     std::vector<std::string> lost;
 };

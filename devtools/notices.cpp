@@ -5,8 +5,8 @@
 namespace {
 
 constexpr std::uint32_t noticeMillis = 6000;
-constexpr std::size_t mostNotices = 5;
-constexpr std::size_t mostFaults = 12; // shown; all of them stand on the terminal
+constexpr std::size_t maxNotices = 5;
+constexpr std::size_t maxFaults = 12; // in the panel; the terminal shows all of them
 
 constexpr std::uint32_t headingColour = 0xFFB080;
 constexpr std::uint32_t faultColour = 0xFFE0D0;
@@ -18,7 +18,7 @@ constexpr std::uint32_t statusColour = 0xFF7060;
 void Notices::tell(std::string text)
 {
     notices.push_back({std::move(text), timeGetTime()});
-    if (notices.size() > mostNotices)
+    if (notices.size() > maxNotices)
         notices.pop_front();
 }
 
@@ -42,11 +42,11 @@ void Notices::paint(Overlay& overlay) const
     if (!status.empty())
         lines.push_back({status, statusColour});
     if (!faults.empty())
-        lines.push_back({"At fault:", headingColour});
-    for (std::size_t i = 0; i < faults.size() && i < mostFaults; ++i)
+        lines.push_back({"Errors:", headingColour});
+    for (std::size_t i = 0; i < faults.size() && i < maxFaults; ++i)
         lines.push_back({faults[i], faultColour});
-    if (faults.size() > mostFaults)
-        lines.push_back({"... and " + std::to_string(faults.size() - mostFaults) + " more", headingColour});
+    if (faults.size() > maxFaults)
+        lines.push_back({"... and " + std::to_string(faults.size() - maxFaults) + " more", headingColour});
     for (const Notice& each : notices)
         lines.push_back({each.text, noticeColour});
     paintPanel(overlay, lines, Corner::TopLeft);

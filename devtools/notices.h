@@ -7,21 +7,21 @@
 #include <string>
 #include <vector>
 
-/// What the devtools have to say over the game's picture: faults, which stay until they are mended, and
-/// notices, which go by themselves.
+/// The messages of the devtools over the game's picture: faults, which stay until they are fixed, and
+/// notices, which disappear by themselves.
 class Notices {
 public:
-    /// Each a line. Replaces those before; none: all is well.
+    /// Replaces the faults, one line each. An empty list removes them.
     void setFaults(std::vector<std::string> texts) { faults = std::move(texts); }
     const std::vector<std::string>& getFaults() const { return faults; }
-    /// Stays for some seconds.
+    /// Shows a notice for some seconds.
     void tell(std::string text);
-    /// Those that stand there now, the oldest first.
+    /// Returns the present notices, oldest first.
     std::vector<std::string> getNotices() const;
-    /// A small mark that stays, such as that a recording runs; empty: none.
+    /// Sets a permanent line, for example while a recording runs; empty: none.
     void setStatus(std::string text) { status = std::move(text); }
 
-    /// Whether there is something to paint; drops what has stood for long enough.
+    /// Returns whether there is something to paint. Removes notices that have been shown long enough.
     bool isShowing();
     void paint(Overlay& overlay) const;
 

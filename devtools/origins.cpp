@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::size_t mostFailures = 50; // shown; one that fails often fails for one reason
+constexpr std::size_t mostFailures = 50; // shown; more are likely to have the same cause
 
 std::string whyFailed(const ExecutedLine& line, const Statement* statement)
 {
@@ -36,7 +36,7 @@ void Origins::lineExecuted(const ExecutedLine& line)
         if (std::find(failures.begin(), failures.end(), failure) == failures.end())
             failures.push_back(std::move(failure));
     }
-    // What a reference shows once more has an origin of its own.
+    // A reference shows an existing window, whose origin is already known.
     if (line.made && statement && statement->kind != StatementKind::Reference)
         made.insert_or_assign(line.made, Made{line.made, script, line.offset, line.made->getID().str()});
 }

@@ -9,31 +9,33 @@
 
 class Sources;
 
-/// Which line of a script made a window, and which lines failed. Listens to the reads of a main window.
+/// Records which line of a script made each window, and which lines failed. Observes the scripts that a main
+/// window reads.
 class Origins : public ScriptObserver {
 public:
-    /// sources knows where the bytes of a compiled script come from. Not owned.
+    /// sources maps the bytes of a compiled script to lines. Not owned.
     explicit Origins(const Sources& scriptSources) : sources(scriptSources) {}
     void lineExecuted(const ExecutedLine& line) override;
 
-    /// "menu.tgs:31" for a byte of a script, by its name below UIG; "" is an embedded one.
+    /// Returns the place of a byte of a script, such as "menu.tgs:31". script: its name below UIG, or "" for
+    /// an embedded one.
     std::string placeIn(const std::string& script, unsigned offset) const;
-    /// "menu.tgs:31" of the line that made wnd; empty for a window that no script made.
+    /// Returns the place of the line that made wnd, such as "menu.tgs:31"; empty if no script made it.
     std::string placeOf(const AWnd& wnd) const;
-    /// The script that defines wnd under the id that it bears, as readScriptFile wants it; empty when there
-    /// is none, or when it has got another id since.
+    /// Returns the name of the script that defines wnd under its present id, as readScriptFile expects it;
+    /// empty if there is none or the id has changed.
     std::string scriptOf(const AWnd& wnd) const;
-    /// "menu.tgs:31: expected: BUTTON "name" ...", each once, of the reads since the last clear, at most the
-    /// first 50.
+    /// Returns the lines that failed since the last clear, such as "menu.tgs:31: expected: BUTTON "name"
+    /// ...": each once, and at most the first 50.
     const std::vector<std::string>& getFailures() const { return failures; }
     void clear();
 
 private:
     struct Made {
-        WndRef wnd;         // empties when the window dies: its address may be another one's then
+        WndRef wnd;         // becomes null when the window dies, because another window may get its address
         std::string script; // below UIG
         unsigned offset;
-        std::string id; // at that time
+        std::string id; // when it was made
     };
     const Made* find(const AWnd& wnd) const;
 

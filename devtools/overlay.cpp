@@ -2,11 +2,11 @@
 
 namespace {
 
-constexpr int largeScreen = 1280; // pixels wide from which on a font pixel takes two, and so on
+constexpr int largeScreen = 1280; // width in pixels from which text is drawn at double size, and so on
 constexpr int fullShare = 256;
 constexpr std::string_view dots = "...";
 
-// Of panels, in pixels of the font.
+// Measures of panels in pixels of the font.
 constexpr int margin = 4; // to the edges of the room
 constexpr int padding = 5;
 constexpr int columnGap = 8;
@@ -16,7 +16,7 @@ constexpr int plateShare = 240;
 constexpr std::uint32_t edgeColour = 0x5A6A7C;
 constexpr std::uint32_t nameColour = 0x9FB2C6;
 
-/// under with share parts of 256 of colour over it.
+/// Blends share/256 of colour over under.
 std::uint32_t mixed(std::uint32_t under, std::uint32_t colour, int share)
 {
     const auto part = static_cast<std::uint32_t>(share);
@@ -26,7 +26,7 @@ std::uint32_t mixed(std::uint32_t under, std::uint32_t colour, int share)
     return 0xFF000000 | redBlue | green;
 }
 
-/// A line cut at its tab.
+/// A line split at its tab.
 struct Columns {
     std::string_view name; // empty without a tab
     std::string_view rest;
@@ -49,7 +49,7 @@ bool isTop(Corner corner)
     return corner == Corner::TopLeft || corner == Corner::TopRight;
 }
 
-/// The first lines, so many that they and a last one about the others make up most.
+/// Returns at most that many lines: the first ones, and a last one with the number of the others.
 std::vector<PanelLine> shortened(const std::vector<PanelLine>& lines, std::size_t most)
 {
     std::vector<PanelLine> kept(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(most - 1));
@@ -138,7 +138,7 @@ Box paintPanel(Overlay& overlay, const std::vector<PanelLine>& lines, Corner cor
     if (static_cast<int>(lines.size()) > mostLines)
         return paintPanel(overlay, shortened(lines, static_cast<std::size_t>(mostLines)), corner, room);
 
-    int column = 0; // where what stands behind a name begins
+    int column = 0; // offset of the texts after the names
     for (const PanelLine& line : lines)
         if (const Columns columns = columnsOf(line.text); !columns.name.empty())
             column = std::max(column, overlay.textWidth(columns.name) + columnGap * scale);

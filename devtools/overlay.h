@@ -8,29 +8,29 @@
 #include <string_view>
 #include <vector>
 
-/// Paints over a copy of the screen, in the built-in font: the game's display list and pixels stay as they
-/// are. Positions are pixels of the screen; what lies outside shows nothing. Colours are 0xRRGGBB. begin
-/// comes before all else.
+/// Paints over a copy of the screen, with the built-in font, so the game's display list and pixels do not
+/// change. Positions are pixels of the screen; parts outside it are cut off. Colours are 0xRRGGBB. begin must
+/// be called first.
 class Overlay {
 public:
     Overlay();
-    /// Begins with a copy of screen. On a large screen text is larger too.
+    /// Starts with a copy of screen. Text is larger on a large screen.
     void begin(const Image& screen);
     const Image& getPicture() const { return *picture; }
     int width() const { return picture->width; }
     int height() const { return picture->height; }
-    /// Pixels of the screen that one of the font takes a side.
+    /// Returns how many pixels of the screen a pixel of the font is wide and high.
     int scale() const { return fontScale; }
 
-    /// share: 0 to 256, how much of colour there is in the result.
+    /// Fills a box. share, 0 to 256, is the opacity of the colour.
     void fill(const Box& box, std::uint32_t colour, int share = 256);
-    /// One pixel wide, inside box.
+    /// Draws an outline one pixel wide, inside box.
     void outline(const Box& box, std::uint32_t colour);
-    /// One line, its top left corner at x, y; characters of code page 1252.
+    /// Draws one line of text in code page 1252 with its top left corner at x, y.
     void text(int x, int y, std::string_view line, std::uint32_t colour = 0xFFFFFF);
     int textWidth(std::string_view line) const { return font->stringLength(line) * fontScale; }
     int lineHeight() const { return font->lineHeight * fontScale; }
-    /// Cut, with dots, to what fits into that many pixels.
+    /// Cuts a line, with dots at the end, to fit into that many pixels.
     std::string fitted(std::string_view line, int pixels) const;
 
 private:
@@ -41,14 +41,14 @@ private:
     int fontScale = 1;
 };
 
-/// A line of a panel, in that colour. What stands in front of a tab is the name of what stands behind it.
+/// A line of a panel. The text before a tab is the name of the text after it.
 struct PanelLine {
     std::string text;
     std::uint32_t colour = 0xFFFFFF;
 };
 enum class Corner { TopLeft, TopRight, BottomLeft, BottomRight };
-/// A dark plate with lines of text in a corner of room; lines that are too long for it are cut, and where
-/// they are too many the last one tells how many more there are. The box that it takes.
+/// Paints a dark plate with lines of text in a corner of room, and returns its box. Lines that are too long
+/// are cut; if there are too many, the last one says how many more there are.
 Box paintPanel(Overlay& overlay, const std::vector<PanelLine>& lines, Corner corner, const Box& room);
-/// In a corner of the screen.
+/// Paints it in a corner of the screen.
 Box paintPanel(Overlay& overlay, const std::vector<PanelLine>& lines, Corner corner);

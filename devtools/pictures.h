@@ -6,13 +6,13 @@
 
 class AMainWin;
 
-/// Tells whether a picture that the game has asked for has been written, has come or gone since the last
-/// look.
+/// Notices when a picture that the game has requested is written, created or deleted.
 class WatchedPictures {
 public:
-    /// Looks. One that was not asked for at the last look has not changed.
+    /// Returns whether any picture has changed since the last call. One that was requested after it does not
+    /// count.
     bool haveChanged(const AMainWin& game);
 
 private:
-    std::map<std::string, std::filesystem::file_time_type> known; // by name; the smallest time: there is none
+    std::map<std::string, std::filesystem::file_time_type> known; // by name; min() if there is no file
 };

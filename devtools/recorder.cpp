@@ -12,17 +12,17 @@ namespace {
 
 using Kind = RecordedStep::Kind;
 
-constexpr long longestClick = 20; // ticks; what repeats while a button is held has not begun yet
-constexpr int openingFrames = 60; // until what slides in has come to rest
+constexpr long longestClick = 20; // ticks; controls that repeat while held have not begun to do so
+constexpr int openingFrames = 60; // until sliding windows have come to rest
 
-constexpr int settledMoves = 2; // of the pointer on a list, until it has forgotten where it was before
+constexpr int settledMoves = 2; // pointer moves after which a list no longer depends on its earlier hot row
 
 std::string idOrNone(const AWnd* wnd)
 {
     return wnd ? wordFor(wnd->getID().view()) : "none";
 }
 
-/// How the playing comes to what is there now.
+/// Returns the lines that bring the playback to the present state.
 std::string openingOf(const AMainWin& game)
 {
     std::string lines;
@@ -57,7 +57,7 @@ std::string Recorder::events() const
 {
     std::vector<Step> all = steps;
     if (pressed)
-        all.insert(all.end(), pressed->raw.begin(), pressed->raw.end());
+        all.insert(all.end(), pressed->stepsIfNoClick.begin(), pressed->stepsIfNoClick.end());
     else if (rest)
         all.push_back(rest->step);
     std::string text = opening;
@@ -79,9 +79,9 @@ void Recorder::tickBegins(const InputQueue& next, bool takesInput)
 void Recorder::readAnew()
 {
     giveUpClick();
-    steps.push_back({.kind = Kind::Note, .tick = tick, .line = "the interface was read anew here"});
+    steps.push_back({.kind = Kind::Note, .tick = tick, .line = "the interface was reloaded here"});
     rest.reset();
-    comesBack = true;
+    isRestoring = true;
 }
 
 void Recorder::followScreens()
@@ -91,14 +91,14 @@ void Recorder::followScreens()
     if (screen == shownScreen && popup == shownPopup)
         return;
     giveUpClick();
-    if (comesBack) {
+    if (isRestoring) {
         shownScreen = screen;
         shownPopup = popup;
         return;
     }
-    if (rest) { // what the pointer rested on may have brought the change about
+    if (rest) { // the window under the resting pointer may have caused the change
         steps.push_back(rest->step);
-        played = rest->played;
+        playbackPointer = rest->playbackPointer;
     }
     if (screen != std::exchange(shownScreen, screen))
         steps.push_back({.kind = Kind::Shown, .tick = tick, .line = "active " + screen});
@@ -106,7 +106,7 @@ void Recorder::followScreens()
         steps.push_back({.kind = Kind::Shown, .tick = tick, .line = "popup " + popup});
 }
 
-/// The game has moved the pointer, and will do so in the playing.
+/// Notices that the game has moved the pointer, which it will also do during playback.
 void Recorder::followPointer()
 {
     const ScreenPoint place{game.mouseX, game.mouseY};
@@ -114,7 +114,7 @@ void Recorder::followPointer()
         return;
     giveUpClick();
     pointer = place;
-    played = {.point = place, .stoodFor = place};
+    playbackPointer = {.point = place, .realPoint = place};
     arrival = tick - 1;
 }
 
@@ -131,7 +131,7 @@ void Recorder::take(const InputQueue& next)
         if (event.isPlaced)
             pointer = {event.x, event.y};
         if (InputQueue::isTransition(event)) {
-            comesBack = false;
+            isRestoring = false;
             endMoves();
         }
         switch (event.kind) {
@@ -165,7 +165,7 @@ void Recorder::pointerMoved()
 {
     arrival = tick;
     if (pressed) {
-        if (doSame(pressed->spot, spotAt(game, pointer, PointerAct::Click)))
+        if (haveSameEffect(pressed->spot, spotAt(game, pointer, PointerAct::Click)))
             return;
         giveUpClick();
     }
@@ -188,27 +188,31 @@ void Recorder::press(MouseButton button)
     const Spot spot =
         spotAt(game, pointer, button == MouseButton::Left ? PointerAct::Click : PointerAct::Press);
     if (!spot.hindrance.empty()) {
-        // It counts when the release comes behind the screen change.
+        // The press has an effect if its release comes after the screen change.
         lostPresses[index] = steps.size();
         addTransition(line);
         heldButtons.set(index);
         return;
     }
     const std::size_t before = steps.size();
-    const std::optional<Played> playedBefore = played;
+    const std::optional<PlaybackPointer> playbackBefore = playbackPointer;
     point(button == MouseButton::Left ? PointerAct::Click : PointerAct::Press);
     addTransition(line);
-    // The hot row is where a list is pressed, unless the press goes to an edit box and ends the typing.
+    // A press on a list makes the row there hot, unless it goes to an edit box and ends the typing.
     const bool endsTyping = spotAt(game, pointer, PointerAct::Point).isTypedInto;
-    played = {.point = played->point, .stoodFor = pointer, .movesOnList = endsTyping ? 1 : settledMoves};
+    playbackPointer = {
+        .point = playbackPointer->point, .realPoint = pointer, .movesOnList = endsTyping ? 1 : settledMoves};
     heldButtons.set(index);
     if (button != MouseButton::Left || !isOnly)
         return;
     if (std::optional<PointingLine> click = clickLineFor(game, spot)) {
-        pressed = {
-            tick, spot, std::move(*click), {steps.begin() + static_cast<long>(before), steps.end()}, played};
+        pressed = {tick,
+                   spot,
+                   std::move(*click),
+                   {steps.begin() + static_cast<long>(before), steps.end()},
+                   playbackPointer};
         steps.erase(steps.begin() + static_cast<long>(before), steps.end());
-        played = playedBefore;
+        playbackPointer = playbackBefore;
     }
 }
 
@@ -217,14 +221,15 @@ void Recorder::release(MouseButton button)
     const auto index = static_cast<std::size_t>(button);
     if (button == MouseButton::Left && pressed) {
         const Spot spot = spotAt(game, pointer, PointerAct::Click);
-        if (spot.hindrance.empty() && doSame(pressed->spot, spot) && tick - pressed->tick < longestClick) {
+        if (spot.hindrance.empty() && haveSameEffect(pressed->spot, spot) &&
+            tick - pressed->tick < longestClick) {
             steps.push_back({.kind = Kind::Click,
                              .tick = pressed->tick,
                              .line = pressed->click.text,
                              .releaseTick = tick});
-            played = pressed->rawPlayed;
-            played->point = pressed->click.point;
-            played->stoodFor = pointer;
+            playbackPointer = pressed->playbackIfNoClick;
+            playbackPointer->point = pressed->click.point;
+            playbackPointer->realPoint = pointer;
             pressed.reset();
             heldButtons.reset(index);
             return;
@@ -233,11 +238,11 @@ void Recorder::release(MouseButton button)
     giveUpClick();
     const std::string line = std::string("release ") + buttonName(button);
     const std::optional<std::size_t> lostPress = std::exchange(lostPresses[index], std::nullopt);
-    const bool isOfLostPress = !heldButtons[index]; // so nothing is down in the playing either
-    if (lostPress && isLost(steps[*lostPress].line + ", " + line)) {
-        steps[*lostPress] = std::move(steps.back()); // the note stands for both
+    const bool isOfLostPress = !heldButtons[index]; // then the button is not down during playback either
+    if (lostPress && noteIfLost(steps[*lostPress].line + ", " + line)) {
+        steps[*lostPress] = std::move(steps.back()); // the note covers both
         steps.pop_back();
-    } else if (!isOfLostPress || !isLost(line)) {
+    } else if (!isOfLostPress || !noteIfLost(line)) {
         point(button == MouseButton::Left ? PointerAct::Release : PointerAct::Point);
         addTransition(line);
     }
@@ -248,7 +253,7 @@ void Recorder::doubleClick(MouseButton button)
 {
     giveUpClick();
     const std::string line = std::string("doubleclick ") + buttonName(button);
-    if (isLost(line))
+    if (noteIfLost(line))
         return;
     const Spot spot = spotAt(game, pointer, PointerAct::Click);
     const std::optional<PointingLine> click = clickLineFor(game, spot);
@@ -262,7 +267,8 @@ void Recorder::doubleClick(MouseButton button)
         steps.back().clickLine = click->text;
 }
 
-/// Events files have no word for it, but beside the screen a release clicks nothing either.
+/// Records a cancelled press. Events files cannot express it, but a release outside the screen clicks nothing
+/// either.
 void Recorder::cancel(MouseButton button)
 {
     giveUpClick();
@@ -272,7 +278,7 @@ void Recorder::cancel(MouseButton button)
     steps.push_back({.kind = Kind::Move, .tick = tick, .line = "move -1 -1"});
     addTransition(std::string("release ") + buttonName(button));
     heldButtons.reset(index);
-    played.reset();
+    playbackPointer.reset();
     point(PointerAct::Point);
 }
 
@@ -280,7 +286,7 @@ void Recorder::wheel(bool up)
 {
     giveUpClick();
     const std::string line = up ? "wheel up" : "wheel down";
-    if (isLost(line))
+    if (noteIfLost(line))
         return;
     point(PointerAct::Point);
     addTransition(line);
@@ -289,7 +295,7 @@ void Recorder::wheel(bool up)
 void Recorder::key(const InputQueue::Event& event)
 {
     giveUpClick();
-    if (isLost("key " + keyName(event.code)))
+    if (noteIfLost("key " + keyName(event.code)))
         return;
     if (!isModifier(event.code))
         pointForKeys();
@@ -306,13 +312,13 @@ void Recorder::hold(const InputQueue::Event& event)
 {
     giveUpClick();
     if (event.held && !isModifier(event.code))
-        pointForKeys(); // its key comes next
+        pointForKeys(); // before the hold, because its key comes next
     steps.push_back({.kind = Kind::Hold, .tick = tick, .code = event.code, .held = event.held});
 }
 
-/// Input that the main window drops is not written: the playing may be quicker with the change of screens,
-/// and the input would meet the new one.
-bool Recorder::isLost(const std::string& what)
+/// Writes a note instead of input that the main window drops, and returns true. The playback may change
+/// screens sooner, and the input would reach the new screen.
+bool Recorder::noteIfLost(const std::string& what)
 {
     const Spot spot = spotAt(game, pointer, PointerAct::Press);
     if (spot.hindrance.empty())
@@ -329,25 +335,26 @@ RecordedStep Recorder::pointingStep(const PointingLine& line) const
     return {.kind = line.runsFrames ? Kind::Hover : Kind::Move, .tick = arrival, .line = line.text};
 }
 
-/// Brings the pointer to where it does the same in the playing.
+/// Moves the playback's pointer to where input has the same effect, if it is not there yet.
 void Recorder::point(PointerAct act)
 {
     const Spot spot = spotAt(game, pointer, act);
-    if (!played || !doSame(spotAt(game, played->point, act), spot))
+    if (!playbackPointer || !haveSameEffect(spotAt(game, playbackPointer->point, act), spot))
         addPointing(spot);
 }
 
 void Recorder::addPointing(const Spot& spot)
 {
-    const int moves = spot.cell.item >= 0 && isPlayedOn(spot) ? played->movesOnList + 1 : 1;
+    const int moves = spot.cell.item >= 0 && isPlaybackOn(spot) ? playbackPointer->movesOnList + 1 : 1;
     const PointingLine line = pointLineFor(game, spot, heldButtons.none());
     steps.push_back(pointingStep(line));
-    played = {.point = line.point, .stoodFor = pointer, .movesOnList = moves};
+    playbackPointer = {.point = line.point, .realPoint = pointer, .movesOnList = moves};
 }
 
-bool Recorder::isPlayedOn(const Spot& spot) const
+bool Recorder::isPlaybackOn(const Spot& spot) const
 {
-    return played && spotAt(game, played->point, PointerAct::Point).wnd.get() == spot.wnd.get();
+    return playbackPointer &&
+           spotAt(game, playbackPointer->point, PointerAct::Point).wnd.get() == spot.wnd.get();
 }
 
 void Recorder::pointForKeys()
@@ -355,25 +362,26 @@ void Recorder::pointForKeys()
     const Spot spot = spotAt(game, pointer, PointerAct::Point);
     if (spot.cell.item >= 0)
         pointAtHotCell(spot);
-    else if (!played || !doSameForKeys(spotAt(game, played->point, PointerAct::Point), spot))
+    else if (!playbackPointer ||
+             !haveSameEffectForKeys(spotAt(game, playbackPointer->point, PointerAct::Point), spot))
         addPointing(spot);
-    if (played)
-        played->hasKeys = true;
+    if (playbackPointer)
+        playbackPointer->keysFollowed = true;
 }
 
-/// The keys of a list go on from its hot row, and a double click selects it. That row follows a pointer that
-/// moves on the list, from the second move on: with the first the list comes back to where it was when the
-/// pointer left it.
+/// Makes the same row of a list hot during playback: keys start from the hot row, and a double click selects
+/// it. The hot row follows the pointer from its second move on the list; the first move restores the row that
+/// was hot when the pointer left the list.
 void Recorder::pointAtHotCell(const Spot& spot)
 {
     const std::optional<CellPlace> hot = hotCellOf(spot.wnd);
-    if (isPlayedOn(spot)) {
-        const bool wentAlong = played->stoodFor == pointer;
-        const bool byGame = wentAlong && played->movesOnList == 0; // it remembers here and in the playing
-        const bool isKnown = byGame || played->movesOnList >= settledMoves;
-        const bool isOnCell = doSame(spotAt(game, played->point, PointerAct::Point), spot);
+    if (isPlaybackOn(spot)) {
+        const bool isInSync = playbackPointer->realPoint == pointer;
+        const bool byGame = isInSync && playbackPointer->movesOnList == 0; // moved by the game in both
+        const bool isKnown = byGame || playbackPointer->movesOnList >= settledMoves;
+        const bool isOnCell = haveSameEffect(spotAt(game, playbackPointer->point, PointerAct::Point), spot);
         const bool isPointers = isOnCell && (!hot || *hot == spot.cell);
-        if (isKnown && (played->hasKeys ? wentAlong : isPointers))
+        if (isKnown && (playbackPointer->keysFollowed ? isInSync : isPointers))
             return;
     }
     const auto& list = static_cast<const AListBox&>(*spot.wnd);
@@ -383,30 +391,32 @@ void Recorder::pointAtHotCell(const Spot& spot)
     const PointingLine line = pointLineFor(game, spotAt(game, beside, PointerAct::Point), false);
     steps.push_back({.kind = Kind::Approach, .tick = arrival - 1, .line = line.text});
     addPointing(spotAt(game, end, PointerAct::Point));
-    steps.back().kind = Kind::Approach; // no input may come in the tick of either move
-    played->movesOnList = settledMoves;
+    steps.back().kind = Kind::Approach; // either move needs a tick without input
+    playbackPointer->movesOnList = settledMoves;
     if (arrival == tick)
-        played->stoodFor.reset(); // the row under the pointer becomes hot behind this input
+        playbackPointer->realPoint
+            .reset(); // the row under the real pointer becomes hot only after this input
 }
 
 void Recorder::noteRest()
 {
     rest.reset();
-    if (pressed || heldButtons.any() || (played && played->point == pointer))
+    if (pressed || heldButtons.any() || (playbackPointer && playbackPointer->point == pointer))
         return;
     const Spot spot = spotAt(game, pointer, PointerAct::Point);
     if (!spot.hindrance.empty() ||
-        (played && doSameForKeys(spotAt(game, played->point, PointerAct::Point), spot)))
+        (playbackPointer &&
+         haveSameEffectForKeys(spotAt(game, playbackPointer->point, PointerAct::Point), spot)))
         return;
     const PointingLine line = pointLineFor(game, spot, true);
-    rest = {pointingStep(line), {.point = line.point, .stoodFor = pointer, .movesOnList = 1}};
+    rest = {pointingStep(line), {.point = line.point, .realPoint = pointer, .movesOnList = 1}};
 }
 
 void Recorder::giveUpClick()
 {
     if (!pressed)
         return;
-    steps.insert(steps.end(), pressed->raw.begin(), pressed->raw.end());
-    played = pressed->rawPlayed;
+    steps.insert(steps.end(), pressed->stepsIfNoClick.begin(), pressed->stepsIfNoClick.end());
+    playbackPointer = pressed->playbackIfNoClick;
     pressed.reset();
 }

@@ -12,42 +12,42 @@
 
 class AMainWin;
 
-/// Writes down input as an events file for tgx play: by the id of the window that is meant where that says
-/// the same, else as moves and transitions. It follows where the pointer would be when the file is played,
-/// which is the middle of a window where the person pointed somewhere on it.
+/// Records input as an events file for tgx play: by the id of the target window if that has the same effect,
+/// else as moves and transitions. It keeps track of where the pointer will be during playback, which is the
+/// middle of a window when the user pointed anywhere on it.
 class Recorder {
 public:
-    /// heading: the first lines of the file, comments. game is not owned.
+    /// heading is the comment lines at the start of the file. Does not own game.
     Recorder(AMainWin& game, std::string heading);
-    /// Before each tick; what stands at the head of next is what it takes.
+    /// Called before each tick. If it takes input, it takes it from the head of next.
     void tickBegins(const InputQueue& next, bool takesInput);
-    /// The interface has been taken down and read again, and comes back to where it was in the ticks behind
-    /// this: screens that open before the next input are not written.
+    /// Called when the interface is reloaded. Its state is restored in the following ticks, so screens that
+    /// open before the next input are not recorded.
     void readAnew();
-    /// The whole file so far. Does not touch the game.
+    /// Returns the whole file so far. Does not access the game.
     std::string events() const;
 
 private:
     using Step = RecordedStep;
-    /// Where the pointer is in the playing.
-    struct Played {
+    /// Where the pointer will be during playback.
+    struct PlaybackPointer {
         ScreenPoint point;
-        std::optional<ScreenPoint> stoodFor = {}; // where it was here
-        bool hasKeys = false;                     // have come since
-        int movesOnList = 0;                      // behind the second the hot row is known
+        std::optional<ScreenPoint> realPoint = {}; // where the real pointer was at that time
+        bool keysFollowed = false;                 // keys have been pressed since
+        int movesOnList = 0;                       // after the second move the hot row is known
     };
     /// A press of the left button that may become a click.
     struct Press {
         long tick;
         Spot spot;
         PointingLine click;
-        std::vector<Step> raw; // what it is otherwise
-        std::optional<Played> rawPlayed;
+        std::vector<Step> stepsIfNoClick;
+        std::optional<PlaybackPointer> playbackIfNoClick;
     };
-    /// Where the pointer has come to rest, other than where it would be.
+    /// Where the real pointer has come to rest, if the playback's pointer is elsewhere.
     struct Rest {
         Step step;
-        Played played;
+        PlaybackPointer playbackPointer;
     };
 
     void followScreens();
@@ -62,7 +62,7 @@ private:
     void key(const InputQueue::Event& event);
     void hold(const InputQueue::Event& event);
     void noteRest();
-    bool isLost(const std::string& what);
+    bool noteIfLost(const std::string& what);
 
     void addTransition(std::string line)
     {
@@ -73,22 +73,22 @@ private:
     void pointForKeys();
     void pointAtHotCell(const Spot& spot);
     void addPointing(const Spot& spot);
-    bool isPlayedOn(const Spot& spot) const;
+    bool isPlaybackOn(const Spot& spot) const;
     void giveUpClick();
 
     AMainWin& game;
-    std::string opening; // the first lines
+    std::string opening; // first lines of the file
     std::vector<Step> steps;
-    long tick = -1; // the present one
+    long tick = -1; // present tick
     ScreenPoint pointer;
-    long arrival = -1;            // tick in which the pointer came there
-    std::optional<Played> played; // nothing: not known
+    long arrival = -1;                              // tick in which the pointer reached its position
+    std::optional<PlaybackPointer> playbackPointer; // nothing: unknown
     std::optional<Rest> rest;
     std::optional<Press> pressed;
     std::bitset<3> heldButtons;
-    std::array<std::optional<std::size_t>, 3> lostPresses; // steps
-    // Ids as a line has them, or none.
+    std::array<std::optional<std::size_t>, 3> lostPresses; // indices of their steps
+    // Ids as written in events lines, or "none".
     std::string shownScreen;
     std::string shownPopup;
-    bool comesBack = false; // the interface, behind readAnew
+    bool isRestoring = false; // after a reload, until the next input
 };

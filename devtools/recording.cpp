@@ -15,13 +15,13 @@ using Kind = RecordedStep::Kind;
 
 constexpr std::string_view clickWord = "click ";
 
-// Ticks.
-constexpr long pauseInText = 60;   // a longer one parts two lines of text
-constexpr long pauseInWheel = 20;  // and two runs of notches
-constexpr long restOfLever = 10;   // where a held lever stays that long, it stood there for a reason
-constexpr long longHold = 20;      // a game may look at how long a key is held
-constexpr long longWait = 200;     // a wait for that long says how long it may take: without, it is 240
-constexpr long waitedBeyond = 240; // what is allowed on top
+// Times in ticks.
+constexpr long pauseInText = 60;    // a longer pause separates two lines of text
+constexpr long pauseInWheel = 20;   // a longer pause separates two runs of notches
+constexpr long leverRest = 10;      // a held lever that stays that long is there on purpose
+constexpr long longHold = 20;       // a game may react to a key that is held that long
+constexpr long longWait = 200;      // longer waits are written with a limit; the default limit is 240
+constexpr long waitAllowance = 240; // added to the recorded time for the limit
 
 bool hasCharacter(const Step& key)
 {
@@ -29,7 +29,7 @@ bool hasCharacter(const Step& key)
     return character >= 0x20 && character != 0x7F;
 }
 
-/// A key that an edit box takes for its character alone.
+/// Returns whether an edit box only uses the key's character.
 bool isText(const Step& step)
 {
     return step.kind == Kind::Key && step.isTyped && hasCharacter(step);
@@ -45,7 +45,7 @@ bool isWheel(const Step& step)
     return step.kind == Kind::Transition && step.line.starts_with("wheel");
 }
 
-/// Index of the step that lets go what the step at index holds; steps.size() when none does.
+/// Returns the index of the step that releases the key held by the step at index, or steps.size().
 std::size_t endOfHold(std::span<const Step> steps, std::size_t index)
 {
     std::size_t end = index + 1;
@@ -55,8 +55,8 @@ std::size_t endOfHold(std::span<const Step> steps, std::size_t index)
     return end;
 }
 
-/// Whether it shows that a key was held, apart from its own events. An edit box looks at characters alone.
-bool isHoldOfMeaning(std::span<const Step> steps, std::size_t index, std::size_t end)
+/// Returns whether holding the key matters beyond its own events. An edit box only looks at characters.
+bool isRelevantHold(std::span<const Step> steps, std::size_t index, std::size_t end)
 {
     bool hasText = false;
     for (const Step& step : steps.subspan(index + 1, end - index - 1)) {
@@ -68,30 +68,31 @@ bool isHoldOfMeaning(std::span<const Step> steps, std::size_t index, std::size_t
     return !hasText && end < steps.size() && steps[end].tick - steps[index].tick >= longHold;
 }
 
-/// What remains: holds that matter, modifiers that stand for themselves, moves that lead somewhere.
-std::vector<Step> stepsOfMeaning(std::span<const Step> steps)
+/// Leaves out holds without an effect, modifiers that only form characters, and moves on the way to another
+/// one.
+std::vector<Step> relevantSteps(std::span<const Step> steps)
 {
     std::vector<bool> isLeftOut(steps.size());
     for (std::size_t i = 0; i < steps.size(); ++i) {
         const Step& step = steps[i];
-        if (step.kind == Kind::Hold && !step.held) // unless a hold takes it in, below
+        if (step.kind == Kind::Hold && !step.held) // unless its hold is kept, see below
             isLeftOut[i] = true;
         if (step.kind == Kind::Key && step.isTyped && isModifier(step.code))
             isLeftOut[i] = true;
         if (step.kind == Kind::Move && step.isPassedThrough && i + 1 < steps.size())
-            isLeftOut[i] = steps[i + 1].kind == Kind::Move && steps[i + 1].tick - step.tick < restOfLever;
+            isLeftOut[i] = steps[i + 1].kind == Kind::Move && steps[i + 1].tick - step.tick < leverRest;
     }
     for (std::size_t i = 0; i < steps.size(); ++i) {
         if (steps[i].kind != Kind::Hold || !steps[i].held)
             continue;
         const std::size_t end = endOfHold(steps, i);
-        const bool isWritten = isHoldOfMeaning(steps, i, end);
+        const bool isWritten = isRelevantHold(steps, i, end);
         isLeftOut[i] = !isWritten;
         if (!isWritten)
             continue;
         if (end < steps.size())
             isLeftOut[end] = false;
-        for (std::size_t k = i + 1; k < end; ++k) // the hold says it
+        for (std::size_t k = i + 1; k < end; ++k) // the hold includes the modifier's own key
             if (steps[k].kind == Kind::Key && steps[k].code == steps[i].code && isModifier(steps[k].code))
                 isLeftOut[k] = true;
     }
@@ -104,7 +105,7 @@ std::vector<Step> stepsOfMeaning(std::span<const Step> steps)
 
 class EventsWriter {
 public:
-    explicit EventsWriter(std::span<const Step> recorded) : steps(stepsOfMeaning(recorded)) {}
+    explicit EventsWriter(std::span<const Step> recorded) : steps(relevantSteps(recorded)) {}
     std::vector<std::string> write(long endTick)
     {
         for (std::size_t i = 0; i < steps.size();)
@@ -114,7 +115,7 @@ public:
     }
 
 private:
-    /// How many steps have been written.
+    /// Writes the step at index, with those that belong to it. Returns how many steps it has written.
     std::size_t writeFrom(std::size_t index);
     std::size_t writeClick(std::size_t index);
     std::size_t writeText(std::size_t index);
@@ -134,7 +135,7 @@ private:
         framesInLine += frames;
         lines.push_back(framesInLine == 1 ? "frame" : "frame " + std::to_string(framesInLine));
     }
-    /// The same, and until nothing waits in the queue.
+    /// Runs until the tick, and until the queue is empty.
     void runUntilTaken(long tick) { runUntil(std::max(tick, now + waiting)); }
     void add(std::string line)
     {
@@ -149,11 +150,11 @@ private:
 
     const std::vector<Step> steps;
     std::vector<std::string> lines;
-    long framesInLine = 0; // of the last line
-    long now = 0;          // ticks that the lines have run
-    long waiting = 0;      // transitions that no frame has taken yet
+    long framesInLine = 0; // in the last line
+    long now = 0;          // ticks that the lines have run so far
+    long waiting = 0;      // transitions that no tick has taken yet
     bool shiftIsHeld = false;
-    bool hasToldOfSecondCode = false;
+    bool hasNotedSecondCode = false;
 };
 
 std::size_t EventsWriter::writeFrom(std::size_t index)
@@ -161,9 +162,9 @@ std::size_t EventsWriter::writeFrom(std::size_t index)
     const Step& step = steps[index];
     switch (step.kind) {
     case Kind::Transition: {
-        const bool goesOn = index > 0 && isWheel(step) && isWheel(steps[index - 1]) &&
-                            step.tick - steps[index - 1].tick <= pauseInWheel;
-        if (!goesOn)
+        const bool continuesRun = index > 0 && isWheel(step) && isWheel(steps[index - 1]) &&
+                                  step.tick - steps[index - 1].tick <= pauseInWheel;
+        if (!continuesRun)
             runUntil(step.tick);
         queue(step.line);
         break;
@@ -212,11 +213,12 @@ std::size_t EventsWriter::writeClick(std::size_t index)
                steps[index + distance].line == line;
     };
     const std::string id = click.line.starts_with(clickWord) ? click.line.substr(clickWord.size()) : "";
-    const bool isButtonsName = id == "left" || id == "right" || id == "middle"; // of the other doubleclick
+    const bool isButtonsName =
+        id == "left" || id == "right" || id == "middle"; // doubleclick would take it for a button
     const bool isDouble = !id.empty() && !isButtonsName && isNext(1, "doubleclick left") &&
                           steps[index + 1].clickLine == click.line && isNext(2, "release left");
 
-    runUntil(click.tick - 1); // the line's first frame points at the window
+    runUntil(click.tick - 1); // the line itself spends a frame on moving the pointer
     add(isDouble ? "double" + click.line : click.line);
     now = std::max(now, (isDouble ? steps[index + 2].tick : click.releaseTick) + 1);
     waiting = 0;
@@ -237,20 +239,20 @@ std::size_t EventsWriter::writeText(std::size_t index)
 
 void EventsWriter::writeKey(const Step& key)
 {
-    if (key.secondCode != 0 && !std::exchange(hasToldOfSecondCode, true))
-        add("# keys of a controller: their second code cannot be played, keyCode2 stays 0");
+    if (key.secondCode != 0 && !std::exchange(hasNotedSecondCode, true))
+        add("# controller keys: their second code cannot be played back, keyCode2 stays 0");
     if (characterOf(key.code, shiftIsHeld) == key.character) {
         queue("key " + keyName(key.code));
     } else if (key.character != 0 && keyThatTypes(key.character) == key.code) {
         queue("type " + quoteWord({&key.character, 1}));
     } else {
-        add("# this key came with the character " + quoteWord({&key.character, 1}) +
-            ", which cannot be played");
+        add("# this key typed the character " + quoteWord({&key.character, 1}) +
+            ", which cannot be played back");
         queue("key " + keyName(key.code));
     }
 }
 
-/// Holds are carried out as they are read: what came in front of them is taken first.
+/// Writes a hold or its end. It takes effect when the line is read, so earlier input must be taken first.
 void EventsWriter::writeHold(const Step& hold)
 {
     runUntilTaken(hold.tick);
@@ -262,7 +264,7 @@ void EventsWriter::writeHold(const Step& hold)
 void EventsWriter::writeShown(const Step& shown)
 {
     const long frames = std::max(0L, shown.tick - now);
-    add("wait until " + shown.line + (frames > longWait ? ' ' + std::to_string(frames + waitedBeyond) : ""));
+    add("wait until " + shown.line + (frames > longWait ? ' ' + std::to_string(frames + waitAllowance) : ""));
     waiting = std::max(0L, waiting - frames);
     now += frames;
 }

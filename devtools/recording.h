@@ -5,44 +5,44 @@
 #include <string>
 #include <vector>
 
-/// One thing of a recording. Ticks count from 0, the first that was seen.
+/// One step of a recording. Ticks are counted from 0, the first recorded one.
 struct RecordedStep {
     enum class Kind : std::uint8_t {
-        Transition, // line: "press left", "wheel up"; taken by its tick
-        Move,       // line: "move to BAR 12 40"; taken with what follows
-        Approach,   // line: the same, with a frame of its own
+        Transition, // line: "press left", "wheel up"; taken in its tick
+        Move,       // line: "move to BAR 12 40"; taken together with the next step
+        Approach,   // line: as for Move, but with a frame of its own
         Hover,      // line: "hover OK"
         Click,      // line: "click OK", "row LIST 2"; tick is that of the press
         Key,
         Hold,
-        Shown, // line: "active CHART", "popup none"; so when its tick began, and not a tick before
-        Note,  // line: what a comment says
+        Shown, // line: "active CHART", "popup none"; true when its tick began, and not a tick before
+        Note,  // line: text of a comment
     };
     Kind kind;
     long tick;
     std::string line = {};
-    std::string clickLine = {};   // of a double click: what would click there
-    long releaseTick = 0;         // of a click
-    bool isPassedThrough = false; // of a move while a lever is held: only where it comes to rest counts
-    std::uint8_t code = 0;        // of a key, and of a hold
-    std::uint8_t secondCode = 0;
-    char character = 0;
-    bool isTyped = false; // of a key: it goes into an edit box
-    bool held = false;    // of a hold
+    std::string clickLine = {};   // double click: the line for a click at the same place
+    long releaseTick = 0;         // click: tick of the release
+    bool isPassedThrough = false; // move with a held lever: left out unless the lever rests there
+    std::uint8_t code = 0;        // key, hold: virtual key code
+    std::uint8_t secondCode = 0;  // key: keyCode2, from a controller
+    char character = 0;           // key: the character that it types
+    bool isTyped = false;         // key: it goes to an edit box
+    bool held = false;            // hold: false for the end of the hold
 };
 
-/// Shift, Ctrl and Alt: what they do is to be held.
+/// Returns whether the key is Shift, Ctrl or Alt.
 bool isModifier(std::uint8_t code);
 
-/// The lines of events that play these steps, with the frames between them; endTick: as many ticks have been
-/// seen.
+/// Returns the events lines that play these steps, with the frames between them. endTick is the number of
+/// recorded ticks.
 ///
-///     seen                                             written
-///     a click on a window or cell that has a line      that line; its own frames are left out
-///     one, then a double click on the same window      doubleclick ID
-///     keys into an edit box that have characters       type "TEXT"
-///     a key otherwise                                  key NAME, where its character is the same
+///     recorded                                         written
+///     a click on a window or cell that has a line      that line, without the frames that it runs itself
+///     that and a double click on the same window       doubleclick ID
+///     keys with characters, in an edit box             type "TEXT"
+///     any other key                                    key NAME, if it types the same character
 ///     wheel notches in quick succession                the notches, then the frames
-///     a key held while another input comes, or long    hold NAME, lift NAME
-///     the active screen or front popup has changed     wait until active NAME, wait until popup ID
+///     a key held during other input, or long           hold NAME, lift NAME
+///     a change of the active screen or front popup     wait until active NAME, wait until popup ID
 std::vector<std::string> writeEvents(std::span<const RecordedStep> steps, long endTick);

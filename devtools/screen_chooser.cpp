@@ -13,7 +13,7 @@ namespace tgx {
 
 namespace {
 
-constexpr int linesAround = 5; // of the panel and its margin, and the heading
+constexpr int linesAround = 5; // taken by the panel's edges and margins, and by its heading
 constexpr std::uint32_t headingColour = 0x9FB2C6;
 constexpr std::uint32_t chosenColour = 0xFFE08A;
 
@@ -36,7 +36,7 @@ struct LineStart {
     }
 };
 
-/// The first script that defines an id counts.
+/// Adds a screen, unless an earlier script defines its id.
 void add(NamedScreen screen, std::vector<NamedScreen>& screens)
 {
     const auto isSame = [&](const NamedScreen& each) { return each.id == screen.id; };
@@ -133,7 +133,7 @@ void ScreenChooser::go()
         game.changeScreen(CString(target.id), 1, mainScriptResource, CString(target.script));
 }
 
-/// In the middle part of the list when not all of it fits.
+/// Paints the list, or the part of it around the chosen screen if it does not fit.
 void ScreenChooser::paint(Overlay& overlay) const
 {
     const auto count = static_cast<int>(screens.size());
@@ -145,7 +145,7 @@ void ScreenChooser::paint(Overlay& overlay) const
         const NamedScreen& each = screens[static_cast<std::size_t>(i)];
         lines.push_back({each.id + "  " + each.script, i == chosen ? chosenColour : PanelLine().colour});
     }
-    lines.push_back({"Return goes there \xB7 Esc", headingColour});
+    lines.push_back({"Return opens it \xB7 Esc closes", headingColour});
     paintPanel(overlay, lines, Corner::TopLeft);
 }
 

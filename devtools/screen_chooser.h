@@ -22,17 +22,17 @@ struct NamedScreen {
 /// game has read from embedded scripts.
 std::vector<NamedScreen> screensOf(AMainWin& game, const Sources& sources, const std::string& mainScript);
 
-/// A list of all screens over the game's picture. While it is open, the keyboard belongs to it: arrows, Home
-/// and End choose, a letter goes to the next id that begins with it, Return goes to
-/// the chosen screen, Escape closes the list.
+/// A list of all screens over the game's picture. While it is open it gets the keyboard: arrows, Home and End
+/// select, a letter selects the next id that begins with it, Return opens the selected screen, and Escape
+/// closes the list.
 class ScreenChooser {
 public:
-    /// Neither is owned.
+    /// Owns neither the main window nor the sources.
     ScreenChooser(AMainWin& mainWin, const Sources& scriptSources, std::string mainScriptName)
         : game(mainWin), sources(scriptSources), mainScript(std::move(mainScriptName))
     {}
     bool isOpen() const { return !screens.empty(); }
-    /// Opens the list on the active screen. Returns false when there is no screen.
+    /// Opens the list with the active screen selected. Returns false if there is no screen.
     bool open();
     void close() { screens.clear(); }
     void keyPressed(int code);

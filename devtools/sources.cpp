@@ -43,7 +43,7 @@ Sources::~Sources()
         setMemoryFile(std::string(scriptFolder) + script.name, nullptr);
 }
 
-/// The first of each name: a folder that was named stands in front of UIG.
+/// Returns the text files, the first one of each name: the named folders take precedence over UIG.
 std::vector<std::string> Sources::textFiles() const
 {
     std::vector<std::string> found;
@@ -90,7 +90,7 @@ Sources::Scripts Sources::compileTexts()
             fresh.insert(*last);
     };
     const auto read = [&](const std::string& path, std::string& reason) {
-        watched->add(path); // before it is read: a change on the way is not missed
+        watched->add(path); // before it is read, so that no change is missed
         return readIncluded(path, reason);
     };
     for (const std::string& file : textFiles()) {
@@ -107,13 +107,13 @@ Sources::Scripts Sources::compileTexts()
     }
     for (const auto& [file, script] : parsed) {
         std::string name = script_text::compiledName(file);
-        // What others include is a part of them, unless it was compiled by itself once.
+        // A file that others include is a part of them, unless it has also been compiled by itself.
         if (included.contains(canonical(file)) && !isOnDisk(name))
             continue;
         for (const script_text::Diagnostic& each : script.diagnostics)
             if (each.severity == script_text::Diagnostic::Error)
                 fault(script_text::headline(each), script_text::describe(each));
-        // An editor that empties a file before it writes it is caught in between.
+        // An editor may empty a file before it writes it.
         if (!script.hasErrors() && script.lines.empty() && built.contains(script_text::lowered(name)))
             fault(file + ": error: there is no statement in it any more");
         else if (!script.hasErrors()) {
@@ -149,7 +149,8 @@ std::vector<Sources::Script> Sources::scripts() const
     return all;
 }
 
-/// Whether bytes differ; maps may differ all the same, of comments that have moved.
+/// Replaces the compiled scripts. Returns whether their bytes differ; maps alone may differ when comments
+/// have moved.
 bool Sources::replace(Scripts fresh)
 {
     bool isChanged = fresh.size() != built.size();
@@ -165,7 +166,7 @@ bool Sources::replace(Scripts fresh)
     return isChanged;
 }
 
-/// Whether one that no text stands in for is another file now.
+/// Returns whether a compiled file has changed that no text replaces.
 bool Sources::lookAtCompiled()
 {
     Times fresh;

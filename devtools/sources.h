@@ -10,40 +10,40 @@
 #include <string>
 #include <vector>
 
-/// The text form of the scripts in the data directory and the other folders of sources: compiled in memory,
-/// where it stands in for the compiled file; and the side maps of those that have no text.
+/// The text form of scripts, from the data directory and the other folders of sources. It is compiled in
+/// memory and replaces the compiled file. For compiled files without text it reads their maps.
 class Sources {
 public:
-    /// Folders besides UIG of the data directory; one that is not there is a fault. mainScript: its name
-    /// below UIG. Builds nothing yet.
+    /// folders are those in addition to the data directory's UIG; a missing one is a fault. mainScript is its
+    /// name below UIG. Builds nothing yet.
     Sources(std::vector<std::string> folders, std::string mainScript);
-    ~Sources(); // takes the compiled scripts out of the data directory
+    ~Sources(); // removes the compiled scripts from the data directory
     Sources(const Sources&) = delete;
     Sources& operator=(const Sources&) = delete;
 
-    /// Compiles all text. Where one is at fault, what was compiled of it before stays, and getFaults tells
-    /// why. Whether any script is another one now.
+    /// Compiles all text. A script with an error keeps its last compiled form, and getFaults returns the
+    /// error. Returns whether any script has changed.
     bool build();
-    /// "menu.tgs:31:5: error: ...", of the last build.
+    /// Returns the errors of the last build: "menu.tgs:31:5: error: ...".
     const std::vector<std::string>& getFaults() const { return faults; }
-    /// The same with the lines and marks under the places, for a terminal.
+    /// Returns the errors with the source lines and marks under the places, for a terminal.
     const std::vector<std::string>& getReports() const { return reports; }
-    /// Whether a file of theirs has been written, has come or gone since the last build. Also compiled files
-    /// that are used as they are, and their maps.
+    /// Returns whether a file has been written, created or deleted since the last build. Includes compiled
+    /// files without text, and their maps.
     bool haveChanged() const;
-    /// Whether that script comes from its text.
+    /// Returns whether that script is compiled from its text.
     bool isFromText(const std::string& script) const;
 
     struct Script {
         std::string name; // below UIG
         std::shared_ptr<const std::string> bytes;
     };
-    /// Returns all scripts: those compiled of text, followed by the compiled files that no text replaces,
-    /// which are read for this.
+    /// Returns all scripts: those compiled from text, followed by the compiled files that no text replaces,
+    /// which this reads.
     std::vector<Script> scripts() const;
 
-    /// "menu.tgs:31" for a byte of the compiled script of that name below UIG; without text or map "menu.tgx,
-    /// byte 123".
+    /// Returns "menu.tgs:31" for a byte of the compiled script of that name below UIG, or "menu.tgx, byte
+    /// 123" if it has neither text nor map.
     std::string placeOf(const std::string& script, unsigned offset) const;
 
 private:
@@ -64,10 +64,10 @@ private:
     std::vector<std::string> folders;
     std::string mainScript;
     Scripts built;
-    Times compiled;                  // of the files in UIG that no text stands in for
-    mutable ScriptLinesOnDisk lines; // of those that no text stands in for
+    Times compiled;                  // of the files in UIG that no text replaces
+    mutable ScriptLinesOnDisk lines; // of the same files
     std::vector<std::string> faults;
     std::vector<std::string> reports;
-    std::vector<std::string> knownFiles; // text and compiled, of the last build
+    std::vector<std::string> knownFiles; // text and compiled files at the last build
     std::optional<script_text::WatchedFiles> watched;
 };

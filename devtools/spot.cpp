@@ -9,7 +9,7 @@
 
 namespace {
 
-/// What of the pointer's place a window looks at.
+/// How much of the pointer's position matters to a window.
 enum class Sense { Nothing, Cell, Point };
 
 Sense senseOf(const AWnd& wnd)
@@ -18,7 +18,7 @@ Sense senseOf(const AWnd& wnd)
     case AWnd::WND_BUTTON:
     case AWnd::WND_RADIOBUTTON:
     case AWnd::WND_COMBOBOX:
-    case AWnd::WND_EDITBOX: // a click puts the cursor behind the text, wherever it falls
+    case AWnd::WND_EDITBOX: // a click anywhere puts the cursor at the end of the text
     case AWnd::WND_TABCONTROL:
     case AWnd::WND_PROGRESSBAR:
     case AWnd::WND_GRAPH:
@@ -26,24 +26,24 @@ Sense senseOf(const AWnd& wnd)
     case AWnd::WND_LISTBOX:
         return dynamic_cast<const AListBox*>(&wnd) ? Sense::Cell : Sense::Point;
     case AWnd::WND_PLAIN:
-        return typeid(wnd) == typeid(AWnd) ? Sense::Nothing : Sense::Point; // a game's own may be a map
+        return typeid(wnd) == typeid(AWnd) ? Sense::Nothing : Sense::Point; // a game's own class may be a map
     default:
         return Sense::Point;
     }
 }
 
-/// Whether a line that names the window by its id means this one.
-bool isMeantByItsId(AMainWin& win, const AWnd& wnd)
+/// Returns whether a line with the window's id finds this window.
+bool isFoundById(AMainWin& win, const AWnd& wnd)
 {
     return !wnd.getID().IsEmpty() && findMeantWindow(win, wnd.getID().str()) == &wnd;
 }
 
-/// The window, or the nearest that it lies in, from which a point can be counted. Null: none is better than
-/// the screen's corner.
+/// Returns the window, or the nearest one around it, to which a point can be relative. Null if the screen's
+/// corner is the best reference.
 AWnd* referenceFor(AMainWin& win, AWnd* wnd)
 {
     for (; wnd && wnd->getWindowType() != AWnd::WND_SCREEN; wnd = wnd->getParent())
-        if (isMeantByItsId(win, *wnd))
+        if (isFoundById(win, *wnd))
             return movingFrom(*wnd) ? nullptr : wnd;
     return nullptr;
 }
@@ -53,8 +53,9 @@ AWnd* referenceFor(AMainWin& win, AWnd* wnd)
 std::string wordFor(std::string_view name)
 {
     const auto isPlain = [](char c) { return c > 0x20 && c < 0x7F && c != '"'; };
-    const bool needsNone = !name.empty() && name != "none" && std::all_of(name.begin(), name.end(), isPlain);
-    return needsNone ? std::string(name) : quoteWord(name);
+    const bool needsNoQuotes =
+        !name.empty() && name != "none" && std::all_of(name.begin(), name.end(), isPlain);
+    return needsNoQuotes ? std::string(name) : quoteWord(name);
 }
 
 Spot spotAt(AMainWin& win, const ScreenPoint& point, PointerAct act)
@@ -67,7 +68,7 @@ Spot spotAt(AMainWin& win, const ScreenPoint& point, PointerAct act)
     return spot;
 }
 
-bool doSame(const Spot& a, const Spot& b)
+bool haveSameEffect(const Spot& a, const Spot& b)
 {
     if (a.wnd.get() != b.wnd.get())
         return false;
@@ -78,10 +79,10 @@ bool doSame(const Spot& a, const Spot& b)
     return sense == Sense::Nothing || isSamePoint;
 }
 
-bool doSameForKeys(const Spot& a, const Spot& b)
+bool haveSameEffectForKeys(const Spot& a, const Spot& b)
 {
     const bool isList = a.wnd && senseOf(*a.wnd) == Sense::Cell; // whose hot row follows the pointer
-    return isList ? doSame(a, b) : a.wnd.get() == b.wnd.get();
+    return isList ? haveSameEffect(a, b) : a.wnd.get() == b.wnd.get();
 }
 
 std::optional<CellPlace> hotCellOf(const AWnd* wnd)
@@ -94,7 +95,7 @@ std::optional<CellPlace> hotCellOf(const AWnd* wnd)
 
 std::optional<PointingLine> clickLineFor(AMainWin& win, const Spot& spot)
 {
-    if (!spot.wnd || !isMeantByItsId(win, *spot.wnd))
+    if (!spot.wnd || !isFoundById(win, *spot.wnd))
         return std::nullopt;
     AWnd& wnd = *spot.wnd;
     PointingLine line;
@@ -110,7 +111,7 @@ std::optional<PointingLine> clickLineFor(AMainWin& win, const Spot& spot)
         line.point = middleOf(wnd);
     }
     if (!whyNotReached(win, wnd, line.point.x, line.point.y, PointerAct::Click).empty() ||
-        !doSame(spot, spotAt(win, line.point, PointerAct::Click)))
+        !haveSameEffect(spot, spotAt(win, line.point, PointerAct::Click)))
         return std::nullopt;
     return line;
 }
@@ -118,7 +119,7 @@ std::optional<PointingLine> clickLineFor(AMainWin& win, const Spot& spot)
 PointingLine pointLineFor(AMainWin& win, const Spot& spot, bool mayHover)
 {
     AWnd* wnd = spot.wnd;
-    if (mayHover && wnd && senseOf(*wnd) == Sense::Nothing && isMeantByItsId(win, *wnd)) {
+    if (mayHover && wnd && senseOf(*wnd) == Sense::Nothing && isFoundById(win, *wnd)) {
         const ScreenPoint middle = middleOf(*wnd);
         if (whyNotReached(win, *wnd, middle.x, middle.y, PointerAct::Point).empty())
             return {"hover " + wordFor(wnd->getID().view()), middle, true};

@@ -7,36 +7,36 @@
 #include <optional>
 #include <string>
 
-/// What input reaches at a point of the screen, as far as a line of events has to know it.
+/// What input reaches at a point of the screen, as far as it matters for an events line.
 struct Spot {
     ScreenPoint point;
-    WndRef wnd;            // empty: nothing
-    CellPlace cell;        // of a list box
-    std::string hindrance; // why even wnd gets nothing; "" when it does
-    bool isTypedInto = false;
+    WndRef wnd;               // empty: nothing
+    CellPlace cell;           // cell of a list box
+    std::string hindrance;    // why wnd gets no input all the same; "" if it does
+    bool isTypedInto = false; // an edit box gets what is typed
 };
 Spot spotAt(AMainWin& win, const ScreenPoint& point, PointerAct act);
 
-/// Whether the pointer's input does the same at both: anywhere on a button, on the same cell of a list, on
-/// the same point of a scroll bar and of whatever the toolkit does not know.
-bool doSame(const Spot& a, const Spot& b);
-/// The same for keys, which bring no place with them.
-bool doSameForKeys(const Spot& a, const Spot& b);
-/// Where the list's keys go on from, by pointer, keys or what it remembers from before the pointer left it.
-/// Nothing for other windows, and where no row is hot.
+/// Returns whether pointer input has the same effect at both: anywhere on a button, on the same cell of a
+/// list, but only at the same point of a scroll bar or of a window that the toolkit does not know.
+bool haveSameEffect(const Spot& a, const Spot& b);
+/// Returns whether keys have the same effect with the pointer at either spot.
+bool haveSameEffectForKeys(const Spot& a, const Spot& b);
+/// Returns the hot cell of a list, from which its keys start. Nothing for other windows, or if no row is hot.
 std::optional<CellPlace> hotCellOf(const AWnd* wnd);
 
-/// A line of events, and where it takes the pointer.
+/// An events line, and the point to which it moves the pointer.
 struct PointingLine {
     std::string text;
     ScreenPoint point;
-    bool runsFrames = false; // else it queues a move
+    bool runsFrames = false; // false: it only queues a move
 };
-/// What clicks there: "click OK", "row LIST 2 1". Nothing when no line by id does the same.
+/// Returns the line that clicks there: "click OK", "row LIST 2 1". Nothing if no line with an id has the same
+/// effect.
 std::optional<PointingLine> clickLineFor(AMainWin& win, const Spot& spot);
-/// What brings the pointer there: "hover OK" where that does the same and mayHover, "move to BAR 3 40", "move
-/// 320 200".
+/// Returns the line that moves the pointer there: "hover OK" if mayHover and it has the same effect, else
+/// "move to BAR 3 40" or "move 320 200".
 PointingLine pointLineFor(AMainWin& win, const Spot& spot, bool mayHover);
 
-/// An id or name as one word, in quotes where it needs them.
+/// Returns an id or name as one word of an events line, in quotes if needed.
 std::string wordFor(std::string_view name);

@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// A change shows within a second, and looking costs little beside a frame.
+// Changes appear within a second, and checking for them is cheap compared with a frame.
 constexpr std::uint32_t lookMillis = 200;
 constexpr std::uint32_t pictureLookMillis = 500; // there may be many of them
 
@@ -131,26 +131,27 @@ void Workbench::measure(const Image& screen, std::span<const tagRECT> changed)
     }
 }
 
-/// In the panel instead of a box that holds the game up. Of messages with one cause that alone.
+/// Shows a message in the panel instead of a box that blocks the game; of messages with a common cause, only
+/// the cause.
 void Workbench::showMessage(const CString& text, const std::string& cause)
 {
-    const bool isToldWithFaults = isAboutALine(text.view()); // by showFaults, with its place
-    if (isToldWithFaults && cause.empty())
+    const bool isShownAsFault = isAboutALine(text.view()); // by showFaults, with its place
+    if (isShownAsFault && cause.empty())
         return;
     std::string message = oneLine(text.view());
     const std::optional<ScriptPlace> found = messagePlaces.find(text.view());
     const std::string place = placeOf(found);
-    if (!isToldWithFaults) {
+    if (!isShownAsFault) {
         std::cerr << "message: " << message << '\n';
         if (!place.empty())
             std::cerr << place << ": note: the message comes from this line\n";
     }
     if (!cause.empty()) {
-        if (missing.emplace(oneLine(cause), found).second) // until it is mended
+        if (missing.emplace(oneLine(cause), found).second) // until the next reload
             std::cerr << "note: " << oneLine(cause) << '\n';
         faultsAreStale = true;
     } else if (message.starts_with(missingFile)) {
-        missing.emplace(std::move(message), found); // likewise
+        missing.emplace(std::move(message), found);
         faultsAreStale = true;
     } else {
         notices.tell(place.empty() ? std::move(message) : place + ": " + message);
@@ -192,7 +193,7 @@ void Workbench::switchFullScreen()
     displayhost::current().followFullScreen(game);
 }
 
-/// The first free one of STEM-1ENDING, STEM-2ENDING and so on.
+/// Returns the path of the first file that does not exist yet: STEM1ENDING, STEM2ENDING and so on.
 std::string Workbench::outPath(const char* stem, const char* ending) const
 {
     for (int number = 1;; ++number) {
@@ -246,13 +247,13 @@ void Workbench::saveRecording()
     makeFoldersOf(path);
     const bool isWritten = writeWhole(path, recorder->events());
     if (!isWritten)
-        std::cerr << recorder->events(); // not lost
+        std::cerr << recorder->events(); // so that it is not lost
     tellWritten("recording", path, isWritten);
     recorder.reset();
     notices.setStatus("");
 }
 
-// Reading anew
+// Reloading
 
 void Workbench::lookForChanges()
 {
@@ -260,12 +261,12 @@ void Workbench::lookForChanges()
     if (now - lastLook < lookMillis)
         return;
     lastLook = now;
-    // What is at fault stays as it was until it is mended.
+    // A script with an error keeps its last good form.
     bool isChanged = sources.haveChanged() && buildSources();
     if (now - lastPictureLook >= pictureLookMillis) {
         lastPictureLook = now;
         if (pictures.haveChanged(game)) {
-            game.reloadsurfaces(); // those of the game itself
+            game.reloadsurfaces(); // also those that the game itself made
             isChanged = true;
         }
     }
@@ -282,7 +283,7 @@ bool Workbench::buildSources()
     return isChanged;
 }
 
-/// Of the text, of lines that failed when they were read, and of files that are missing.
+/// Shows errors in text, lines that failed when they were read, and missing files.
 void Workbench::showFaults()
 {
     const std::vector<std::string>& failures = origins.getFailures();

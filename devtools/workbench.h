@@ -17,7 +17,7 @@
 #include <map>
 #include <optional>
 
-/// What DevTools is behind its face: stands between game and host, and does what the keys ask for.
+/// The implementation of DevTools: sits between game and host, and carries out the keys.
 class Workbench : public HostWatcher {
 public:
     Workbench(AMainWin& game, DevToolsOptions options);
@@ -62,20 +62,20 @@ private:
     Overlay overlay;
 
     WatchingHost* host = nullptr; // owned by displayhost's use
-    int fullScreenBefore = 0;     // of the game, which keeps it in its settings
-    bool isReading = false;       // the game's startup may run frames
+    int fullScreenBefore = 0;     // restored at the end, because the game stores it in its settings
+    bool isReading = false;       // during a reload, when the game's startup may run frames
 
-    FrameCost cost;     // of the last whole frame
-    FrameCost measured; // of the one that is shown
+    FrameCost cost;     // of the last complete frame
+    FrameCost measured; // of the frame that is being shown
     double averageMicros = 0;
     MessagePlaces messagePlaces;
     /// What is missing since the last read, with the line that wants it.
     std::map<std::string, std::optional<ScriptPlace>> missing;
     std::size_t printedFailures = 0;
-    bool faultsAreStale = false; // what the panel says of them
+    bool faultsAreStale = false; // the panel must be updated
     Clock::time_point frameStart;
     std::uint32_t lastLook = 0; // milliseconds of timeGetTime
     std::uint32_t lastPictureLook = 0;
     WatchedPictures pictures;
-    ImageRef heldPicture; // shown while screens open again, so that none of them flashes by
+    ImageRef heldPicture; // shown while screens are restored, so that they do not flash up
 };

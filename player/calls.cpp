@@ -18,7 +18,7 @@ std::vector<std::span<const Operation>> allOperations()
     return families;
 }
 
-/// "the screen "MENU" has OK and CANCEL": what could have been meant.
+/// Lists the windows that a caller could have meant: "the screen "MENU" has OK and CANCEL".
 std::string describeWindows(AMainWin& win)
 {
     AScreen* screen = win.getActiveScreen();
@@ -59,7 +59,7 @@ CallArgument readArgument(AMainWin& win, const Word& word)
     return argument;
 }
 
-/// Rows of that name that the target's class has.
+/// Returns the rows called name of the target's class; others gets the names of its other rows.
 std::vector<const Operation*> findOperations(const CallTarget& target, const std::string& name,
                                              std::vector<std::string>& others)
 {

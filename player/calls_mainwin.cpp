@@ -5,8 +5,8 @@ namespace {
 using Popup = AWnd* (AMainWin::*)(AWnd*, AWnd*, int);
 using NamedPopup = AWnd* (AMainWin::*)(const CString&, AWnd*, unsigned, const CString&);
 
-// Not here: runTick and runFrame. The events tick, draw and frame run them, and see to the clock, to the end
-// of the run and to what a frame raises.
+// runTick and runFrame are left out: the events tick, draw and frame run them, because the clock, the end of
+// the run and exceptions need care there.
 constexpr Operation rows[] = {
     operation<&AMainWin::startup>("startup"),
     operation<&AMainWin::drawscreen>("drawscreen"),

@@ -79,7 +79,7 @@ constexpr Operation rows[] = {
 
     // Bitmap
     overload<void (AWnd::*)(const CString&), &AWnd::setBmp>("setBmp"),
-    overload<void (AWnd::*)(surface*), &AWnd::setBmp>("setBmp"), // null drops the bitmap
+    overload<void (AWnd::*)(surface*), &AWnd::setBmp>("setBmp"), // null removes the bitmap
     operation<&AWnd::loadBmp>("loadBmp"),
     operation<&AWnd::deleteBmp>("deleteBmp"),
     operation<&AWnd::getBmpFilename>("getBmpFilename"),

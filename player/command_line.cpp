@@ -10,12 +10,12 @@
 
 namespace {
 
-/// "640x480" into the two; the reason why not, or "".
+/// Splits "640x480" into width and height. Returns what is wrong with it, or "".
 std::string readSize(const std::string& size, int& width, int& height)
 {
     std::size_t divider = size.find('x');
     int w = 0, h = 0;
-    constexpr int largest = 32767; // a screen's sides have 16 bits
+    constexpr int largest = 32767; // a screen's width and height are 16-bit fields
     if (divider == std::string::npos || !CLI::detail::lexical_cast(size.substr(0, divider), w) ||
         !CLI::detail::lexical_cast(size.substr(divider + 1), h) || w < 1 || h < 1 || w > largest ||
         h > largest)
@@ -42,7 +42,7 @@ void addSizeOption(CLI::App& app, int& width, int& height)
 
 namespace {
 
-/// What is played and how large.
+/// Adds the options that name the script, the screen size and the frame time.
 void addSceneArguments(CLI::App& app, PlayOptions& options)
 {
     app.add_option("--script", options.script, "Compiled script, by its name below UIG/")->type_name("NAME");
@@ -52,26 +52,26 @@ void addSceneArguments(CLI::App& app, PlayOptions& options)
         ->type_name("N");
 }
 
-/// What `tgx play` and `tgx test` have in common beside them.
+/// Adds the other options that `tgx play` and `tgx test` share.
 void addRunArguments(CLI::App& app, PlayOptions& options, const char* outText)
 {
     app.add_option("--out", options.outDirectory, outText)->type_name("DIR2");
     app.add_flag("--update", options.update, "Write expected files that are missing or differ");
     app.add_flag("--log-input", options.logInput,
-                 "Tell on stderr which window each input reached, and why others did not get it");
+                 "Print on stderr which window each input reached, and why others did not get it");
 }
 
 } // namespace
 
 void addPlayArguments(CLI::App& app, PlayOptions& options)
 {
-    app.add_option("DIR", options.dataDirectory, "Data directory; scripts lie in its UIG/")->required();
+    app.add_option("DIR", options.dataDirectory, "Data directory; scripts are in its UIG/")->required();
     addSceneArguments(app, options);
     app.get_option("--script")->required();
     app.add_option("--events", options.eventsFile,
                    "Events to play, - for stdin; without it 60 frames, then the picture screen.png")
         ->type_name("FILE");
-    addRunArguments(app, options, "Where files that the events write go [.]");
+    addRunArguments(app, options, "Where to put files that the events write [.]");
 }
 
 void addTestArguments(CLI::App& app, TestOptions& options)
@@ -79,17 +79,18 @@ void addTestArguments(CLI::App& app, TestOptions& options)
     options.play.outDirectory = "tgx-test";
     app.add_option("DIR", options.directory, "Folder; every file *.events below it is played")->required();
     app.add_option("FILTER", options.filter, "Only files with this in their name");
-    app.add_option("--jobs", options.jobs, "Processes at a time [as many as processors]")
+    app.add_option("--jobs", options.jobs, "Processes at a time [number of processors]")
         ->check(CLI::PositiveNumber)
         ->type_name("N");
     app.add_option("--junit", options.junitFile, "Also write the results as JUnit XML")->type_name("FILE");
-    app.add_option("--data", options.play.dataDirectory, "Data directory of files that name none")
+    app.add_option("--data", options.play.dataDirectory, "Data directory for events files that name none")
         ->type_name("DATA");
     addSceneArguments(app, options.play);
-    addRunArguments(app, options.play, "Where files that the events write go, a folder for each [tgx-test]");
-    app.footer("An events file names what it is played on in its first lines, DATA relative to the file:\n"
+    addRunArguments(app, options.play,
+                    "Where to put files that the events write, in a folder for each events file [tgx-test]");
+    app.footer("The first lines of an events file say what it plays, with DATA relative to the file:\n"
                "    # tgx: play DATA --script NAME --size WxH\n"
-               "What it leaves out is taken from the command line.");
+               "The command line gives what they leave out.");
 }
 
 std::string readPlayWords(const std::vector<std::string>& words, const std::string& folder,
@@ -100,7 +101,7 @@ std::string readPlayWords(const std::vector<std::string>& words, const std::stri
     app.add_option("DATA", data);
     addSceneArguments(app, options);
     try {
-        app.parse(std::vector<std::string>(words.rbegin(), words.rend())); // taken from the back
+        app.parse(std::vector<std::string>(words.rbegin(), words.rend())); // CLI11 takes words from the back
     } catch (const CLI::ParseError& error) {
         return error.what();
     }
@@ -111,7 +112,7 @@ std::string readPlayWords(const std::vector<std::string>& words, const std::stri
 
 namespace {
 
-/// Parses and runs. Exit status for main.
+/// Parses the arguments and runs. Returns the exit status for main.
 int parseAndRun(CLI::App& app, int argc, char** argv, const std::function<int()>& run)
 {
     try {
@@ -131,7 +132,7 @@ int parseAndRun(CLI::App& app, int argc, char** argv, const std::function<int()>
 int playMain(int argc, char** argv, const MainWinFactory& factory)
 try {
     if (argc > 1 && std::string_view(argv[1]) == "test") {
-        CLI::App app("Plays every events file below a folder, side by side", "test");
+        CLI::App app("Plays every events file below a folder, several at a time", "test");
         TestOptions options;
         addTestArguments(app, options);
         return parseAndRun(app, argc - 1, argv + 1,
@@ -140,7 +141,7 @@ try {
     CLI::App app("Plays the interface without a window and without a clock");
     PlayOptions options;
     addPlayArguments(app, options);
-    app.footer("With the word test in front, every events file below a folder: test --help tells more.");
+    app.footer("With the word test in front, plays every events file below a folder; see test --help.");
     return parseAndRun(app, argc, argv, [&] { return play(options, factory); });
 } catch (const std::bad_alloc&) {
     std::cerr << "play: out of memory\n";

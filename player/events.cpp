@@ -16,7 +16,7 @@
 
 namespace {
 
-/// The [N] of an event; 1 without one.
+/// Returns the optional count [N] of an event, 1 by default.
 int countOf(const Event& event)
 {
     return event.has(1) ? static_cast<int>(event.number(1, 0, std::numeric_limits<int>::max())) : 1;
@@ -47,7 +47,7 @@ void move(const Event& event)
     event.input.move(event.coordinate(1), event.coordinate(2));
 }
 
-std::optional<MouseButton> buttonCalled(const std::string& name)
+std::optional<MouseButton> findButton(const std::string& name)
 {
     if (name == "left")
         return MouseButton::Left;
@@ -60,7 +60,7 @@ std::optional<MouseButton> buttonCalled(const std::string& name)
 
 MouseButton button(const Event& event)
 {
-    if (const auto named = buttonCalled(event.text(1)))
+    if (const auto named = findButton(event.text(1)))
         return *named;
     throw WrongLine("no button " + quote(event.text(1)) + "; buttons are left, right and middle");
 }
@@ -77,7 +77,7 @@ void release(const Event& event)
 
 void doubleClick(const Event& event)
 {
-    if (const auto named = buttonCalled(event.text(1)))
+    if (const auto named = findButton(event.text(1)))
         event.input.doubleClick(*named);
     else
         doubleClickOn(event);
@@ -86,7 +86,7 @@ void doubleClick(const Event& event)
 void wheel(const Event& event)
 {
     if (event.text(1) != "up" && event.text(1) != "down")
-        throw WrongLine("the wheel goes up or down, found " + quote(event.text(1)));
+        throw WrongLine("expected up or down, found " + quote(event.text(1)));
     event.input.wheel(event.text(1) == "up");
 }
 
@@ -119,7 +119,7 @@ void change(const Event& event)
     AScreen* screen = event.win.changeScreen(CString(event.text(1)), event.has(2), mainScriptResource,
                                              CString(event.player.getOptions().script));
     if (screen && !screen->isOpen())
-        screen->initialise(); // a change that the call carried out at once leaves this to its caller
+        screen->initialise(); // changeScreen leaves this to its caller when it changes at once
 }
 
 void exit(const Event& event)
@@ -169,13 +169,13 @@ void test(const Event& event)
 
 constexpr std::size_t anyNumber = std::numeric_limits<std::size_t>::max();
 
-/// The language: an event a row.
+/// The events language, one row for each event.
 const struct EventRow {
     std::string_view name;
-    std::size_t fewest, most; // words behind the name
+    std::size_t fewest, most; // words after the name
     void (*run)(const Event& event);
     std::string_view form;
-    std::string_view place = "the event"; // where an invalid argument came up, for its reason
+    std::string_view place = "the event"; // where an invalid argument occurs, for the message
 } eventRows[] = {
     {"frame", 0, 1, frame, "frame [N]", "a tick"},
     {"tick", 0, 1, tick, "tick [N]", "a tick"},
@@ -210,7 +210,7 @@ const struct EventRow {
 std::string Event::fileName(std::size_t index) const
 {
     std::string name;
-    for (const char c : text(index)) // a 0 stays, so that it is refused
+    for (const char c : text(index)) // a zero byte is kept, so that it is refused
         name += c ? utf8From1252({&c, 1}) : std::string(1, c);
     return name;
 }
@@ -241,7 +241,7 @@ void runEvent(Player& player, std::span<const Word> words, int line)
         std::size_t arguments = words.size() - 1;
         if (arguments < row.fewest || arguments > row.most)
             throw WrongLine("expected " + std::string(row.form) + ", found " + std::to_string(arguments) +
-                            (arguments == 1 ? " word behind " : " words behind ") + name);
+                            (arguments == 1 ? " word after " : " words after ") + name);
         try {
             row.run({player, *player.getMainWin(), player.getInput(), words, line});
         } catch (const CInvalidArgException&) {

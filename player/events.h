@@ -8,7 +8,7 @@ class AMainWin;
 class PlayedInput;
 class Player;
 
-/// The words of one event, and what its handler works on.
+/// The words of one event, and the objects that its handler works on.
 struct Event {
     Player& player;
     AMainWin& win;
@@ -18,16 +18,17 @@ struct Event {
 
     bool has(std::size_t index) const { return index < words.size(); }
     const std::string& text(std::size_t index) const { return words[index].text; }
-    /// A word that names a file, in UTF-8.
+    /// Returns a word that names a file, in UTF-8.
     std::string fileName(std::size_t index) const;
-    /// Raises WrongLine for what is no number in this range, ends included.
+    /// Returns a word as a number. Raises WrongLine if it is not a number from lowest to highest, ends
+    /// included.
     std::int64_t number(std::size_t index, std::int64_t lowest, std::int64_t highest) const;
-    /// A number that fits the pointer's fields.
+    /// Returns a number that fits the pointer's 16-bit fields. Raises WrongLine for any other word.
     int coordinate(std::size_t index) const;
-    /// The event that remains behind its first count words.
-    Event behind(std::size_t count) const { return {player, win, input, words.subspan(count), line}; }
+    /// Returns the event without its first count words.
+    Event withoutFirst(std::size_t count) const { return {player, win, input, words.subspan(count), line}; }
 };
 
-/// Carries out the event that words are, its name first. line: its number, which calls put in front of their
+/// Carries out one event, whose name is the first word. line is its number, which a call prints before its
 /// value. Raises WrongLine.
 void runEvent(Player& player, std::span<const Word> words, int line);

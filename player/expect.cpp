@@ -13,19 +13,19 @@
 
 namespace {
 
-constexpr int framesWaited = 240; // by a wait that names no number
+constexpr int framesWaited = 240; // by a wait without a number
 
-/// What was found instead of what was expected; nothing when it holds.
+/// What was found instead of the expected; nothing if the expectation holds.
 using Found = std::optional<std::string>;
 
-// The words that an expectation's function sees begin with its name.
+// The words passed to an expectation's function begin with the expectation's name.
 
 Found compareNumbers(std::int64_t expected, std::int64_t found)
 {
     return expected == found ? std::nullopt : Found(std::to_string(found));
 }
 
-/// ID|none.
+/// Compares a window with the expected "ID|none".
 Found compareWindow(const Event& event, const AWnd* found)
 {
     if (!found)
@@ -48,8 +48,8 @@ Found focus(const Event& event)
     return compareWindow(event, event.win.getCurFocusWnd());
 }
 
-/// What is expected of a window that is there. One that is missing may come yet, so that is a failure, and no
-/// wrong line.
+/// Makes a comparison for events whose first argument is a window. A missing window is a failed expectation
+/// and not a wrong line: it may still appear while a wait runs.
 template<Found (*compare)(const Event& event, AWnd& wnd)>
 Found ofWindow(const Event& event)
 {
@@ -63,7 +63,7 @@ Found text(const Event& event, AWnd& wnd)
     return found.view() == event.text(2) ? std::nullopt : Found(quote(found.view()));
 }
 
-/// 0|1, and the reason for a 0.
+/// Compares with the expected 0|1. whyNot is the reason why the flag is 0, or "".
 Found compareFlag(const Event& event, const AWnd& wnd, const std::string& whyNot)
 {
     const bool expected = event.number(2, 0, 1) == 1;
@@ -86,13 +86,13 @@ Found selected(const Event& event, AWnd& wnd)
 {
     constexpr int highest = std::numeric_limits<std::int16_t>::max();
     const std::int64_t expected = event.number(2, -1, highest);
-    if (auto* box = dynamic_cast<AComboBox*>(&wnd)) // a button too, but with items
+    if (auto* box = dynamic_cast<AComboBox*>(&wnd)) // before AButton: a combo box is a button too
         return compareNumbers(expected, box->getSelectedItem());
     if (auto* list = dynamic_cast<AListBox*>(&wnd))
         return compareNumbers(expected, list->getSelectedItem());
     if (auto* button = dynamic_cast<AButton*>(&wnd))
         return compareNumbers(expected, button->isSelected());
-    throw WrongLine(nameOf(wnd) + " is no button, list box or combo box");
+    throw WrongLine(nameOf(wnd) + " is not a button, list box or combo box");
 }
 
 Found message(const Event& event)
@@ -100,7 +100,7 @@ Found message(const Event& event)
     return event.player.takeMessage(event.text(1));
 }
 
-/// The values of a call that this word stands for.
+/// Returns the JSON values that a word may mean.
 std::vector<std::string> valuesOf(const Word& word)
 {
     std::vector<std::string> values{jsonString(word.text)};
@@ -113,7 +113,7 @@ std::vector<std::string> valuesOf(const Word& word)
     return values;
 }
 
-/// Whether value is what the words say: one value, or a flat array of them.
+/// Returns whether the JSON value matches the words: a single value, or a flat array of several.
 bool isValue(std::string_view value, std::span<const Word> words)
 {
     if (words.size() > 1) {
@@ -128,7 +128,7 @@ bool isValue(std::string_view value, std::span<const Word> words)
             value.remove_prefix(1);
         }
         const std::vector<std::string> values = valuesOf(words[i]);
-        // A number is not found in the front of a longer one.
+        // A number must not match the beginning of a longer one.
         const auto found = std::find_if(values.begin(), values.end(), [&](const std::string& each) {
             return value.starts_with(each) && (value.size() == each.size() || value[each.size()] == ',');
         });
@@ -139,7 +139,7 @@ bool isValue(std::string_view value, std::span<const Word> words)
     return value.empty();
 }
 
-/// Index of the = without quotes; the number of words if there is none.
+/// Returns the index of the first = without quotes, or the number of words if there is none.
 std::size_t equalsSign(std::span<const Word> words)
 {
     const auto isSign = [](const Word& word) { return !word.quoted && word.text == "="; };
@@ -178,13 +178,13 @@ Found trace(const Event& event)
 
 enum class Waits { Yes, No };
 
-/// What can be expected, a row each.
+/// The kinds of expectations, one row each.
 const struct Expectation {
     std::string_view name;
     std::string_view form;
-    std::size_t words; // behind the name; 0: up to the value behind an =
+    std::size_t words; // after the name; 0: as many as needed up to the value after an =
     Found (*compare)(const Event& event);
-    Waits waits = Waits::Yes; // whether it can be waited for
+    Waits waits = Waits::Yes; // whether `wait until` accepts it
 } expectations[] = {
     {"active", "active NAME|none", 1, active},
     {"popup", "popup ID|none", 1, popup},
@@ -200,7 +200,7 @@ const struct Expectation {
     {"trace", "trace FILE.jsonl", 1, trace, Waits::No},
 };
 
-const Expectation& expectationCalled(const std::string& name)
+const Expectation& findExpectation(const std::string& name)
 {
     std::vector<std::string> names;
     for (const Expectation& row : expectations) {
@@ -222,14 +222,14 @@ std::string joined(std::span<const Word> words)
     return text;
 }
 
-/// How many of the words the expectation needs, its name included. A call with results by reference may have
-/// more than one value: it needs the first. More than there are when they do not fit.
+/// Returns how many of the words the expectation needs, its name included; more than there are if they do not
+/// fit. A call with results by reference may have several values and needs the first.
 std::size_t neededWords(const Expectation& row, std::span<const Word> words)
 {
     if (row.words > 0)
         return 1 + row.words;
     const std::size_t sign = equalsSign(words);
-    return sign < 3 ? words.size() + 1 : sign + 2; // behind call TARGET OPERATION
+    return sign < 3 ? words.size() + 1 : sign + 2; // after call TARGET OPERATION
 }
 
 [[noreturn]] void failForm(const std::string& form, std::span<const Word> found)
@@ -241,8 +241,8 @@ std::size_t neededWords(const Expectation& row, std::span<const Word> words)
 
 void expect(const Event& event)
 {
-    const Event inner = event.behind(1);
-    const Expectation& row = expectationCalled(inner.text(0));
+    const Event inner = event.withoutFirst(1);
+    const Expectation& row = findExpectation(inner.text(0));
     const std::size_t needed = neededWords(row, inner.words);
     const bool hasMore = row.words > 0 && inner.words.size() > needed;
     if (inner.words.size() < needed || hasMore)
@@ -255,11 +255,11 @@ void waitUntil(const Event& event)
 {
     if (event.text(1) != "until")
         failForm("wait until EXPECTATION [N]", event.words);
-    Event inner = event.behind(2);
-    const Expectation& row = expectationCalled(inner.text(0));
+    Event inner = event.withoutFirst(2);
+    const Expectation& row = findExpectation(inner.text(0));
     if (row.waits == Waits::No)
-        throw WrongLine("a " + std::string(row.name) +
-                        " is not waited for; wait until something else holds, then expect it");
+        throw WrongLine("cannot wait for a " + std::string(row.name) +
+                        "; wait until something else holds, then expect it");
     const std::size_t words = neededWords(row, inner.words);
     const bool hasNumber = inner.words.size() == words + 1;
     if (inner.words.size() != words && !hasNumber)

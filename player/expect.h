@@ -2,7 +2,8 @@
 
 struct Event;
 
-/// `expect EXPECTATION`: compares, and reports a failure when it does not hold.
+/// Carries out `expect EXPECTATION`: reports a failure if it does not hold.
 void expect(const Event& event);
-/// `wait until EXPECTATION [N]`: runs frames until it holds; a failure when it does not behind the last.
+/// Carries out `wait until EXPECTATION [N]`: runs up to N frames until it holds, and reports a failure if it
+/// still does not hold after the last.
 void waitUntil(const Event& event);

@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 bool staysBelow(const std::string& name)
 {
     const fs::path relative = fs::path(name).lexically_normal();
-    const bool hasZero = name.find('\0') != std::string::npos; // the system would end the name there
+    const bool hasZero = name.find('\0') != std::string::npos; // the system would cut the name there
     return !hasZero && relative.has_filename() && !relative.is_absolute() && *relative.begin() != "..";
 }
 

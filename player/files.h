@@ -6,11 +6,12 @@
 #include <string>
 #include <string_view>
 
-/// Whether name leads to a file below the folder that it is used in.
+/// Returns whether name, used in some folder, leads to a file below that folder.
 bool staysBelow(const std::string& name);
-/// Nothing for what cannot be read or is no regular file.
+/// Returns the content of a file, or nothing if it cannot be read or is not a regular file.
 std::optional<std::string> readWhole(const std::string& path);
-/// Writes beside the file, then renames: whole or not at all. False when it cannot be written.
+/// Writes a temporary file and renames it, so that the file is written whole or not at all. False if it
+/// fails.
 TGX_PLAYER_INTERNAL bool writeWhole(const std::string& path, std::string_view contents);
-/// Makes the folders above a file. One that cannot be made shows when the file is opened.
+/// Creates the folders above a file. Errors are ignored: opening the file will fail.
 TGX_PLAYER_INTERNAL void makeFoldersOf(const std::string& path);

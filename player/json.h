@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
-/// Bytes outside 0x20 to 0x7E as \u00NN; the quote and the backslash as JSON has them.
+/// Returns bytes as a JSON string. Bytes outside 0x20 to 0x7E become \u00NN.
 TGX_PLAYER_API std::string jsonString(std::string_view bytes);
 
-/// Writes JSON without blanks, in the order of the calls. Commas are set by itself.
+/// Writes JSON without blanks, in the order of the calls. Adds the commas itself.
 class TGX_PLAYER_API JsonWriter {
 public:
     JsonWriter& open(char bracket);

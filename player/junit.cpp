@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Text for an attribute or an element. What XML cannot hold, and bytes that are no ASCII, become ?.
+/// Escapes text for an attribute or an element. Bytes that are not ASCII or not allowed in XML become ?.
 std::string escaped(const std::string& text)
 {
     std::string result;

@@ -27,7 +27,7 @@ bool isCapital(int c)
     return c >= 'A' && c <= 'Z';
 }
 
-/// The letter as a capital, other characters as they are.
+/// Returns a letter as a capital, any other character unchanged.
 char capital(char c)
 {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;

@@ -8,13 +8,13 @@
 #include <string>
 #include <string_view>
 
-/// A key as an events line names it: its virtual key code.
+/// Returns the virtual key code of a key that an events line names. Raises WrongLine for an unknown key.
 std::uint8_t parseKey(const Word& word);
-/// The name that parseKey knows this key by: "a", "tab", or its code in two digits or more.
+/// Returns the name that parseKey accepts for this key: "a", "tab", or its code in two digits or more.
 TGX_PLAYER_INTERNAL std::string keyName(std::uint8_t code);
-/// The character of that key where it has one, else 0. Letters are lower case without shift.
+/// Returns the character that the key types, or 0 if it types none. Letters are lower case without shift.
 TGX_PLAYER_INTERNAL char characterOf(std::uint8_t code, bool shift);
-/// The key that types this character: its own where it has one, else VK_PACKET.
+/// Returns the key that types this character, or VK_PACKET if no key does.
 TGX_PLAYER_INTERNAL std::uint8_t keyThatTypes(char character);
-/// A mouse button as an events line names it.
+/// Returns the name of a mouse button in an events line.
 TGX_PLAYER_INTERNAL const char* buttonName(MouseButton button);

@@ -14,46 +14,45 @@
 #include <type_traits>
 #include <utility>
 
-/// What a call is made on: the main window, or a window of the tree; the other one is null.
+/// The object that a call is made on: the main window or a window of the tree. The other pointer is null.
 struct CallTarget {
     AMainWin* main = nullptr;
     AWnd* wnd = nullptr;
 };
 
-/// A word in argument position, with all that it could stand for.
+/// A word in argument position, with everything that it could mean.
 struct CallArgument {
     Word word;
     std::optional<std::int64_t> number; // a plain number
-    std::optional<std::int64_t> fixed;  // a number with a decimal point, raw
-    AWnd* wnd = nullptr;                // the window of that id
-    bool isNull = false;                // null, without quotes
+    std::optional<std::int64_t> fixed;  // a number with a decimal point, as a raw fixed-point value
+    AWnd* wnd = nullptr;                // the window with that id
+    bool isNull = false;                // the word null, without quotes
 };
 
-/// One operation that an events file can call. Rows are made by operation() from the member alone: what its
-/// arguments and its result are is worked out from its type.
+/// One operation that an events file can call. operation() makes a row from the member function alone and
+/// derives the kinds of the arguments and of the result from its type.
 struct Operation {
     const char* name;
     int (*countArguments)();
     bool (*isOperationOf)(const CallTarget& target);
-    /// How far the arguments are from what the operation takes: 0 for exactly, -1 for arguments that do not
-    /// fit.
+    /// Returns how far the arguments are from the parameters: 0 for an exact match, -1 if they do not fit.
     int (*distance)(std::span<const CallArgument> arguments);
-    /// Calls it, virtually where it is virtual. The result as JSON; with results by reference an array of
-    /// them all.
+    /// Calls the operation, virtually if it is virtual. Returns the result as JSON; if there are results by
+    /// reference, an array of all results.
     std::string (*call)(const CallTarget& target, std::span<const CallArgument> arguments);
-    /// The arguments' kinds, for messages: "(number, text)".
+    /// Returns the kinds of the arguments for messages: "(number, text)".
     std::string (*describe)();
 };
 
-/// Makes operations of a game's own classes callable, in front of the toolkit's. Not owned: the rows live as
-/// long as they can be called.
+/// Makes operations of a game's own classes callable; they take precedence over the toolkit's. Not owned: the
+/// rows must live as long as they can be called.
 TGX_PLAYER_API void addOperations(std::span<const Operation> rows);
 
 namespace callable {
 
 enum Distance { exact = 0, close = 1, far = 2, doesNotFit = -1 };
 
-/// How one type of argument is read. Specialised for each kind.
+/// Describes how one type of argument is read. Specialised for each kind.
 template<class T>
 struct Kind;
 
@@ -63,7 +62,7 @@ struct Kind<T> {
     static const char* describe() { return "number"; }
     static int distance(const CallArgument& argument)
     {
-        // 32 bits at most, whatever long is here; an unsigned one also takes -1, as the language does.
+        // At most 32 bits, whatever the size of long; an unsigned parameter also accepts -1, as C++ does.
         constexpr std::int64_t lowest = std::numeric_limits<std::int32_t>::min();
         constexpr std::int64_t highest = std::is_unsigned_v<T> ? std::numeric_limits<std::uint32_t>::max()
                                                                : std::numeric_limits<std::int32_t>::max();
@@ -79,7 +78,7 @@ struct Kind<T> {
     }
 };
 
-/// Last number of an enumeration whose numbers run from 0 without a gap.
+/// The last value of an enumeration whose values run from 0 without a gap.
 template<class E>
 constexpr int lastOf = -1;
 template<>
@@ -94,7 +93,7 @@ inline constexpr int lastOf<AButton::E_BUTTON_STATE> = AButton::BS_DISABLED;
 template<class T>
 requires std::is_enum_v<T>
 struct Kind<T> {
-    static_assert(lastOf<T> >= 0, "name the enumeration's last number above");
+    static_assert(lastOf<T> >= 0, "add the enumeration's last value above");
     static std::string describe() { return "number from 0 to " + std::to_string(lastOf<T>); }
     static int distance(const CallArgument& argument)
     {
@@ -111,7 +110,7 @@ struct Kind<ZnFixed> {
         const auto& raw = argument.fixed ? argument.fixed : argument.number;
         if (!raw || *raw != static_cast<std::int32_t>(*raw))
             return doesNotFit;
-        return argument.fixed ? exact : close; // a plain number rather means an int, where there is one
+        return argument.fixed ? exact : close; // a plain number prefers an int overload
     }
     static ZnFixed read(const CallArgument& argument)
     {
@@ -125,7 +124,7 @@ struct Kind<CString> {
     static const char* describe() { return "text"; }
     static int distance(const CallArgument& argument)
     {
-        // A number is text only where nothing else fits, and null rather means no window.
+        // A number is text only if nothing else fits, and null prefers a window overload.
         if (argument.number || argument.fixed)
             return far;
         return argument.isNull ? close : exact;
@@ -149,7 +148,7 @@ struct Kind<T*> {
     }
 };
 
-/// A pointer to something that no word can name: only null fits.
+/// A pointer to an object that no word can name. Only null fits.
 template<class T>
 struct Kind<T*> {
     static const char* describe() { return "null"; }
@@ -157,11 +156,11 @@ struct Kind<T*> {
     static T* read(const CallArgument&) { return nullptr; }
 };
 
-/// References that are not constant bring results back; no word stands for them.
+/// Whether a parameter returns a result: a non-const reference does, and takes no word of the line.
 template<class P>
 constexpr bool isResult = std::is_lvalue_reference_v<P> && !std::is_const_v<std::remove_reference_t<P>>;
 
-/// What an argument is kept in during the call. A const char* points into the text it is kept in.
+/// The type that holds an argument during the call. A const char* points into a CString.
 template<class P>
 using Plain = std::remove_cvref_t<P>;
 template<class P>
@@ -174,8 +173,9 @@ inline void writeResult(JsonWriter& json, const AWnd* wnd)
     else
         json.null();
 }
-// The two are answered by lookups that do not ask a window's real type, so they may be any window; that they
-// derive from AWnd alone, and so lie where their AWnd lies, is all that counts here.
+// Look-ups return these two types without checking the window's real type, so the pointer may be to any
+// window. The cast is sound because both classes derive from AWnd alone, so that their AWnd has the same
+// address.
 inline void writeResult(JsonWriter& json, AButton* wnd)
 {
     writeResult(json, reinterpret_cast<const AWnd*>(wnd));
@@ -262,7 +262,8 @@ struct Caller {
             else
                 return Kind<Plain<Q>>::read(arguments[next++]);
         };
-        std::tuple<Kept<P>...> kept{read.template operator()<P>()...}; // braces: from the first to the last
+        std::tuple<Kept<P>...> kept{
+            read.template operator()<P>()...}; // braces guarantee the order of evaluation
         Class& object = *objectOf<Class>(target);
         JsonWriter json;
         if constexpr (hasResults)
@@ -297,7 +298,7 @@ struct CallerOf<Result (Class::*)(P...) const> : Caller<Class, Result, P...> {};
 
 } // namespace callable
 
-/// The row of an operation that has no overload: operation<&AWnd::setEnabled>("setEnabled").
+/// Makes the row of an operation that has no overload: operation<&AWnd::setEnabled>("setEnabled").
 template<auto method>
 constexpr Operation operation(const char* name)
 {
@@ -310,7 +311,7 @@ constexpr Operation operation(const char* name)
             &Caller::describe};
 }
 
-/// The row of one overload: overload<void (AWnd::*)(int), &AWnd::setWindowText>("setWindowText").
+/// Makes the row of one overload: overload<void (AWnd::*)(int), &AWnd::setWindowText>("setWindowText").
 template<class Method, Method method>
 constexpr Operation overload(const char* name)
 {

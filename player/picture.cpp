@@ -21,14 +21,14 @@ std::uint32_t shownColour(std::uint32_t pixel)
 std::uint32_t darkGrey(std::uint32_t pixel)
 {
     const std::uint32_t sum = (pixel >> 16 & 255) + (pixel >> 8 & 255) + (pixel & 255);
-    return sum / 9 * 0x010101; // a third of the mean
+    return sum / 9 * 0x010101; // a third of the mean of red, green and blue
 }
 
 } // namespace
 
 ImageRef readPicture(const std::string& path)
 {
-    // Pictures are read from the data directory: that is where this one lies for the moment.
+    // Pictures are read from the data directory, so make this picture's folder the data directory meanwhile.
     const fs::path folder = fs::path(path).parent_path();
     const OtherDataDirectory beside(folder.empty() ? "." : folder.string());
     return loadImageFile(fs::path(path).filename().string());

@@ -5,17 +5,17 @@
 #include <optional>
 #include <string>
 
-/// A picture of any place of the machine. Null when it is missing or cannot be read.
+/// Reads a picture from any path. Null if it is missing or cannot be read.
 ImageRef readPicture(const std::string& path);
 
-/// Where two pictures differ in what they show; alpha does not count.
+/// Where two pictures differ in their visible colours; alpha is ignored.
 struct PictureDifference {
     int pixels = 0;
-    int x = 0, y = 0;                             // the first, row by row
-    int left = 0, top = 0, right = 0, bottom = 0; // around all of them, ends included
-    std::uint32_t expected = 0, found = 0;        // 0xRRGGBB, of the first
+    int x = 0, y = 0;                             // the first different pixel, row by row
+    int left = 0, top = 0, right = 0, bottom = 0; // box around all of them, ends included
+    std::uint32_t expected = 0, found = 0;        // colours of the first, 0xRRGGBB
 };
-/// Of pictures of one size. Nothing when they are equal.
+/// Compares two pictures of the same size. Nothing if they are equal.
 std::optional<PictureDifference> findDifference(const Image& expected, const Image& found);
-/// The expected picture, dark and grey, with the pixels that differ in red.
+/// Returns the expected picture in dark grey, with the pixels that differ in red.
 ImageRef showDifference(const Image& expected, const Image& found);

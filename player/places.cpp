@@ -11,7 +11,7 @@ int rowStep(const AListBox& list)
     return std::max(list.getRowHeight(), 1);
 }
 
-/// The first row of the page begins there.
+/// Returns the y at which the first row of the page begins.
 int pageTop(const AListBox& list)
 {
     const int rowsWithTitle = (list.getItemsEndPosY() - list.getItemsStartPosY(0)) / rowStep(list);

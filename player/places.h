@@ -5,24 +5,24 @@
 class AListBox;
 class AWnd;
 
-// Where windows and the cells of list boxes lie on the screen.
+// Positions of windows and of the cells of list boxes on the screen.
 
-/// Screen pixels.
+/// A position in screen pixels.
 struct ScreenPoint {
     int x = 0;
     int y = 0;
     bool operator==(const ScreenPoint&) const = default;
 };
-/// Row and column, counted from 0; -1 for a point that is on no row of the list's page.
+/// Row and column, counted from 0; both -1 for a point that is not on a row of the list's page.
 struct CellPlace {
     int item = -1;
     int column = -1;
     bool operator==(const CellPlace&) const = default;
 };
 
-/// As the window stands now, with movement.
+/// Returns the middle of the window at its present position, movement included.
 TGX_PLAYER_INTERNAL ScreenPoint middleOf(const AWnd& wnd);
-/// The cell that the list takes that point for.
+/// Returns the cell that a list finds at that point.
 TGX_PLAYER_INTERNAL CellPlace cellAt(const AListBox& list, const ScreenPoint& point);
-/// Of a row on the list's page.
+/// Returns the middle of a cell, whose row must be on the list's page.
 TGX_PLAYER_INTERNAL ScreenPoint middleOfCell(const AListBox& list, const CellPlace& cell);

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Two digits at least, as an events line has it.
+/// Returns a key code with at least two digits, as events lines write it.
 std::string codeText(std::uint8_t code)
 {
     char text[8];

@@ -7,27 +7,26 @@
 #include <optional>
 #include <string>
 
-/// Input that events have queued. It goes over to the host's queue tick by tick, the moves at the head and
-/// one transition at a time: the host's queue does not tell what a tick took, so it never holds more than
-/// that.
+/// Input that events have queued. Before each tick the moves at the head and one transition are passed to the
+/// host's queue. It never holds more than that, because it does not report what a tick took.
 class PlayedInput {
 public:
     enum class Kind { Move, Press, Release, Other, Key };
     struct Entry {
         Kind kind;
-        std::string name; // as an events line would say it: "press left"
+        std::string name; // as in an events line: "press left"
         std::string place;
         std::function<void(InputQueue&)> queue;
-        int x = 0; // of a move
+        int x = 0; // of a move, screen pixels
         int y = 0;
     };
-    /// What the next tick takes, if it takes new input.
+    /// The input for the next tick, if it takes new input.
     struct Next {
         std::optional<Entry> move; // the last of them
         std::optional<Entry> transition;
     };
 
-    /// FILE:LINE of the events that follow.
+    /// Sets the FILE:LINE of the events that follow.
     void setPlace(const std::string& text) { place = text; }
     void move(int x, int y);
     void press(MouseButton button);
@@ -38,7 +37,8 @@ public:
 
     bool empty() const { return waiting.empty(); }
     void clear();
-    /// Before a tick. queue: the host's, empty when the tick before took what it held.
+    /// Passes the input for the next tick to the host's queue, which is empty if the last tick took its
+    /// content.
     const Next& handTo(InputQueue& queue);
 
 private:

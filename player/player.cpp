@@ -38,7 +38,7 @@ PointerAct actOf(PlayedInput::Kind kind)
 
 struct Player::Surroundings {
     std::unique_ptr<displayhost> host;
-    OtherDataDirectory data; // puts the one before back at the end
+    OtherDataDirectory data; // restores the previous one at the end
 };
 
 Player::Player(const PlayOptions& playOptions, const MainWinFactory& mainWinFactory, std::ostream& outStream,
@@ -115,7 +115,7 @@ void Player::showMessage(const CString& text, const std::string& cause)
     const Message& message = messages.back();
     if (onMessage) {
         onMessage(text);
-    } else if (!options.messagesFail) { // else told with the part's end, unless a line expected it
+    } else if (!options.messagesFail) { // else reported at the end of the part, unless a line expected it
         err << "message: " << oneLine(message.text) << '\n';
         if (!message.scriptPlace.empty())
             err << message.scriptPlace << ": note: the message comes from this line\n";
@@ -131,16 +131,16 @@ std::string Player::scriptPlaceOf(const CString& message)
     return found ? scriptLines->of(found->file).placeOf(found->offset) : "";
 }
 
-/// What many messages may need, once in a run.
+/// Prints notes that many messages may need, once in a run.
 void Player::explain(const Message& message)
 {
-    tellOnce(message.cause);
+    noteOnce(message.cause);
     if (isAboutALine(message.text) && message.scriptPlace.empty())
-        tellOnce("line numbers in messages count the statements of the compiled script, as tgx dump prints "
+        noteOnce("line numbers in messages count the statements of the compiled script, as tgx dump prints "
                  "them; with its map beside it (tgx build --map) messages also name the line of the text");
 }
 
-void Player::tellOnce(const std::string& note)
+void Player::noteOnce(const std::string& note)
 {
     if (!note.empty() && notes.insert(note).second)
         err << "note: " << oneLine(note) << '\n';
@@ -157,12 +157,12 @@ void Player::tick(int count)
             throw;
         }
         if (!reached.empty() &&
-            host->input().empty()) // else the tick before had not ended, so this one took nothing
+            host->input().empty()) // else the previous tick has not ended yet, so this one took nothing
             err << reached << std::flush;
     }
 }
 
-/// Hands the next input to the host; the line about what it reaches, "" without --log-input.
+/// Passes the next input to the host. Returns the line about what it reaches, "" without --log-input.
 std::string Player::logOfNextTick()
 {
     const PlayedInput::Next& next = input.handTo(host->input());

@@ -24,88 +24,89 @@ class App;
 
 /// What a run plays, and how.
 struct PlayOptions {
-    std::string dataDirectory; // scripts lie in its UIG/
+    std::string dataDirectory; // scripts are in its UIG/
     std::string script;        // name below UIG
     std::string eventsFile;    // "-" is stdin; empty: 60 frames, then the picture screen.png
     std::string outDirectory;  // files that the events write go below it; empty: the working directory
     int width = 640;           // pixels
     int height = 480;
-    int frameMs = 41;          // that timeGetTime moves on by before each frame
-    bool update = false;       // expected files that are missing or differ are written
-    bool logInput = false;     // each transition tells on err what it reached
+    int frameMs = 41;          // milliseconds by which timeGetTime advances before each frame
+    bool update = false;       // write expected files that are missing or differ
+    bool logInput = false;     // report on err what each transition reached
     bool messagesFail = false; // a message that no line expected is a failure
 };
 
-/// Makes the game's main window. Called once the headless host, the clock and pApp stand.
+/// Makes the game's main window. Called after the headless host, the clock and pApp are set up.
 using MainWinFactory = std::function<std::unique_ptr<AMainWin>(int width, int height, int bitDepth)>;
 
-/// WrongLine: a line was wrong, could not be carried out, or expected what was not so.
+/// The result of a run. WrongLine: a line was wrong, could not be carried out, or expected something that did
+/// not hold.
 enum class PlayStatus { Done = 0, WrongLine = 1, WrongCall = 2 };
 
 /// Plays an interface without a window and without a clock: the same files and the same events give the same
-/// bytes, on every machine. There is one at a time: it takes the host, the clock, the data directory and pApp
-/// into use and gives them back.
+/// bytes on every machine. Only one may exist at a time: it replaces the host, the clock, the data directory
+/// and pApp, and its destructor restores them.
 class TGX_PLAYER_API Player {
 public:
-    /// Values of calls, and files called "-", go to out; messages to err. Not owned. A factory that is null
-    /// makes an AMainWin.
+    /// Writes values of calls, and files called "-", to out, and messages to err. Does not own the streams. A
+    /// null factory makes an AMainWin.
     Player(const PlayOptions& options, const MainWinFactory& factory, std::ostream& out, std::ostream& err);
     ~Player();
     Player(const Player&) = delete;
     Player& operator=(const Player&) = delete;
 
-    /// Constructs the main window, starts it and reads the script. Raises std::runtime_error when there is no
+    /// Constructs the main window, starts it and reads the script. Raises std::runtime_error if there is no
     /// data directory.
     void start();
-    /// Carries out one line of events. The reason why it is wrong, could not be carried out or expected what
-    /// was not so; nothing when all went well.
+    /// Carries out one line of events. Returns why it is wrong, could not be carried out or expected
+    /// something that did not hold; nothing on success.
     std::optional<std::string> runLine(std::string_view line, int number = 0);
-    /// The whole run. Reasons go to err as FILE:LINE: reason.
+    /// Plays the whole events file. Writes what went wrong to err as FILE:LINE: reason.
     PlayStatus run();
 
     /// Null before start.
     AMainWin* getMainWin() const { return mainWin.get(); }
-    /// True once the exit has completed: no line may follow.
+    /// Returns true once the exit has completed; no further line may be run.
     bool hasEnded() const;
     const PlayOptions& getOptions() const { return options; }
 
     // For events.
 
-    /// count input ticks. An invalid argument comes out of it as the exception.
+    /// Runs count input ticks. Throws the framework's exception for an invalid argument.
     void tick(int count);
-    /// count frames, the clock moved on before each. An invalid argument ends its frame and is reported once
-    /// in a run.
+    /// Runs count frames and advances the clock before each. An invalid argument ends its frame and is
+    /// reported once in a run.
     void draw(int count);
-    /// A tick and a frame.
+    /// Runs a tick and a frame.
     void frame();
     PlayedInput& getInput() { return input; }
-    /// Whether input waits that no tick has taken.
+    /// Returns whether there is input that no tick has taken yet.
     bool hasWaitingInput() const;
-    /// Plays the events of another file, named from the one that is played. Raises WrongLine for the first of
-    /// its lines that is wrong, or when it cannot be read.
+    /// Plays the events of another file, whose name is relative to the present one. Raises WrongLine for its
+    /// first wrong line, or if it cannot be read.
     void include(const std::string& name);
-    /// Starts the interface anew, unless nothing has happened to it yet. Raises WrongLine in an included
-    /// file.
+    /// Restarts the interface, unless nothing has happened to it yet. Raises WrongLine in an included file.
     void beginTest();
-    /// Reports what the present line expected and did not find. The run goes on.
+    /// Reports a failed expectation of the present line. The run continues.
     void fail(const std::string& reason);
-    /// Tells something about the present line on err.
+    /// Writes a remark about the present line to err.
     void note(const std::string& text) const;
-    /// Takes the first message of that text out of those that no line has expected yet; those that are there,
-    /// if it is not among them.
+    /// Removes the first message with that text from those that no line has expected yet. Returns nothing if
+    /// there is one, else a list of the remaining messages.
     std::optional<std::string> takeMessage(const std::string& text);
-    /// Path of a file that lies beside the events file of the present line.
+    /// Returns the path of a file whose name is relative to the events file of the present line.
     std::string pathBesideEvents(const std::string& name) const;
 
-    /// Writes a file below the output directory, whole or not at all; "-" is out.
+    /// Writes a file below the output directory, whole or not at all; "-" means the stream out.
     void writeFile(const std::string& name, std::string_view contents);
-    /// The path of a file below the output directory, its folder made if need be. Raises WrongLine for a name
-    /// that leads out.
+    /// Returns the path of a file below the output directory and creates its folder. Raises WrongLine for a
+    /// name that leads out of it.
     std::string outputPath(const std::string& name) const;
     HeadlessHost& getHost() const { return *host; }
     std::ostream& getOut() const { return out; }
 
-    /// What MsgBox and the platform's message box show; unless it is set, err gets a line "message: TEXT".
+    /// Called with the text of each MsgBox and platform message box. If it is not set, err gets a line
+    /// "message: TEXT".
     std::function<void(const CString& text)> onMessage;
 
 private:
@@ -131,7 +132,7 @@ private:
     std::string place() const;
     std::string scriptPlaceOf(const CString& message);
     void explain(const Message& message);
-    void tellOnce(const std::string& note);
+    void noteOnce(const std::string& note);
     void report(const std::string& where, const std::string& reason);
     PlayStatus runWithoutEvents();
 
@@ -141,7 +142,7 @@ private:
     std::ostream& err;
     HeadlessHost* host = nullptr; // owned by displayhost's use
     struct Surroundings;
-    std::unique_ptr<Surroundings> before; // what was in use before
+    std::unique_ptr<Surroundings> before; // the host and data directory to restore
     std::unique_ptr<AControlsApp> app;
     std::unique_ptr<AMainWin> mainWin;
     std::unique_ptr<MessagePlaces> messagePlaces; // of mainWin
@@ -149,23 +150,23 @@ private:
     std::set<std::string> notes; // that have been told
     bool invalidArgumentShown = false;
     PlayedInput input;
-    std::vector<Source> sources;   // the main file first, then what it includes
+    std::vector<Source> sources;   // the main file, then the files included from it
     std::vector<Message> messages; // shown in this part, and not expected by any line yet
     bool isFresh = false;          // no line has been carried out since the start
     int failures = 0;
     std::string lastFailure;
 };
 
-/// Enters the arguments of `tgx play` into app. options must outlive the parse.
+/// Adds the arguments of `tgx play` to app. options must outlive the parse.
 TGX_PLAYER_API void addPlayArguments(CLI::App& app, PlayOptions& options);
 
-/// Enters --size WxH, which sets the two. They must outlive the parse.
+/// Adds the option --size WxH, which sets width and height. They must outlive the parse.
 TGX_PLAYER_API void addSizeOption(CLI::App& app, int& width, int& height);
 
-/// A run on stdout and stderr. Exit status for main.
+/// Plays on stdout and stderr. Returns the exit status for main.
 TGX_PLAYER_API int play(const PlayOptions& options, const MainWinFactory& factory);
 
-/// A game's own player is a main of one line; it plays, and with "test" as its first word it tests:
+/// The main function of a game's own player, which plays, or runs tests if its first argument is "test":
 ///
 ///     int main(int argc, char** argv) { return playMain(argc, argv, makeMyMainWin); }
 TGX_PLAYER_API int playMain(int argc, char** argv, const MainWinFactory& factory);

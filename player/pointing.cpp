@@ -12,15 +12,15 @@
 
 namespace {
 
-constexpr int frameLimit = 240; // for one transition: a tick that its handler never ends takes no input
+constexpr int frameLimit = 240; // per transition: a tick whose handler never ends takes no further input
 
-/// A point on a window.
+/// A window and the screen point at which it is to be reached.
 struct Aim {
     WndRef wnd;
     ScreenPoint point;
 };
 
-/// Runs frames until all that waits has been taken: one for a transition, as a rule.
+/// Runs frames until no input is waiting, usually one frame for each transition.
 void takeInput(Player& player)
 {
     for (int i = 0; player.hasWaitingInput() && !player.hasEnded(); ++i) {
@@ -30,7 +30,7 @@ void takeInput(Player& player)
     }
 }
 
-AWnd& windowCalled(AMainWin& win, const std::string& id)
+AWnd& requireWindow(AMainWin& win, const std::string& id)
 {
     AWnd* wnd = findMeantWindow(win, id);
     if (!wnd)
@@ -40,11 +40,11 @@ AWnd& windowCalled(AMainWin& win, const std::string& id)
 
 Aim aimAtMiddle(const Event& event)
 {
-    AWnd& wnd = windowCalled(event.win, event.text(1));
+    AWnd& wnd = requireWindow(event.win, event.text(1));
     return {&wnd, middleOf(wnd)};
 }
 
-/// Raises WrongLine unless it is a number from 0 to count - 1.
+/// Returns the word at index as a number from 0 to count - 1. Raises WrongLine for any other word.
 int cellIndex(const Event& event, std::size_t index, const AWnd& list, const char* what, int count)
 {
     const auto number = event.number(index, 0, std::numeric_limits<std::int16_t>::max());
@@ -54,13 +54,13 @@ int cellIndex(const Event& event, std::size_t index, const AWnd& list, const cha
     return static_cast<int>(number);
 }
 
-/// The middle of "ID N [COLUMN]".
+/// Returns the middle of the cell that "ID N [COLUMN]" names.
 Aim aimAtCell(const Event& event)
 {
-    AWnd& wnd = windowCalled(event.win, event.text(1));
+    AWnd& wnd = requireWindow(event.win, event.text(1));
     auto* list = dynamic_cast<AListBox*>(&wnd);
     if (!list)
-        throw WrongLine(nameOf(wnd) + " is no list box");
+        throw WrongLine(nameOf(wnd) + " is not a list box");
     const int item = cellIndex(event, 2, wnd, "rows", list->getItemCount());
     const int column = event.has(3) ? cellIndex(event, 3, wnd, "columns", list->getColumnCount()) : 0;
     const int first = list->getFirstVisibleItem();
@@ -79,7 +79,8 @@ void requireReach(const Event& event, const Aim& aim, PointerAct act)
         throw WrongLine(nameOf(*aim.wnd) + ' ' + reason);
 }
 
-/// Moves the pointer there and sees that it has arrived. False when the program has ended meanwhile.
+/// Moves the pointer to the aim and checks that input reaches it there. False if the program has ended
+/// meanwhile.
 bool pointAt(const Event& event, Aim (*findAim)(const Event& event), PointerAct act)
 {
     takeInput(event.player);
@@ -94,8 +95,8 @@ bool pointAt(const Event& event, Aim (*findAim)(const Event& event), PointerAct 
     if (event.player.hasEnded())
         return false;
     if (!aim.wnd)
-        throw WrongLine(quote(event.text(1)) + " was gone when the pointer came to it");
-    requireReach(event, aim, act); // pointing at it may have changed that, or it has moved on
+        throw WrongLine(quote(event.text(1)) + " was deleted while the pointer moved to it");
+    requireReach(event, aim, act); // the window may have reacted to the pointer, or have moved
     return true;
 }
 
@@ -114,10 +115,10 @@ void moveTo(const Event& event)
     if (event.words.size() != 3 && event.words.size() != 5)
         throw WrongLine("expected move to ID [X Y]");
     if (event.has(4)) {
-        const AWnd& wnd = windowCalled(event.win, event.text(2));
+        const AWnd& wnd = requireWindow(event.win, event.text(2));
         event.input.move(wnd.left() + event.coordinate(3), wnd.top() + event.coordinate(4));
     } else {
-        const Aim aim = aimAtMiddle(event.behind(1));
+        const Aim aim = aimAtMiddle(event.withoutFirst(1));
         event.input.move(aim.point.x, aim.point.y);
     }
 }

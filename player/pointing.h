@@ -2,16 +2,16 @@
 
 struct Event;
 
-// Events that name a window, where a person would point at it.
+// Events that point at a window by its id.
 
-/// "to ID [X Y]": queues a move to its middle, or to a point counted from its left and top edge, whether or
-/// not it can be reached there.
+/// Carries out "move to ID [X Y]": queues a move to the window's middle, or to a point relative to its top
+/// left corner. Does not check that input reaches the window there.
 void moveTo(const Event& event);
 
-// These see that it can be reached, and end when their input has been handled.
+// The following check that input reaches the window, and return when their input has been handled.
 
 void hover(const Event& event);
 void click(const Event& event);
-/// words[1]: an id; the form with a button's name is the caller's.
+/// Double-clicks the window whose id is words[1]. The caller handles the form with a button's name.
 void doubleClickOn(const Event& event);
 void clickRow(const Event& event);

@@ -6,7 +6,7 @@
 
 namespace {
 
-bool lists(AWnd& holder, const AWnd& wnd)
+bool hasChild(AWnd& holder, const AWnd& wnd)
 {
     for (int i = 0; i < holder.getWindowCount(); ++i)
         if (holder.getWndFromIndex(i, "") == &wnd)
@@ -22,14 +22,14 @@ bool isOpenPopup(AMainWin& win, const AWnd& wnd)
     return false;
 }
 
-/// The screen, popup or other top-level window that wnd lies in, or wnd itself. An open popup counts as one
-/// wherever it hangs; a window's parent need not list it.
+/// Returns the screen, popup or other top-level window that contains wnd, or wnd itself. An open popup counts
+/// as a top-level window whatever its parent is; a window's parent need not have it as a child.
 AWnd& topOf(AMainWin& win, AWnd& wnd)
 {
     AWnd* top = &wnd;
     while (!isOpenPopup(win, *top)) {
         AWnd* parent = top->getParent();
-        if (!parent || parent == win.getScreenList() || !lists(*parent, *top))
+        if (!parent || parent == win.getScreenList() || !hasChild(*parent, *top))
             break;
         top = parent;
     }
@@ -44,11 +44,11 @@ bool isInside(const AWnd* wnd, const AWnd& above)
     return false;
 }
 
-/// "is hidden", or with whom, for the window that has the flag off.
+/// Returns "is hidden", or "is hidden because "PANEL" is hidden" if a window around wnd is the cause.
 std::string causedBy(const char* state, const AWnd& wnd, const AWnd& cause)
 {
     std::string text = std::string("is ") + state;
-    return &wnd == &cause ? text : text + " with " + nameOf(cause) + ", which it lies in";
+    return &wnd == &cause ? text : text + " because " + nameOf(cause) + " is " + state;
 }
 
 AWnd* inputTarget(AMainWin& win, int x, int y, PointerAct act)
@@ -60,7 +60,7 @@ AWnd* inputTarget(AMainWin& win, int x, int y, PointerAct act)
     int captured = 0;
     if (win.getMouseCaptureWndCount() > 0) {
         AWnd* top = win.getMouseCaptureWnd(0);
-        // A release outside of an edit box ends the typing.
+        // A release outside an edit box ends the typing.
         const bool isRelease = act == PointerAct::Release || act == PointerAct::Click;
         const bool endsTyping =
             isRelease && isAlive(top) && top->getWindowType() == AWnd::WND_EDITBOX && !top->pointInside(x, y);
@@ -73,8 +73,8 @@ AWnd* inputTarget(AMainWin& win, int x, int y, PointerAct act)
     return win.getActiveScreen();
 }
 
-/// Why a window outside the target gets no input.
-std::string whyBehind(AMainWin& win, const AWnd& target)
+/// Returns why a window outside the target gets no input.
+std::string whyOutsideTarget(AMainWin& win, const AWnd& target)
 {
     if (isOpenPopup(win, target))
         return "is behind the popup " + nameOf(target);
@@ -83,8 +83,8 @@ std::string whyBehind(AMainWin& win, const AWnd& target)
     return "gets no input: " + nameOf(target) + " has captured the pointer";
 }
 
-/// Why wnd, which lies under the point, does not get the input; "" for one that does, or passes it on.
-std::string whyOther(AMainWin& win, const AWnd& wnd, const Reach& reach)
+/// Returns why wnd, which is under the point, does not get the input; "" if it gets it or passes it on.
+std::string whyNoInput(AMainWin& win, const AWnd& wnd, const Reach& reach)
 {
     if (!wnd.isVisible(0))
         return "is hidden";
@@ -93,16 +93,16 @@ std::string whyOther(AMainWin& win, const AWnd& wnd, const Reach& reach)
     if (isInside(reach.wnd, wnd))
         return "";
     return isInside(&wnd, *reach.target) ? "is covered by " + nameOf(*reach.wnd)
-                                         : whyBehind(win, *reach.target);
+                                         : whyOutsideTarget(win, *reach.target);
 }
 
-/// Adds "; NAME REASON" for each window under the point that does not get the input. A hidden or disabled one
-/// speaks for those inside it.
+/// Appends "; NAME REASON" for each window under the point that does not get the input. Windows inside a
+/// hidden or disabled one are left out.
 void addOthers(AMainWin& win, AWnd& wnd, const Reach& reach, int x, int y, std::string& text)
 {
     if (!wnd.pointInside(x, y) && !isInside(reach.target, wnd))
         return;
-    const std::string reason = whyOther(win, wnd, reach);
+    const std::string reason = whyNoInput(win, wnd, reach);
     if (!reason.empty())
         text += "; " + nameOf(wnd) + ' ' + reason;
     if (!wnd.isVisible(0) || !wnd.getEnabled())
@@ -129,7 +129,7 @@ std::string at(int x, int y)
     return " at " + std::to_string(x) + ", " + std::to_string(y);
 }
 
-/// "; "PANEL" is still moving": what a person would wait for.
+/// Returns "; "PANEL" is still moving" if wnd or a window around it is, else "".
 std::string movementOf(const AWnd& wnd)
 {
     const AWnd* moving = movingFrom(wnd);
@@ -198,10 +198,9 @@ std::string whyNotShown(AMainWin& win, AWnd& wnd)
     const AScreen* active = win.getActiveScreen();
     if (&top != active && !isOpenPopup(win, top)) {
         const bool isScreen = top.getWindowType() == AWnd::WND_SCREEN;
-        const std::string there =
-            &top == &wnd
-                ? "is"
-                : std::string("lies ") + (isScreen ? "on the screen " : "in ") + nameOf(top) + ", which is";
+        const std::string there = &top == &wnd ? "is"
+                                               : std::string("is ") + (isScreen ? "on the screen " : "in ") +
+                                                     nameOf(top) + ", which is";
         return there + (isScreen ? " not active" : " not open");
     }
     for (const AWnd* cause = &wnd; cause; cause = cause->getParent())
@@ -232,10 +231,10 @@ std::string whyNotReached(AMainWin& win, AWnd& wnd, int x, int y, PointerAct act
     if (reach.wnd == &wnd)
         return "";
     if (!isInside(&wnd, *reach.target))
-        return whyBehind(win, *reach.target);
+        return whyOutsideTarget(win, *reach.target);
     for (const AWnd* holder = wnd.getParent(); holder; holder = holder->getParent())
         if (isInside(holder, *reach.target) && holder != reach.target && !holder->pointInside(x, y))
-            return "lies outside of " + nameOf(*holder) + at(x, y) + movementOf(wnd);
+            return "is outside " + nameOf(*holder) + at(x, y) + movementOf(wnd);
     return "is covered by " + nameOf(*reach.wnd) + at(x, y) + movementOf(wnd);
 }
 

@@ -8,36 +8,40 @@
 class AMainWin;
 class AWnd;
 
-// Where the pointer's input goes, and why it does not go elsewhere: the rules of AMainWin's tick, told from
-// its public operations.
+// Finds where the pointer's input goes, and why it does not go elsewhere. Follows the rules of AMainWin's
+// tick, using its public operations.
 
-/// What happens at a point. A click is a press and its release there.
+/// What happens at a point. A click is a press and its release at the same point.
 enum class PointerAct { Point, Press, Release, Click };
 
+/// What input at a point reaches.
 struct Reach {
-    AWnd* target = nullptr; // where the tick goes: the captured window, the front popup or the active screen
-    AWnd* wnd = nullptr;    // the deepest usable window under the point inside the target, or the target
-    std::string hindrance;  // why even that one gets nothing; "" when it does
+    AWnd* target = nullptr; // gets the tick: the captured window, the front popup or the active screen
+    AWnd* wnd =
+        nullptr; // the deepest visible and enabled window under the point inside the target, or the target
+    std::string hindrance; // why wnd gets no input all the same; "" if it does
 };
+/// Returns what input at the point would reach now.
 TGX_PLAYER_INTERNAL Reach reachAt(AMainWin& win, int x, int y, PointerAct act);
 
-/// What a person means by that id: looked for in the popups, front first, then on the active screen, then in
-/// the whole tree. Null if there is none.
+/// Finds the window that an events line means by that id: in the popups from front to back, then on the
+/// active screen, then in the whole tree. Null if there is none.
 TGX_PLAYER_INTERNAL AWnd* findMeantWindow(AMainWin& win, const std::string& id);
 
-/// Its id in quotes, for messages.
+/// Returns the window's id in quotes, for messages.
 TGX_PLAYER_INTERNAL std::string nameOf(const AWnd& wnd);
-/// "is hidden", ...: why wnd is not to be seen; "" when it is, if nothing lies over it.
+/// Returns why wnd is not visible ("is hidden", ...), or "" if it is, unless something covers it.
 std::string whyNotShown(AMainWin& win, AWnd& wnd);
-/// "is disabled", ...; "" when it is not.
+/// Returns why wnd is disabled ("is disabled", ...), or "" if it is enabled.
 TGX_PLAYER_INTERNAL std::string whyDisabled(AWnd& wnd);
-/// "is covered by "BOX" at 10, 20", ...: why wnd is not what input at this point reaches; "" when it is.
+/// Returns why input at this point does not reach wnd ("is covered by "BOX" at 10, 20", ...), or "" if it
+/// does.
 TGX_PLAYER_INTERNAL std::string whyNotReached(AMainWin& win, AWnd& wnd, int x, int y, PointerAct act);
 
-/// One line for --log-input: what the transition called name reaches at that point, and why the other windows
-/// that lie there do not get it.
+/// Returns a line for --log-input: what the transition called name reaches at that point, and why the other
+/// windows there do not get it.
 std::string describeReach(AMainWin& win, const std::string& name, int x, int y, PointerAct act);
-/// The same for a key, which goes to the target as a whole.
+/// Returns a line for --log-input about a key, which goes to the target and not to a single window in it.
 std::string describeKeyReach(AMainWin& win, const std::string& name, int x, int y);
-/// It, or the nearest that it lies in, that is still moving; null for none.
+/// Returns wnd or the nearest window around it that is still moving. Null if there is none.
 TGX_PLAYER_INTERNAL const AWnd* movingFrom(const AWnd& wnd);

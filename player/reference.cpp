@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// "a/menu.png" and "actual": "a/menu.actual.png".
+/// Inserts variant before the extension: "a/menu.png" and "actual" give "a/menu.actual.png".
 std::string variantName(const std::string& name, const std::string& variant)
 {
     fs::path path(name);
@@ -36,10 +36,10 @@ void noteUpdate(Player& player, const std::string& name, bool isWritten)
     player.note("wrote " + name);
 }
 
-/// What is missing, and what was written instead.
+/// Describes a missing expected file, and names the file that was written instead.
 std::string describeMissing(const char* what, const std::string& actual)
 {
-    return std::string("no such ") + what + "; " + actual + " has what it would be, and --update writes it";
+    return std::string("no such ") + what + "; the result is in " + actual + ", and --update accepts it";
 }
 
 std::string hex(std::uint32_t colour)
@@ -58,33 +58,33 @@ std::string describe(const PictureDifference& difference)
 {
     const auto point = [](int x, int y) { return std::to_string(x) + ", " + std::to_string(y); };
     const std::string first = point(difference.x, difference.y) + " is " + hex(difference.found) +
-                              " and not " + hex(difference.expected);
+                              " instead of " + hex(difference.expected);
     if (difference.pixels == 1)
-        return "another pixel: " + first;
-    return std::to_string(difference.pixels) + " other pixels, from " +
+        return "1 different pixel: " + first;
+    return std::to_string(difference.pixels) + " different pixels, from " +
            point(difference.left, difference.top) + " to " + point(difference.right, difference.bottom) +
            ": " + first;
 }
 
-/// The line that place lies in, or as much of it as a message can hold.
+/// Returns the line of text around place, or as much of it as fits in a message.
 std::string excerpt(const std::string& text, std::size_t place)
 {
     constexpr std::size_t before = 30;
-    constexpr std::size_t behind = 50;
+    constexpr std::size_t after = 50;
     if (place >= text.size())
         return "its end";
     const std::size_t lineStart = place == 0 ? 0 : text.rfind('\n', place - 1) + 1; // npos + 1 is 0
     const std::size_t lineEnd = std::min(text.find('\n', place), text.size());
     const std::size_t start = std::max(lineStart, place > before ? place - before : 0);
-    const std::size_t end = std::min(lineEnd, place + behind);
+    const std::size_t end = std::min(lineEnd, place + after);
     return (start > lineStart ? "..." : "") + text.substr(start, end - start) + (end < lineEnd ? "..." : "");
 }
 
-/// The window of a tree that the text at place belongs to, or "".
+/// Returns the id of the window of a tree that the text at place belongs to, or "".
 std::string windowAt(const std::string& tree, std::size_t place)
 {
     constexpr std::string_view idKey = "{\"id\":";
-    std::vector<std::size_t> open; // where the objects around place begin
+    std::vector<std::size_t> open; // starts of the objects around place
     bool inString = false;
     for (std::size_t i = 0; i < std::min(place, tree.size()); ++i) {
         if (inString && tree[i] == '\\')
@@ -110,7 +110,7 @@ std::string describeDifference(const std::string& expected, const std::string& f
     std::string where = "in line " + std::to_string(line);
     if (const std::string window = windowAt(expected, place); !window.empty())
         where = "in the window " + window;
-    return excerpt(found, place) + " and not " + excerpt(expected, place) + ' ' + where;
+    return excerpt(found, place) + " instead of " + excerpt(expected, place) + ' ' + where;
 }
 
 } // namespace
@@ -129,7 +129,7 @@ std::optional<std::string> compareWithFile(Player& player, const std::string& na
     const std::string actual = player.outputPath(variantName(name, "actual"));
     if (!writeWhole(actual, found))
         throw WrongLine("cannot write " + quoteName(actual));
-    return expected ? describeDifference(*expected, found) + "; the whole is in " + actual
+    return expected ? describeDifference(*expected, found) + "; the whole result is in " + actual
                     : describeMissing("file", actual);
 }
 
@@ -154,10 +154,10 @@ std::optional<std::string> compareWithPicture(Player& player, const std::string&
     };
     const std::string actual = write(found, "actual");
     if (!expected)
-        return fs::exists(path) ? "a file that is no picture; " + actual + " has what it would be"
+        return fs::exists(path) ? "a file that is not a picture; the result is in " + actual
                                 : describeMissing("picture", actual);
     if (!sameSize)
-        return "a screen of " + sizeOf(found) + ", and " + name + " is of " + sizeOf(*expected) + "; see " +
+        return "a screen of " + sizeOf(found) + ", but " + name + " is " + sizeOf(*expected) + "; see " +
                actual;
     const std::string shown = write(*showDifference(*expected, found), "difference");
     return describe(*difference) + "; see " + actual + " and " + shown;

@@ -1,4 +1,4 @@
-// The order of a run: files, lines, parts and what is told about them.
+// How a run proceeds: files, lines and parts, and the reports about them.
 
 #include "platform/display/message_text.h"
 #include "player/events.h"
@@ -22,7 +22,7 @@ namespace {
 constexpr int framesWithoutEvents = 60;
 constexpr std::size_t deepestInclude = 16;
 
-/// The event that a line names; "" for one that is passed over.
+/// Returns the name of the event in a line; "" for a blank line or a comment.
 std::string_view eventOf(std::string_view line)
 {
     const std::size_t start = line.find_first_not_of(" \t\r");
@@ -62,8 +62,8 @@ std::optional<std::string> Player::runLine(std::string_view line, int number)
     return lastFailure.empty() ? std::nullopt : std::optional(lastFailure);
 }
 
-/// Behind a wrong line the rest of its part. Behind the exit all but what asks: an expectation that comes
-/// after it must not pass for want of being looked at.
+/// Returns whether an event is skipped. After a wrong line the rest of its part is skipped. After the exit
+/// everything but expectations is skipped: an expectation must not pass because nobody checked it.
 bool Player::isPassedOver(std::string_view event, bool abandoned) const
 {
     if (event == "test")
@@ -97,11 +97,11 @@ void Player::playLines(std::istream& events, const std::string& name, bool isInt
             fail(wrong.what());
             abandoned = true;
         }
-        // Whoever writes line by line waits for the end of the run, not for another part.
+        // A program that writes line by line waits for the end of the run, not for another part.
         if (isInteractive && (abandoned || hasEnded()))
             break;
     }
-    // A read that fails, or no memory for a line, is not the end of the file. cin does not hear of it itself.
+    // A failed read, or no memory for a line, is not the end of the file. cin does not notice it by itself.
     if (events.bad() || (&events == &std::cin && std::ferror(stdin))) {
         const std::string reason = "cannot read on after this line: " + std::string(std::strerror(errno));
         if (isIncluded)
@@ -143,7 +143,7 @@ void Player::beginTest()
     open();
 }
 
-/// What no line of the part has expected is a failure, if that was asked for.
+/// Ends a part: reports the messages that no line has expected, if options.messagesFail is set.
 void Player::endPart()
 {
     for (const Message& message : std::exchange(messages, {}))
@@ -167,7 +167,7 @@ void Player::report(const std::string& where, const std::string& reason)
 {
     ++failures;
     lastFailure = reason;
-    if (!sources.empty()) // else runLine answers it
+    if (!sources.empty()) // else runLine returns it
         err << where << reason << '\n' << std::flush;
 }
 
@@ -212,7 +212,7 @@ PlayStatus Player::runWithoutEvents()
 PlayStatus Player::run()
 {
     try {
-        std::ifstream file; // opened first: a wrong call runs nothing
+        std::ifstream file; // opened before the start, so that a wrong call runs nothing
         const bool fromStdin = options.eventsFile == "-";
         if (!options.eventsFile.empty() && !fromStdin) {
             file = openEvents(options.eventsFile);
@@ -222,7 +222,7 @@ PlayStatus Player::run()
         start();
         if (options.eventsFile.empty())
             return runWithoutEvents();
-        std::error_code error; // of a name that is none: stdin
+        std::error_code error; // set for stdin, whose name "-" is not a file
         const bool isInteractive = !fs::is_regular_file(options.eventsFile, error);
         playLines(fromStdin ? std::cin : file, options.eventsFile, isInteractive);
         return failures > 0 ? PlayStatus::WrongLine : PlayStatus::Done;

@@ -30,7 +30,8 @@ using Clock = std::chrono::steady_clock;
 
 constexpr const char* headerForm = "# tgx: play DATA --script NAME";
 
-/// Names below the folder, sorted. Raises std::runtime_error when there are none.
+/// Returns the names of the events files below the folder, sorted. Raises std::runtime_error if there are
+/// none.
 std::vector<std::string> findEventsFiles(const TestOptions& options)
 {
     std::error_code error;
@@ -52,8 +53,8 @@ std::vector<std::string> findEventsFiles(const TestOptions& options)
     return names;
 }
 
-/// What a comment in the first lines says of how the file is played: "# tgx: play DATA --script NAME", DATA
-/// relative to the file. The reason why it is wrong, or "".
+/// Reads how the file is played from a comment in its first lines: "# tgx: play DATA --script NAME", with
+/// DATA relative to the file. Returns what is wrong with it, or "".
 std::string readHeader(const std::string& path, PlayOptions& options)
 {
     constexpr std::string_view mark = "# tgx:";
@@ -82,12 +83,12 @@ std::string readHeader(const std::string& path, PlayOptions& options)
     return "";
 }
 
-/// In the child process: only the run's stderr is looked at.
+/// Plays one file in the child process. Of its output only stderr is kept.
 [[noreturn]] void playInChild(const PlayOptions& options, const MainWinFactory& factory, int stderrFile,
                               [[maybe_unused]] pid_t suite)
 {
 #ifdef __linux__
-    prctl(PR_SET_PDEATHSIG, SIGTERM); // whatever ends the suite ends its runs
+    prctl(PR_SET_PDEATHSIG, SIGTERM); // however the suite ends, its runs end with it
     if (getppid() != suite)
         _exit(1);
 #endif
@@ -98,7 +99,7 @@ std::string readHeader(const std::string& path, PlayOptions& options)
     const int status = play(options, factory);
     std::cout.flush();
     std::fflush(nullptr);
-    _exit(status); // what the parent has put aside for its own end is none of the child's
+    _exit(status); // not exit: the parent's exit handlers must not run here
 }
 
 class Suite {
@@ -112,7 +113,7 @@ public:
 
     void run()
     {
-        std::signal(SIGCHLD, SIG_DFL); // ignored by whoever started this, the processes would leave no status
+        std::signal(SIGCHLD, SIG_DFL); // a parent may have ignored it, and waitpid would then get no status
         const auto processors = std::max(std::thread::hardware_concurrency(), 1u);
         const std::size_t jobs = options.jobs > 0 ? static_cast<std::size_t>(options.jobs) : processors;
         std::size_t next = 0;

@@ -2,25 +2,25 @@
 
 #include "player/player.h"
 
-/// A run of all events files below a folder.
+/// How to run all events files below a folder.
 struct TestOptions {
     std::string directory;
-    std::string filter;    // files whose name below the folder holds it; empty: all
-    std::string junitFile; // empty: none
+    std::string filter;    // run only files whose name below the folder contains it; empty: all
+    std::string junitFile; // where to write the results as JUnit XML; empty: nowhere
     int jobs = 0;          // processes at a time; 0: as many as there are processors
-    PlayOptions play;      // for files that do not say it themselves; each gets a folder below outDirectory
+    PlayOptions play;      // defaults for files that do not say how; each gets a folder below outDirectory
 };
 
-/// Plays each file in a process of its own. A line for each on out, in the order of their names, and a
-/// summary; what a file said on stderr stands below its line. Exit status for main: 0 all have passed, 1 one
-/// has not, 2 a wrong call; that is told on err.
+/// Plays each file in a process of its own. Writes a line for each to out, in the order of their names, with
+/// the file's stderr below it, and a summary. Returns the exit status for main: 0 all passed, 1 some failed,
+/// 2 a wrong call, which is explained on err.
 TGX_PLAYER_API int runTests(const TestOptions& options, const MainWinFactory& factory, std::ostream& out,
                             std::ostream& err);
 
-/// Enters the arguments of `tgx test` into app. options must outlive the parse.
+/// Adds the arguments of `tgx test` to app. options must outlive the parse.
 TGX_PLAYER_API void addTestArguments(CLI::App& app, TestOptions& options);
 
-/// Reads "DATA --script NAME ..." of an events file's first lines into options, DATA relative to folder. What
-/// is wrong, or "".
+/// Reads "DATA --script NAME ..." from the first lines of an events file into options, with DATA relative to
+/// folder. Returns what is wrong with it, or "".
 std::string readPlayWords(const std::vector<std::string>& words, const std::string& folder,
                           PlayOptions& options);

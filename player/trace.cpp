@@ -17,7 +17,7 @@ const char* operationName(DrawOp op)
 {
     switch (op) {
     case DrawOp::Blit:
-    case DrawOp::BlitRow: // its pieces
+    case DrawOp::BlitRow: // written as its pieces
         return "blit";
     case DrawOp::FillRect:
         return "fillrect";
@@ -105,8 +105,8 @@ void writeCommand(std::string& lines, const DisplayList& list, const DrawCommand
     lines += json.close('}').text() + '\n';
 }
 
-/// Each piece of a row as the blit that it stands for; other is the row whose pieces were drawn in turn with
-/// these, or null.
+/// Writes each piece of a row as a blit. other is the row whose pieces were drawn alternately with these, or
+/// null.
 void writePieces(std::string& lines, const DisplayList& list, const DrawCommand& row,
                  const DrawCommand* other)
 {

@@ -18,8 +18,8 @@
 
 namespace {
 
-/// Fields that a class adds to each window's own. Every row that a window is an instance of counts, in this
-/// order: a row for a base class stands before those of the classes that derive from it.
+/// The fields that a class adds to those of every window. All rows whose class a window is an instance of are
+/// written, in this order, so the row of a base class comes before those of the classes derived from it.
 struct ClassFields {
     void (*write)(JsonWriter& json, const AWnd& wnd);
 };
@@ -172,7 +172,7 @@ void writeId(JsonWriter& json, const AWnd* wnd)
 
 } // namespace
 
-// What stands behind the last :: outside template arguments and parameter lists.
+// The part after the last :: outside template arguments and parameter lists.
 std::string classNameOf(const AWnd& wnd)
 {
     int status = 0;
@@ -200,7 +200,8 @@ std::string treeReport(AMainWin& win)
         writeId(json, win.getPopupWnd(i));
     json.close(']').key("capture").open('[');
     for (int i = 0; i < win.getMouseCaptureWndCount(); ++i)
-        writeId(json, win.getMouseCaptureWnd(i)); // in front of the popups that this operation goes on to
+        writeId(json,
+                win.getMouseCaptureWnd(i)); // beyond the count, this operation continues with the popups
     json.close(']').key("pointer").open('[').value(win.mouseX).value(win.mouseY).close(']');
     json.field("frameStep", win.getFrameStep()).key("root");
     if (AScreenList* root = win.getScreenList())

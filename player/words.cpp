@@ -19,7 +19,7 @@ bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-/// The byte that two hex digits stand for, or -1.
+/// Returns the byte that two hex digits give, or -1.
 int hexByte(std::string_view digits)
 {
     unsigned value = 0;
@@ -36,7 +36,7 @@ std::string escaped(unsigned char byte)
     return hex;
 }
 
-/// Takes the next character off line at place, as the bytes that it becomes.
+/// Returns the converted bytes of the character of line at place, and advances place.
 std::string takeCharacter(std::string_view line, std::size_t& place, Characters characters)
 {
     std::string_view rest = line.substr(place);
@@ -55,7 +55,7 @@ std::string takeCharacter(std::string_view line, std::size_t& place, Characters 
     throw WrongLine("the character " + std::string(source) + " has no byte in code page 1252");
 }
 
-/// Reads the string whose opening quote stands at place; place goes behind the closing one.
+/// Reads the string whose opening quote is at place, and advances place to after the closing one.
 std::string readString(std::string_view line, std::size_t& place, Characters characters)
 {
     std::string text;
@@ -77,7 +77,7 @@ std::string readString(std::string_view line, std::size_t& place, Characters cha
                 text += static_cast<char>(byte);
                 place += 4;
                 continue;
-            } // any other backslash stands for itself
+            } // any other backslash is an ordinary character
         }
         text += takeCharacter(line, place, characters);
     }
@@ -86,7 +86,7 @@ std::string readString(std::string_view line, std::size_t& place, Characters cha
     throw WrongLine("the string " + shown + " has no closing quote");
 }
 
-/// Takes a sign off the front; true for a minus.
+/// Removes a leading sign from text. Returns true for a minus.
 bool takeSign(std::string_view& text)
 {
     bool negative = text.starts_with('-');
@@ -95,8 +95,8 @@ bool takeSign(std::string_view& text)
     return negative;
 }
 
-/// Letters to add, leave out, or change to get from a to b.
-std::size_t slips(std::string_view a, std::string_view b)
+/// Returns how many letters must be added, left out or changed to get from a to b.
+std::size_t editDistance(std::string_view a, std::string_view b)
 {
     std::vector<std::size_t> row(b.size() + 1);
     for (std::size_t j = 0; j <= b.size(); ++j)
@@ -127,15 +127,15 @@ std::vector<Word> splitWords(std::string_view line, Characters characters)
         if (line[place] == '"') {
             words.push_back({readString(line, place, characters), true});
             if (place < line.size() && !isBlank(line[place]))
-                throw WrongLine("a blank is missing behind the string " + quote(words.back().text));
+                throw WrongLine("a blank is missing after the string " + quote(words.back().text));
             continue;
         }
         std::size_t start = place;
         std::string text;
         while (place < line.size() && !isBlank(line[place])) {
             if (line[place] == '"')
-                throw WrongLine("a blank is missing before the string behind " +
-                                quoteName(line.substr(start, place - start)));
+                throw WrongLine("a blank is missing between " + quoteName(line.substr(start, place - start)) +
+                                " and the string that follows");
             text += takeCharacter(line, place, characters);
         }
         words.push_back({std::move(text), false});
@@ -151,7 +151,7 @@ std::optional<std::int64_t> parseNumber(const Word& word)
         digits.remove_prefix(2);
         base = 16;
     }
-    std::uint64_t value = 0; // unsigned: from_chars would take a second sign for a signed one
+    std::uint64_t value = 0; // unsigned, because from_chars would accept a second sign for a signed type
     auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, base);
     bool whole = error == std::errc() && end == digits.data() + digits.size();
     if (word.quoted || !whole || value > std::uint64_t(std::numeric_limits<std::int64_t>::max()))
@@ -175,7 +175,7 @@ std::optional<std::int64_t> parseFixed(const Word& word)
     std::int64_t value = 0;
     for (char c : whole)
         value = value * 10 + (c - '0');
-    // Each multiple of 1/4096 has at most 12 decimals, so digits behind the 15th cannot change the cut.
+    // Each multiple of 1/4096 has at most 12 decimals, so digits after the 15th cannot change the result.
     std::int64_t numerator = 0;
     std::int64_t denominator = 1;
     for (char c : fraction.substr(0, 15)) {
@@ -242,12 +242,12 @@ std::string listNames(const std::vector<std::string>& names, std::size_t limit)
 std::string suggest(std::string_view written, const std::vector<std::string>& names)
 {
     const std::string* best = nullptr;
-    std::size_t bestSlips = 3;
+    std::size_t bestDistance = 3;
     for (const std::string& name : names) {
-        std::size_t count = slips(written, name);
-        if (count < bestSlips && count < name.size()) {
+        std::size_t distance = editDistance(written, name);
+        if (distance < bestDistance && distance < name.size()) {
             best = &name;
-            bestSlips = count;
+            bestDistance = distance;
         }
     }
     return best ? "; did you mean " + *best + "?" : "";

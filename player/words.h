@@ -9,40 +9,43 @@
 #include <string_view>
 #include <vector>
 
-/// Why a line of an events file is wrong or could not be carried out, without file and line number.
+/// Reports why a line of an events file is wrong or could not be carried out, without file and line number.
 struct WrongLine : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
 /// One word of an events line.
 struct Word {
-    std::string text;    // bytes of code page 1252, or UTF-8; escapes resolved
-    bool quoted = false; // stood in double quotes: text, never a number
+    std::string text;    // in code page 1252 or UTF-8, with escapes resolved
+    bool quoted = false; // was in double quotes: text, never a number
 };
 
-/// What the characters of a line, which is UTF-8, become: bytes of code page 1252, as the texts of scripts,
-/// or what they are, as file names are spelt.
+/// How the words of a UTF-8 line are encoded: in code page 1252, like the texts of scripts, or in UTF-8, like
+/// file names.
 enum class Characters { CodePage, Utf8 };
 
-/// Cuts a line at blanks and tabs. Raises WrongLine for a string that does not end or is glued to its
-/// neighbour, and for what is not UTF-8 or has no byte in the code page.
+/// Splits a line at blanks and tabs. Raises WrongLine for a string that does not end or that touches the next
+/// word, for bytes that are not UTF-8, and for characters that the code page does not have.
 TGX_PLAYER_API std::vector<Word> splitWords(std::string_view line,
                                             Characters characters = Characters::CodePage);
 
-/// Decimal or 0x hex, with a sign if need be. Nothing for a quoted word, other text, or what 64 bits do not
-/// hold.
+/// Reads a decimal or 0x hex number with an optional sign. Nothing for a quoted word, other text, or a number
+/// that does not fit 64 bits.
 TGX_PLAYER_API std::optional<std::int64_t> parseNumber(const Word& word);
-/// Digits with a decimal point, as a raw fixed-point value cut towards zero. Nothing for other text.
+/// Reads digits with a decimal point as a raw fixed-point value, truncated towards zero. Nothing for other
+/// text.
 TGX_PLAYER_API std::optional<std::int64_t> parseFixed(const Word& word);
 
-/// text, bytes of code page 1252, in double quotes and UTF-8, for messages: bytes that show no character as
-/// \xNN.
+/// Converts text from code page 1252 to UTF-8 and puts it in double quotes, for messages. Bytes without a
+/// visible character become \xNN.
 TGX_PLAYER_INTERNAL std::string quote(std::string_view text);
-/// The same for a file name, which is UTF-8.
+/// Puts a file name, which is UTF-8, in double quotes for messages. Bytes without a visible character become
+/// \xNN.
 TGX_PLAYER_INTERNAL std::string quoteName(std::string_view name);
-/// text as one word of an events line, in quotes: splitWords gives the same bytes.
+/// Writes text as one quoted word of an events line, from which splitWords reads the same bytes.
 TGX_PLAYER_INTERNAL std::string quoteWord(std::string_view text);
-/// "a, b and c". At most limit of the names; the others are counted.
+/// Returns "a, b and c". After limit names it writes only how many more there are.
 std::string listNames(const std::vector<std::string>& names, std::size_t limit = 8);
-/// "; did you mean NAME?" for the name that is at most two slips away from what was written, else "".
+/// Returns "; did you mean NAME?" for the nearest name that differs in at most two letters, or "" if there is
+/// none.
 std::string suggest(std::string_view written, const std::vector<std::string>& names);

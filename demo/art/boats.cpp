@@ -3,13 +3,13 @@
 
 #include <algorithm>
 
-// What the company owns besides its ships. The parts are those of the ships.
+// The vessels that the company owns besides its ships, made of the same parts.
 
 using namespace shipyard;
 
 void drawLighter(Canvas& canvas, Place at, const Livery& livery)
 {
-    // A hatch under a sheet between two short decks, and a sweep to steer by.
+    // A covered hatch between two short decks, and a steering oar.
     canvas.fill(stroke({at(-98, -34), at(-58, -16)}, 2.2f * at.scale), seen(livery, rgb(palette::timber)));
     block(canvas, at, livery, -84, -30, -62, -15, livery.house);
     Shape sheet = polygon(at({{-54, -16}, {-48, -28}, {-12, -33}, {26, -30}, {60, -28}, {66, -16}}));
@@ -38,7 +38,7 @@ void drawCutter(Canvas& canvas, Place at, const Livery& livery)
     sail(canvas, at, livery, {{5, -108}, {7, -148}, {-48, -130}}, 0.14f);
     sail(canvas, at, livery, {{14, -106}, {64, -26}, {18, -26}}, 0.16f);
     sail(canvas, at, livery, {{26, -116}, {108, -36}, {72, -30}}, 0.02f);
-    // The mark of a pilot.
+    // The pilot's mark.
     Point mark = at(-34, -78);
     canvas.fill(outline(disc(mark.x, mark.y, 13 * at.scale), 4 * at.scale), seen(livery, livery.band));
     hull(canvas, at, livery,
@@ -70,7 +70,7 @@ void drawLaunch(Canvas& canvas, Place at, const Livery& livery)
 
 void drawSkiff(Canvas& canvas, Place at, const Livery& livery)
 {
-    // Somebody sits in it, with their back to where they go.
+    // Somebody sits in it and rows, facing aft.
     Colour coat = seen(livery, livery.band);
     canvas.fill(polygon(at({{-14, -18}, {-12, -44}, {4, -46}, {10, -18}})), coat);
     Point head = at(-3, -54);
@@ -86,7 +86,7 @@ void drawSkiff(Canvas& canvas, Place at, const Livery& livery)
 
 void drawHulk(Canvas& canvas, Place at, const Livery& livery)
 {
-    // A ship that has lost all above her deck, and was given a roof instead.
+    // A ship that has lost everything above her deck and has a roof instead.
     mast(canvas, at, livery, 66, -34, -84);
     canvas.fill(stroke({at(66, -40), at(100, -72)}, 1.8f * at.scale), seen(livery, rgb(palette::timber)));
     rope(canvas, at, livery, {66, -82}, {100, -72});

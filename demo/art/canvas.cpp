@@ -41,7 +41,7 @@ Shape ellipse(float x, float y, float radiusX, float radiusY)
     return [=](float px, float py) {
         float length = std::hypot((px - x) / radiusX, (py - y) / radiusY);
         return (length - 1) *
-               std::min(radiusX, radiusY); // near the edge this is the distance, and only there it counts
+               std::min(radiusX, radiusY); // this is the distance near the edge, where it matters
     };
 }
 
@@ -158,8 +158,8 @@ void Canvas::fill(const Shape& shape, Colour colour)
 
 void Canvas::fill(const Shape& shape, const Paint& paint)
 {
-    // A shape's distance never changes by more than a pixel from one pixel to the next, so what is far can be
-    // leapt over.
+    // A shape's distance never changes by more than a pixel from one pixel to the next, so pixels far from
+    // the edge can be skipped.
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             float px = static_cast<float>(x) + 0.5f, py = static_cast<float>(y) + 0.5f;

@@ -6,7 +6,7 @@
 
 namespace {
 
-// Goods, about 56 wide and 44 high, standing on y 0 with x 0 in their middle.
+// Goods, about 56 wide and 44 high, with their bottom at y 0 and their middle at x 0.
 
 void slate(Canvas& canvas, Place at)
 {
@@ -181,7 +181,7 @@ void piano(Canvas& canvas, Place at)
 
 constexpr void (*goods[])(Canvas&, Place) = {slate, coal, timber, wool, casks, glass, mail, piano};
 
-/// The gap between two frames in a place of the hold, dark enough to be empty.
+/// Paints an empty place of the hold: a dark gap between two ribs.
 Canvas emptyPlace(int factor)
 {
     Canvas large(64 * factor, 52 * factor);
@@ -233,7 +233,7 @@ Canvas holdSection()
         Colour sea = mix(rgb(palette::sea), rgb(palette::harbour), 0.25f + 0.6f * deep);
         return y < surface + 1.6f ? rgb(palette::foam, 0.7f) : faded(sea, 0.55f * (1 - 0.5f * deep));
     });
-    // Masts, derricks, house and funnel stand above the deck and run out of the picture.
+    // Masts, derricks, house and funnel above the deck, cut off by the picture's edge.
     Colour rig = mix(rgb(palette::timber), rgb(palette::brass), 0.35f);
     for (float x : {189.0f, 411.0f}) {
         canvas.fill(stroke({{x, deck}, {x, 0}}, 4), rig);
@@ -275,7 +275,7 @@ Canvas holdSection()
     });
     canvas.fill(outline(hull, 3.4f), rgb(palette::brass, 0.95f));
     canvas.fill(stroke({{30, deck}, {480, deck}}, 3), rgb(palette::cream, 0.85f));
-    // The hold: boarded, with a deck under each row of places.
+    // The hold is boarded and has a deck under each row of places.
     canvas.fill(box(112, 52, 488, 214, 3), [](float x, float y) {
         float plank = std::fmod(y, 13.0f);
         Colour wood = mix(mix(rgb(palette::timber), rgb(palette::night), 0.55f), rgb(palette::night),
@@ -285,7 +285,7 @@ Canvas holdSection()
     for (float y : {106.0f, 158.0f, 210.0f})
         canvas.fill(box(112, y - 2, 488, y + 1.5f), mix(rgb(palette::timber), rgb(palette::brass), 0.45f));
     canvas.fill(outline(box(112, 52, 488, 214, 3), 2), rgb(palette::brass, 0.9f));
-    // The engine room aft, the chain locker forward.
+    // The engine room is aft and the chain locker forward.
     canvas.fill(box(42, 64, 102, 208, 6), rgb(palette::night, 0.7f));
     Shape boiler = box(46, 112, 98, 186, 9);
     canvas.fill(boiler, metal(mix(rgb(palette::slate), rgb(palette::night), 0.2f), boiler));
@@ -307,7 +307,7 @@ Canvas holdSection()
     canvas.fill(stroke({{54, 200}, {90, 200}}, 5), rgb(palette::brass, 0.7f)); // the shaft
     canvas.fill(stroke({{6, 200}, {46, 200}}, 4), rgb(palette::brass, 0.9f));
     canvas.fill(ellipse(6, 200, 4, 17), rgb(palette::brass));
-    // The chain runs down from the hawse and lies in coils.
+    // The chain runs down from the hawse into coils.
     Colour chain = mix(rgb(palette::mist), rgb(palette::slate), 0.35f);
     for (int link = 0; link < 13; ++link) {
         float down = static_cast<float>(link) / 13;

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int chartWidth = 632, chartHeight = 520;
 
-/// Signed height of the land, positive on it: a mainland along the north and west, and two islands.
+/// Returns the height of the land, negative at sea: a mainland along the north and west, and two islands.
 float landHeight(float x, float y)
 {
     float rough = (clouds(x / 62, y / 62, 4, 131) - 0.5f) * 120;
@@ -22,7 +22,7 @@ float landHeight(float x, float y)
     return land + rough * 0.62f;
 }
 
-/// A curve from a to c that b pulls towards itself, in dashes.
+/// Draws a dashed curve from a to c that bends towards b.
 void route(Canvas& canvas, Point a, Point b, Point c)
 {
     auto at = [&](float t) -> Point {
@@ -38,7 +38,8 @@ void route(Canvas& canvas, Point a, Point b, Point c)
     }
 }
 
-/// Pixels from the shore, by row, up to the reach of the depth lines and far beyond where there is none near.
+/// Returns the distance of each pixel from the shore, row by row. It is exact up to the farthest depth line;
+/// beyond, it is only large.
 std::vector<float> shoreDistance()
 {
     constexpr int reach = 32;
@@ -68,7 +69,7 @@ std::vector<float> shoreDistance()
 Canvas chartCoast()
 {
     Canvas canvas(chartWidth, chartHeight);
-    // Rhumb lines from the rose, under the land that follows.
+    // Rhumb lines from the rose; the land is painted over them.
     constexpr Point rose{550, 130};
     for (int i = 0; i < 32; ++i) {
         float angle = static_cast<float>(i) * 0.1963495f;
@@ -118,7 +119,7 @@ Canvas chartCoast()
         canvas.fill(
             stroke({{0, static_cast<float>(i) * 104.5f}, {chartWidth, static_cast<float>(i) * 104.5f}}, 1),
             rgb(palette::ink, 0.16f));
-    // The company's routes; the ports stand at their ends.
+    // The company's routes, with the ports at their ends.
     constexpr Point ellery{144, 210}, quillHaven{353, 68}, northSound{543, 35}, brannoc{298, 315},
         gannet{288, 390}, farholm{513, 410};
     route(canvas, ellery, {290, 190}, quillHaven);
@@ -141,7 +142,7 @@ Canvas compassRose()
                            1),
                     rgb(palette::ink));
     }
-    for (int i = 0; i < 16; ++i) { // short points first, the four winds on top of them
+    for (int i = 0; i < 16; ++i) { // short points first, the four long ones on top
         int point = i < 4 ? i * 4 + 1 : i < 8 ? i * 4 - 13 : i < 12 ? i * 4 - 30 : i * 4 - 48;
         float length = point % 4 == 0   ? 58.0f
                        : point % 2 == 0 ? 40.0f

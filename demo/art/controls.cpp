@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The well that a tick or a dot lies in.
+/// Paints the recess for a tick or a dot.
 Canvas well(Look look, const Shape& rim, const Shape& hole)
 {
     Canvas frame(24, 24);
@@ -110,7 +110,7 @@ Canvas dot()
 
 Canvas tabStrip()
 {
-    // The lower edge is open in the selected tab, whose colour there is that of the page's upper edge.
+    // The selected tab has no lower edge; its colour there is that of the page's upper edge.
     constexpr int width = 164, height = 38;
     Canvas strip = stripOf(looks, width, height);
     for (int n = 0; n < looks; ++n) {
@@ -126,7 +126,7 @@ Canvas tabStrip()
                    [&](float, float y) { return mix(high, low, clamp01((y - top) / 30)); });
         frame.fill(outline(box(1.5f, top + 0.5f, width - 1.5f, height + 12, 6.5f), 1.4f),
                    look == Pressed ? rgb(palette::brass) : edge(look));
-        if (look != Pressed) // the page's edge runs on below it
+        if (look != Pressed) // the page's edge continues below it
             for (int y = height - 3; y < height; ++y)
                 for (int x = 0; x < width; ++x)
                     frame.at(x, y) = Colour{};
@@ -137,7 +137,7 @@ Canvas tabStrip()
 
 Canvas scrollStrip(bool horizontal)
 {
-    // First button at rest and pressed, second button likewise, trough, lever.
+    // Frames: first button at rest and pressed, second button at rest and pressed, trough, lever.
     Canvas strip = stripOf(6, 24, 24);
     for (int n = 0; n < 4; ++n) {
         Look look = n % 2 ? Pressed : Rest;
@@ -167,7 +167,7 @@ Canvas scrollStrip(bool horizontal)
 
 Canvas fieldFill()
 {
-    // Stretched over an edit field of any size: a sheet in even light.
+    // Stretched over an edit field of any size, so the light is even.
     Canvas canvas(16, 32);
     canvas.paint(0, 0, 16, 32, [](float, float y) {
         return mix(rgb(palette::paper), rgb(palette::cream), 0.25f + 0.35f * y / 32);

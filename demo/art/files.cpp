@@ -21,8 +21,8 @@ void putLittle(Bytes& bytes, std::uint32_t value, int count)
         bytes.push_back(static_cast<unsigned char>(value >> 8 * i));
 }
 
-/// 0 to 255. The two hashes make a triangle of noise one step wide to each side, which hides the steps of a
-/// gradient.
+/// Converts 0 to 1 into 0 to 255. The two hashes add triangular noise of one step to each side, which hides
+/// the steps of a gradient.
 unsigned char quantised(float value, int x, int y, std::uint32_t channel, bool dithered)
 {
     float wobble = dithered ? hashed(x, y, 71 + channel) + hashed(x, y, 91 + channel) - 1 : 0;
@@ -49,8 +49,7 @@ void putChunk(Bytes& file, const char* type, const Bytes& data)
     putBig(file, crc32(file.data() + start, file.size() - start));
 }
 
-/// A zlib stream of stored blocks: the pictures are full of fine noise, which packing would hardly make
-/// smaller.
+/// Makes a zlib stream of stored blocks: the pictures are full of fine noise, which hardly compresses.
 Bytes stored(const Bytes& raw)
 {
     Bytes out = {0x78, 0x01};
@@ -118,8 +117,8 @@ bool writeKeyedBmp(const Canvas& canvas, const std::string& path)
     Bytes file = {'B', 'M'};
     putLittle(file, 54 + pixelBytes, 4);
     putLittle(file, 0, 4);
-    putLittle(file, 54, 4); // where the pixels begin
-    putLittle(file, 40, 4); // size of the header from here on
+    putLittle(file, 54, 4); // offset of the pixels
+    putLittle(file, 40, 4); // size of the header that begins here
     putLittle(file, static_cast<std::uint32_t>(canvas.width), 4);
     putLittle(file, static_cast<std::uint32_t>(canvas.height), 4);
     putLittle(file, 1, 2);

@@ -7,13 +7,13 @@ namespace {
 
 using DrawVessel = void (*)(Canvas&, Place, const Livery&);
 
-/// A vessel for her picture in the fleet list.
+/// How to paint a vessel's picture in the fleet list.
 struct Sitter {
     DrawVessel draw;
     float scale, facing;
     float sunX;
     std::uint32_t hull, funnel, band;
-    float fog; // 0 clear, 1 nothing to be seen
+    float fog; // 0 clear, 1 nothing visible
 };
 
 // In the order of fleetPicture.
@@ -33,7 +33,7 @@ constexpr Sitter sitters[] = {
     {drawSchooner, 0.62f, -1, 92, palette::night, palette::brass, palette::mist, 0.4f},   // Fulmar
 };
 
-/// A signal flag of 20 x 16 on a canvas of 24 x 28.
+/// Paints a signal flag of 20 x 16 on a canvas of 24 x 28.
 Canvas signal(int number)
 {
     Canvas frame(24, 28);
@@ -45,7 +45,7 @@ Canvas signal(int number)
         [=](float, float) { return yellow; },                                    // healthy, wants to land
         [=](float x, float) { return x < 12 ? white : red; },                    // a pilot is on board
         [=](float x, float y) { return (x < 12) == (y < 14) ? yellow : black; }, // stay where you are
-        [=](float x, float y) { return (x < 12) == (y < 14) ? red : white; },    // stands into danger
+        [=](float x, float y) { return (x < 12) == (y < 14) ? red : white; },    // running into danger
         [=](float x, float y) { return (x - 2) / 20 + (y - 6) / 16 < 1 ? yellow : red; }, // a man overboard
     };
     frame.fill(box(2, 6, 22, 22), [&](float x, float y) {

@@ -64,7 +64,7 @@ Canvas paperBorder()
 
 Canvas panelFill()
 {
-    // Stretched over a panel of any size: darker downwards, so that text stands on even ground.
+    // Stretched over a panel of any size, and only darker towards the bottom, so that text is easy to read.
     Canvas canvas(16, 64);
     canvas.paint(0, 0, 16, 64, [](float, float y) {
         return faded(mix(mix(rgb(palette::harbour), rgb(palette::night), 0.35f), rgb(palette::night), y / 64),
@@ -123,7 +123,7 @@ Canvas plankTile()
         int joint = row == 1 ? 72 : row == 0 ? 20 : 112;
         canvas.paint(0, row * 16, 128, row * 16 + 16, [&](float x, float y) {
             float wrapped = std::fmod(x + 128 - static_cast<float>(joint),
-                                      128.0f); // the grain runs round the tile's seam
+                                      128.0f); // the grain continues across the tile's seam
             float fade = smooth(0, 18, wrapped) * smooth(128, 110, wrapped);
             float grain = clouds(wrapped / 30, y / 2.2f, 4, 201 + static_cast<std::uint32_t>(row)) * fade +
                           0.5f * (1 - fade);

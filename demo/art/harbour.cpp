@@ -8,7 +8,7 @@ namespace {
 constexpr int horizon = 420;
 constexpr float sunX = 452;
 
-/// A range of hills from noise; the farther, the more of the sky's haze.
+/// Paints a range of hills from noise; farther hills have more of the sky's haze.
 void hills(Canvas& canvas, float base, float height, float step, std::uint32_t seed, Colour colour,
            float fromX, float toX)
 {
@@ -50,7 +50,7 @@ void lighthouse(Canvas& canvas, Place at)
         canvas.fill(box(pane.x, pane.y, pane.x + 7, pane.y + 9), rgb(palette::amber));
         canvas.lamp(pane.x + 3, pane.y + 4, 20, rgb(palette::amber, 0.4f));
     }
-    // Tower: white with brick bands, the side to the sun warm.
+    // Tower: white with brick bands, warmer on the side towards the sun.
     Shape tower = polygon(at({{-15, -168}, {15, -168}, {22, -54}, {-22, -54}}));
     canvas.fill(tower, [&](float x, float y) {
         float height = (at.y - y) / at.scale;
@@ -98,7 +98,7 @@ void crane(Canvas& canvas, Place at, Colour colour)
     canvas.lamp(pane.x + 4, pane.y + 4, 22 * at.scale, rgb(palette::amber, 0.4f));
 }
 
-/// Roofs of the town up the right-hand shore, with a light here and there.
+/// Paints the roofs of the town along the right-hand shore, with a light here and there.
 void town(Canvas& canvas)
 {
     // The church above the roofs.

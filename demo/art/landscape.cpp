@@ -60,7 +60,7 @@ void paintWater(Canvas& canvas, float horizon, float sunX)
     float height = static_cast<float>(canvas.height) - horizon;
     canvas.paint(0, static_cast<int>(horizon), canvas.width, canvas.height, [&](float x, float y) {
         float depth = clamp01((y - horizon) / height);
-        float away = 1 / (0.02f + depth); // rows of waves grow towards the viewer
+        float away = 1 / (0.02f + depth); // rows of waves get larger towards the viewer
         Colour water = mix(mix(rgb(palette::rose), rgb(palette::sea), 0.45f),
                            mix(rgb(palette::sea), rgb(palette::harbour), 0.55f), smooth(0, 0.35f, depth));
         water = mix(water, mix(rgb(palette::harbour), rgb(palette::night), 0.5f), smooth(0.25f, 1, depth));
@@ -73,7 +73,7 @@ void paintWater(Canvas& canvas, float horizon, float sunX)
         water =
             mix(water, rgb(palette::night), 0.30f * smooth(0.55f, 0.30f, ripple) * smooth(0, 0.1f, depth));
         water = mix(water, rgb(palette::foam), 0.16f * smooth(0.58f, 0.80f, ripple));
-        // The sun's path: broken light, widening towards the viewer.
+        // The sun's reflection: broken light that widens towards the viewer.
         float path = smooth(1, 0, std::abs(x - sunX) / (26 + 150 * depth));
         float glitter = smooth(0.50f - 0.12f * path, 0.66f, ripple) * path;
         return mix(water, mix(rgb(palette::amber), rgb(palette::cream), 0.5f * path),

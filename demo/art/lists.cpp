@@ -8,7 +8,7 @@
 
 namespace {
 
-/// An arrow head of half the size, its middle at x, y.
+/// Makes an arrow head of half size with its middle at x, y.
 Shape mark(float x, float y, bool down)
 {
     float tip = down ? 3.2f : -3.2f;
@@ -17,8 +17,8 @@ Shape mark(float x, float y, bool down)
 
 } // namespace
 
-// Pictures that a list stretches over its width change along it slowly or not at all. The last line and
-// column of one are never seen.
+// Pictures that a list stretches over its width change little or not at all along it. Their last line and
+// column are never visible.
 
 Canvas rowBand(bool selected)
 {
@@ -46,7 +46,7 @@ Canvas readingLine()
 
 Canvas cellFrame(bool selected)
 {
-    Canvas frame(85, 53); // and the line and column that are not seen
+    Canvas frame(85, 53); // with the line and column that are never visible
     Shape rim = box(3, 1, 81, 51, 4);
     Colour colour = rgb(selected ? palette::amber : palette::cream);
     if (selected)
@@ -68,7 +68,7 @@ Canvas titleBand()
 
 Canvas listFill()
 {
-    // A shade darker than the panel it lies on.
+    // A shade darker than the panel below it.
     Canvas canvas(8, 8);
     canvas.paint(0, 0, 8, 8, [](float, float) { return rgb(palette::night, 0.62f); });
     return canvas;
@@ -98,7 +98,7 @@ Canvas listBarStrip()
     for (float y : {9.0f, 13.0f, 17.0f})
         lever.fill(stroke({{5, y}, {11, y}}, 1.2f), rgb(palette::night, 0.7f));
     putFrame(strip, lever, 5);
-    // It is written without any alpha: what the plates leave open is the trough.
+    // It is written without alpha; the trough shows around the plates.
     for (int n = 0; n < 4; ++n) {
         Canvas whole = trough;
         Canvas frame(width, height);
@@ -160,7 +160,7 @@ Canvas menuFill()
 
 Canvas menuBorder()
 {
-    // Pieces of 4 without any gap: what lies under a menu does not shine through.
+    // Pieces of 4 without gaps, so that nothing shows through a menu.
     Canvas frame(12, 12, rgb(palette::night));
     frame.fill(outline(box(1.5f, 1.5f, 10.5f, 10.5f), 1.4f), rgb(palette::brass));
     return cutBorder(frame);
@@ -177,7 +177,7 @@ Canvas hotCordBorder()
 
 Canvas noticeFill()
 {
-    // As a panel, and nothing shines through.
+    // Like a panel, but opaque.
     Canvas canvas(16, 64);
     canvas.paint(0, 0, 16, 64, [](float, float y) {
         return mix(mix(rgb(palette::harbour), rgb(palette::slate), 0.12f),

@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-// demo_art DIR: paints the demo's pictures into the data directory DIR. The same bytes on every run.
+// demo_art DIR: paints the demo's pictures into the data directory DIR. Every run writes the same bytes.
 int main(int argc, char** argv)
 {
     if (argc != 2) {
@@ -49,7 +49,7 @@ int main(int argc, char** argv)
         {"art/shoal.png", shoalSample, Alpha},
         {"art/planks.png", plankTile, Solid},
         {"art/sea.png", seaTile, Solid},
-        {"UIG/scroll1.bmp", listBarStrip, Keyed}, // where every list box looks for it
+        {"UIG/scroll1.bmp", listBarStrip, Keyed}, // where list boxes look for it
         {"art/list.png", listFill, Alpha},
         {"art/titles.png", titleBand, Alpha},
         {"art/chosen.png", [] { return rowBand(true); }, Alpha},

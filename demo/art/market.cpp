@@ -8,7 +8,7 @@ namespace {
 constexpr std::uint32_t goodsColours[] = {palette::cream, palette::lagoon, palette::amber, palette::rose};
 constexpr int goodsCount = 4;
 
-/// Two panels of a progress bar, side by side: full, and empty.
+/// Paints the two panels of a progress bar side by side: full and empty.
 template<class PaintPanel>
 Canvas panels(int width, int height, PaintPanel paintPanel)
 {
@@ -21,7 +21,7 @@ Canvas panels(int width, int height, PaintPanel paintPanel)
     return both;
 }
 
-/// Keys lie in a grid whose columns are 48 apart, the first one's middle at 29.
+/// The keys form a grid with columns 48 apart; the middle of the first is at 29.
 constexpr int keyColumns = 10, keyRows = 4, keyStep = 48, keyHeight = 46;
 
 Shape keyCap(float middle, float top)
@@ -36,7 +36,7 @@ Canvas marketMark(int kind)
     Canvas canvas(18, 14);
     if (kind < goodsCount)
         canvas.fill(stroke({{3, 7}, {15, 7}}, 4), rgb(goodsColours[kind]));
-    else // as the graph marks a line
+    else // the marker that the graph draws
         canvas.fill(box(7, 1, 11, 13), rgb(kind == goodsCount ? 0xFF8000 : 0x00A200));
     return canvas;
 }
@@ -111,7 +111,7 @@ Canvas oilPipe()
 
 Canvas tickerTape()
 {
-    // Paper with holes along both edges, from behind the machine to where it is torn off.
+    // Paper with holes along both edges, from the machine to where it is torn off.
     constexpr int width = 848, height = 36;
     Canvas canvas(width, height);
     std::vector<Point> rim = {{0, 0}, {width - 8, 0}};
@@ -156,7 +156,7 @@ Canvas tickerMachine()
 
 Canvas newShipStern()
 {
-    // She stands on the slip, stern to the quay, with a board for her name.
+    // The ship is on the slip with her stern to the quay and a board for her name.
     constexpr int width = 242, height = 106;
     Canvas canvas(width, height);
     paintDawn(canvas, 78, 30);
@@ -231,7 +231,7 @@ Canvas keyCaps()
 
 Canvas keyFrame(bool pressed)
 {
-    Canvas frame(keyStep + 11, keyHeight + 1); // and the line and column that are not seen
+    Canvas frame(keyStep + 11, keyHeight + 1); // with the line and column that are never visible
     Shape cap = keyCap(29, 0);
     frame.fill(cap, rgb(palette::amber, pressed ? 0.45f : 0.22f));
     frame.fill(outline(cap, 2.2f), rgb(palette::amber));

@@ -2,13 +2,13 @@
 
 #include "demo/art/pictures.h"
 
-/// What a control's frame shows; the order is that of a button's strip behind its opening run.
+/// The state that a control's frame shows, in the order of a button's strip after its opening run.
 enum Look { Rest, Hot, Pressed, Disabled };
 constexpr int looks = 4;
 
-/// The edge of what can be clicked.
+/// Returns the colour of the edge of a control that can be clicked.
 Colour edge(Look look);
-/// A plate with round corners, lit from above unless it is pressed.
+/// Makes a plate with round corners, lit from above unless it is pressed.
 Canvas plate(Look look, int width, int height, float rounding);
-/// An arrow head in a square of 24, its point away from the bar's middle.
+/// Makes an arrow head in a square of 24 that points away from the bar's middle.
 Shape arrow(bool horizontal, bool forwards);

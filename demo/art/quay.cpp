@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Bricks in running bond, lit by nearby lamps.
+/// Paints bricks in running bond, lit by nearby lamps.
 Colour brickwork(float x, float y)
 {
     constexpr float rowHeight = 10, length = 26;
@@ -89,7 +89,7 @@ Canvas quayBackdrop()
     crate(canvas, 890, 690, 76);
     crate(canvas, 962, 700, 92);
     crate(canvas, 918, 614, 62);
-    // Shade gathers at the edges, so that panels in front stand out.
+    // The edges are darker, so that panels in front stand out.
     canvas.paint(0, 0, 1024, 768, [](float x, float y) {
         float away = std::hypot((x - 512) / 700, (y - 380) / 520);
         return rgb(palette::night, 0.62f * smooth(0.25f, 1.1f, away));

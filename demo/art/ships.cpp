@@ -51,7 +51,7 @@ void block(Canvas& canvas, Place at, const Livery& livery, float left, float top
         float share = ((y - at.y) / at.scale - top) / (bottom - top);
         return seen(livery, mix(colour, rgb(palette::slate), 0.10f + 0.35f * share));
     });
-    // The roof stands out a little and throws a line of shade.
+    // The roof projects a little and casts a line of shade.
     canvas.fill(stroke({at(left - 1.5f, top), at(right + 1.5f, top)}, 1.6f * at.scale), seen(livery, colour));
 }
 

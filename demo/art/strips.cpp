@@ -8,7 +8,7 @@ namespace {
 
 constexpr float pi = 3.14159265f;
 
-/// The mean of nine points of each pixel, for paint that has edges of its own.
+/// Averages nine points of each pixel, for paint whose own edges must be smoothed.
 Paint sampled(Paint paint)
 {
     return [paint = std::move(paint)](float x, float y) {
@@ -28,7 +28,7 @@ Paint sampled(Paint paint)
 
 Canvas portStrip()
 {
-    // Three frames, 28 x 28, hard edges: this one is written with the key colour.
+    // Three frames of 28 x 28 with hard edges, because this strip is written with the key colour.
     Canvas strip(3 * 29, 28);
     for (int n = 0; n < 3; ++n) {
         Canvas frame(28, 28);
@@ -49,7 +49,7 @@ Canvas portStrip()
 
 Canvas beamStrip()
 {
-    // The lighthouse's light for one turn, 12 frames of 460 x 120 on black, to be added to what lies below.
+    // The lighthouse's light for one turn, 12 frames of 460 x 120 on black, to be added to the picture below.
     constexpr int frames = 12, width = 460, height = 120;
     Canvas strip(frames * (width + 1), height, {0, 0, 0, 1});
     for (int n = 0; n < frames; ++n) {
@@ -121,7 +121,7 @@ Canvas flagStrip()
 
 Canvas steamerStrip()
 {
-    // A steamer under way, 16 frames of 280 x 120; the smoke drifts through a whole period.
+    // A moving steamer, 16 frames of 280 x 120; the smoke goes through a whole period.
     constexpr int frames = 16;
     Canvas strip(frames * 281, 120);
     Livery livery{rgb(palette::night),

@@ -1,4 +1,4 @@
-# Plays EVENTS on the demo and compares what it prints with the file NAME.expected beside it. A message fails the test too.
+# Plays EVENTS on the demo and compares the output with its .expected file. Any message fails the test too.
 string(REGEX REPLACE "\\.events$" ".expected" expected_file ${EVENTS})
 file(MAKE_DIRECTORY ${OUT})
 execute_process(

@@ -7,7 +7,7 @@ public:
     int startup() override
     {
         QuayWindow::startup();
-        // The file UIG/script.tgx if there is one, else the script that the build put into the program.
+        // Reads the file UIG/script.tgx if it exists, else the script that the build put into the program.
         readScriptFile("script.tgx", GetModuleHandleA(nullptr), 141, "", 1);
         return 1;
     }

@@ -2,7 +2,7 @@
 
 #include "player/player.h"
 
-// The player reads the script by itself, so it takes the window without the game's startup.
+// The player reads the script itself, so it uses the window without the game's startup.
 int main(int argc, char** argv)
 {
     return playMain(argc, argv, [](int width, int height, int depth) {

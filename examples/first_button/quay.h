@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// The screen that the script calls "QUAY". It hears of every click inside it, by the id of the window.
+/// The screen that the script calls "QUAY". It gets every click inside it, with the id of the window.
 class QuayScreen : public AScreen {
 public:
     using AScreen::AScreen;
@@ -12,7 +12,7 @@ public:
     int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override
     {
         if (AScreen::handleMouseAction(subject, wnd, x, y, action))
-            return 1; // the click has left the screen
+            return 1; // the base has handled the click
         if (action != MA_LBUTTONUP || subject != "RING")
             return 0;
         ++strokes;
@@ -27,7 +27,7 @@ private:
     int strokes = 0;
 };
 
-/// The main window, which is asked for the game's own classes.
+/// The main window, which makes the windows of the game's own classes.
 class QuayWindow : public AMainWin {
 public:
     using AMainWin::AMainWin;

@@ -6,7 +6,7 @@ public:
     int startup() override
     {
         AMainWin::startup();
-        // The file below UIG if there is one, else the script that the build put into the program.
+        // Reads the file UIG/script.tgx if it exists, else the script that the build put into the program.
         readScriptFile("script.tgx", GetModuleHandleA(nullptr), 141, "", 1);
         return 1;
     }

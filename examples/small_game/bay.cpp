@@ -14,11 +14,11 @@ void BayScreen::startup()
         map->fill(static_cast<unsigned>(game.getDay()));
         map->setPots(game.getPots());
     }
-    getMainWin()->setKeepListSelection(1); // a click beside the table keeps the choice
+    getMainWin()->setKeepListSelection(1); // a click beside the table keeps the selection
     showState();
 }
 
-/// The map has news. Controls call it too, so it asks what there is.
+/// Called by the map after a catch, but also by other controls, so it asks the map whether there is one.
 void BayScreen::update()
 {
     auto* map = windowAs<BayMap>(getWnd("MAP", 1));
@@ -50,9 +50,9 @@ int BayScreen::totalPence() const
                            [](int sum, const Catch& each) { return sum + each.pence; });
 }
 
-// The table shows rows; the game keeps what they mean.
+// The table only shows rows; the game knows which catch each of them is.
 
-/// Index of the catch in the chosen row, or -1.
+/// Returns the index of the catch in the selected row, or -1.
 int BayScreen::chosenCatch()
 {
     const AListBox* table = getListBox("CATCHES", 1);
@@ -100,7 +100,7 @@ void BayScreen::sortBy(int column)
 
 int BayScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
-    // Titles first: in a scrolled table the rows behind them must not hear of the click.
+    // Titles first: in a scrolled table the rows below them must not get the click.
     AListBox* table = getListBox("CATCHES", 1);
     const bool clicks = action == MA_LBUTTONDOWN || action == MA_LBUTTONUP || action == MA_LBUTTONDBLCLK;
     if (table && clicks && wnd == table && y < table->getItemsStartPosY(1) + table->getRowHeight()) {
@@ -122,7 +122,7 @@ int BayScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, int y
     return 1;
 }
 
-/// What is done in a box that this screen has opened. The base closes it.
+/// Handles input in a box that this screen has opened. The base closes the box.
 int BayScreen::handlePopupAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
     const AWnd* box = getPopupWnd();

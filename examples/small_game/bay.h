@@ -5,7 +5,7 @@
 
 #include <vector>
 
-/// The screen "BAY": the map, and a table of the day's catches that a click on a title sorts.
+/// The screen "BAY": the map, and a table of the day's catches. A click on a title sorts the table.
 class BayScreen : public AScreen {
 public:
     using AScreen::AScreen;
@@ -15,7 +15,8 @@ public:
     int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
     int handlePopupAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
 
-    /// Column of the table that is sorted by, from 0; below 0: in the order of the day. For events files.
+    /// Returns the column that the table is sorted by, counted from 0, or -1 for the order of the catches.
+    /// For events files.
     int getSortColumn() const { return sortColumn; }
 
 private:
@@ -27,7 +28,7 @@ private:
     int totalPence() const;
 
     std::vector<Catch> catches;
-    std::vector<int> order; // row of the table to index of the catch
+    std::vector<int> order; // index of the catch in each row of the table
     int sortColumn = -1;
     bool descending = false;
 };

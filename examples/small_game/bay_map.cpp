@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Red in the low byte, as the toolkit's colours are.
+/// Returns a colour with red in the low byte, as the toolkit expects.
 unsigned long colour(unsigned red, unsigned green, unsigned blue)
 {
     return getMainWin()->getcol(red | green << 8 | blue << 16);
@@ -46,7 +46,7 @@ BayMap::Square* BayMap::squareAt(int x, int y)
 int BayMap::handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
     AWnd::handleMouseAction(subject, wnd, x, y, action);
-    // Actions come to every window on the way to the one that they are about.
+    // Actions pass through every window on the way to their target.
     if (wnd != this || action != MA_LBUTTONUP || !isVisible(1))
         return 0;
     Square* square = squareAt(x, y);
@@ -56,7 +56,7 @@ int BayMap::handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E
     --pots;
     news = square->held;
     if (AScreen* screen = getMainWin()->getActiveScreen())
-        screen->update(); // last: what it does may delete this window
+        screen->update(); // last, because it may delete this window
     return 1;
 }
 

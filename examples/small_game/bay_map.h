@@ -7,8 +7,8 @@
 #include <optional>
 #include <random>
 
-/// The bay from above, in squares: the game's own control. A click on a square lowers a pot there, and the
-/// screen hears of it by update(), as it does of the toolkit's controls.
+/// The bay from above, in squares: a control of the game. A click on a square lowers a pot there and calls
+/// the screen's update(), as the toolkit's controls do.
 class BayMap : public AWnd {
 public:
     static constexpr int columns = 8;
@@ -19,12 +19,12 @@ public:
     void draw(int frameStep) override;
     int handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
 
-    /// A day's water: the same number gives the same catches.
+    /// Fills the bay for a day. The same day gives the same catches.
     void fill(unsigned day);
-    /// Pots that can still be lowered.
+    /// Returns how many pots can still be lowered.
     int getPots() const { return pots; }
     void setPots(int count) { pots = count; }
-    /// What the last pot has brought up, once; nothing when there is no news.
+    /// Returns what the last pot brought up, and nothing when asked again.
     std::optional<Catch> takeCatch();
 
 private:

@@ -1,8 +1,8 @@
 #pragma once
 
-/// What one pot brought up.
+/// The catch of one pot.
 struct Catch {
     const char* what;
     int grams;
-    int pence; // at the harbour
+    int pence; // price at the harbour
 };

@@ -8,7 +8,7 @@
 
 LobsterWindow::LobsterWindow(int width, int height, int depth) : AMainWin(width, height, depth)
 {
-    // Nothing is stored at first: then the values stay as they are.
+    // On the first run nothing is stored, and the values keep their defaults.
     getregistry("BestPence", &bestPence);
     getregistry("Weather", &weather);
     getregistry("Volume", &volume);
@@ -30,7 +30,7 @@ AWnd* LobsterWindow::createNewWindow(const CString& id, int x, int y, int width,
     return nullptr;
 }
 
-/// The toolkit asks for the windows of boxes in the file "common.tgx". Here they are in the program.
+/// Reads the windows of boxes, which the toolkit expects in the file "common.tgx", from the program.
 AWnd* LobsterWindow::readScriptFile(const CString& name, HINSTANCE instance, unsigned resource,
                                     const CString& toWindow, int finalRead)
 {
@@ -47,7 +47,7 @@ void LobsterWindow::endDay(int pence)
         setregistry("BestPence", &bestPence);
     }
     if (AScreen* bay = getActiveScreen())
-        bay->exitScreen(); // closed for good: the next day reads a new one
+        bay->exitScreen(); // closes the screen; the next day reads a new one
 }
 
 int LobsterWindow::getPots() const

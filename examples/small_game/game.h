@@ -2,7 +2,7 @@
 
 #include "tgx/tgx.h"
 
-// The scripts that the build puts into the program.
+// Resource numbers of the scripts that the build puts into the program.
 constexpr unsigned mainScript = 141;
 constexpr unsigned bayScript = 142;
 constexpr unsigned commonScript = 143;
@@ -17,20 +17,20 @@ public:
     AWnd* readScriptFile(const CString& name, HINSTANCE instance, unsigned resource, const CString& toWindow,
                          int finalRead) override;
 
-    /// Days that have ended.
+    /// Returns the number of days that have ended.
     int getDay() const { return day; }
     void endDay(int pence);
     int getLastPence() const { return lastPence; }
     int getBestPence() const { return static_cast<int>(bestPence); }
-    /// Pots in the boat: rough weather leaves room for fewer.
+    /// Returns the number of pots in the boat, which is smaller in rough weather.
     int getPots() const;
 
     const CString& getSkipper() const { return skipper; }
     void setSkipper(const CString& name) { skipper = name; }
-    /// 0 calm, 1 breeze, 2 gale.
+    /// Returns 0 for calm, 1 for a breeze, 2 for a gale.
     int getWeather() const { return static_cast<int>(weather); }
     void setWeather(int chosen);
-    /// Percent.
+    /// Returns the volume in percent.
     int getVolume() const { return static_cast<int>(volume); }
     void setVolume(int percent);
 
@@ -38,7 +38,7 @@ private:
     int day = 0;
     int lastPence = 0;
     CString skipper;
-    // Kept from run to run.
+    // Stored between runs.
     unsigned long bestPence = 0;
     unsigned long weather = 0;
     unsigned long volume = 70;

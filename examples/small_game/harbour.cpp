@@ -12,7 +12,7 @@ LobsterWindow& game()
     return *static_cast<LobsterWindow*>(getMainWin());
 }
 
-void tell(AWnd& screen, const char* id, const std::string& text)
+void showText(AWnd& screen, const char* id, const std::string& text)
 {
     if (AWnd* wnd = screen.getWnd(id, 1))
         wnd->setWindowText(CString(text.c_str()));
@@ -36,11 +36,12 @@ void HarbourScreen::showDay()
 {
     const LobsterWindow& today = game();
     const std::string name = today.getSkipper().str();
-    tell(*this, "GREETING", "Good morning, " + (name.empty() ? "skipper" : name) + ".");
-    tell(*this, "LAST",
-         today.getDay() == 0 ? "The boat is ready."
-                             : "The last day brought " + std::to_string(today.getLastPence()) + " pence.");
-    tell(*this, "BEST", "The best day so far: " + std::to_string(today.getBestPence()) + " pence.");
+    showText(*this, "GREETING", "Good morning, " + (name.empty() ? "skipper" : name) + ".");
+    showText(*this, "LAST",
+             today.getDay() == 0
+                 ? "The boat is ready."
+                 : "The last day brought " + std::to_string(today.getLastPence()) + " pence.");
+    showText(*this, "BEST", "The best day so far: " + std::to_string(today.getBestPence()) + " pence.");
 }
 
 int HarbourScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, int y, E_MOUSEACTION action)
@@ -63,7 +64,7 @@ int HarbourScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, i
 void OptionsScreen::startup()
 {
     AScreen::startup();
-    tell(*this, "NAME", game().getSkipper().str());
+    showText(*this, "NAME", game().getSkipper().str());
     if (auto* name = windowAs<AEditBox>(getWnd("NAME", 1)))
         name->setMaxLength(16);
     if (auto* weather = windowAs<AComboBox>(getWnd("WEATHER", 1)))
@@ -76,13 +77,13 @@ void OptionsScreen::startup()
 
 void OptionsScreen::draw(int frameStep)
 {
-    // A bar tells nobody that it was moved: whoever wants to know asks it.
+    // A bar does not report that it has moved, so its value is read in each frame.
     if (const auto* volume = windowAs<AScrollBar>(getWnd("VOLUME", 1)))
-        tell(*this, "LOUD", std::to_string(volume->getPercentage().toInt()) + " %");
+        showText(*this, "LOUD", std::to_string(volume->getPercentage().toInt()) + " %");
     AScreen::draw(frameStep);
 }
 
-/// The screen is closed for good when it is left: what its controls hold goes with it.
+/// Stores the options: the screen is deleted when the user leaves it, together with its controls.
 void OptionsScreen::close()
 {
     if (AWnd* name = getWnd("NAME", 1))
@@ -101,7 +102,7 @@ int OptionsScreen::handleMouseAction(const CString& subject, AWnd* wnd, int x, i
     AButton* full = getButton("FULL", 1);
     if (action != MA_LBUTTONUP || subject != "FULL" || !full)
         return 0;
-    game().fullScreen = full->isSelected(); // stored at the end of the program
+    game().fullScreen = full->isSelected(); // stored when the program ends
     displayhost::current().followFullScreen(game());
     return 1;
 }

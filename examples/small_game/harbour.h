@@ -2,7 +2,7 @@
 
 #include "tgx/tgx.h"
 
-/// The screen "HARBOUR": the way to the others, and how the last day went.
+/// The screen "HARBOUR": leads to the other screens, and shows how the last day went.
 class HarbourScreen : public AScreen {
 public:
     using AScreen::AScreen;
@@ -15,7 +15,7 @@ private:
     void showDay();
 };
 
-/// The screen "OPTIONS". Its controls hold what is chosen; leaving it keeps that.
+/// The screen "OPTIONS". Its controls hold the options, and leaving the screen stores them.
 class OptionsScreen : public AScreen {
 public:
     using AScreen::AScreen;

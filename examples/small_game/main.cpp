@@ -14,7 +14,7 @@ public:
 
 int main()
 {
-    // The program and the company say where settings are kept.
+    // The names of the program and the company determine where settings are stored.
     AControlsApp app("Lobster Bay", "TGX Examples", "1.0");
     Game game(640, 400, 32);
     app.mainWin = &game;

@@ -4,7 +4,7 @@
 #include "player/operation.h"
 #include "player/player.h"
 
-// What events files may call beyond the toolkit's operations.
+// The operations that events files may call in addition to the toolkit's.
 constexpr Operation ownOperations[] = {
     operation<&BayMap::getPots>("getPots"),
     operation<&BayScreen::getSortColumn>("getSortColumn"),

@@ -8,11 +8,12 @@
 
 namespace {
 
-// Rows of the line above the base line, and below it.
+// Rows of a text line above and below the base line.
 constexpr int ascent = 11;
 constexpr int descent = 3;
 
-/// One character in the bitmap distribution format, whose rows are bits, the leftmost one first.
+/// Writes one character in the bitmap distribution format. Each row is a bit pattern, the leftmost pixel
+/// first.
 void writeGlyph(std::ostream& out, const bmpfont& font, unsigned char character)
 {
     const Glyph& glyph = font.glyph(character);

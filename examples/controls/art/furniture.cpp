@@ -11,7 +11,7 @@ Canvas plain(int width, int height, Colour colour)
     return Canvas(width, height, colour);
 }
 
-/// A border strip of such pieces: a line of thickness with round corners around ground.
+/// Makes a border strip with pieces of that size: a line with round corners, filled with ground.
 Canvas frameOf(int piece, Colour rim, float thickness, Colour ground, float rounding = 4)
 {
     Canvas frame(3 * piece, 3 * piece);
@@ -70,7 +70,7 @@ Canvas dim()
     return plain(8, 8, rgb(look::ink, 0.45f));
 }
 
-// A list stretches these over its width, without their last line and column.
+// A list stretches these over its width and leaves out their last line and column.
 
 Canvas titleBand()
 {
@@ -98,8 +98,8 @@ Canvas keyPlates()
 
 Canvas keyBand(bool isChosen)
 {
-    // A highlight takes in the gaps at both sides of its cell: 16 and twice 10, and the line that is not
-    // seen.
+    // A highlight covers the gaps at both sides of its cell: 16 plus twice 10, plus the column that is left
+    // out.
     Canvas key(37, 25);
     key.fill(box(6, 1, 30, 23, 4), rgb(look::blue));
     key.fill(box(7, 2, 29, 22, 3), rgb(isChosen ? look::chosen : look::pale));

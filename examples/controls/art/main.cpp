@@ -2,7 +2,8 @@
 
 #include <cstdio>
 
-// controls_art DIR: paints the examples' pictures into the data directory DIR. The same bytes on every run.
+// controls_art DIR: paints the examples' pictures into the data directory DIR. Every run writes the same
+// bytes.
 int main(int argc, char** argv)
 {
     if (argc != 2) {
@@ -61,7 +62,7 @@ int main(int argc, char** argv)
             return 1;
         }
     }
-    // Every list box looks for its bar there.
+    // List boxes look for their scroll bar there.
     const std::string bar = directory + "UIG/scroll1.bmp", font = directory + "fonts/plain.bdf";
     if (!writeKeyedBmp(listBarStrip(), bar) || !writeFont(font)) {
         std::fprintf(stderr, "controls_art: cannot write %s or %s\n", bar.c_str(), font.c_str());

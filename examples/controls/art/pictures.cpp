@@ -9,7 +9,7 @@ Colour sky(float y, float height)
     return mix(rgb(0x9CC4DA), rgb(0xEAF2F4), clamp01(y / height));
 }
 
-/// Made for a height of 64, and painted as much larger as height says.
+/// Paints the boat, which is designed for a height of 64, scaled to height.
 Canvas boatPicture(int width, int height)
 {
     Canvas canvas(width, height);
@@ -45,7 +45,7 @@ Canvas bay()
 
 Canvas windmillStrip()
 {
-    // Four sails: a quarter of a turn leads back to the first frame.
+    // There are four sails, so a quarter of a turn leads back to the first frame.
     constexpr int frames = 6, size = 64;
     constexpr float turn = 1.5707963f / frames, hubX = 32, hubY = 26;
     Canvas strip = stripOf(frames, size, size);
@@ -73,7 +73,7 @@ Canvas windmillStrip()
 
 Canvas waveTile()
 {
-    // Runs on into itself at all sides.
+    // The pattern continues seamlessly at all sides.
     Canvas tile(16, 16, rgb(look::chosen));
     for (float y : {4.0f, 12.0f})
         for (float x = -8; x <= 24; x += 8) {
@@ -104,7 +104,7 @@ Canvas glow()
 
 Canvas rings()
 {
-    // See-through around the outer ring.
+    // Transparent around the outer ring.
     Canvas canvas(56, 56);
     canvas.fill(disc(28, 28, 26), rgb(look::amber));
     canvas.fill(disc(28, 28, 17), rgb(look::sheet));

@@ -1,6 +1,6 @@
 #include "examples/controls/art/looks.h"
 
-// What can be clicked.
+// Controls that can be clicked.
 
 namespace {
 
@@ -23,7 +23,7 @@ Tint tintOf(Look look)
     }
 }
 
-/// A plate with a thin rim that reaches to the frame's outermost pixels.
+/// Makes a plate with a thin rim that reaches the frame's outermost pixels.
 Canvas plate(Look look, int width, int height, float rounding)
 {
     Canvas frame(width, height);
@@ -40,7 +40,7 @@ Colour markColour(Look look)
     return look == Rest ? rgb(look::ink) : look == Disabled ? rgb(look::edge) : rgb(look::blue);
 }
 
-/// An arrow head around x, y that points along dx, dy.
+/// Makes an arrow head around x, y that points along dx, dy.
 Shape arrow(float x, float y, float dx, float dy)
 {
     const float size = 3.2f;
@@ -49,7 +49,7 @@ Shape arrow(float x, float y, float dx, float dy)
                     {x - size * dx + 1.5f * size * dy, y - size * dy + 1.5f * size * dx}});
 }
 
-/// A strip of the four looks.
+/// Makes a strip with a frame for each of the four states.
 template<typename PaintLook>
 Canvas stripOfLooks(int width, int height, PaintLook paintLook)
 {
@@ -59,7 +59,7 @@ Canvas stripOfLooks(int width, int height, PaintLook paintLook)
     return strip;
 }
 
-/// What a tick or a dot lies in.
+/// Makes the recess for a tick or a dot.
 Canvas well(Look look, const Shape& rim, const Shape& hole)
 {
     Canvas frame(18, 18);
@@ -79,7 +79,7 @@ Canvas openingStrip()
 {
     Canvas strip = stripOf(openingFrames + looks, 100, 28);
     for (int n = 0; n < openingFrames; ++n) {
-        // It unrolls to both sides of its middle.
+        // It unrolls from its middle to both sides.
         const int width = 12 + 88 * n / openingFrames;
         Canvas frame(100, 28);
         frame.draw(plate(Hot, width, 28, 5), (100 - width) / 2, 0);
@@ -117,7 +117,8 @@ Canvas dot()
 
 Canvas tabStrip()
 {
-    // The selected tab is as its page, and covers the page's upper edge, which runs along its last two rows.
+    // The selected tab looks like its page and covers the page's upper edge, which is at the tab's last two
+    // rows.
     constexpr int width = 84, height = 26;
     return stripOfLooks(width, height, [](Look look) {
         Canvas frame(width, height);
@@ -157,7 +158,7 @@ Canvas stepStrip(bool forwards)
 
 namespace {
 
-/// First button at rest and pressed, second button likewise, trough, lever.
+/// Makes the frames: first button at rest and pressed, second button at rest and pressed, trough, lever.
 Canvas barStrip(int width, int height, bool horizontal)
 {
     Canvas strip = stripOf(6, width, height);

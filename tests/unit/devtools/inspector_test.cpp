@@ -1,4 +1,4 @@
-// What the inspector says about the windows that are shown, and where it paints it.
+// What the inspector shows about the visible windows, and where it paints it.
 
 #include "devtools/inspected.h"
 #include "devtools/inspector.h"
@@ -66,7 +66,7 @@ protected:
     }
 };
 
-TEST_F(InspectorTest, ShownIsWhatIsDrawnLastThere)
+TEST_F(InspectorTest, TheShownWindowIsTheLastOneDrawnAtAPoint)
 {
     struct Row {
         const char* name;
@@ -76,15 +76,16 @@ TEST_F(InspectorTest, ShownIsWhatIsDrawnLastThere)
     };
     const auto nothing = [] {};
     const Row rows[] = {
-        {"the deepest one", 40, 50, nothing, "GO  AButton"},
-        {"the screen where there is nothing else", 600, 20, nothing, "MENU  ScreenSpy"},
+        {"the deepest window", 40, 50, nothing, "GO  AButton"},
+        {"the screen where there is no other window", 600, 20, nothing, "MENU  ScreenSpy"},
         {"beyond the screen", 700, 500, nothing, "none"},
-        {"one that sticks out of its parent", 260, 95, nothing, "LABEL  AWnd"},
-        {"a later window over what an earlier one holds", 40, 140, nothing, "COVER  AWnd"},
-        {"one without an id", 80, 180, [&] { wnd("COVER")->setVisible(0); }, "(no id)  AWnd"},
-        {"a disabled one", 40, 50, [&] { wnd("GO")->setEnabled(0); }, "GO  AButton"},
-        {"not a hidden one", 40, 50, [&] { wnd("GO")->setVisible(0); }, "PANEL  AWnd"},
-        {"nor what a hidden one holds", 260, 95, [&] { wnd("PANEL")->setVisible(0); }, "MENU  ScreenSpy"},
+        {"a window that extends beyond its parent", 260, 95, nothing, "LABEL  AWnd"},
+        {"a later window over the children of an earlier one", 40, 140, nothing, "COVER  AWnd"},
+        {"a window without an id", 80, 180, [&] { wnd("COVER")->setVisible(0); }, "(no id)  AWnd"},
+        {"a disabled window", 40, 50, [&] { wnd("GO")->setEnabled(0); }, "GO  AButton"},
+        {"not a hidden window", 40, 50, [&] { wnd("GO")->setVisible(0); }, "PANEL  AWnd"},
+        {"not the children of a hidden window", 260, 95, [&] { wnd("PANEL")->setVisible(0); },
+         "MENU  ScreenSpy"},
         {"nothing of a popup that is not open", 315, 315, nothing, "MENU  ScreenSpy"},
         {"a popup over the screen", 315, 315, [&] { openBox(); }, "OK  AButton"},
         {"the screen beside a popup", 600, 20, nothing, "MENU  ScreenSpy"},
@@ -116,21 +117,21 @@ TEST_F(InspectorTest, DescribesAWindow)
                      "bitmap\tstrip.bmp, frame 2", "made by\tno script"}));
 }
 
-TEST_F(InspectorTest, TellsWhyInputDoesNotCome)
+TEST_F(InspectorTest, ShowsWhyAWindowGetsNoInput)
 {
     struct Row {
         const char* name;
         const char* id;
         std::function<void()> given;
-        Texts lines; // behind the line that made it
+        Texts lines; // after the line "made by"
     };
     const Row rows[] = {
-        {"it lies outside of its parent there",
+        {"it is outside its parent there",
          "LABEL",
          [&] { wnd("PANEL")->setWndPos(20, 30, 100, 200); },
          {"input\tgoes to \"MENU\""}},
         {"it is covered", "PICTURE", [] {}, {"input\tgoes to \"COVER\""}},
-        {"the popup has it", "GO", [&] { openBox(); }, {"input\tgoes to \"BOX\""}},
+        {"a popup gets it", "GO", [&] { openBox(); }, {"input\tgoes to \"BOX\""}},
         {"a change of screens is under way",
          "OK",
          [&] { win().changeScreen("MENU", 0, 0, "script.tgx"); },
@@ -145,7 +146,7 @@ TEST_F(InspectorTest, TellsWhyInputDoesNotCome)
     }
 }
 
-TEST_F(InspectorTest, TellsStatesThatAnAuthorLooksFor)
+TEST_F(InspectorTest, ShowsStatesThatAnAuthorLooksFor)
 {
     const auto has = [&](const std::string& id, const std::string& line) {
         const Texts lines = describe(id);
@@ -154,13 +155,13 @@ TEST_F(InspectorTest, TellsStatesThatAnAuthorLooksFor)
     wnd("PANEL")->setEnabled(0);
     wnd("PICTURE")->deleteBmp();
     wnd("COVER")->setShrinkAnimation(ZnFixed::fromInt(1));
-    EXPECT_TRUE(has("GO", "state\tis disabled with \"PANEL\", which it lies in"));
+    EXPECT_TRUE(has("GO", "state\tis disabled because \"PANEL\" is disabled"));
     EXPECT_TRUE(has("PANEL", "state\tis disabled"));
     EXPECT_TRUE(has("PICTURE", "bitmap\tstrip.bmp, not loaded"));
     EXPECT_TRUE(has("COVER", "state\tis moving"));
 }
 
-TEST_F(InspectorTest, ShortensWhatIsLong)
+TEST_F(InspectorTest, ShortensLongPathsAndTexts)
 {
     AWnd* deepest = wnd("PANEL");
     for (int i = 0; i < 20; ++i)
@@ -174,10 +175,11 @@ TEST_F(InspectorTest, ShortensWhatIsLong)
     EXPECT_EQ(lines[2], "    D13  AWnd");
     EXPECT_EQ(lines[8], "                D19  AWnd");
     EXPECT_EQ(lines[11], "text\t\"" + std::string(80, 'x') + "\"...");
-    EXPECT_EQ(lines[13], "made by\t..." + std::string(27, '/') + "menu.tgs:1234") << "the line is seen";
+    EXPECT_EQ(lines[13], "made by\t..." + std::string(27, '/') + "menu.tgs:1234")
+        << "the line number is visible";
 }
 
-TEST_F(InspectorTest, CountsWindowsAndIdsThatSeveralHave)
+TEST_F(InspectorTest, CountsWindowsAndDuplicateIds)
 {
     start(R"(
       SCREEN "MENU" 0 0 640 480 ""
@@ -219,20 +221,20 @@ TEST_F(InspectorTest, CountsWindowsAndIdsThatSeveralHave)
                            "id MENU\t2 times: in ScreenList, in PANEL"};
     EXPECT_EQ(textsOf(describeCensus(takeCensus(win()))), screenOnly);
 
-    // A box has ids of its own; what is hidden is found by its id all the same.
+    // A box has its own ids; hidden windows can still be found by their id.
     openBox();
     wnd("PANEL")->setVisible(0);
     EXPECT_EQ(textsOf(describeCensus(takeCensus(win()))),
               (Texts{"screens, popups\t2", "buttons\t5", "edit boxes\t1", "lists, combos\t1", "hidden\t5",
                      "id GO\t2 times: in MENU, in PANEL", "id MENU\t2 times: in ScreenList, in PANEL"}));
 
-    // In one place twice they are found there, whatever they are called.
+    // Two siblings with the same id are duplicates, even with the id of a control's part.
     wnd("KEEP")->addChildWindow(new AWnd(AWnd::WND_PLAIN, "checkboxstate", 0, 0, 5, 5));
     EXPECT_EQ(textsOf(describeCensus(takeCensus(win()))).at(6),
               "id CheckboxState\t2 times: in KEEP, in KEEP");
 }
 
-TEST_F(InspectorTest, AWindowThatIsShownInTwoPlacesIsOne)
+TEST_F(InspectorTest, AWindowThatIsShownInTwoPlacesIsCountedOnce)
 {
     start(R"(
       WINDOW "SHARED" 0 0 50 50
@@ -254,13 +256,13 @@ TEST_F(InspectorTest, AWindowThatIsShownInTwoPlacesIsOne)
     ASSERT_EQ(wnd("B")->getWnd("PART", 1), wnd("A")->getWnd("PART", 1));
     EXPECT_EQ(textsOf(describeCensus(takeCensus(win()))),
               (Texts{"screens, popups\t1", "plain\t3", "buttons\t1", "hidden\t0"}));
-    // Also one that lies on the screen and is open as a popup.
+    // The same for one that is on the screen and is open as a popup.
     win().setPopupWnd(wnd("A"), screen("MENU"), 0);
     EXPECT_EQ(textsOf(describeCensus(takeCensus(win()))),
               (Texts{"screens, popups\t2", "plain\t2", "buttons\t1", "hidden\t0"}));
 }
 
-/// Paints as the host would show it.
+/// Paints the picture that the host would show.
 class PaintingTest : public InspectorTest {
 protected:
     const Image& paint(int settings)
@@ -280,7 +282,7 @@ protected:
     Overlay overlay;
 };
 
-TEST_F(PaintingTest, OutlinesLieWhereTheWindowsAre)
+TEST_F(PaintingTest, OutlinesAreAtTheEdgesOfTheWindows)
 {
     play("move 40 140", "frame 1"); // COVER
     const struct {
@@ -288,14 +290,14 @@ TEST_F(PaintingTest, OutlinesLieWhereTheWindowsAre)
         int settings, x, y;
         std::uint32_t colour;
     } rows[] = {
-        {"top left corner of the pointed one", 1, 20, 130, pointedColour},
-        {"its bottom right corner", 1, 219, 229, pointedColour},
+        {"top left corner of the window under the pointer", 1, 20, 130, hoveredColour},
+        {"its bottom right corner", 1, 219, 229, hoveredColour},
         {"inside", 1, 100, 200, 0x305070},
-        {"another one is not outlined", 1, 109, 60, 0x305070},
-        {"but with all of them: a button", 2, 109, 60, outlineColour(WindowKind::Button)},
-        {"a plain one that hangs over its parent", 2, 269, 95, outlineColour(WindowKind::Plain)},
-        {"none of a popup that is not open", 2, 300, 300, 0x305070},
-        {"the third time it is off", 3, 20, 130, 0x305070},
+        {"another window is not outlined", 1, 109, 60, 0x305070},
+        {"with all windows: a button", 2, 109, 60, outlineColour(WindowKind::Button)},
+        {"a plain window that extends beyond its parent", 2, 269, 95, outlineColour(WindowKind::Plain)},
+        {"not a popup that is not open", 2, 300, 300, 0x305070},
+        {"the third setting is off", 3, 20, 130, 0x305070},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -306,7 +308,7 @@ TEST_F(PaintingTest, OutlinesLieWhereTheWindowsAre)
     EXPECT_EQ(painted(2, 109, 60), duplicateColour);
 }
 
-TEST_F(PaintingTest, LeavesTheGameAsItIs)
+TEST_F(PaintingTest, DoesNotChangeTheGame)
 {
     play("move 40 50", "frame 3");
     const Trace drawn = frameDrawn();
@@ -319,9 +321,9 @@ TEST_F(PaintingTest, LeavesTheGameAsItIs)
     EXPECT_EQ(shown(600, 300), painted(3, 600, 300));
 }
 
-TEST_F(PaintingTest, ThePanelLiesAwayFromThePointer)
+TEST_F(PaintingTest, ThePanelIsInTheHalfWithoutThePointer)
 {
-    // Its ground at the edge of the bottom panel, which has the same place on both sides.
+    // Points inside the bottom panel, which has the same height on both sides.
     play("move 40 400", "frame 1");
     EXPECT_NE(painted(1, 630, 470), 0x305070u);
     EXPECT_EQ(painted(1, 9, 470), 0x305070u);
@@ -330,7 +332,7 @@ TEST_F(PaintingTest, ThePanelLiesAwayFromThePointer)
     EXPECT_NE(painted(1, 9, 470), 0x305070u);
 }
 
-TEST_F(PaintingTest, WindowsBeyondTheScreenAndABareScreenAreNoTrouble)
+TEST_F(PaintingTest, CopesWithWindowsBeyondTheScreenAndAnEmptyTree)
 {
     wnd("PANEL")->setWndPos(-32000, 32000, 32767, 32767);
     wnd("COVER")->setWndPos(600, 440, 0, 32767);
@@ -348,7 +350,7 @@ TEST(InspectorTexts, CostAndKeys)
                      "changed\t45,678 pixels, 14.9 %"}));
     EXPECT_EQ(textsOf(describeCost({}, 0)).back(), "changed\t0 pixels, 0.0 %");
     EXPECT_EQ(describeKeys({}),
-              "F12 inspector \xB7 F11 whole screen \xB7 F10 picture \xB7 F9 record \xB7 F8 screens");
+              "F12 inspector \xB7 F11 full screen \xB7 F10 picture \xB7 F9 record \xB7 F8 screens");
     DevToolsOptions keys;
     keys.inspectorKey = 'I';
     keys.fullScreenKey = 0;

@@ -18,7 +18,7 @@ protected:
         overlay.begin(*screen);
     }
     std::uint32_t at(int x, int y) const { return overlay.getPicture().row(y)[x]; }
-    /// Of all pixels of the screen.
+    /// Returns how many pixels of the screen have changed.
     int changed() const
     {
         int count = 0;
@@ -32,7 +32,7 @@ protected:
     Overlay overlay;
 };
 
-TEST_F(OverlayTest, FillsAndOutlinesWhatLiesOnTheScreen)
+TEST_F(OverlayTest, FillsAndOutlinesThePartOfABoxThatIsOnTheScreen)
 {
     const struct {
         const char* name;
@@ -44,7 +44,7 @@ TEST_F(OverlayTest, FillsAndOutlinesWhatLiesOnTheScreen)
         {"over all edges", {-1, -1, 321, 201}, 320 * 200, 0},
         {"one pixel", {319, 199, 320, 200}, 1, 1},
         {"empty", {10, 10, 10, 20}, 0, 0},
-        {"the wrong way round", {20, 20, 10, 10}, 0, 0},
+        {"with edges in the wrong order", {20, 20, 10, 10}, 0, 0},
         {"beyond the screen", {400, 400, 500, 500}, 0, 0},
     };
     for (const auto& row : rows) {
@@ -61,7 +61,7 @@ TEST_F(OverlayTest, FillsAndOutlinesWhatLiesOnTheScreen)
     EXPECT_EQ(at(0, 0), 0xFF8F2030u);
 }
 
-TEST_F(OverlayTest, TextHasItsColourAndGrowsWithTheScreen)
+TEST_F(OverlayTest, TextHasItsColourAndIsLargerOnALargeScreen)
 {
     overlay.text(10, 10, "I", 0x123456);
     const int small = changed();
@@ -90,7 +90,7 @@ TEST_F(OverlayTest, CutsLinesThatAreTooLong)
     EXPECT_EQ(overlay.fitted(line, 0), "...");
 }
 
-TEST_F(OverlayTest, PanelsStayInTheirRoom)
+TEST_F(OverlayTest, PanelsStayInsideTheirRoom)
 {
     const std::vector<PanelLine> few{{"id\tGO"}, {"two"}};
     const std::vector<PanelLine> many(50, PanelLine{std::string(200, 'W') + '\t' + std::string(200, 'W')});
@@ -115,7 +115,7 @@ TEST_F(OverlayTest, PanelsStayInTheirRoom)
         const int within = changed();
         overlay.fill(box, ground & 0xFFFFFF);
         EXPECT_GT(within, 0);
-        EXPECT_EQ(changed(), 0) << "pixels outside of the panel";
+        EXPECT_EQ(changed(), 0) << "pixels outside the panel";
     }
     overlay.begin(*screen);
     EXPECT_TRUE(paintPanel(overlay, {}, Corner::TopLeft).isEmpty());

@@ -9,7 +9,7 @@
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/controls/scrollbar.h"
 
-/// Shows the recorder each tick.
+/// A host that passes each tick to a recorder.
 class ListeningHost : public HeadlessHost {
 public:
     void tickBegins(ddwin&, bool takesInput) override
@@ -20,7 +20,7 @@ public:
     std::optional<Recorder> recorder;
 };
 
-/// What a run has led to: clicks in order, and all that the tree holds but the pointer's pixel.
+/// The result of a run: clicks in order, and the tree without the pointer's position.
 struct Outcome {
     std::vector<std::string> clicks;
     std::vector<std::string> popupClicks;
@@ -37,7 +37,8 @@ inline std::ostream& operator<<(std::ostream& out, const Outcome& outcome)
     return out << '\n' << outcome.tree;
 }
 
-/// A person uses an interface with a recorder beside it; the recording is then played on a fresh one.
+/// A simulated user uses an interface while a recorder runs; the recording is then played on a fresh
+/// interface.
 class RecorderTest : public TgxTest {
 protected:
     RecorderTest()
@@ -100,7 +101,7 @@ END
         answered = 0;
         win().duringFrame = [this] { answerClicks(); };
     }
-    /// The game.
+    /// The game's reactions to clicks.
     void answerClicks()
     {
         for (; answered < win().clicks.size(); ++answered) {
@@ -114,7 +115,7 @@ END
         }
     }
 
-    /// Begins to record, a second behind the start or where the test has come to since.
+    /// Begins to record at the present state.
     void record()
     {
         auto made = std::make_unique<ListeningHost>();
@@ -131,18 +132,19 @@ END
         listening = nullptr;
     }
 
-    /// What the person does, divided by ";": input as events have it, and a number of ticks that pass.
-    void person(const std::string& doings)
+    /// Carries out the user's actions, separated by ";": input as in events lines, or a number of ticks to
+    /// wait.
+    void doAsUser(const std::string& actions)
     {
-        std::istringstream all(doings);
-        for (std::string doing; std::getline(all, doing, ';');)
-            if (!doing.empty())
-                act(doing);
+        std::istringstream all(actions);
+        for (std::string action; std::getline(all, action, ';');)
+            if (!action.empty())
+                act(action);
     }
-    void act(const std::string& doing)
+    void act(const std::string& action)
     {
         InputQueue& input = listening->input();
-        std::istringstream words(doing);
+        std::istringstream words(action);
         std::string what;
         std::string which;
         int x = 0;
@@ -158,7 +160,7 @@ END
             input.doubleClick(button(words));
         else if (what == "wheel" && words >> which)
             input.wheel(which == "up");
-        else if (what == "down" && words >> x) // a key with its hold, as the window has it
+        else if (what == "down" && words >> x) // a hold and its key, in the order of a real window
             input.holdInTurn(static_cast<std::uint8_t>(x), true), type(input, x, words);
         else if (what == "key" && words >> x)
             type(input, x, words);
@@ -177,7 +179,7 @@ END
                : name == "middle" ? MouseButton::Middle
                                   : MouseButton::Left;
     }
-    /// The code's character follows, as a number.
+    /// Queues a key. The next word is its character, as a number.
     static void type(InputQueue& input, int code, std::istringstream& words)
     {
         int character = 0;
@@ -189,13 +191,13 @@ END
         for (; ticks > 0; --ticks) {
             win().runTick();
             advanceVirtualTime(17);
-            if (ticks % ticksAFrame == 0)
+            if (ticks % ticksPerFrame == 0)
                 win().runFrame();
         }
     }
 
     std::string events() { return listening->recorder->events(); }
-    /// The lines behind the heading and the opening.
+    /// Returns the lines after the heading and the opening.
     std::string lines()
     {
         const std::string text = events();
@@ -208,7 +210,7 @@ END
         const std::size_t from = tree.find("\"pointer\"");
         return {win().clicks, win().popupClicks, tree.erase(from, tree.find("\"root\"") - from)};
     }
-    /// What a person sees of it.
+    /// Returns what a user can see of the state.
     std::string values()
     {
         std::string all;
@@ -223,8 +225,8 @@ END
         all += " on " + win().getActiveScreen()->getID().str();
         return all + (win().getPopupWnd(0) ? " in " + win().getPopupWnd(0)->getID().str() : "");
     }
-    /// Plays the recording on a fresh interface.
-    Outcome played()
+    /// Plays the recording on a fresh interface and returns the outcome.
+    Outcome playBack()
     {
         const std::string text = events();
         stopListening();
@@ -238,5 +240,5 @@ END
     std::unique_ptr<displayhost> host; // the player's
     ListeningHost* listening = nullptr;
     std::size_t answered = 0;
-    int ticksAFrame = 1;
+    int ticksPerFrame = 1;
 };

@@ -20,26 +20,27 @@
 
 namespace {
 
-/// Enough for a look at the files, and for screens to open one behind the other.
+/// Long enough for a check of the files, and for screens to open one after the other.
 constexpr const char* aWhile = "frame 40";
 
 class ReloadTest : public TgxTest {
 protected:
     ~ReloadTest() override { tools.reset(); }
 
-    /// UIG/name in text form, as an author saves it.
+    /// Saves UIG/name in text form, as an author would.
     void save(const std::string& text, const std::string& name = "script.tgs")
     {
         write("UIG/" + name, text);
         isNewer("UIG/" + name);
     }
-    /// Two writes within a moment may bear one time: this one is a second behind all before it.
+    /// Sets a file time that is a second later than all before, because two quick writes may get the same
+    /// time.
     void isNewer(const std::string& name)
     {
         std::filesystem::last_write_time(data / name, time += std::chrono::seconds(1));
     }
 
-    /// Starts on a compiled script and lets the devtools find the text.
+    /// Starts with a compiled script and lets the devtools find the text.
     void startWithTools(const std::string& text)
     {
         start("SCREEN \"FIRST\" 0 0 640 480 \"\"");
@@ -58,13 +59,13 @@ protected:
             all += each + '\n';
         return all;
     }
-    bool isTold(const std::string& notice) const
+    bool hasNotice(const std::string& notice) const
     {
-        const std::vector<std::string> told = tools->getNotices().getNotices();
-        return std::find(told.begin(), told.end(), notice) != told.end();
+        const std::vector<std::string> notices = tools->getNotices().getNotices();
+        return std::find(notices.begin(), notices.end(), notice) != notices.end();
     }
     std::string textOf(const std::string& id) { return wnd(id)->getWindowText(); }
-    /// As messages name it, shorter below the working directory.
+    /// Returns the path of a file in UIG as messages write it, relative if it is below the working directory.
     std::string inUig(const std::string& text) const
     {
         const std::filesystem::path folder = std::filesystem::proximate(data / "UIG");
@@ -88,7 +89,7 @@ BEGIN
 END
 )";
 
-TEST_F(ReloadTest, ATextStandsInForTheCompiledScript)
+TEST_F(ReloadTest, ATextReplacesTheCompiledScript)
 {
     startWithTools(note);
     EXPECT_EQ(textOf("NOTE"), "before");
@@ -101,7 +102,7 @@ TEST_F(ReloadTest, ATextStandsInForTheCompiledScript)
     EXPECT_EQ(tools->getOrigins().placeOf(*wnd("NOTE")), inUig("script.tgs:4"));
 }
 
-TEST_F(ReloadTest, AFaultyTextLeavesTheInterfaceAsItIs)
+TEST_F(ReloadTest, ATextWithAnErrorDoesNotChangeTheInterface)
 {
     startWithTools(note);
     saveAndWait(
@@ -113,7 +114,7 @@ TEST_F(ReloadTest, AFaultyTextLeavesTheInterfaceAsItIs)
     EXPECT_EQ(faults(), "");
 }
 
-TEST_F(ReloadTest, OneFaultyTextDoesNotHoldUpTheOthers)
+TEST_F(ReloadTest, ATextWithAnErrorDoesNotBlockTheOthers)
 {
     startWithTools("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    GOTO \"PART\" \"part.tgx\"\nEND\n");
     save("SUBROUTINE \"PART\"\nTEXTWND \"NOTE\" 0 0 90 20 \"one\"\n", "part.tgs");
@@ -123,7 +124,7 @@ TEST_F(ReloadTest, OneFaultyTextDoesNotHoldUpTheOthers)
     EXPECT_EQ(faults(), inUig("unused.tgs:1:1: error: unknown keyword BUTTOM; did you mean BUTTON?\n"));
     save("SUBROUTINE \"PART\"\nTEXTWMD \"NOTE\" 0 0 90 20 \"two\"\n", "part.tgs");
     saveAndWait("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    GOTO \"PART\" \"part.tgx\"\nEND\n");
-    EXPECT_EQ(textOf("NOTE"), "one") << "the last good form of it";
+    EXPECT_EQ(textOf("NOTE"), "one") << "the last good form of the script";
 }
 
 TEST_F(ReloadTest, AnEditorMayEmptyOrReplaceTheFileFirst)
@@ -144,7 +145,7 @@ TEST_F(ReloadTest, AnEditorMayEmptyOrReplaceTheFileFirst)
     EXPECT_EQ(faults(), "");
 }
 
-TEST_F(ReloadTest, AMissingPictureStaysAFault)
+TEST_F(ReloadTest, AMissingPictureRemainsAFault)
 {
     startWithTools(
         "SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    BITMAP \"PLATE\" 0 0 20 20 \"plate.bmp\"\nEND\n");
@@ -152,7 +153,8 @@ TEST_F(ReloadTest, AMissingPictureStaysAFault)
     bitmap("other.bmp", 20, 20, 0xFF0000);
     isNewer("other.bmp");
     play(aWhile);
-    EXPECT_EQ(faults(), inUig("script.tgs:3: cannot load plate.bmp\n")) << "nobody asked for that one";
+    EXPECT_EQ(faults(), inUig("script.tgs:3: cannot load plate.bmp\n"))
+        << "the game has not requested that picture";
     bitmap("plate.bmp", 20, 20, 0xFF0000);
     isNewer("plate.bmp");
     play(aWhile);
@@ -188,7 +190,7 @@ TEST_F(ReloadTest, ALineMayDeleteTheWindowOfItsBlock)
     EXPECT_EQ(faults(), inUig("script.tgs:5: USERDEF failed\n"));
 }
 
-TEST_F(ReloadTest, ASideMapTellsTheLinesOfACompiledScript)
+TEST_F(ReloadTest, AMapGivesTheLinesOfACompiledScript)
 {
     start("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\nTEXTWND \"NOTE\" 10 10 200 20 \"x\"\nEND");
     write("UIG/script.tgx.map", "0 7 menu.tgs\n22 8 menu.tgs\n24 12 parts/notes.tgs\n47 9 menu.tgs\n");
@@ -207,10 +209,10 @@ TEST_F(ReloadTest, ASideMapTellsTheLinesOfACompiledScript)
     isNewer("UIG/script.tgx");
     play(aWhile);
     EXPECT_EQ(tools->getOrigins().placeOf(*wnd("MENU")), "script.tgx, byte 0")
-        << "the map is of another script";
+        << "the map is older than the script";
 }
 
-TEST_F(ReloadTest, APictureThatChangesIsReadAgain)
+TEST_F(ReloadTest, AChangedPictureIsReloaded)
 {
     bitmap("plate.bmp", 20, 20, 0xFF0000);
     isNewer("plate.bmp");
@@ -270,7 +272,7 @@ BEGIN
 END
 )";
 
-TEST_F(ReloadTest, WhatWasChosenAndTypedComesBack)
+TEST_F(ReloadTest, SelectionsAndTypedTextAreRestored)
 {
     startWithTools(everything);
     play("change FORM", "frame 10");
@@ -298,13 +300,13 @@ TEST_F(ReloadTest, WhatWasChosenAndTypedComesBack)
     saveAndWait(changed);
 
     EXPECT_STREQ(win().getActiveScreen()->getID(), "FORM");
-    EXPECT_STREQ(win().getActiveScreen()->getCaller(), "MENU") << "there is a way back";
+    EXPECT_STREQ(win().getActiveScreen()->getCaller(), "MENU") << "the user can go back";
     EXPECT_EQ(control<AButton>("TICK").getSelected(), 1);
     EXPECT_EQ(control<AButton>("UNTOUCHED").getSelected(), 0);
     EXPECT_EQ(control<ARadioButton>("TWO").getSelected(), 1);
     EXPECT_EQ(control<ARadioButton>("ONE").getSelected(), 0);
-    EXPECT_EQ(textOf("NAME"), "Ann") << "what was typed counts for more than the new script";
-    EXPECT_EQ(textOf("HOME"), "harbour") << "nobody has typed here";
+    EXPECT_EQ(textOf("NAME"), "Ann") << "typed text takes precedence over the new script";
+    EXPECT_EQ(textOf("HOME"), "harbour") << "nothing was typed here";
     EXPECT_EQ(control<AScrollBar>("BAR").getPercentage(), ZnFixed::fromInt(40));
     EXPECT_EQ(control<AComboBox>("GOODS").getSelectedItem(), 2);
     EXPECT_EQ(textOf("GOODS"), "rum");
@@ -318,7 +320,7 @@ TEST_F(ReloadTest, WhatWasChosenAndTypedComesBack)
     EXPECT_EQ(win().mouseY, 88);
 }
 
-TEST_F(ReloadTest, ScreensBehindTheActiveOneKeepWhatWasTypedToo)
+TEST_F(ReloadTest, SuspendedScreensKeepTypedTextToo)
 {
     startWithTools(everything);
     play("change FORM", "frame 10");
@@ -331,17 +333,17 @@ TEST_F(ReloadTest, ScreensBehindTheActiveOneKeepWhatWasTypedToo)
     EXPECT_EQ(textOf("NAME"), "Ann");
 }
 
-TEST_F(ReloadTest, AScreenThatIsGoneIsSaidSo)
+TEST_F(ReloadTest, AScreenThatNoLongerExistsIsReported)
 {
     startWithTools(everything);
     play("change FORM", "frame 10");
     saveAndWait(note);
-    EXPECT_TRUE(isTold("the screen FORM did not come back"));
+    EXPECT_TRUE(hasNotice("the screen FORM could not be opened again"));
     EXPECT_STREQ(win().getActiveScreen()->getID(), "MENU");
     EXPECT_EQ(textOf("NOTE"), "before");
 }
 
-TEST_F(ReloadTest, FontsBeginAnew)
+TEST_F(ReloadTest, FontsAreReplacedAndNotAppended)
 {
     startWithTools("ADDFONT \"none.ttf\" \"\" 20\n" + std::string(note));
     EXPECT_EQ(win().getFontCount(), 2);
@@ -366,16 +368,16 @@ TEST_F(ReloadTest, TheKeysOfTheDevtoolsDoNotReachTheGame)
     for (int y = 0; y < picture->height; ++y)
         for (int x = 0; x < picture->width; ++x)
             ASSERT_EQ(picture->row(y)[x], screen->row(y)[x])
-                << "the inspector is in no picture: " << x << ", " << y;
+                << "the inspector is not in the picture: " << x << ", " << y;
     std::ifstream recording(data / "recording-1.events");
     const std::string events{std::istreambuf_iterator<char>(recording), {}};
     EXPECT_NE(events.find("\nkey a\n"), std::string::npos) << events;
-    EXPECT_EQ(win().fullScreen, 0) << "it began on the whole screen";
+    EXPECT_EQ(win().fullScreen, 0) << "it began in full screen";
     tools.reset();
-    EXPECT_EQ(win().fullScreen, 1) << "the game's own setting is back";
+    EXPECT_EQ(win().fullScreen, 1) << "the game's own setting is restored";
 }
 
-TEST_F(ReloadTest, TheListOfScreensGoesToAScreenOfAnyScript)
+TEST_F(ReloadTest, TheListOfScreensOpensAScreenOfAnyScript)
 {
     save("SCREEN \"CELLAR\" 0 0 640 480 \"\"\n", "cellar.tgs");
     startWithTools("SCREEN \"HALL\" 0 0 640 480 \"\"\nSCREEN \"LOFT\" 0 0 640 480 \"\"\n"
@@ -386,11 +388,11 @@ TEST_F(ReloadTest, TheListOfScreensGoesToAScreenOfAnyScript)
         const char* screen;
     } rows[] = {
         {"the list begins on the active screen", {VK_F8, VK_RETURN}, "HALL"},
-        {"the next one of the same script", {VK_F8, VK_DOWN, VK_RETURN}, "LOFT"},
-        {"one of another script, which has not been read yet", {VK_F8, VK_END, VK_RETURN}, "CELLAR"},
-        {"the letter that its name begins with", {VK_F8, 'L', VK_RETURN}, "LOFT"},
-        {"a letter that none begins with", {VK_F8, 'X', VK_HOME, VK_RETURN}, "HALL"},
-        {"closed without a choice", {VK_F8, VK_DOWN, VK_ESCAPE}, "HALL"},
+        {"the next screen of the same script", {VK_F8, VK_DOWN, VK_RETURN}, "LOFT"},
+        {"a screen of another script, which has not been read yet", {VK_F8, VK_END, VK_RETURN}, "CELLAR"},
+        {"the first letter of a name", {VK_F8, 'L', VK_RETURN}, "LOFT"},
+        {"a letter with which no name begins", {VK_F8, 'X', VK_HOME, VK_RETURN}, "HALL"},
+        {"closed without a selection", {VK_F8, VK_DOWN, VK_ESCAPE}, "HALL"},
     };
     bool reachedGame = false;
     win().duringFrame = [&] { reachedGame = reachedGame || win().keyCode != 0; };
@@ -402,7 +404,7 @@ TEST_F(ReloadTest, TheListOfScreensGoesToAScreenOfAnyScript)
         ASSERT_TRUE(win().getActiveScreen());
         EXPECT_STREQ(win().getActiveScreen()->getID(), row.screen);
     }
-    EXPECT_FALSE(reachedGame) << "keys go to the open list alone";
+    EXPECT_FALSE(reachedGame) << "keys only go to the open list";
 }
 
 } // namespace

@@ -20,7 +20,7 @@ public:
     ZnFixed keep(ZnFixed value) { return value; }
     const char* choice() const { return chosen; }
     unsigned char narrow(unsigned char value) { return value; }
-    int getWindowCount() const { return 99; } // hides the base's
+    int getWindowCount() const { return 99; } // hides that of the base
 
 private:
     const char* chosen = nullptr;
@@ -63,7 +63,7 @@ TEST_F(CallsTest, ArgumentsAndResultsOfEachKind)
         const char* value;
     } rows[] = {
         {"BOX left", "10"},
-        {"box left", "10"}, // lookups ignore case
+        {"box left", "10"}, // look-ups ignore case
         {"BOX setWndPos -5 0x10 -1 +40", "null"},
         {"BOX wndY", "16"},
         {"BOX getWndWidth", "100"},
@@ -80,7 +80,7 @@ TEST_F(CallsTest, ArgumentsAndResultsOfEachKind)
         {"BOX getText", R"("17")"},
         {"BOX setWindowText \"017\"", "null"},
         {"BOX getText", R"("017")"},
-        {"BOX setWindowText 1.5", "null"}, // fits no number here
+        {"BOX setWindowText 1.5", "null"}, // not a raw number, so it is text
         {"BOX getText", R"("1.5")"},
         {"BOX setWindowText null", "null"},
         {"BOX getText", R"("null")"},
@@ -90,7 +90,7 @@ TEST_F(CallsTest, ArgumentsAndResultsOfEachKind)
         {"BOX setTextJustify 2", "null"},
         {"BOX getTextJustify", "2"},
         {"MENU getWndOfType 0 1 0", R"("DIAL")"},
-        {"main setMousePosOnWnd 12 0", "1"}, // a number names a window where a window is meant
+        {"main setMousePosOnWnd 12 0", "1"}, // a number is an id where a window is expected
         {"main getMouseCaptureWnd 0", R"("MENU")"},
         {"main setMouseCaptureWnd BOX", "null"},
         {"main getMouseCaptureWnd 0", R"("BOX")"},
@@ -105,7 +105,7 @@ TEST_F(CallsTest, ArgumentsAndResultsOfEachKind)
         {"DIAL choice", R"("int")"},
         {"DIAL overloaded 5.0", "null"},
         {"DIAL choice", R"("fixed")"},
-        {"DIAL overloaded 3000000000", "null"}, // outside both numbers
+        {"DIAL overloaded 3000000000", "null"}, // too large for int and for fixed point
         {"DIAL choice", R"("text")"},
         {"DIAL overloaded \"5\"", "null"},
         {"DIAL choice", R"("text")"},
@@ -113,18 +113,18 @@ TEST_F(CallsTest, ArgumentsAndResultsOfEachKind)
         {"DIAL choice", R"("text")"},
         {"DIAL keep 4096", "4096"},
         {"DIAL keep 12.5", "51200"},
-        {"DIAL keep -0.0003", "-1"}, // -1.2288 raw, cut towards zero
+        {"DIAL keep -0.0003", "-1"}, // -1.2288 raw, truncated towards zero
         {"DIAL keep 0.00024", "0"},
         {"DIAL keep .5", "2048"},
         {"DIAL keep 524287.99999", "2147483647"},
         {"DIAL narrow 255", "255"},
-        {"DIAL getWindowCount", "99"}, // the class's own, not its base's
+        {"DIAL getWindowCount", "99"}, // the class's own, not that of its base
     };
     for (const auto& row : rows)
         EXPECT_EQ(call(row.call), row.value) << row.call;
 }
 
-TEST_F(CallsTest, WhatCannotBeCalledSaysWhy)
+TEST_F(CallsTest, AWrongCallIsRefusedWithTheReason)
 {
     const struct {
         const char* line;
@@ -132,9 +132,9 @@ TEST_F(CallsTest, WhatCannotBeCalledSaysWhy)
     } rows[] = {
         {"call OKAY left", "no window \"OKAY\"; the screen \"MENU\" has BOX, 12 and DIAL"},
         {"call \"\" left", "no window \"\"; the screen \"MENU\" has BOX, 12 and DIAL"},
-        {"call BOX", "expected call TARGET OPERATION ARG ..., found 1 word behind call"},
+        {"call BOX", "expected call TARGET OPERATION ARG ..., found 1 word after call"},
         {"call BOX lefft", "\"BOX\" has no operation \"lefft\"; did you mean left?"},
-        {"call BOX isOpen", "\"BOX\" has no operation \"isOpen\""}, // it is no screen
+        {"call BOX isOpen", "\"BOX\" has no operation \"isOpen\""}, // only screens have it
         {"call main left", "\"main\" has no operation \"left\""},
         {"call BOX measure 3", "\"BOX\" has no operation \"measure\""},
         {"call BOX screenWipe", "\"BOX\" has no operation \"screenWipe\""},
@@ -157,22 +157,22 @@ TEST_F(CallsTest, WhatCannotBeCalledSaysWhy)
     };
     for (const auto& row : rows)
         EXPECT_EQ(playWrong(row.line), row.reason) << row.line;
-    EXPECT_EQ(out.str(), "") << "a wrong line writes no value";
+    EXPECT_EQ(out.str(), "") << "a wrong line prints no value";
 }
 
-TEST_F(CallsTest, NullWithoutQuotesIsNoText)
+TEST_F(CallsTest, NullWithoutQuotesIsANullPointerAndNotText)
 {
     bitmap("b.bmp", 8, 8);
     call("BOX setBmp \"b.bmp\"");
     ASSERT_NE(wnd("BOX")->getBmp(), nullptr);
     call("BOX setBmp null");
     EXPECT_EQ(wnd("BOX")->getBmp(), nullptr);
-    EXPECT_EQ(call("BOX getBmpFilename"), R"("b.bmp")") << "the name stays";
+    EXPECT_EQ(call("BOX getBmpFilename"), R"("b.bmp")") << "the name is kept";
     expectMessage("cannot load null");
     call("BOX setBmp \"null\"");
 }
 
-TEST_F(CallsTest, AnEmptyIdIsTheFirstWindowWithoutOne)
+TEST_F(CallsTest, AnEmptyIdFindsTheFirstWindowWithoutAnId)
 {
     wnd("MENU")->addChildWindow(new AWnd(AWnd::WND_PLAIN, "static", 77, 0, 5, 5));
     EXPECT_EQ(call("\"\" left"), "77");

@@ -18,7 +18,7 @@ END
 
 class EventsTest : public TgxTest {
 protected:
-    /// "left 1, count 2": the input fields that are not 0.
+    /// Returns the input fields that are not 0: "ldown 1 count 2".
     std::string input()
     {
         std::ostringstream text;
@@ -37,7 +37,7 @@ protected:
     }
 };
 
-TEST_F(EventsTest, ALineThatIsWrongSaysWhy)
+TEST_F(EventsTest, AWrongLineIsRefusedWithTheReason)
 {
     start(menu);
     const struct {
@@ -49,15 +49,15 @@ TEST_F(EventsTest, ALineThatIsWrongSaysWhy)
          "no event \"jump\"; events are frame, tick, draw, move, press, release, doubleclick, wheel, key, "
          "type, hold, lift, change, exit, click, hover, row, wait, expect, include, test, call, shot, tree, "
          "trace and fonts"},
-        {"frame 1 2", "expected frame [N], found 2 words behind frame"},
+        {"frame 1 2", "expected frame [N], found 2 words after frame"},
         {"frame \"3\"", "expected a number from 0 to 2147483647, found \"3\""},
         {"frame -1", "expected a number from 0 to 2147483647, found \"-1\""},
         {"frame --1", "expected a number from 0 to 2147483647, found \"--1\""},
-        {"move 5", "expected move X Y or move to ID [X Y], found 1 word behind move"},
+        {"move 5", "expected move X Y or move to ID [X Y], found 1 word after move"},
         {"move 5 6 7", "expected move X Y or move to ID [X Y]"},
         {"move 5 32768", "expected a number from -32768 to 32767, found \"32768\""},
         {"press both", "no button \"both\"; buttons are left, right and middle"},
-        {"wheel left", "the wheel goes up or down, found \"left\""},
+        {"wheel left", "expected up or down, found \"left\""},
         {"key 256", "a key code runs from 01 to 255, found 256"},
         {"key 00", "a key code runs from 01 to 255, found 00"},
         {"hold ctrl",
@@ -69,8 +69,8 @@ TEST_F(EventsTest, ALineThatIsWrongSaysWhy)
         {"tree ../é.json", "cannot write \"../é.json\": not a file name below the output directory"},
         {"type \"ж\"", "the character ж has no byte in code page 1252"},
         {"type \"\xE9\"", "the byte 0xE9 is not UTF-8; save the file as UTF-8, or write \\xE9"},
-        {"type a\"b\"", "a blank is missing before the string behind \"a\""},
-        {"type \"a\"b", "a blank is missing behind the string \"a\""},
+        {"type a\"b\"", "a blank is missing between \"a\" and the string that follows"},
+        {"type \"a\"b", "a blank is missing after the string \"a\""},
         {"change OPTIONS open", "expected close or nothing, found \"open\""},
         {"tree ../out.json", "cannot write \"../out.json\": not a file name below the output directory"},
         {"tree a/../../out.json",
@@ -89,19 +89,19 @@ TEST_F(EventsTest, EachTickTakesTheMovesAtTheHeadAndOneTransition)
     const struct {
         const char* name;
         std::vector<const char*> lines;
-        std::vector<const char*> ticks; // fields behind each tick
+        std::vector<const char*> ticks; // input fields after each tick
     } rows[] = {
-        {"press and release are two ticks, the count rises from 1 and falls back",
+        {"press and release take two ticks, the count rises from 1 and returns to 0",
          {"press left", "release left"},
          {"ldown 1 count 1", "lup 1", ""}},
         {"a held button counts each tick",
          {"press left"},
          {"ldown 1 count 1", "ldown 1 count 2", "ldown 1 count 3"}},
-        {"the button is let go", {"release left"}, {"lup 1", ""}},
+        {"the button is released", {"release left"}, {"lup 1", ""}},
         {"a double click sets its flag alone, then counts as pressed",
          {"doubleclick left", "release left", "doubleclick right", "release right"},
          {"ldbl 1", "ldown 1 count 1", "lup 1", "rdbl 1", "rdown 1", "rup 1", ""}},
-        {"down flags stay beside other transitions",
+        {"down flags stay set during other transitions",
          {"press middle", "press right", "wheel up", "release middle", "release right"},
          {"mdown 1", "rdown 1 mdown 1", "rdown 1 mdown 1 wheelUp 1", "rdown 1 mup 1", "rup 1", ""}},
         {"a letter types itself in lower case",
@@ -111,11 +111,11 @@ TEST_F(EventsTest, EachTickTakesTheMovesAtTheHeadAndOneTransition)
          {"key 7", "key 07", "key 0x2E", "key f7", "key esc", "key space", "key insert"},
          {"code 55 char 55", "code 7", "code 46", "code 118", "code 27 char 27", "code 32 char 32",
           "code 45"}},
-        {"typed text has a key a character, one without a key of its own 0xE7",
+        {"typed text queues one key for each character, 0xE7 for a character that no key types",
          {"type \"aZ9 \\x09\\x0D\\xE9,\"", "type é"},
          {"code 65 char 97", "code 90 char 90", "code 57 char 57", "code 32 char 32", "code 9 char 9",
           "code 13 char 13", "code 231 char -23", "code 231 char 44", "code 231 char -23", ""}},
-        {"shift counts where the line is read, not where the key arrives",
+        {"shift applies when the line is read, not when the key arrives",
          {"key b", "hold shift", "key b", "lift shift", "key b"},
          {"code 66 char 98", "code 66 char 66", "code 66 char 98", ""}},
     };
@@ -130,7 +130,7 @@ TEST_F(EventsTest, EachTickTakesTheMovesAtTheHeadAndOneTransition)
     }
 }
 
-TEST_F(EventsTest, FlagsHoldTheirValuesInTheFramesBehindTheirTick)
+TEST_F(EventsTest, FlagsKeepTheirValuesInTheFramesAfterTheirTick)
 {
     start(menu);
     std::vector<std::string> seen;
@@ -140,7 +140,7 @@ TEST_F(EventsTest, FlagsHoldTheirValuesInTheFramesBehindTheirTick)
                                               "code 65 char 97", ""}));
 }
 
-TEST_F(EventsTest, PointerMovesKeepThePositionBefore)
+TEST_F(EventsTest, PointerMovesKeepThePreviousPosition)
 {
     start(menu);
     EXPECT_EQ(win().mouseX, 320) << "the screen puts the pointer in its middle";
@@ -172,25 +172,25 @@ TEST_F(EventsTest, AKeyIsHeldUntilItsTickHasEndedAndHeldKeysUntilTheyAreLifted)
     EXPECT_NE(watch->heldInTick, 0);
     EXPECT_EQ(win().keyDown[VK_INSERT], 0);
     play("hold insert");
-    EXPECT_NE(win().keyDown[VK_INSERT], 0) << "at once";
+    EXPECT_NE(win().keyDown[VK_INSERT], 0) << "held immediately";
     play("key insert", "tick");
-    EXPECT_NE(win().keyDown[VK_INSERT], 0) << "the key's tick does not lift what is held";
+    EXPECT_NE(win().keyDown[VK_INSERT], 0) << "the end of the key's tick does not lift a held key";
     play("lift insert");
     EXPECT_EQ(win().keyDown[VK_INSERT], 0);
 }
 
-TEST_F(EventsTest, ATickWithoutTheBaseOperationComesAgainWithTheSameInput)
+TEST_F(EventsTest, ATickWithoutTheBaseOperationIsRepeatedWithTheSameInput)
 {
     start(menu);
     play("move 20 20", "tick");
     play("press left", "tick", "move 30 30", "release left");
-    // The target waits for its deletion: such a tick returns before the base operation.
+    // The target is about to be deleted, so the tick returns before the base operation.
     win().getScreenList()->addWndToDelete(win().getActiveScreen());
     play("tick 3");
     EXPECT_EQ(input(), "lup 1");
     EXPECT_EQ(win().mouseX, 30);
     play("press right", "tick");
-    EXPECT_EQ(input(), "lup 1") << "no new input behind a tick that has not ended";
+    EXPECT_EQ(input(), "lup 1") << "no new input after a tick that has not ended";
 }
 
 TEST_F(EventsTest, ClicksReachTheScreenWhereThePressBegan)
@@ -212,7 +212,7 @@ TEST_F(EventsTest, TheClockMovesBeforeFramesOnly)
     EXPECT_EQ(rates, (std::vector<int>{20, 20, 20}));
 }
 
-TEST_F(EventsTest, AChangeIsCarriedOutBehindTheFifthFrame)
+TEST_F(EventsTest, AChangeIsCarriedOutAfterTheFifthFrame)
 {
     start(menu);
     play("change OPTIONS", "frame 4");
@@ -224,12 +224,12 @@ TEST_F(EventsTest, AChangeIsCarriedOutBehindTheFifthFrame)
     EXPECT_EQ(win().getWnd("OPTIONS", 1), nullptr);
 }
 
-TEST_F(EventsTest, ASecondChangeCarriesTheFirstOutAndOpensItsScreen)
+TEST_F(EventsTest, ASecondChangeCarriesOutTheFirstAndOpensItsScreen)
 {
     start(menu);
     play("change OPTIONS", "change MENU");
     EXPECT_STREQ(win().getActiveScreen()->getID(), "OPTIONS");
-    EXPECT_EQ(screen("OPTIONS")->isOpen(), 1) << "the event is the caller, to whom initialise falls";
+    EXPECT_EQ(screen("OPTIONS")->isOpen(), 1) << "the event is the caller, so it must call initialise";
     play("move 20 20", "press left", "release left", "tick 2");
     EXPECT_EQ(clicks(), std::vector<std::string>{"TGX_BACK"});
 }
@@ -271,7 +271,7 @@ TEST_F(EventsTest, AnInvalidArgumentEndsItsFrameAndIsReportedOnce)
     EXPECT_EQ(call("MENU getWndFromIndex -1 \"\""), R"({"error": "invalid argument"})");
 }
 
-TEST_F(EventsTest, AnInvalidArgumentInAChangeSaysSo)
+TEST_F(EventsTest, AnInvalidArgumentInAChangeIsReported)
 {
     struct Faulty : AWnd {
         using AWnd::AWnd;
@@ -281,7 +281,7 @@ TEST_F(EventsTest, AnInvalidArgumentInAChangeSaysSo)
     wnd("OPTIONS")->addChildWindow(new Faulty(AWnd::WND_PLAIN, "FAULTY", 0, 200, 10, 10));
     play("change OPTIONS");
     EXPECT_EQ(playWrong("change MENU"), "invalid argument in the screen change")
-        << "the second change carries the first out";
+        << "the second change carries out the first";
 }
 
 } // namespace

@@ -40,7 +40,8 @@ protected:
         options.eventsFile = (data / "run.events").string();
     }
 
-    /// What a run of these lines writes on stderr, the data directory and the output directory left out.
+    /// Runs these lines and returns what they write on stderr, without the paths of the data and output
+    /// directories.
     std::string run(const std::string& events)
     {
         write("run.events", events);
@@ -69,7 +70,7 @@ protected:
     PlayStatus status = PlayStatus::WrongCall;
 };
 
-TEST_F(ExpectTest, EachExpectationHoldsOrTellsWhatWasFound)
+TEST_F(ExpectTest, EachExpectationHoldsOrReportsWhatWasFound)
 {
     start("", 64, 48);
     auto* box = static_cast<AComboBox*>(wnd("CHOICE"));
@@ -83,7 +84,7 @@ TEST_F(ExpectTest, EachExpectationHoldsOrTellsWhatWasFound)
     const struct {
         const char* given;
         const char* expectation;
-        const char* found; // "" when it holds
+        const char* found; // "" if the expectation holds
     } rows[] = {
         {"", "active menu", ""},
         {"", "active OPTIONS", "\"MENU\""},
@@ -92,7 +93,7 @@ TEST_F(ExpectTest, EachExpectationHoldsOrTellsWhatWasFound)
         {"", "visible QUERY 1", "0: \"QUERY\" is not open"},
         {"call main setPopupWnd QUERY MENU 0", "popup QUERY", ""},
         {"", "popup none", "\"QUERY\""},
-        {"", "visible OK 1", ""}, // behind the popup, and still to be seen
+        {"", "visible OK 1", ""}, // covered by the popup, which does not count
         {"call main setPopupWnd null null 0", "popup none", ""},
         {"move to OK", "focus none", "\"LIST\""},
         {"frame", "focus OK", ""},
@@ -101,19 +102,19 @@ TEST_F(ExpectTest, EachExpectationHoldsOrTellsWhatWasFound)
         {"", "text OK \"\\x0A1\"", ""},
         {"", "text GONE Go", "no window \"GONE\"; the screen \"MENU\" has PANEL, OK, TICK, CHOICE and LIST"},
         {"", "visible OK 0", "1"},
-        {"", "visible FAR 1", "0: \"FAR\" lies on the screen \"OPTIONS\", which is not active"},
-        {"call PANEL setEnabled 0", "enabled OK 1", "0: \"OK\" is disabled with \"PANEL\", which it lies in"},
-        {"call PANEL setVisible 0", "visible OK 1", "0: \"OK\" is hidden with \"PANEL\", which it lies in"},
+        {"", "visible FAR 1", "0: \"FAR\" is on the screen \"OPTIONS\", which is not active"},
+        {"call PANEL setEnabled 0", "enabled OK 1", "0: \"OK\" is disabled because \"PANEL\" is disabled"},
+        {"call PANEL setVisible 0", "visible OK 1", "0: \"OK\" is hidden because \"PANEL\" is hidden"},
         {"", "enabled OK 0", ""},
         {"", "selected OK 1", "0"},
         {"", "selected CHOICE 2", ""},
         {"", "selected LIST -1", ""},
         {"call LIST setSelectedItem 2", "selected LIST 0", "2"},
         {"", "call OK width = 0x14", ""},
-        {"", "call OK width = 2", "20"}, // not the front of the number
+        {"", "call OK width = 2", "20"}, // not just the beginning of the number
         {"", "call OK width = \"20\"", "20"},
         {"", "call OK getID = ok", "\"OK\""},
-        {"call OK setWindowText 7", "call OK getText = 7", ""}, // without quotes also a text
+        {"call OK setWindowText 7", "call OK getText = 7", ""}, // without quotes it may be text too
         {"", "call main getPopupWnd 0 = null", ""},
         {"", "call main getPopupWnd 0 = \"null\"", "null"},
         {"", "call main getPopupWnd -1 = error", ""},
@@ -133,21 +134,21 @@ TEST_F(ExpectTest, EachExpectationHoldsOrTellsWhatWasFound)
     }
 }
 
-TEST_F(ExpectTest, WhatIsNoExpectationSaysWhy)
+TEST_F(ExpectTest, AWrongExpectationIsRefusedWithTheReason)
 {
     start("", 64, 48);
     const struct {
         const char* line;
         const char* reason;
     } rows[] = {
-        {"expect", "expected expect EXPECTATION, found 0 words behind expect"},
+        {"expect", "expected expect EXPECTATION, found 0 words after expect"},
         {"expect activ MENU", "no expectation \"activ\"; did you mean active?"},
         {"expect nothing", "no expectation \"nothing\"; expectations are active, popup, focus, text, "
                            "visible, enabled, selected, "
                            "message, call, picture, tree and trace"},
         {"expect text OK", "expected the form expect text ID \"TEXT\", found expect text OK"},
         {"expect visible OK yes", "expected a number from 0 to 1, found \"yes\""},
-        {"expect selected PANEL 1", "\"PANEL\" is no button, list box or combo box"},
+        {"expect selected PANEL 1", "\"PANEL\" is not a button, list box or combo box"},
         {"expect call OK = 0 0",
          "expected the form expect call TARGET OPERATION ARG ... = VALUE, found expect call OK = 0 0"},
         {"expect call OK left =",
@@ -158,8 +159,7 @@ TEST_F(ExpectTest, WhatIsNoExpectationSaysWhy)
         {"wait until active MENU 1 2",
          "expected the form wait until active NAME|none [N], found wait until active MENU 1 2"},
         {"wait until active MENU ten", "expected a number from 0 to 2147483647, found \"ten\""},
-        {"wait until tree a.json",
-         "a tree is not waited for; wait until something else holds, then expect it"},
+        {"wait until tree a.json", "cannot wait for a tree; wait until something else holds, then expect it"},
     };
     for (const auto& row : rows)
         EXPECT_EQ(playWrong(row.line), row.reason) << row.line;
@@ -171,11 +171,11 @@ TEST_F(ExpectTest, AWaitRunsFramesUntilItHolds)
     int frames = 0;
     win().duringFrame = [&] { wnd("PANEL")->setVisible(++frames < 5); };
     play("wait until visible OK 1");
-    EXPECT_EQ(frames, 0) << "it holds at once";
+    EXPECT_EQ(frames, 0) << "it holds immediately";
     play("wait until visible OK 0");
     EXPECT_EQ(frames, 5);
     EXPECT_EQ(playWrong("wait until visible OK 1 3"),
-              "waited 3 frames for visible OK 1, found 0: \"OK\" is hidden with \"PANEL\", which it lies in");
+              "waited 3 frames for visible OK 1, found 0: \"OK\" is hidden because \"PANEL\" is hidden");
     EXPECT_EQ(frames, 8);
     EXPECT_EQ(playWrong("wait until call OK left = 9"), "waited 240 frames for call OK left = 9, found 0");
     EXPECT_EQ(frames, 248);
@@ -183,16 +183,16 @@ TEST_F(ExpectTest, AWaitRunsFramesUntilItHolds)
     EXPECT_EQ(frames, 250);
 }
 
-TEST_F(ExpectTest, TheRunGoesOnBehindAFailureAndEndsWithItsPart)
+TEST_F(ExpectTest, TheRunContinuesAfterAFailureAndAWrongLineEndsItsPart)
 {
     const struct {
         const char* name;
         const char* events;
-        const char* said;
-        const char* answered; // by calls
+        const char* messages; // on stderr
+        const char* values;   // that calls print
         PlayStatus status;
     } rows[] = {
-        {"a failure is told and the next line follows", "expect active X\ncall OK left\nexpect active Y\n",
+        {"a failure is reported and the next line is run", "expect active X\ncall OK left\nexpect active Y\n",
          "run.events:1: expected active X, found \"MENU\"\nrun.events:3: expected active Y, found \"MENU\"\n",
          "2: 0\n", PlayStatus::WrongLine},
         {"a wrong line ends the run", "frame two\nexpect active X\n",
@@ -202,18 +202,17 @@ TEST_F(ExpectTest, TheRunGoesOnBehindAFailureAndEndsWithItsPart)
          "run.events:2: no window \"X\"; the screen \"MENU\" has PANEL, OK, TICK, CHOICE and LIST\n",
          "1: null\n5: 0\n", PlayStatus::WrongLine},
         {"a part without a name", "test\ncall OK left\ntest b\ncall OK top\n",
-         "run.events:1: expected test \"NAME\", found 0 words behind test\n", "4: 0\n",
-         PlayStatus::WrongLine},
+         "run.events:1: expected test \"NAME\", found 0 words after test\n", "4: 0\n", PlayStatus::WrongLine},
         {"the exit ends its part", "exit\nframe\ncall OK left\ntest b\ncall OK left\n", "", "5: 0\n",
          PlayStatus::Done},
-        {"what is expected behind the exit is looked at",
+        {"expectations after the exit are checked",
          "exit\nframe\nexpect active none\nexpect text OK Go\nwait until active MENU\nexpect call main "
          "getActiveScreen = null\n",
          "run.events:4: expected text OK Go, found no window \"OK\"; no screen is active\n"
          "run.events:5: waited 0 frames for active MENU, found none\n"
          "run.events:6: expected call main getActiveScreen = null, found that the program has ended\n",
          "", PlayStatus::WrongLine},
-        {"a wait sees the exit", "exit\nwait until active none\n", "", "", PlayStatus::Done},
+        {"a wait notices the exit", "exit\nwait until active none\n", "", "", PlayStatus::Done},
         {"messages are expected one by one",
          "call OK setBmp a\ncall OK setBmp b\nexpect message \"cannot load b\"\nexpect message \"cannot load "
          "b\"\n",
@@ -223,13 +222,13 @@ TEST_F(ExpectTest, TheRunGoesOnBehindAFailureAndEndsWithItsPart)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        EXPECT_EQ(run(row.events), row.said);
-        EXPECT_EQ(out.str(), row.answered);
+        EXPECT_EQ(run(row.events), row.messages);
+        EXPECT_EQ(out.str(), row.values);
         EXPECT_EQ(status, row.status);
     }
 }
 
-TEST_F(ExpectTest, APartKnowsNothingOfThoseBeforeIt)
+TEST_F(ExpectTest, APartStartsFreshWhateverWasPlayedBefore)
 {
     const std::string look = "frame\ntree -\ntrace -\n";
     run(look);
@@ -238,7 +237,7 @@ TEST_F(ExpectTest, APartKnowsNothingOfThoseBeforeIt)
     EXPECT_EQ(out.str(), fresh);
 }
 
-TEST_F(ExpectTest, AMessageThatNoLineExpectedFailsIfThatWasAskedFor)
+TEST_F(ExpectTest, AnUnexpectedMessageIsAFailureIfMessagesFailIsSet)
 {
     options.messagesFail = true;
     EXPECT_EQ(run("test a\ncall OK setBmp a\ntest b\ncall OK setBmp b\nexpect message \"cannot load b\"\n"),
@@ -276,26 +275,27 @@ TEST_F(ExpectTest, AnIncludedFileIsPlayedInPlace)
     };
     for (const auto& row : rows)
         EXPECT_EQ(run(row.line), std::string("run.events:1: ") + row.reason + '\n');
-    const std::string said = run("include round.part");
-    EXPECT_NE(said.find("round.part:1: files include one another more than 16 deep\n"), std::string::npos);
+    const std::string messages = run("include round.part");
+    EXPECT_NE(messages.find("round.part:1: files include one another more than 16 deep\n"),
+              std::string::npos);
 }
 
-TEST_F(ExpectTest, AFileThatDiffersIsToldAndWrittenOnlyWithUpdate)
+TEST_F(ExpectTest, AFileThatDiffersIsReportedAndOnlyWrittenWithUpdate)
 {
     const std::string events = "move 5 5\nframe\nexpect tree a/t.json\nexpect trace a/t.jsonl\n";
     EXPECT_EQ(
         run(events),
-        "run.events:3: expected tree a/t.json, found no such file; a/t.actual.json has what it would be, "
-        "and --update writes it\n"
-        "run.events:4: expected trace a/t.jsonl, found no such file; a/t.actual.jsonl has what it would "
-        "be, and --update writes it\n");
-    EXPECT_FALSE(fs::exists(data / "a")) << "nothing is written unasked";
+        "run.events:3: expected tree a/t.json, found no such file; the result is in a/t.actual.json, and "
+        "--update accepts it\n"
+        "run.events:4: expected trace a/t.jsonl, found no such file; the result is in a/t.actual.jsonl, and "
+        "--update accepts it\n");
+    EXPECT_FALSE(fs::exists(data / "a")) << "nothing is written without --update";
 
     options.update = true;
     EXPECT_EQ(run(events), "run.events:3: wrote a/t.json\nrun.events:4: wrote a/t.jsonl\n");
     EXPECT_EQ(status, PlayStatus::Done);
     EXPECT_EQ(contents(data / "a/t.json"), contents(outputs / "a/t.actual.json"));
-    EXPECT_EQ(run(events), "") << "what is equal is left alone";
+    EXPECT_EQ(run(events), "") << "a file that is equal is not written again";
     options.update = false;
     EXPECT_EQ(run(events), "");
 
@@ -303,18 +303,19 @@ TEST_F(ExpectTest, AFileThatDiffersIsToldAndWrittenOnlyWithUpdate)
     EXPECT_EQ(
         run(moved),
         "run.events:4: expected tree a/t.json, found ...type\":2,\"class\":\"AButton\",\"x\":1,\"y\":0,"
-        "\"w\":20,\"h\":20,\"wndX\":1,\"wndY\":0,\"visible\":... and not "
+        "\"w\":20,\"h\":20,\"wndX\":1,\"wndY\":0,\"visible\":... instead of "
         "...type\":2,\"class\":\"AButton\",\"x\":0,\"y\":0,\"w\":20,\"h\":20,\"wndX\":0,\"wndY\":0,"
-        "\"visible\":... in the window \"OK\"; the whole is in a/t.actual.json\n"
+        "\"visible\":... in the window \"OK\"; the whole result is in a/t.actual.json\n"
         "run.events:5: expected trace a/t.jsonl, found {\"op\":\"textout\",\"x\":1,\"y\":3,\"text\":\"Go\","
-        "\"font\":0,\"raw\":0,\"scale\":4096,... and not {\"op\":\"textout\",\"x\":0,\"y\":3,\"text\":\"Go\","
-        "\"font\":0,\"raw\":0,\"scale\":4096,... in line 6; the whole is in a/t.actual.jsonl\n");
+        "\"font\":0,\"raw\":0,\"scale\":4096,... instead of "
+        "{\"op\":\"textout\",\"x\":0,\"y\":3,\"text\":\"Go\","
+        "\"font\":0,\"raw\":0,\"scale\":4096,... in line 6; the whole result is in a/t.actual.jsonl\n");
     options.update = true;
     run(moved);
     EXPECT_NE(contents(data / "a/t.json").find("\"wndX\":1"), std::string::npos);
 }
 
-TEST_F(ExpectTest, PicturesAreComparedToThePixel)
+TEST_F(ExpectTest, PicturesAreComparedPixelByPixel)
 {
     options.update = true;
     const std::string draw = "frame\n";
@@ -328,10 +329,9 @@ TEST_F(ExpectTest, PicturesAreComparedToThePixel)
     picture->row(40)[62] = 0xFF123456;
     ASSERT_TRUE(writePng(*picture, (data / "p.png").string()));
     EXPECT_EQ(before & 0xFFFFFF, 0u);
-    EXPECT_EQ(
-        run(draw + "expect picture p.png\n"),
-        "run.events:2: expected picture p.png, found another pixel: 62, 40 is #000000 and not #123456; see "
-        "p.actual.png and p.difference.png\n");
+    EXPECT_EQ(run(draw + "expect picture p.png\n"), "run.events:2: expected picture p.png, found 1 different "
+                                                    "pixel: 62, 40 is #000000 instead of #123456; see "
+                                                    "p.actual.png and p.difference.png\n");
     const ImageRef shown = readPicture(outputs / "p.difference.png");
     ASSERT_TRUE(shown);
     EXPECT_EQ(shown->row(40)[62], 0xFFFF0000);
@@ -340,21 +340,19 @@ TEST_F(ExpectTest, PicturesAreComparedToThePixel)
     picture->row(3)[5] = 0xFFFFFFFF;
     ASSERT_TRUE(writePng(*picture, (data / "p.png").string()));
     EXPECT_NE(
-        run(draw + "expect picture p.png\n").find("found 2 other pixels, from 5, 3 to 62, 40: 5, 3 is #"),
+        run(draw + "expect picture p.png\n").find("found 2 different pixels, from 5, 3 to 62, 40: 5, 3 is #"),
         std::string::npos);
     ASSERT_TRUE(writePng(*makeImage(8, 4), (data / "p.png").string()));
     EXPECT_EQ(run(draw + "expect picture p.png\n"),
-              "run.events:2: expected picture p.png, found a screen of 64x48, and p.png is of 8x4; see "
+              "run.events:2: expected picture p.png, found a screen of 64x48, but p.png is 8x4; see "
               "p.actual.png\n");
-    write("p.png", "no picture");
-    EXPECT_EQ(
-        run(draw + "expect picture p.png\n"),
-        "run.events:2: expected picture p.png, found a file that is no picture; p.actual.png has what it "
-        "would be\n");
-    EXPECT_EQ(
-        run(draw + "expect picture gone/q.png\n"),
-        "run.events:2: expected picture gone/q.png, found no such picture; gone/q.actual.png has what it "
-        "would be, and --update writes it\n");
+    write("p.png", "not a picture");
+    EXPECT_EQ(run(draw + "expect picture p.png\n"),
+              "run.events:2: expected picture p.png, found a file that is not a picture; the result is in "
+              "p.actual.png\n");
+    EXPECT_EQ(run(draw + "expect picture gone/q.png\n"),
+              "run.events:2: expected picture gone/q.png, found no such picture; the result is in "
+              "gone/q.actual.png, and --update accepts it\n");
     EXPECT_EQ(status, PlayStatus::WrongLine);
 }
 

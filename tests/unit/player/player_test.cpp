@@ -55,7 +55,7 @@ TEST_F(PlayerTest, AnExitEndsTheRunAndNoLineFollows)
     EXPECT_EQ(run("exit\ncall BOX left\nframe 5\nnonsense\n"), PlayStatus::Done);
     EXPECT_EQ(out.str(), "2: 10\n") << "the exit completes with the next frame";
     EXPECT_EQ(err.str(), "");
-    EXPECT_EQ(run("call BOX left"), PlayStatus::Done) << "a second run starts anew";
+    EXPECT_EQ(run("call BOX left"), PlayStatus::Done) << "a second run starts fresh";
     EXPECT_EQ(out.str(), "1: 10\n");
 }
 
@@ -129,7 +129,7 @@ TEST_F(PlayerTest, MessagesNameTheLineOfTheTextWhereAMapIs)
     EXPECT_EQ(err.str().find("a.tgs"), std::string::npos) << "the map is of an older script";
 }
 
-TEST_F(PlayerTest, WithoutMemoryTheRunEndsWithAMessage)
+TEST_F(PlayerTest, ARunThatIsOutOfMemoryEndsWithAMessage)
 {
     write("run.events", "frame\n");
     options.dataDirectory = data.string();
@@ -141,7 +141,7 @@ TEST_F(PlayerTest, WithoutMemoryTheRunEndsWithAMessage)
     EXPECT_EQ(status, static_cast<int>(PlayStatus::WrongCall));
 }
 
-TEST_F(PlayerTest, WrongCallsRunNothing)
+TEST_F(PlayerTest, AWrongCallRunsNothing)
 {
     const std::string present = std::exchange(options.eventsFile, (data / "missing.events").string());
     EXPECT_EQ(Player(options, nullptr, out, err).run(), PlayStatus::WrongCall);
@@ -183,7 +183,7 @@ TEST_F(PlayerTest, TheSameEventsGiveTheSameBytes)
     EXPECT_GT(first.size(), 1000u);
 }
 
-TEST_F(PlayerTest, TheTreeFileToTheByte)
+TEST_F(PlayerTest, TheTreeFileIsExactToTheByte)
 {
     EXPECT_EQ(run("move 15 25\nframe\ntree -\n"), PlayStatus::Done);
     EXPECT_EQ(
@@ -209,7 +209,7 @@ TEST_F(PlayerTest, TheFontsFileHoldsTheTable)
     EXPECT_TRUE(text.ends_with("]}]\n"));
 }
 
-TEST_F(PlayerTest, TheTraceFileToTheByte)
+TEST_F(PlayerTest, TheTraceFileIsExactToTheByte)
 {
     start("", 320, 200);
     measureFont(0);
@@ -232,7 +232,7 @@ TEST_F(PlayerTest, TheTraceFileToTheByte)
               (Trace{blit("box.bmp").from(0, 0, 8, 8).to(10, 20, 100, 50), text("a\xE9\n\"\\").at(10, 39)}));
 }
 
-TEST_F(PlayerTest, WhatACallDrewIsInNoTraceBeforeItsFrameHasEnded)
+TEST_F(PlayerTest, DrawingByACallAppearsInTheTraceOnlyAfterTheNextFrame)
 {
     start();
     play("frame");

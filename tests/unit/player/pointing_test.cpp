@@ -49,23 +49,23 @@ END
 
 using Ids = std::vector<std::string>;
 
-TEST_F(PointingTest, AClickGoesToTheMiddleAndHasBeenHandledWhenTheLineEnds)
+TEST_F(PointingTest, AClickHitsTheMiddleAndIsHandledBeforeTheNextLine)
 {
     int frames = 0;
     win().duringFrame = [&] { ++frames; };
     play("click OK");
-    EXPECT_EQ(pointer(), "70 45") << "the half of an odd width is cut";
+    EXPECT_EQ(pointer(), "70 45") << "half of an odd width is rounded down";
     EXPECT_EQ(clicks(), Ids{"OK"});
-    EXPECT_EQ(frames, 3) << "one for the move, the press and the release each";
+    EXPECT_EQ(frames, 3) << "one frame each for the move, the press and the release";
     play("hover over");
     EXPECT_EQ(pointer(), "70 135");
     EXPECT_EQ(clicks(), none);
     EXPECT_EQ(frames, 4);
     play("press right", "release right", "hover OK");
-    EXPECT_EQ(frames, 7) << "what waited in the queue went first";
+    EXPECT_EQ(frames, 7) << "input that was already queued is taken first";
 }
 
-TEST_F(PointingTest, ADoubleClickIsAClickThenTheFlagThenARelease)
+TEST_F(PointingTest, ADoubleClickIsAClickFollowedByTheFlagAndARelease)
 {
     std::string seen;
     win().duringFrame = [&] {
@@ -74,7 +74,7 @@ TEST_F(PointingTest, ADoubleClickIsAClickThenTheFlagThenARelease)
     play("doubleclick OK");
     EXPECT_EQ(seen, ".du2du");
     play("doubleclick left", "tick");
-    EXPECT_EQ(win().lButtonDblClk, 1) << "with a button's name only that flag";
+    EXPECT_EQ(win().lButtonDblClk, 1) << "with a button's name only the flag is set";
 }
 
 TEST_F(PointingTest, ARowIsClickedOnItsCell)
@@ -84,7 +84,7 @@ TEST_F(PointingTest, ARowIsClickedOnItsCell)
         int item, column;
         const char* pointer;
     } rows[] = {
-        {"row LIST 0", 0, 0, "335 230"}, // behind the column gap and below the titles
+        {"row LIST 0", 0, 0, "335 230"}, // right of the column gap and below the titles
         {"row LIST 2 1", 2, 1, "410 270"},
         {"row LIST 4 0", 4, 0, "335 310"},
     };
@@ -103,56 +103,55 @@ TEST_F(PointingTest, ARowIsClickedOnItsCell)
     EXPECT_EQ(list->getSelectedItem(), 4);
 }
 
-TEST_F(PointingTest, WhatCannotBeReachedSaysWhy)
+TEST_F(PointingTest, AWindowThatCannotBeReachedIsRefusedWithTheReason)
 {
     const struct {
         const char* name;
-        const char* given; // lines
+        const char* given; // lines, separated by ;
         const char* line;
         const char* reason;
     } rows[] = {
         {"no such window", "", "click OKAY",
          "no window \"OKAY\"; the screen \"MENU\" has PANEL, OK, OVER, OUT, BOX, NAME, FAR, LIST and 1 more"},
         {"hidden", "call OK setVisible 0", "click OK", "\"OK\" is hidden"},
-        {"hidden with its holder", "call PANEL setVisible 0", "hover OK",
-         "\"OK\" is hidden with \"PANEL\", which it lies in"},
+        {"in a hidden window", "call PANEL setVisible 0", "hover OK",
+         "\"OK\" is hidden because \"PANEL\" is hidden"},
         {"disabled", "call OK setEnabled 0", "doubleclick OK", "\"OK\" is disabled"},
         {"off the screen", "", "hover FAR", "\"FAR\" is off the screen at 650, 35"},
-        {"outside of its holder", "", "click OUT", "\"OUT\" lies outside of \"PANEL\" at 310, 135"},
+        {"outside its parent", "", "click OUT", "\"OUT\" is outside \"PANEL\" at 310, 135"},
         {"covered", "call BOX setWndPos 20 20 60 60", "click OK", "\"OK\" is covered by \"BOX\" at 70, 45"},
-        {"its middle only counts", "call BOX setWndPos 20 20 49 60", "click OK", ""},
+        {"only its middle counts", "call BOX setWndPos 20 20 49 60", "click OK", ""},
         {"a disabled window covers nothing", "call BOX setWndPos 20 20 60 60; call BOX setEnabled 0",
          "click OK", ""},
-        {"covered by what lies in it", "", "click PANEL", "\"PANEL\" is covered by \"OVER\" at 110, 110"},
-        {"still coming in", "call OK setMoveAnimation 200 0 0 0 1.0 1.0 0", "click OK",
-         "\"OK\" lies outside of \"PANEL\" at 270, 45; \"OK\" is still moving"},
-        {"on another screen", "", "click BACK",
-         "\"BACK\" lies on the screen \"OPTIONS\", which is not active"},
-        {"in a popup that is not open", "", "click YES", "\"YES\" lies in \"QUERY\", which is not open"},
+        {"covered by a window inside it", "", "click PANEL", "\"PANEL\" is covered by \"OVER\" at 110, 110"},
+        {"still moving into place", "call OK setMoveAnimation 200 0 0 0 1.0 1.0 0", "click OK",
+         "\"OK\" is outside \"PANEL\" at 270, 45; \"OK\" is still moving"},
+        {"on another screen", "", "click BACK", "\"BACK\" is on the screen \"OPTIONS\", which is not active"},
+        {"in a popup that is not open", "", "click YES", "\"YES\" is in \"QUERY\", which is not open"},
         {"behind a popup", "call main setPopupWnd QUERY MENU 0", "click OK",
          "\"OK\" is behind the popup \"QUERY\""},
         {"in the popup", "call main setPopupWnd QUERY MENU 0", "click YES", ""},
         {"captured", "call main setMouseCaptureWnd BOX", "hover OK",
          "\"OK\" gets no input: \"BOX\" has captured the pointer"},
-        {"an edit box that is typed into keeps the pointer", "click NAME", "hover OK",
+        {"an edit box keeps the pointer while the user types", "click NAME", "hover OK",
          "\"OK\" gets no input: \"NAME\" has captured the pointer"},
         {"but a click elsewhere ends the typing", "click NAME", "click OK", ""},
         {"the press began elsewhere", "move to BOX; press left; frame", "hover OK",
          "\"OK\" gets no input: the press began on \"BOX\""},
-        {"a press whose release no window got",
+        {"after a press whose release reached no window",
          "move to BOX; press left; frame; call main waitForNextDraw; "
          "release left; tick; call main nextDrawDone; call main nextDrawDone; call main nextDrawDone; call "
          "main nextDrawDone",
          "click OK", ""},
-        {"a click needs the button", "move to BOX; press left; frame", "click BOX",
+        {"a click needs the button to be up", "move to BOX; press left; frame", "click BOX",
          "the left button is already held down"},
-        {"a change under way", "change OPTIONS; frame", "click OK",
+        {"during a screen change", "change OPTIONS; frame", "click OK",
          "\"OK\" gets no input: the change to the screen \"OPTIONS\" is under way"},
-        {"no list box", "", "row OK 0", "\"OK\" is no list box"},
+        {"not a list box", "", "row OK 0", "\"OK\" is not a list box"},
         {"no such row", "", "row LIST 9", "\"LIST\" has 9 rows, counted from 0; found 9"},
-        {"a row of another page", "", "row LIST 5",
+        {"a row that is not on the page", "", "row LIST 5",
          "row 5 of \"LIST\" is not on its page, which begins with 0 and has 5"},
-        {"a moved point", "", "move to OK 1", "expected move to ID [X Y]"},
+        {"move to with one coordinate", "", "move to OK 1", "expected move to ID [X Y]"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -164,17 +163,17 @@ TEST_F(PointingTest, WhatCannotBeReachedSaysWhy)
     }
 }
 
-TEST_F(PointingTest, AnIdMeansTheWindowInFrontOfThePerson)
+TEST_F(PointingTest, AnIdMeansTheWindowThatIsInFront)
 {
     play("change OPTIONS", "frame 8", "click OK");
-    EXPECT_EQ(pointer(), "250 35") << "not the one of the first screen, which getWnd finds";
+    EXPECT_EQ(pointer(), "250 35") << "not the window on the first screen, which getWnd finds";
     play("move to BACK", "frame");
     EXPECT_EQ(pointer(), "60 35");
     play("move to BACK 0 -3", "frame");
     EXPECT_EQ(pointer(), "10 7");
 }
 
-TEST_F(PointingTest, WhatVanishesUnderThePointerIsReported)
+TEST_F(PointingTest, AWindowThatVanishesUnderThePointerIsReported)
 {
     struct Shy : AWnd {
         using AWnd::AWnd;
@@ -193,10 +192,10 @@ TEST_F(PointingTest, WhatVanishesUnderThePointerIsReported)
     EXPECT_EQ(playWrong("click SHY"), "\"SHY\" is hidden");
     shy->setVisible(1);
     win().duringFrame = [&] { delete std::exchange(shy, nullptr); };
-    EXPECT_EQ(playWrong("click SHY"), "\"SHY\" was gone when the pointer came to it");
+    EXPECT_EQ(playWrong("click SHY"), "\"SHY\" was deleted while the pointer moved to it");
 }
 
-TEST_F(PointingTest, InputWaitsForATickThatTakesItButNotForEver)
+TEST_F(PointingTest, InputWaitsForATickThatTakesItUpToALimit)
 {
     struct Slow : TestMainWin {
         using TestMainWin::TestMainWin;
@@ -220,14 +219,14 @@ TEST_F(PointingTest, InputWaitsForATickThatTakesItButNotForEver)
         ASSERT_EQ(own.runLine(line), std::nullopt) << line;
     EXPECT_EQ(err.str(), "");
     slow->ends = true;
-    ASSERT_EQ(own.runLine("tick 3"), std::nullopt); // the first ends the one before
+    ASSERT_EQ(own.runLine("tick 3"), std::nullopt); // the first of them completes the pending tick
     EXPECT_EQ(err.str(), "press right at 60, 140 reached \"OVER\"\nwheel up at 60, 140 reached \"OVER\"\n");
     slow->ends = false;
     EXPECT_EQ(own.runLine("tick"), std::nullopt);
     EXPECT_EQ(own.runLine("click OK"), "the input was not taken within 240 frames");
 }
 
-TEST_F(PointingTest, TheInputLogTellsWhatEachTransitionReached)
+TEST_F(PointingTest, TheInputLogShowsWhatEachTransitionReached)
 {
     write("run.events", R"(call BOX setWndPos 20 20 60 60
 call OK setEnabled 0
