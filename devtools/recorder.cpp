@@ -377,11 +377,11 @@ void Recorder::pointAtHotCell(const Spot& spot)
     const std::optional<CellPlace> hot = hotCellOf(spot.wnd);
     if (isPlaybackOn(spot)) {
         const bool isInSync = playbackPointer->realPoint == pointer;
-        const bool byGame = isInSync && playbackPointer->movesOnList == 0; // moved by the game in both
-        const bool isKnown = byGame || playbackPointer->movesOnList >= settledMoves;
+        const bool wasMovedByGame = isInSync && playbackPointer->movesOnList == 0;
+        const bool isKnown = wasMovedByGame || playbackPointer->movesOnList >= settledMoves;
         const bool isOnCell = haveSameEffect(spotAt(game, playbackPointer->point, PointerAct::Point), spot);
-        const bool isPointers = isOnCell && (!hot || *hot == spot.cell);
-        if (isKnown && (playbackPointer->keysFollowed ? isInSync : isPointers))
+        const bool isHotCellUnderPointer = isOnCell && (!hot || *hot == spot.cell);
+        if (isKnown && (playbackPointer->keysFollowed ? isInSync : isHotCellUnderPointer))
             return;
     }
     const auto& list = static_cast<const AListBox&>(*spot.wnd);
@@ -393,9 +393,8 @@ void Recorder::pointAtHotCell(const Spot& spot)
     addPointing(spotAt(game, end, PointerAct::Point));
     steps.back().kind = Kind::Approach; // either move needs a tick without input
     playbackPointer->movesOnList = settledMoves;
-    if (arrival == tick)
-        playbackPointer->realPoint
-            .reset(); // the row under the real pointer becomes hot only after this input
+    if (arrival == tick) // the row under the real pointer becomes hot only after this input
+        playbackPointer->realPoint.reset();
 }
 
 void Recorder::noteRest()

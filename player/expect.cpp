@@ -13,9 +13,9 @@
 
 namespace {
 
-constexpr int framesWaited = 240; // by a wait without a number
+constexpr int defaultWaitFrames = 240;
 
-/// What was found instead of the expected; nothing if the expectation holds.
+/// What was found instead of the expected value; nothing if the expectation holds.
 using Found = std::optional<std::string>;
 
 // The words passed to an expectation's function begin with the expectation's name.
@@ -265,7 +265,7 @@ void waitUntil(const Event& event)
     if (inner.words.size() != words && !hasNumber)
         failForm("wait until " + std::string(row.form) + " [N]", event.words);
     const auto frames =
-        hasNumber ? inner.number(words, 0, std::numeric_limits<std::int32_t>::max()) : framesWaited;
+        hasNumber ? inner.number(words, 0, std::numeric_limits<std::int32_t>::max()) : defaultWaitFrames;
     inner.words = inner.words.first(words);
 
     std::int64_t waited = 0;

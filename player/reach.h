@@ -30,7 +30,7 @@ TGX_PLAYER_INTERNAL AWnd* findMeantWindow(AMainWin& win, const std::string& id);
 
 /// Returns the window's id in quotes, for messages.
 TGX_PLAYER_INTERNAL std::string nameOf(const AWnd& wnd);
-/// Returns why wnd is not visible ("is hidden", ...), or "" if it is, unless something covers it.
+/// Returns why wnd is not visible ("is hidden", ...), or "" if it is. Ignores windows that cover it.
 std::string whyNotShown(AMainWin& win, AWnd& wnd);
 /// Returns why wnd is disabled ("is disabled", ...), or "" if it is enabled.
 TGX_PLAYER_INTERNAL std::string whyDisabled(AWnd& wnd);
