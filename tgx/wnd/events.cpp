@@ -14,11 +14,11 @@ bool isOneOf(const std::string_view (&ids)[N], std::string_view id)
     return std::find(std::begin(ids), std::end(ids), id) != std::end(ids);
 }
 
-/// Where Esc puts the pointer: the first of these that is there and enabled.
+/// Esc moves the pointer to the first of these that exists and is enabled.
 constexpr const char* escTargets[] = {"TGX_BACK", "TGX_OK", "TGX_YES", "TGX_CLOSE", "continue"};
 
-/// An Esc search that reaches an edit box clicks it, which sends the key down the tree again: no search
-/// inside a search.
+/// Set while Esc searches for its target: a search that reaches an edit box clicks it, which sends the key
+/// down the tree again, and must not start another search.
 bool escSearchRuns = false;
 
 } // namespace
@@ -53,7 +53,7 @@ void AWnd::startup()
     if (anim)
         anim->reset();
     tgx::Stage* stage = tgx::stage();
-    // A window made before the main window was there has no font yet.
+    // A window made before the main window exists has no font yet.
     if (!font && stage)
         font = parent && parent->font ? parent->font : stage->getFont(0);
     if (bkgnd && stage)
@@ -110,12 +110,12 @@ int AWnd::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOU
         for (ChildWalk walk(children); handling.mayGoOn() && walk.mayGoOn();)
             if (AWnd* next = walk.next())
                 next->handleMouseAction(about, wnd, x, y, action);
-        // Asked again: a handler may have taken the key, or changed it.
+        // Checked again, because a handler may have consumed or changed the key.
         if (handling.isHandlerAlive() && stage && stage->keyCode == VK_ESCAPE)
             putPointerOnCancel();
     }
 
-    // The handling may have hidden, disabled or deleted what it went through.
+    // A handler may have hidden, disabled or deleted this window.
     return handling.isHandlerAlive() && isEnabled() ? result : 0;
 }
 
@@ -137,7 +137,7 @@ void AWnd::putPointerOnCancel()
 
 int AWnd::handleKeyInput(char key)
 {
-    const WndRef self = this; // what the key does may delete the window
+    const WndRef self = this; // handling the key may delete the window
     for (ChildWalk walk(children); walk.mayGoOn();)
         if (AWnd* next = walk.next())
             next->handleKeyInput(key);
@@ -146,7 +146,7 @@ int AWnd::handleKeyInput(char key)
 
 int AWnd::handlePopupAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
-    const WndRef self = this; // what the report does may delete the window
+    const WndRef self = this; // handling the action may delete the window
     if (AWnd* holder = getParent())
         holder->handlePopupAction(about, wnd, x, y, action);
     if (self && action == MA_LBUTTONUP && closesPopup(about.view()) && getPopupWnd())
