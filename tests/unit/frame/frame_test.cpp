@@ -4,7 +4,7 @@
 
 namespace {
 
-TEST(FrameGovernor, StepsFollowTheRate)
+TEST(FrameGovernor, StepsFollowTheFrameRate)
 {
     const struct {
         const char* name;
@@ -36,7 +36,7 @@ TEST(FrameGovernor, StepsFollowTheRate)
 
 class FrameTest : public TgxTest {};
 
-TEST_F(FrameTest, OneFrameInItsOrder)
+TEST_F(FrameTest, OrderOfDrawingInAFrame)
 {
     bitmap("a.bmp", 10, 10);
     script("WINDOW \"DARKWND\" 0 0 640 480\nBEGIN\nBITMAP \"\" 0 0 1 1 \"a.bmp\"\nEND\n", "common.tgx");
@@ -115,7 +115,7 @@ TEST_F(FrameTest, TheExitWaitsForTheNextFrame)
     EXPECT_EQ(win().readScriptFile("script.tgx", nullptr, 141, "S", 0), nullptr);
 }
 
-TEST_F(FrameTest, NoScreenIsNoFault)
+TEST_F(FrameTest, AFrameWithoutAScreenIsNotAFailure)
 {
     expectMessage("no screen in script.tgx");
     start("WINDOW \"W\" 0 0 10 10\n");
@@ -123,7 +123,7 @@ TEST_F(FrameTest, NoScreenIsNoFault)
     EXPECT_EQ(win().getActiveScreen(), nullptr);
 }
 
-TEST_F(FrameTest, ANewListForgetsTheOldOne)
+TEST_F(FrameTest, ANewScreenListForgetsTheOldOne)
 {
     script("WINDOW \"DARKWND\" 0 0 640 480\n", "common.tgx");
     start("SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nWINDOW \"W\" 0 0 50 50\nEND\nWINDOW \"BOX\" 0 0 9 9\n");

@@ -51,7 +51,7 @@ TEST_F(InputTest, ACancelledPressClicksNothing)
     EXPECT_EQ(clicks(), std::vector<std::string>{"B"}) << "the next press is one as any other";
 }
 
-TEST_F(InputTest, OneActionGoesOutATick)
+TEST_F(InputTest, OneActionIsDispatchedPerTick)
 {
     const struct {
         const char* name;
@@ -99,7 +99,7 @@ TEST_F(InputTest, OneActionGoesOutATick)
     EXPECT_EQ(ear->heard, (std::vector<int>{AWnd::MA_RBUTTONDOWN, AWnd::MA_MBUTTONDOWN}));
 }
 
-TEST_F(InputTest, AHeldButtonRepeatsBehindADelay)
+TEST_F(InputTest, AHeldButtonRepeatsAfterADelay)
 {
     const struct {
         int interval;
@@ -122,7 +122,7 @@ TEST_F(InputTest, AHeldButtonRepeatsBehindADelay)
         EXPECT_EQ(due[row.interval], row.ticks) << row.interval;
 }
 
-TEST_F(InputTest, TabPassesOverStopsThatCannotBeUsed)
+TEST_F(InputTest, TabSkipsUnusableStops)
 {
     wnd("B")->setEnabled(0);
     wnd("C")->setVisible(0);

@@ -109,7 +109,7 @@ protected:
     static inline Calls calls; // outlives the windows that note in it
 };
 
-TEST_F(PopupsTest, MessagesOfOneHandlerComeOneAfterTheOther)
+TEST_F(PopupsTest, MessagesOfOneHandlerAppearOneAfterTheOther)
 {
     clickToAsk([this] {
         EXPECT_EQ(screen("S")->messageBox("title 1", "text 1", "", "messageBox"), 1);
@@ -143,7 +143,7 @@ TEST_F(PopupsTest, MessagesOfOneHandlerComeOneAfterTheOther)
     EXPECT_EQ(popups(), "messageBox1") << "the name is free again";
 }
 
-TEST_F(PopupsTest, EachHandsThePointerOnToTheNext)
+TEST_F(PopupsTest, EachPopupPassesThePointerToTheNext)
 {
     for (const char* id : {"B1", "B2", "B3"}) {
         open(id, "S");
@@ -199,7 +199,7 @@ TEST_F(PopupsTest, OpeningByParent)
     }
 }
 
-TEST_F(PopupsTest, OpenedAgain)
+TEST_F(PopupsTest, APopupThatIsOpenedAgain)
 {
     AWnd* popup = open("B1", "S");
     popup->setMoveAnimation(0, 0, 50, 0, ZnFixed::fromInt(10), ZnFixed(), 0);
@@ -227,7 +227,7 @@ TEST_F(PopupsTest, OpenedAgain)
     EXPECT_EQ(popups(), "") << "a popup that is not to be had closes the front one";
 }
 
-TEST_F(PopupsTest, AScreenChangeTakesThemAllFrontFirst)
+TEST_F(PopupsTest, AScreenChangeClosesAllPopupsFrontFirst)
 {
     open("B1", "S");
     open("B2", "P");
@@ -310,7 +310,7 @@ TEST_F(PopupsTest, AnswersToAQuery)
     EXPECT_EQ(taken(), Calls{"Q TGX_NO"}) << "the press is over: its release falls where the pointer is now";
 }
 
-TEST_F(PopupsTest, WhatTheScriptLacks)
+TEST_F(PopupsTest, BoxesMissingInTheScript)
 {
     const struct {
         const char* name;

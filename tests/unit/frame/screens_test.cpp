@@ -115,7 +115,7 @@ TEST_F(ScreensTest, ADisabledCloseButtonForbidsLeavingForGood)
     EXPECT_EQ(active(), "B");
 }
 
-TEST_F(ScreensTest, ADyingScreenIsReadAnew)
+TEST_F(ScreensTest, AScreenMarkedForDeletionIsReadAgain)
 {
     begin();
     play("change B close", "draw 5"); // no tick: A is still dying
@@ -157,7 +157,7 @@ TEST_F(ScreensTest, WindowsOfTheWrongKindAreRefused)
 }
 
 // A game's factory gives plain windows types that only the toolkit's own classes should have.
-TEST_F(ScreensTest, NoWindowIsTakenForAClassByItsTypeAlone)
+TEST_F(ScreensTest, TheWindowTypeAloneDoesNotDecideTheClass)
 {
     begin();
     const std::pair<const char*, AWnd::E_WNDTYPE> types[] = {
@@ -194,7 +194,7 @@ TEST_F(ScreensTest, NoWindowIsTakenForAClassByItsTypeAlone)
     EXPECT_EQ(active(), "LIES") << "and nothing has crashed";
 }
 
-TEST_F(ScreensTest, ToTheActiveScreenItself)
+TEST_F(ScreensTest, AChangeToTheActiveScreenItself)
 {
     begin();
     play("change A", "frame 5");
@@ -206,7 +206,7 @@ TEST_F(ScreensTest, ToTheActiveScreenItself)
     EXPECT_TRUE(screen("A")->isOpen());
 }
 
-TEST_F(ScreensTest, TheFirstOfTwoRequestsWinsAndIsCarriedOutAtOnce)
+TEST_F(ScreensTest, ASecondRequestCarriesOutTheFirstOneAtOnce)
 {
     begin();
     play("change B", "frame 2", "change C");
@@ -217,7 +217,7 @@ TEST_F(ScreensTest, TheFirstOfTwoRequestsWinsAndIsCarriedOutAtOnce)
     EXPECT_EQ(win().getPendingScreen(), "");
 }
 
-TEST_F(ScreensTest, AScreenThatIsNotToBeHadChangesNothing)
+TEST_F(ScreensTest, AMissingScreenChangesNothing)
 {
     begin();
     play("call main setPopupWnd W A 0", "frame");
@@ -258,7 +258,7 @@ TEST_F(ScreensTest, ClosingAllButTheCurrent)
     EXPECT_EQ(taken(), (Calls{"C close", "B startup", "B initialise"}));
 }
 
-TEST_F(ScreensTest, ClosingAllButTheCurrentMissesNoneWhenAHandlerDeletesAnOlderWindow)
+TEST_F(ScreensTest, ClosingAllButTheCurrentMissesNoneIfAHandlerDeletesAnOlderWindow)
 {
     begin();
     win().readScriptFile("script.tgx", nullptr, mainScriptResource, "OLDER", 0);
@@ -272,7 +272,7 @@ TEST_F(ScreensTest, ClosingAllButTheCurrentMissesNoneWhenAHandlerDeletesAnOlderW
     EXPECT_EQ(taken(), (Calls{"B close", "C close"}));
 }
 
-TEST_F(ScreensTest, WhatAPersonDoesOnTheWayToAScreenIsNotForIt)
+TEST_F(ScreensTest, InputMadeDuringAChangeDoesNotReachTheNewScreen)
 {
     const struct {
         const char* name;
@@ -328,7 +328,7 @@ protected:
     std::uint32_t pixel(int x) { return win().getScreenImage().row(0)[x] & 0xFFFFFF; }
 };
 
-TEST_F(WipeTest, TheNewBackdropSpreadsFromTheLeft)
+TEST_F(WipeTest, TheNewBackdropIsUncoveredFromTheLeft)
 {
     begin();
     win().setWipeEnabled(1);
@@ -354,7 +354,7 @@ TEST_F(WipeTest, TheNewBackdropSpreadsFromTheLeft)
     EXPECT_EQ(pixel(1), 0x445566u) << "of the backdrop at that time";
 }
 
-TEST_F(WipeTest, AClickCutsItShortAndTheBackdropStillComes)
+TEST_F(WipeTest, AClickShortensTheWipeAndTheBackdropStillChanges)
 {
     begin();
     win().setWipeEnabled(1);
@@ -365,7 +365,7 @@ TEST_F(WipeTest, AClickCutsItShortAndTheBackdropStillComes)
     EXPECT_EQ(pixel(639), 0x445566u);
 }
 
-TEST_F(WipeTest, NarrowScreens)
+TEST_F(WipeTest, NarrowScreensDoNotWipe)
 {
     const struct {
         int width, frames;
@@ -386,7 +386,7 @@ TEST_F(WipeTest, NarrowScreens)
     EXPECT_EQ(win().getLastFrame().commands().back().op, DrawOp::DrawScreen) << "no wipe at all";
 }
 
-TEST_F(ScreensTest, TenThousandVisitsLeaveAsManyPixelsAsOne)
+TEST_F(ScreensTest, TenThousandVisitsUseNoMorePixelsThanOne)
 {
     for (const char* name : {"pic.bmp", "other.bmp", "edge.bmp", "icon.bmp", "row.bmp"})
         bitmap(name, 48, 24);

@@ -39,7 +39,7 @@ protected:
     }
 #define REQUEST(RECORD, NAME, IDLE) REQUEST_OF(RECORD, NAME, networkSide().NAME = 1, Done##NAME, IDLE)
 
-TEST_F(OnlineTest, ARequestIsReadUntilItsDoneCallAndNoOther)
+TEST_F(OnlineTest, ARequestIsSetUntilItsOwnDoneCall)
 {
     CClientConnection& connection = g_Connection;
     const struct {
@@ -200,7 +200,7 @@ TEST_F(OnlineTest, HomeAndAway)
     }
 }
 
-TEST_F(OnlineTest, WithoutAnOwnRecord)
+TEST_F(OnlineTest, WithoutARecordOfOurOwn)
 {
     setUsers({30, 10});
     g_Connection.FindSelf(11);
@@ -216,7 +216,7 @@ TEST_F(OnlineTest, WithoutAnOwnRecord)
     EXPECT_THROW(g_Connection.TeamDetails(0).Ratings(CELORating(), -1), CInvalidArgException);
 }
 
-TEST_F(OnlineTest, WhatCountsDownEndsAtNothing)
+TEST_F(OnlineTest, CountersStopAtZero)
 {
     challenge.networkSide().Updated = 2;
     for (int expected : {1, 0, 0}) {
@@ -232,7 +232,7 @@ TEST_F(OnlineTest, WhatCountsDownEndsAtNothing)
     EXPECT_EQ(game.OpponentChessClock(), 13);
 }
 
-TEST_F(OnlineTest, TextsAndListsThatWait)
+TEST_F(OnlineTest, WaitingTextsAndLists)
 {
     EXPECT_FALSE(g_Connection.Messages() || g_Connection.Alerts() || game.Messages());
     g_Connection.AlertText()->AddTail("server closes at ten");
@@ -260,7 +260,7 @@ TEST_F(OnlineTest, TextsAndListsThatWait)
     EXPECT_EQ(g_Connection.NetGame()->Connection(), &g_Connection);
 }
 
-TEST_F(OnlineTest, ARatingKeepsItsFractionsAndCopiesWhole)
+TEST_F(OnlineTest, ARatingKeepsItsFractionsAndIsCopiedCompletely)
 {
     CELORating rating;
     rating.networkSide() = {1500.9, 3, 4, 5.5, 1510.2, -0.9, -7.9};

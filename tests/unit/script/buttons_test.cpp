@@ -16,7 +16,7 @@ protected:
     }
 };
 
-TEST_F(ButtonStatements, FormsAndTheirCounts)
+TEST_F(ButtonStatements, FormsAndTokenCounts)
 {
     const auto button4 = [](auto... more) {
         return line("BUTTON", "B", 0, 0, 50, 20, "", 0, 0, "b.bmp", more...);
@@ -69,7 +69,7 @@ TEST_F(ButtonStatements, FormsAndTheirCounts)
     EXPECT_EQ(tree(), "");
 }
 
-TEST_F(ButtonStatements, StateButtonsHaveOneKindOfTarget)
+TEST_F(ButtonStatements, StateButtonsAcceptOneKindOfTarget)
 {
     const std::string tick = line("CHECKBOXSTATE", 1, 2, 3, 4, "t.bmp");
     const std::string dot = line("RADIOSTATE", 1, 2, 3, 4, "t.bmp", 5, 6, 7, 1, 2, 3, 4);
@@ -121,7 +121,7 @@ TEST_F(ButtonStatements, ADisabledRunMayBeLeftOut)
         << "no button, and a wrong count";
 }
 
-TEST_F(ButtonStatements, AThousandRadioButtonsKnowOneAnother)
+TEST_F(ButtonStatements, AThousandRadioButtonsAreLinkedWithOneAnother)
 {
     runScript(radios("R", 1001) + wnd("A") + radios("S", 1));
     EXPECT_EQ(messages, Messages{lineError(1001, "t.tgx")});

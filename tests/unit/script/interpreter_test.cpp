@@ -132,7 +132,7 @@ TEST_F(ScriptTest, WindowStatementsTakeTheirArguments)
     EXPECT_EQ(screen->getExtraString(), "more");
 }
 
-TEST_F(ScriptTest, WhatCannotBeFoundFailsItsLine)
+TEST_F(ScriptTest, AMissingFontOrWindowFailsItsLine)
 {
     runScript(wnd("A") + block(wnd("B") + wnd("C") + line("TABORDER", "b", "C", "LATER", "B") +
                                line("TABLIST1", "B", "B") + line("FONT", 99) + line("FONT", -1) +

@@ -23,7 +23,7 @@ std::string sub(const std::string& name, const std::string& body)
     return line("SUBROUTINE", name) + body;
 }
 
-TEST_F(ScriptTest, OneWindowIsReadOutOfAScript)
+TEST_F(ScriptTest, OneWindowIsReadFromAScript)
 {
     const std::string bad = line("WINDOW", "X");
     const struct {
@@ -198,7 +198,7 @@ TEST_F(ScriptTest, APointerNeverMakesACycle)
                                   lineError(16, "t.tgx")}));
 }
 
-TEST_F(ScriptTest, APointerLeavesTheSubroutineItStandsIn)
+TEST_F(ScriptTest, APointerEndsItsSubroutine)
 {
     file("p.tgx", wnd("P"));
     file("lib.tgx", sub("S", block(line("POINTER", "P", "p.tgx") + wnd("B") + line("GOTO", "T") +
@@ -209,7 +209,7 @@ TEST_F(ScriptTest, APointerLeavesTheSubroutineItStandsIn)
     EXPECT_EQ(messages, Messages{});
 }
 
-TEST_F(ScriptTest, CallsAndReadsNestOnlySoDeep)
+TEST_F(ScriptTest, CallsAndReadsHaveADepthLimit)
 {
     file("deep.tgx", sub("S", block(wnd("N") + line("GOTO", "S"))));
     runScript(line("GOTO", "S", "deep.tgx"));
@@ -228,7 +228,7 @@ TEST_F(ScriptTest, CallsAndReadsNestOnlySoDeep)
     EXPECT_EQ(messages.size(), 1u) << "the line whose window could not be read";
 }
 
-TEST_F(ScriptTest, AnEmptyScriptNameIsTheFirstStreamWithoutAName)
+TEST_F(ScriptTest, AnEmptyScriptNameMeansTheFirstStreamWithoutAName)
 {
     const std::string resource = sub("S", wnd("R"));
     const EmbeddedResource embedded("TGXScript", 300, reinterpret_cast<const unsigned char*>(resource.data()),
@@ -244,7 +244,7 @@ TEST_F(ScriptTest, AnEmptyScriptNameIsTheFirstStreamWithoutAName)
     EXPECT_EQ(messages.size(), 6u) << "no resource 0 is an empty stream, and it stays the first";
 }
 
-TEST_F(ScriptTest, AReadExecutesSoManyLinesAndNoMore)
+TEST_F(ScriptTest, AReadHasALineLimit)
 {
     const std::string lines = repeat(limits::scriptLines - 1, "\7") + wnd("LAST");
     runScript(lines);
@@ -258,7 +258,7 @@ TEST_F(ScriptTest, AReadExecutesSoManyLinesAndNoMore)
     EXPECT_EQ(tree(), "LAST BEHIND") << "the next read starts afresh";
 }
 
-TEST_F(ScriptTest, LargeScriptsRunWholeAndEndlessOnesEnd)
+TEST_F(ScriptTest, LargeScriptsRunCompletelyAndEndlessOnesEnd)
 {
     const std::string resource = sub("S", wnd("R"));
     const EmbeddedResource embedded("TGXScript", 300, reinterpret_cast<const unsigned char*>(resource.data()),
@@ -295,7 +295,7 @@ TEST_F(ScriptTest, LargeScriptsRunWholeAndEndlessOnesEnd)
     }
 }
 
-TEST_F(ScriptTest, TenThousandWindowsStandInThreeTabLists)
+TEST_F(ScriptTest, TenThousandWindowsInThreeTabLists)
 {
     constexpr int count = 10'000;
     std::string windows;
@@ -335,7 +335,7 @@ long placesBelow(AWnd& wnd)
     return places;
 }
 
-TEST_F(ScriptTest, WindowsThatAreShownTwiceInEachOtherStayDrawable)
+TEST_F(ScriptTest, WindowsShownTwiceInEachOtherCanStillBeDrawn)
 {
     std::string inside = wnd("W0");
     std::string windows = wnd("W0");
@@ -368,7 +368,7 @@ TEST_F(ScriptTest, WindowsThatAreShownTwiceInEachOtherStayDrawable)
     }
 }
 
-TEST_F(ScriptTest, AWindowInsideASharedOneCountsInEachOfItsPlaces)
+TEST_F(ScriptTest, AWindowInsideASharedOneCountsInEachPlace)
 {
     constexpr long times = 2000; // the window itself is one of them
     constexpr long fit = (limits::sharedPlaces - (times - 1)) / times;
@@ -383,7 +383,7 @@ TEST_F(ScriptTest, AWindowInsideASharedOneCountsInEachOfItsPlaces)
     EXPECT_EQ(get("P")->getText(), "still here");
 }
 
-TEST_F(ScriptTest, TheCountOfPlacesHoldsAtItsEnd)
+TEST_F(ScriptTest, TheLimitOfPlacesIsExact)
 {
     runScript(wnd("P"));
     for (int i = 0; i < 40'000; ++i)

@@ -31,7 +31,7 @@ void attach(CMemFile& file, const std::string& bytes)
     file.Attach(reinterpret_cast<const unsigned char*>(bytes.data()), static_cast<unsigned>(bytes.size()));
 }
 
-TEST(ScriptReader, CutsLinesIntoTokens)
+TEST(ScriptReader, SplitsLinesIntoTokens)
 {
     const struct {
         const char* name;
@@ -60,7 +60,7 @@ TEST(ScriptReader, CutsLinesIntoTokens)
     }
 }
 
-TEST(ScriptReader, LinesOfAnyLengthComeOutWholeAndEndAtTheirEnd)
+TEST(ScriptReader, LinesOfAnyLengthAreReadCompletely)
 {
     for (int length = 85; length < 310; ++length) {
         SCOPED_TRACE(length);
@@ -75,7 +75,7 @@ TEST(ScriptReader, LinesOfAnyLengthComeOutWholeAndEndAtTheirEnd)
     }
 }
 
-TEST(ScriptReader, EntriesBehindTheLineReadAsNothing)
+TEST(ScriptReader, EntriesAfterTheLineAreEmpty)
 {
     TOKEN_INFO tokens[maxLineTokens];
     for (TOKEN_INFO& token : tokens)
@@ -95,7 +95,7 @@ TEST(ScriptReader, EntriesBehindTheLineReadAsNothing)
     }
 }
 
-TEST(ScriptReader, ALineOfTooManyTokensIsCountedButNotStored)
+TEST(ScriptReader, TokensBeyondTheLimitAreCountedButNotStored)
 {
     TOKEN_INFO tokens[4];
     tokens[3] = {77, "untouched", 7};
