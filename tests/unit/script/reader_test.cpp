@@ -8,7 +8,7 @@ using namespace std::string_literals;
 
 namespace {
 
-/// Reads one line and tells its tokens: "113 'PANEL' 10", a keyword by its id; "end" at the end of the
+/// Reads one line and returns its tokens, such as "113 'PANEL' 10", keywords by id; "end" at the end of the
 /// stream.
 std::string readTokens(CFile& stream)
 {
@@ -43,8 +43,8 @@ TEST(ScriptReader, SplitsLinesIntoTokens)
         {"the ends of the number range", "\3\xFF\x7F\3\0\x80\3\xFF\xFF\7"s, "32767 -32768 -1", "end"},
         {"texts of bytes that begin tokens", "\4\3\4\7\0\7\x0E\7"s, "'\3\4\7'", "14"},
         {"an empty text is a token", "\x69\4\0\4\0\7"s, "105 '' ''", "end"},
-        {"a keyword alone", "\x0E\7\x0F\7"s, "14", "15"},
-        {"an end of line alone is a line", "\7\x0F\7"s, "", "15"},
+        {"a single keyword", "\x0E\7\x0F\7"s, "14", "15"},
+        {"a single end of line is a line", "\7\x0F\7"s, "", "15"},
         {"a keyword byte of 0", "\0\x0E\7"s, "0 14", "end"},
         {"nothing", "", "end", "end"},
         {"a line without its end", "\x0E\7\x71\4P\0"s, "14", "end"},
