@@ -143,7 +143,7 @@ int AButton::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_
     const ActionRefs handling(this, wnd);
     AWnd::handleMouseAction(about, wnd, x, y, action);
 
-    if (!handling.mayGoOn() || !isVisible(1) || isMeantForAnother(wnd))
+    if (!handling.canContinue() || !isVisible(1) || isMeantForAnother(wnd))
         return 0;
     if (buttonState == BS_DISABLED)
         return 1;
@@ -167,7 +167,7 @@ int AButton::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_
     return 1;
 }
 
-bool AButton::openingRunIsOver() const
+bool AButton::isOpeningRunOver() const
 {
     const int frames = stateFrames[BS_STARTUP];
     return frames == 0 || (currentFrame >= frames - 1 && frameTimer >= frameDelay - 1);
@@ -177,7 +177,7 @@ void AButton::draw(int frameStep)
 {
     if (!isVisible(1))
         return;
-    if (buttonState == BS_STARTUP && openingRunIsOver())
+    if (buttonState == BS_STARTUP && isOpeningRunOver())
         setButtonState(BS_NORMAL);
     std::optional<Swapped<short>> still;
     if (buttonState == BS_NORMAL && stateFrames[BS_NORMAL] == 0) {

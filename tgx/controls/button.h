@@ -73,5 +73,5 @@ protected:
 
 private:
     int firstFrameOf(E_BUTTON_STATE state) const;
-    bool openingRunIsOver() const;
+    bool isOpeningRunOver() const;
 };

@@ -71,7 +71,7 @@ int AComboBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, 
 {
     const ActionRefs handling(this, wnd);
     AButton::handleMouseAction(about, wnd, x, y, action);
-    if (!handling.mayGoOn() || !isVisible(1))
+    if (!handling.canContinue() || !isVisible(1))
         return 0;
     // An action on one of the two buttons counts as one on the box.
     if (about != "ComboPrev" && about != "ComboNext" && isMeantForAnother(wnd))

@@ -55,7 +55,7 @@ AEditBox::AEditBox(const CString& name, int x, int y, int width, int height)
     frameDelay = blinkPeriod;
 }
 
-bool AEditBox::isTypedIn() const
+bool AEditBox::isBeingEdited() const
 {
     return tgx::stage()->getMouseCaptureWnd(0) == this;
 }
@@ -63,7 +63,7 @@ bool AEditBox::isTypedIn() const
 void AEditBox::setWindowText(const CString& text)
 {
     AWnd::setWindowText(text);
-    if (isTypedIn())
+    if (isBeingEdited())
         cursorPos = to16(windowText.GetLength());
 }
 
@@ -142,9 +142,9 @@ int AEditBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E
 {
     const ActionRefs handling(this, wnd);
     AWnd::handleMouseAction(about, wnd, x, y, action);
-    if (!handling.mayGoOn() || action != MA_LBUTTONUP)
+    if (!handling.canContinue() || action != MA_LBUTTONUP)
         return 0;
-    if (!isTypedIn()) {
+    if (!isBeingEdited()) {
         if (pointInside(x, y)) {
             cursorPos = to16(windowText.GetLength());
             tgx::stage()->setMouseCaptureWnd(this);
@@ -212,7 +212,7 @@ void AEditBox::draw(int frameStep)
         return;
     RECT box{left(), top(), right(), bottom()};
     tgx::stage()->adddirtyrect(box); // the caret changes even if the window does not
-    if (isTypedIn())
+    if (isBeingEdited())
         drawCaret();
 }
 

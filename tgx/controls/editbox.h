@@ -61,7 +61,7 @@ protected:
 
 private:
     class Stars;
-    bool isTypedIn() const;
+    bool isBeingEdited() const;
     void typeCharacter();
     void endTyping();
     void pressNextWnds();

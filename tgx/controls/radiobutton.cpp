@@ -108,7 +108,7 @@ int ARadioButton::handleMouseAction(const CString& about, AWnd* wnd, int x, int 
 {
     const ActionRefs handling(this, wnd);
     AButton::handleMouseAction(about, wnd, x, y, action);
-    if (!handling.mayGoOn() || isMeantForAnother(wnd))
+    if (!handling.canContinue() || isMeantForAnother(wnd))
         return 0;
 
     if (action == MA_KEY) {

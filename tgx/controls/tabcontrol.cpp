@@ -86,7 +86,7 @@ int ATabControl::handleMouseAction(const CString& about, AWnd* wnd, int x, int y
 {
     const ActionRefs handling(this, wnd);
     AWnd::handleMouseAction(about, wnd, x, y, action);
-    if (!handling.mayGoOn() || !isVisible(1) || action != MA_LBUTTONUP)
+    if (!handling.canContinue() || !isVisible(1) || action != MA_LBUTTONUP)
         return 0;
     AButton* tab = asTab(getWndAtPos(x, y, 0));
     if (tab && tab->getButtonState() != AButton::BS_DISABLED)
@@ -102,7 +102,7 @@ void ATabControl::draw(int frameStep)
     AWnd::draw(frameStep);
     if (!self)
         return;
-    for (ChildWalk walk(children); walk.mayGoOn();) {
+    for (ChildWalk walk(children); walk.canContinue();) {
         AButton* tab = asTab(walk.next());
         if (tab && tab->isSelected())
             tab->draw(0);

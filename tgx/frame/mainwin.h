@@ -113,7 +113,7 @@ public:
     /// without such a row, otherwise 1, also for null.
     int setMousePosOnWnd(AWnd* wnd, int jump) override;
     /// Moves the pointer to the next tab stop of root after from. Returns 1, or 0 if no tab stop could take
-    /// it.
+    /// the pointer.
     int setMousePosOnNextTabStop(AWnd* root, AWnd* from, int backwards, int jump) override;
     int getKeepListSelection() const { return keepListSelection; }
     void setKeepListSelection(int set) { keepListSelection = set; }

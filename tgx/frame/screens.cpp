@@ -164,8 +164,9 @@ void AMainWin::showBackdropOf(const AScreen& screen)
     createspecific(paletteName, -1);
 }
 
-// A wipe of a screen 640 pixels wide, frame by frame: wipeFramesLeft 16 15 14 13 ... 3 2 1 uncovered 0 40
-// backdrop 120 ... 520 whole whole, returned then drawbackdrop, each time
+// A wipe of a screen 640 pixels wide, frame by frame; each frame ends with drawbackdrop:
+//   wipeFramesLeft   16  15   14        13 ... 3       2       1
+//   uncovered        0   40   backdrop  120 ... 520    whole   whole, returned
 void AMainWin::screenWipe()
 {
     const int total = screenWidth / wipeStrip;

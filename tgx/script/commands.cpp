@@ -33,7 +33,7 @@ CFile* streamOfSubroutine(const ScriptLine& line)
 }
 
 /// Returns an explanation if the line names a script that does not exist, otherwise "".
-std::string whyNoSubroutines(const ScriptLine& line)
+std::string whyNoSubroutineScript(const ScriptLine& line)
 {
     const CString& script = line.text(2);
     if (line.count < 3 || (line.stream && line.stream->GetFileName() == script))
@@ -56,7 +56,7 @@ bool goTo(const ScriptLine& line)
     const CString& name = line.text(1);
     if (line.window.doSubroutine(streamOfSubroutine(line), name, line.current, line.gotoFiles))
         return true;
-    const std::string cause = whyNoSubroutines(line);
+    const std::string cause = whyNoSubroutineScript(line);
     const std::string text = "Could not find SUBROUTINE";
     displayhost::current().showFailure(CString(text), cause);
     displayhost::current().showFailure(CString(text + ' ' + static_cast<const char*>(name)), cause);

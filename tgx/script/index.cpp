@@ -62,8 +62,8 @@ void ScriptIndex::forEachName(bool ofSubroutines, Visit visit) const
 
 std::optional<ScriptIndex::Place> ScriptIndex::find(Names& names, std::string_view name)
 {
-    if (!names.asked) {
-        names.asked = true;
+    if (!names.wasSearched) {
+        names.wasSearched = true;
         std::optional<Place> found;
         forEachName(names.ofSubroutines, [&](std::string_view other, Place place) {
             if (other == name)
@@ -73,8 +73,8 @@ std::optional<ScriptIndex::Place> ScriptIndex::find(Names& names, std::string_vi
         return found;
     }
     const auto byName = [](const Entry& a, const Entry& b) { return a.name < b.name; };
-    if (!names.sorted) {
-        names.sorted = true;
+    if (!names.isSorted) {
+        names.isSorted = true;
         forEachName(names.ofSubroutines, [&](std::string_view other, Place place) {
             names.entries.push_back({other, place});
             return true;

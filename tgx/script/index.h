@@ -30,8 +30,8 @@ private:
     /// The names of one kind. The first search reads the lines; the second one builds a sorted table.
     struct Names {
         bool ofSubroutines;
-        bool asked = false;
-        bool sorted = false;
+        bool wasSearched = false;
+        bool isSorted = false;
         std::vector<Entry> entries = {};
     };
 

@@ -7,7 +7,7 @@ class AWnd;
 /// Visits a window's children in order, even if handling one of them adds or deletes others, or the window
 /// itself. Each child that exists when its turn comes is visited once.
 ///
-///     for (ChildWalk walk(children); walk.mayGoOn();)
+///     for (ChildWalk walk(children); walk.canContinue();)
 ///         if (AWnd* next = walk.next())
 ///             next->close();
 ///
@@ -22,8 +22,8 @@ public:
     ChildWalk& operator=(const ChildWalk&) = delete;
     ~ChildWalk() { innermost = outer; }
 
-    bool mayGoOn() const { return children && index < children->GetSize(); }
-    /// Returns the next child, or null for an empty entry. Call it only while mayGoOn returns true.
+    bool canContinue() const { return children && index < children->GetSize(); }
+    /// Returns the next child, or null for an empty entry. Call it only while canContinue returns true.
     AWnd* next() { return children->GetData()[index++]; }
     /// Returns the index of the child that next will return.
     int getIndex() const { return index; }

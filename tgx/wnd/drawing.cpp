@@ -57,8 +57,8 @@ void AWnd::draw(int frameStep)
     }
     if (children.GetSize() > 0) {
         ChildWalk walk(children);
-        while (walk.mayGoOn()) {
-            fetchAhead(walk.getIndex());
+        while (walk.canContinue()) {
+            prefetchChildren(walk.getIndex());
             if (AWnd* next = walk.next())
                 next->draw(frameStep);
         }
@@ -80,7 +80,7 @@ void AWnd::draw(int frameStep)
 
 /// Prefetches the next windows and their bitmaps while this one is drawn: drawing many small windows mostly
 /// waits for memory.
-void AWnd::fetchAhead(int index) const
+void AWnd::prefetchChildren(int index) const
 {
     constexpr int windowsAhead = 8;
     constexpr int bitmapsAhead = 4;

@@ -19,7 +19,7 @@ constexpr const char* escTargets[] = {"TGX_BACK", "TGX_OK", "TGX_YES", "TGX_CLOS
 
 /// Set while Esc searches for its target: a search that reaches an edit box clicks it, which sends the key
 /// down the tree again, and must not start another search.
-bool escSearchRuns = false;
+bool isEscSearchRunning = false;
 
 } // namespace
 
@@ -43,7 +43,7 @@ bool closesPopup(std::string_view id)
 
 void AWnd::initialise()
 {
-    for (ChildWalk walk(children); walk.mayGoOn();)
+    for (ChildWalk walk(children); walk.canContinue();)
         if (AWnd* next = walk.next())
             next->initialise();
 }
@@ -59,14 +59,14 @@ void AWnd::startup()
     if (bkgnd && stage)
         createBkgnd(stage->getBackdrop(), 0);
     setBmp(bmpFilename);
-    for (ChildWalk walk(children); walk.mayGoOn();)
+    for (ChildWalk walk(children); walk.canContinue();)
         if (AWnd* next = walk.next())
             next->startup();
 }
 
 void AWnd::close()
 {
-    for (ChildWalk walk(children); walk.mayGoOn();)
+    for (ChildWalk walk(children); walk.canContinue();)
         if (AWnd* next = walk.next())
             next->close();
 }
@@ -74,14 +74,14 @@ void AWnd::close()
 void AWnd::returned()
 {
     setBmp(bmpFilename);
-    for (ChildWalk walk(children); walk.mayGoOn();)
+    for (ChildWalk walk(children); walk.canContinue();)
         if (AWnd* next = walk.next())
             next->returned();
 }
 
 void AWnd::finishAnims()
 {
-    for (ChildWalk walk(children); walk.mayGoOn();)
+    for (ChildWalk walk(children); walk.canContinue();)
         if (AWnd* next = walk.next())
             next->finishAnims();
 }
@@ -107,7 +107,7 @@ int AWnd::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOU
             if (AWnd* hit = getWndAtPos(x, y, 0))
                 result = hit->handleMouseAction(about, wnd, x, y, action);
     } else {
-        for (ChildWalk walk(children); handling.mayGoOn() && walk.mayGoOn();)
+        for (ChildWalk walk(children); handling.canContinue() && walk.canContinue();)
             if (AWnd* next = walk.next())
                 next->handleMouseAction(about, wnd, x, y, action);
         // Checked again, because a handler may have consumed or changed the key.
@@ -121,7 +121,7 @@ int AWnd::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOU
 
 void AWnd::putPointerOnCancel()
 {
-    if (escSearchRuns)
+    if (isEscSearchRunning)
         return;
     AWnd* target = nullptr;
     for (const char* name : escTargets) {
@@ -131,14 +131,14 @@ void AWnd::putPointerOnCancel()
     }
     if (!target || !target->isEnabled())
         return;
-    const Swapped<bool> running(escSearchRuns, true);
+    const Swapped<bool> running(isEscSearchRunning, true);
     tgx::stage()->setMousePosOnWnd(target, 0);
 }
 
 int AWnd::handleKeyInput(char key)
 {
     const WndRef self = this; // handling the key may delete the window
-    for (ChildWalk walk(children); walk.mayGoOn();)
+    for (ChildWalk walk(children); walk.canContinue();)
         if (AWnd* next = walk.next())
             next->handleKeyInput(key);
     return self ? handleMouseAction(id, this, -1, -1, MA_KEY) : 0;

@@ -20,7 +20,7 @@ void AScreenList::setActiveScreen(AScreen* screen)
 
 void AScreenList::closeScreensExceptActive()
 {
-    for (ChildWalk walk(children); walk.mayGoOn();) {
+    for (ChildWalk walk(children); walk.canContinue();) {
         auto* screen = windowAs<AScreen>(walk.next());
         if (screen && screen != getActiveScreen() && screen->isOpen())
             screen->close();

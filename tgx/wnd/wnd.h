@@ -442,7 +442,7 @@ private:
     void inheritFont();
     void paintBitmap(int atLeft, int atTop);
     void paintTiles(int srcX, int srcY, int x, int y, int w, int h);
-    void fetchAhead(int index) const;
+    void prefetchChildren(int index) const;
     void advanceFrame(int frameStep);
     Links& getLinks();
     void leaveOwner();

@@ -43,7 +43,7 @@ private:
 ///
 ///     const ActionRefs handling(this, wnd);
 ///     AWnd::handleMouseAction(about, wnd, x, y, action);
-///     if (!handling.mayGoOn())
+///     if (!handling.canContinue())
 ///         return 0;
 class ActionRefs {
 public:
@@ -53,7 +53,7 @@ public:
     {}
     bool isHandlerAlive() const { return handler.get() != nullptr; }
     bool isSubjectAlive() const { return isForAll || subject.get() != nullptr; }
-    bool mayGoOn() const { return isHandlerAlive() && isSubjectAlive(); }
+    bool canContinue() const { return isHandlerAlive() && isSubjectAlive(); }
 
 private:
     const WndRef handler;

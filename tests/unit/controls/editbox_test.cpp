@@ -22,12 +22,12 @@ protected:
               "  TABORDER \"NAME\" \"PassWord1\" \"OTHER\"\n"
               "END\n");
         play("frame 6");
-        ASSERT_TRUE(isTypedIn("NAME")) << "the first tab stop of a new screen";
+        ASSERT_TRUE(isBeingEdited("NAME")) << "the first tab stop of a new screen";
         play("call main setMouseCaptureWnd null");
         measureFont(0);
     }
     AEditBox* box(const std::string& id) { return static_cast<AEditBox*>(wnd(id)); }
-    bool isTypedIn(const std::string& id) { return win().getMouseCaptureWnd(0) == wnd(id); }
+    bool isBeingEdited(const std::string& id) { return win().getMouseCaptureWnd(0) == wnd(id); }
     void click(int x, int y)
     {
         play("move " + std::to_string(x) + " " + std::to_string(y), "press left", "tick", "release left",
@@ -58,7 +58,7 @@ protected:
 TEST_F(EditBoxTest, TypedCharactersAreInsertedAtTheCaret)
 {
     click(110, 110);
-    ASSERT_TRUE(isTypedIn("NAME"));
+    ASSERT_TRUE(isBeingEdited("NAME"));
     const struct {
         const char* event;
         const char* state;
@@ -99,22 +99,22 @@ TEST_F(EditBoxTest, AcceptedCharactersAndLengths)
 TEST_F(EditBoxTest, StartAndEndOfTyping)
 {
     play("move 110 110", "tick", "key tab", "tick", "tick");
-    EXPECT_TRUE(isTypedIn("PassWord1")) << "moving there with Tab starts the typing";
+    EXPECT_TRUE(isBeingEdited("PassWord1")) << "moving there with Tab starts the typing";
     type("ab");
     play("key tab", "tick", "tick");
     EXPECT_EQ(win().getMouseCaptureWndCount(), 0) << "Tab ends the typing";
     EXPECT_EQ(win().getCurFocusWnd(), wnd("OTHER"));
 
     click(110, 110);
-    EXPECT_TRUE(isTypedIn("NAME"));
+    EXPECT_TRUE(isBeingEdited("NAME"));
     click(410, 110);
-    EXPECT_FALSE(isTypedIn("NAME")) << "a click elsewhere ends the typing and is handled there";
+    EXPECT_FALSE(isBeingEdited("NAME")) << "a click elsewhere ends the typing and is handled there";
     EXPECT_EQ(clicks().back(), "OTHER");
 
     click(110, 110);
     box("NAME")->setOnEnterWnd(wnd("OTHER"));
     play("key return", "tick");
-    EXPECT_FALSE(isTypedIn("NAME"));
+    EXPECT_FALSE(isBeingEdited("NAME"));
     EXPECT_EQ(clicks().back(), "OTHER") << "the end of typing presses the button";
     EXPECT_EQ(win().mouseX, 425);
 }

@@ -59,13 +59,13 @@ TEST_F(ButtonStatements, FormsAndTokenCounts)
         line("HSCROLLBAR", "X", 0, 0, 9, 9, "", 1),
         line("VSCROLLBAR", "X", 0, 0, 9, 9, "", 1, 1, 1)};
     std::string lines;
-    Messages said;
+    Messages reported;
     for (std::size_t i = 0; i < wrong.size(); ++i) {
         lines += wrong[i];
-        said.push_back(lineError(static_cast<int>(i) + 1, "t.tgx"));
+        reported.push_back(lineError(static_cast<int>(i) + 1, "t.tgx"));
     }
     runScript(lines);
-    EXPECT_EQ(messages, said);
+    EXPECT_EQ(messages, reported);
     EXPECT_EQ(tree(), "");
 }
 
@@ -78,7 +78,7 @@ TEST_F(ButtonStatements, StateButtonsAcceptOneKindOfTarget)
     const struct {
         const char* name;
         std::string lines, tree;
-        Messages said;
+        Messages reported;
     } rows[] = {
         {"a check box", check + block(tick), "C(CheckboxState)", {}},
         {"a plain button", line("BUTTON", "B", 0, 0, 9, 9, "") + block(tick), "B(CheckboxState)", {}},
@@ -96,7 +96,7 @@ TEST_F(ButtonStatements, StateButtonsAcceptOneKindOfTarget)
         newWindow();
         runScript(row.lines);
         EXPECT_EQ(tree(), row.tree);
-        EXPECT_EQ(messages, row.said);
+        EXPECT_EQ(messages, row.reported);
     }
 }
 

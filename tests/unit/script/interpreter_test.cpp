@@ -13,7 +13,7 @@ TEST_F(ScriptTest, BlocksBelongToTheWindowBeforeThem)
     const struct {
         const char* name;
         std::string script, tree;
-        Messages said;
+        Messages reported;
     } rows[] = {
         {"a block opens the window before it", wnd("A") + block(wnd("B")) + wnd("C"), "A(B) C", {}},
         {"so does a second block", wnd("A") + block(wnd("B")) + block(wnd("C")), "A(B C)", {}},
@@ -65,7 +65,7 @@ TEST_F(ScriptTest, BlocksBelongToTheWindowBeforeThem)
         newWindow();
         runScript(row.script);
         EXPECT_EQ(tree(), row.tree);
-        EXPECT_EQ(messages, row.said);
+        EXPECT_EQ(messages, row.reported);
     }
 }
 

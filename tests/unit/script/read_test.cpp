@@ -32,7 +32,7 @@ TEST_F(ScriptTest, OneWindowIsReadFromAScript)
         const char* toWindow;
         std::string tree;
         const char* result;
-        Messages said;
+        Messages reported;
     } rows[] = {
         {"its line and its block",
          wnd("A") + block(wnd("Z")) + wnd("B") + block(wnd("C")) + wnd("D"),
@@ -76,7 +76,7 @@ TEST_F(ScriptTest, OneWindowIsReadFromAScript)
         AWnd* found = read("t.tgx", row.toWindow);
         EXPECT_EQ(tree(), row.tree);
         EXPECT_STREQ(found ? static_cast<const char*>(found->getID()) : nullptr, row.result);
-        EXPECT_EQ(messages, row.said);
+        EXPECT_EQ(messages, row.reported);
     }
 }
 
@@ -131,7 +131,7 @@ TEST_F(ScriptTest, SubroutinesActOnTheCallersWindow)
     const struct {
         const char* name;
         std::string script, tree;
-        Messages said;
+        Messages reported;
     } rows[] = {
         {"a block", wnd("A") + block(line("GOTO", "ADD", "lib.tgx") + wnd("B")), "A(L B)", {}},
         {"a body of one statement", wnd("A") + block(line("GOTO", "ONE", "lib.tgx")), "A(O)", {}},
@@ -164,7 +164,7 @@ TEST_F(ScriptTest, SubroutinesActOnTheCallersWindow)
         newWindow();
         runScript(row.script);
         EXPECT_EQ(tree(), row.tree);
-        EXPECT_EQ(messages, row.said);
+        EXPECT_EQ(messages, row.reported);
     }
 }
 
@@ -271,7 +271,7 @@ TEST_F(ScriptTest, LargeScriptsRunCompletelyAndEndlessOnesEnd)
     const struct {
         const char* name;
         std::string script;
-        Messages said;
+        Messages reported;
     } rows[] = {
         {"ten thousand windows that share a panel of eighty",
          repeat(10'000, wnd("W") + block(line("POINTER", "PANEL", "panel.tgx"))),
@@ -286,8 +286,8 @@ TEST_F(ScriptTest, LargeScriptsRunCompletelyAndEndlessOnesEnd)
         SCOPED_TRACE(row.name);
         newWindow();
         runScript(row.script + wnd("AFTER"));
-        EXPECT_EQ(messages, row.said);
-        EXPECT_EQ(get("AFTER") != nullptr, row.said.empty());
+        EXPECT_EQ(messages, row.reported);
+        EXPECT_EQ(get("AFTER") != nullptr, row.reported.empty());
     }
 }
 
@@ -356,8 +356,8 @@ TEST_F(ScriptTest, WindowsShownTwiceInEachOtherCanStillBeDrawn)
         runScript(row.script + wnd("AFTER"));
         EXPECT_NE(get("AFTER"), nullptr) << "only the lines that would exceed the limit fail";
         EXPECT_FALSE(messages.empty());
-        for (const std::string& said : messages)
-            EXPECT_TRUE(said.starts_with("Encountered an error on line")) << said;
+        for (const std::string& reported : messages)
+            EXPECT_TRUE(reported.starts_with("Encountered an error on line")) << reported;
         const long places = placesBelow(*window->getScreenList());
         EXPECT_LE(places, limits::sharedPlaces + 32);
         EXPECT_GT(places, limits::sharedPlaces / 2);

@@ -10,7 +10,7 @@ int AListBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E
     const ActionRefs handling(this, wnd);
     AWnd::handleMouseAction(about, wnd, x, y, action);
 
-    if (!handling.mayGoOn() || !isVisible(1) || (scrollBar && scrollBar->pointInside(x, y)))
+    if (!handling.canContinue() || !isVisible(1) || (scrollBar && scrollBar->pointInside(x, y)))
         return 0;
     // Keys are sent to all windows; only the list that is named handles them.
     if (wnd && wnd->getID() != id)
