@@ -227,8 +227,8 @@ void AGraph::drawBar(const Plot& plot, int series, int index)
     const ZnFixed height = ZnFixed::fromRaw(static_cast<std::int32_t>(grownValue)) * plot.yStep;
     const int barTop = toPixels(toRaw(plot.bottom) - height.raw);
 
-    // A bar leaves a gap of one pixel at its left. A negative value has no bar, not even an empty one while the
-    // graph grows.
+    // A bar leaves a gap of one pixel at its left. A negative value has no bar, not even an empty one while
+    // the graph grows.
     if (barTop < plot.bottom)
         tgx::stage()->fillrect(x + 1, barTop, x2, plot.bottom, colour);
     else if (barTop == plot.bottom && value >= 0 && showEmptyBars)
