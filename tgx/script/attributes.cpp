@@ -1,4 +1,4 @@
-// Statements that set something on any window. Flags count by their lowest bit, which the setters see to.
+// Statements that set an attribute of any window. The setters use only the lowest bit of a flag.
 
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/script/run.h"
@@ -7,8 +7,8 @@
 
 namespace {
 
-/// Appends the windows that tokens 1 onwards name, each to be found below target. What stands before a name
-/// that is not found stays.
+/// Appends the windows below target that the tokens from 1 on name. Returns false at the first name that is
+/// not found; the windows before it stay in the list.
 bool appendWnds(AWnd& target, const ScriptLine& line, WndList ATabStopInfo::*list)
 {
     for (int i = 1; i < line.count; ++i) {
@@ -79,7 +79,7 @@ void bmpBlitMode(AWnd& target, const ScriptLine& line)
     target.setBmpBlitMode(line.number(1));
 }
 
-// Token 4 is the hot border of a list box; on any other window it is not read.
+// Token 4 is the hot border of a list box; for any other window it is not used.
 void border(AWnd& target, const ScriptLine& line)
 {
     target.setBorder(line.text(1), line.number(2), line.number(3));
@@ -106,7 +106,7 @@ bool font(AWnd& target, const ScriptLine& line)
     return true;
 }
 
-// A word, read by its id; anything else there changes nothing and is no error.
+// Any argument other than a justification changes nothing and is not an error.
 void justify(AWnd& target, const ScriptLine& line)
 {
     AWnd::E_TEXTJUSTIFY chosen;

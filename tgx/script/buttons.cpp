@@ -1,5 +1,5 @@
 // Statements that make buttons, combo boxes, tab controls, edit boxes and scroll bars, and those that set
-// attributes of buttons and combo boxes. The forms that several share stand first.
+// attributes of buttons and combo boxes. The forms shared by several statements come first.
 
 #include "tgx/controls/combobox.h"
 #include "tgx/controls/editbox.h"
@@ -11,8 +11,8 @@
 
 namespace {
 
-/// Text, its offset, bitmap, frame size and delay, frames of the states; each group may be left out from the
-/// end.
+/// Applies text, text offset and bitmap, frame size and delay, and frames of the states; groups may be left
+/// out from the end.
 void applyButtonForm(AButton& button, const ScriptLine& line)
 {
     button.setWindowText(line.text(6));
@@ -34,7 +34,8 @@ void applyButtonForm(AButton& button, const ScriptLine& line)
                                    line.number(17));
 }
 
-/// Box, bitmap, frame size and delay, frames of the states, of a part that its control finds by a fixed name.
+/// Makes a part that its control finds by a fixed name, from box, bitmap, frame size and delay, and frames of
+/// the states.
 AWnd* stateButton(const char* name, AWnd& target, const ScriptLine& line)
 {
     auto* button = new AButton(name, line.number(1), line.number(2), line.number(3), line.number(4));
@@ -47,7 +48,7 @@ AWnd* stateButton(const char* name, AWnd& target, const ScriptLine& line)
     return button;
 }
 
-/// How many radio buttons stand at the end of target's children, up to limit.
+/// Returns the number of radio buttons at the end of target's children, up to limit.
 int lastRadioButtons(AWnd& target, int limit)
 {
     int count = 0;
@@ -98,7 +99,7 @@ AWnd* radioState(AWnd& target, const ScriptLine& line)
     return stateButton("RadioState", target, line);
 }
 
-// The radio buttons directly in front of it are its group: each comes to know all others.
+// The radio buttons directly before it form its group; each of them is linked with all others.
 AWnd* radioButton(AWnd& target, const ScriptLine& line)
 {
     const int others = lastRadioButtons(target, ARadioButton::maxScriptMembers);
@@ -113,7 +114,7 @@ AWnd* radioButton(AWnd& target, const ScriptLine& line)
         auto* member = static_cast<ARadioButton*>(target.getWndFromIndex(i, ""));
         if (member->getPointerCount() == 0) {
             made->linkNewMember(*member);
-        } else { // it may stand here a second time
+        } else { // it may be here a second time
             made->addLinkedButton(member);
             member->addLinkedButton(made);
         }
@@ -143,7 +144,7 @@ AWnd* vScrollBar(AWnd& target, const ScriptLine& line)
     return scrollBar(false, target, line);
 }
 
-// An argument behind the line's end reads as 0: a button without a disabled run leaves it out.
+// An argument after the line's end is 0: the line of a button without a disabled run leaves it out.
 void buttonFps(AButton& target, const ScriptLine& line)
 {
     target.setButtonAnimFPS(line.number(1), line.number(2), line.number(3), line.number(4), line.number(5));

@@ -5,7 +5,7 @@
 #include "tgx/controls/vidiprinter.h"
 #include "tgx/script/statements.h"
 
-/// Also a bar graph: that is what a graph is at first.
+/// Makes a graph for GRAPH and BARGRAPH alike: bars are the default style.
 AWnd* graphWnd(AWnd& target, const ScriptLine& line)
 {
     return addControl<AGraph>(target, line);
@@ -18,7 +18,7 @@ AWnd* lineGraph(AWnd& target, const ScriptLine& line)
     return made;
 }
 
-// What stands behind the line's end stays as it was.
+// Attributes whose tokens are left out do not change.
 void graphInfo(AGraph& target, const ScriptLine& line)
 {
     if (line.count > 1)

@@ -10,14 +10,14 @@
 
 class ScriptRun;
 
-/// A line on its way through the interpreter: what a handler sees.
+/// A line and its context, as passed to a handler.
 struct ScriptLine {
     tgx::ScriptStage& window;
     ScriptRun& run;
-    CFile* stream;            // the line's; only the search for subroutines asks
-    const TOKEN_INFO* tokens; // those behind the line's end read as 0 and empty
+    CFile* stream;            // the line's stream, used only to search for subroutines
+    const TOKEN_INFO* tokens; // entries after the line's end are 0 and empty
     int count;
-    AWnd* current; // the window of the block; null at the top of a script
+    AWnd* current; // window of the block; null at the top level of a script
     int depth;
     CArray<CFile*, CFile*>& gotoFiles;
 
@@ -25,12 +25,12 @@ struct ScriptLine {
     const CString& text(int token) const { return tokens[token].text; }
 };
 
-/// Makes a table entry of a handler. A handler is one of
+/// Makes a table entry from a handler. A handler is one of
 ///     void f(Target&, const ScriptLine&)     cannot fail
 ///     bool f(Target&, const ScriptLine&)     false: the line fails
 ///     AWnd* f(AWnd& target, const ScriptLine&)   the window that it made; null: the line fails
 ///     bool f(const ScriptLine&)              a command, which has no target
-/// The row's target rule has looked at the window's type; a line for a window of another class fails.
+/// The row's target rule has checked the window's type; a line for a window of another class fails.
 template<auto handler>
 struct HandlerOf;
 
@@ -41,7 +41,7 @@ struct HandlerOf<handler> {
         if constexpr (std::is_same_v<Target, AWnd>) {
             return runOn(target, line, made);
         } else {
-            // The row has looked at the window's type, which a game's class may have chosen freely.
+            // The row has checked the window's type, but a game's class may use any type.
             auto* typed = windowAs<Target>(&target);
             return typed && runOn(*typed, line, made);
         }
@@ -105,8 +105,8 @@ void textWrap(AWnd& target, const ScriptLine& line);
 void visible(AWnd& target, const ScriptLine& line);
 void wndPos(AWnd& target, const ScriptLine& line);
 
-// Forms that statements of several families share: what stands behind id and box.
-/// A control with the line's id and box, added to target.
+// Forms shared by statements of several families: the tokens after id and box.
+/// Adds a control with the line's id and box to target and returns it.
 template<class Control>
 Control* addControl(AWnd& target, const ScriptLine& line)
 {
@@ -116,7 +116,7 @@ Control* addControl(AWnd& target, const ScriptLine& line)
 }
 void applyTextForm(AWnd& wnd, const ScriptLine& line);
 void applyBarForm(AWnd& bar, const ScriptLine& line);
-/// Whether token is one of the words for it.
+/// Stores the justification that token names. Returns false if it names none.
 bool justificationOf(const TOKEN_INFO& token, AWnd::E_TEXTJUSTIFY& justify);
 
 // Buttons, combo boxes, tabs, edit boxes and scroll bars (buttons.cpp).
