@@ -9,10 +9,9 @@
 #include <set>
 
 using namespace std::string_literals;
+using script_check::CheckReport;
 
 namespace {
-
-using script_check::CheckReport;
 
 /// Returns count subroutines, "S0" and so on, each of which calls the next one that many times.
 std::string chain(int count, int calls)
