@@ -158,7 +158,7 @@ bool enterFolder(std::string& path, const std::string& name)
     const std::shared_ptr<const Listing> listing = listingOf(path);
     if (!listing)
         return false;
-    const auto match = listing->names.find(lowered(name));
+    const auto match = listing->names.find(lowercased(name));
     if (match == listing->names.end())
         return false;
     path += '/' + match->second;
