@@ -320,14 +320,7 @@ void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef
         findings.add(code, *at.script, at.line, token, std::move(text));
     };
     if (statement.kind != StatementKind::Command && !statement.target.fits(target->getWindowType())) {
-        if (isGameWindow(target))
-            endedEarly = endedEarly || at.script->place(at.line).subroutine != LinePlace::none;
-        else
-            add("wrong-window", 0,
-                std::string(keyword) + " acts on " + typesOf(statement.target) +
-                    (executed.current ? ", but " + (target->getID().IsEmpty() ? "this" : describe(*target)) +
-                                            " is " + typeOf(*target)
-                                      : ", but it is not in a window's block"));
+        explainWrongWindow(executed, *target, at, statement);
     } else if (keyword == "FONT" || keyword == "LISTFONTS") {
         for (int i = 1; i < executed.count && knowsAllFonts; ++i)
             if (!win->getFont(executed.tokens[i].value))
@@ -337,13 +330,7 @@ void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef
     } else if (keyword == "POINTER") {
         explainPointer(at);
     } else if (keyword == "GOTO") {
-        const Script* called = set.calledBy(*at.script, at.line);
-        const Subroutine* body = called ? called->subroutine(executed.tokens[1].text.view()) : nullptr;
-        // A missing or recursive subroutine is reported by the rules for calls.
-        if (body && !body->reachesRing)
-            add("limit-exceeded", 1,
-                "calls of subroutines are nested more than " + std::to_string(limits::subroutineDepth) +
-                    " deep here");
+        explainGoto(executed, at);
     } else if (keyword == "RADIOBUTTON") {
         add("limit-exceeded", 0, "the radio group has too many members, or windows are nested too deeply");
     } else if (makesWindow(statement)) {
@@ -356,6 +343,31 @@ void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef
     } else {
         add("line-fails", 0, std::string(keyword) + " fails when the toolkit reads it");
     }
+}
+
+void Reading::explainWrongWindow(const ExecutedLine& executed, AWnd& target, LineRef at,
+                                 const Statement& statement)
+{
+    if (isGameWindow(&target)) {
+        endedEarly = endedEarly || at.script->place(at.line).subroutine != LinePlace::none;
+        return;
+    }
+    const std::string name = target.getID().IsEmpty() ? "this" : describe(target);
+    findings.add("wrong-window", *at.script, at.line,
+                 std::string(statement.keyword) + " acts on " + typesOf(statement.target) +
+                     (executed.current ? ", but " + name + " is " + typeOf(target)
+                                       : ", but it is not in a window's block"));
+}
+
+void Reading::explainGoto(const ExecutedLine& executed, LineRef at)
+{
+    const Script* called = set.calledBy(*at.script, at.line);
+    const Subroutine* body = called ? called->subroutine(executed.tokens[1].text.view()) : nullptr;
+    // A missing or recursive subroutine is reported by the rules for calls.
+    if (body && !body->reachesRing)
+        findings.add("limit-exceeded", *at.script, at.line, 1,
+                     "calls of subroutines are nested more than " + std::to_string(limits::subroutineDepth) +
+                         " deep here");
 }
 
 void Reading::explainMissingWindow(const ExecutedLine& executed, AWnd& target, LineRef at)

@@ -8,6 +8,20 @@
 #include <climits>
 #include <cstdlib>
 
+namespace {
+
+bool isKeyForPrevious(const tgx::Stage& stage)
+{
+    return stage.keyCode == VK_UP || stage.keyDown[VK_HOME] || stage.keyDown[VK_INSERT];
+}
+
+bool isKeyForNext(const tgx::Stage& stage)
+{
+    return stage.keyCode == VK_DOWN || stage.keyDown[VK_END] || stage.keyDown[VK_DELETE];
+}
+
+} // namespace
+
 AComboBox::AComboBox(const CString& name, int x, int y, int width, int height)
     : AButton(name, x, y, width, height, WND_COMBOBOX)
 {}
@@ -17,6 +31,13 @@ void AComboBox::Buttons::setState(E_BUTTON_STATE state)
     for (AButton* button : {prev, next})
         if (button)
             button->setButtonState(state);
+}
+
+void AComboBox::Buttons::release(const AWnd* hit)
+{
+    for (AButton* button : {prev, next})
+        if (button && button != hit && button->getButtonState() != BS_DISABLED)
+            button->setButtonState(BS_NORMAL);
 }
 
 /// A script may give these ids to windows of any kind.
@@ -83,21 +104,15 @@ int AComboBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, 
     const bool onNext = hit && hit == buttons.next;
     if (onPrev || onNext)
         setButtonState(BS_NORMAL);
-    if (action != MA_LBUTTONUP && action != MA_KEY) {
-        for (AButton* button : {buttons.prev, buttons.next})
-            if (button && button != hit && button->getButtonState() != BS_DISABLED)
-                button->setButtonState(BS_NORMAL);
+    if (action != MA_LBUTTONUP && action != MA_KEY)
+        buttons.release(hit);
+    else if (items.GetSize() < 2)
         return 0;
-    }
-    if (items.GetSize() < 2)
-        return 0;
-
-    const tgx::Stage* stage = tgx::stage();
-    if (onPrev || stage->keyCode == VK_UP || stage->keyDown[VK_HOME] || stage->keyDown[VK_INSERT]) {
+    else if (onPrev || isKeyForPrevious(*tgx::stage()))
         step(-1, buttons.prev);
-    } else if (onNext || stage->keyCode == VK_DOWN || stage->keyDown[VK_END] || stage->keyDown[VK_DELETE]) {
+    else if (onNext || isKeyForNext(*tgx::stage()))
         step(1, buttons.next);
-    } else {
+    else {
         buttons.setState(BS_NORMAL);
         if (menuAllowed && action == MA_LBUTTONUP)
             openMenu();
