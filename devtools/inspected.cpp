@@ -1,5 +1,6 @@
 #include "devtools/inspected.h"
 
+#include "platform/framework/text.h"
 #include "player/reach.h"
 #include "player/reports.h"
 #include "tgx/controls/button.h"
@@ -65,7 +66,6 @@ std::string idOf(const AWnd& wnd)
 /// Writes control characters as \n, \t or \xNN.
 std::string shownText(std::string_view text)
 {
-    constexpr char digits[] = "0123456789ABCDEF";
     std::string shown;
     for (const char c : text) {
         const auto code = static_cast<unsigned char>(c);
@@ -74,7 +74,7 @@ std::string shownText(std::string_view text)
         else if (c == '\t')
             shown += "\\t";
         else if (code < 0x20 || code == 0x7F)
-            shown += std::string("\\x") + digits[code >> 4] + digits[code & 15];
+            shown += tgx::hexEscape(c);
         else
             shown += c;
     }

@@ -2,6 +2,7 @@
 
 #include "language/check/rules.h"
 #include "language/text/statement_form.h"
+#include "platform/framework/text.h"
 #include "tgx/script/reader.h"
 #include "tgx/wnd/reserved.h"
 
@@ -91,7 +92,7 @@ private:
 void checkStyle(const Script& script, int line, Findings& findings)
 {
     static const std::vector<std::string_view> known{"bold", "italic", "shadow"};
-    const std::string style = folded(script.string(line, 2));
+    const std::string style = tgx::lowercased(script.string(line, 2));
     for (std::size_t start = 0; (start = style.find_first_not_of(" ,", start)) != style.npos;) {
         const std::string word = style.substr(start, style.find_first_of(" ,", start) - start);
         start += word.size();
@@ -119,7 +120,7 @@ void checkReserved(const Script& script, int line, const Statement& statement, F
         findings.add("reserved-id", script, line, 1,
                      "a click on " + inQuotes(id) + (leaves ? " leaves the screen" : " closes the box") +
                          ", but this is not a button; for decoration use the id \"static\"");
-    else if (isOneOf(parts, folded(id)) && statement.keyword != std::string_view("USERDEF"))
+    else if (isOneOf(parts, tgx::lowercased(id)) && statement.keyword != std::string_view("USERDEF"))
         findings.add("reserved-id", script, line, 1,
                      inQuotes(id) + " is the id of a control's part; give this window another id");
 }

@@ -6,6 +6,7 @@
 #include "language/check/rules.h"
 #include "language/check/words.h"
 #include "platform/framework/datadir.h"
+#include "platform/framework/text.h"
 #include "platform/host/headless/headless_host.h"
 #include "platform/limits.h"
 #include "platform/system/clock.h"
@@ -138,7 +139,8 @@ const WndLines* Reading::linesOf(const AWnd* wnd) const
 
 bool Reading::isNamedStop(const AWnd& wnd) const
 {
-    return endedEarly || namedStops.contains(&wnd) || laterStops.contains(folded(wnd.getID().view()));
+    return endedEarly || namedStops.contains(&wnd) ||
+           laterStops.contains(tgx::lowercased(wnd.getID().view()));
 }
 
 bool Reading::isKnownFont(const bmpfont* font) const
@@ -396,7 +398,7 @@ void Reading::explainMissingWindow(const ExecutedLine& executed, AWnd& target, L
         const std::string_view name = executed.tokens[i].text.view();
         std::string text = "no window " + inQuotes(name) + " in " + describe(target) + " at this point";
         if (const int later = comesLater(name); later >= 0) {
-            laterStops.insert(folded(name));
+            laterStops.insert(tgx::lowercased(name));
             text += "; it is defined later, in line " + std::to_string(at.script->numberOf(later));
         } else if (mayBeMade) {
             continue;
