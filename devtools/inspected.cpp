@@ -5,6 +5,7 @@
 #include "player/reports.h"
 #include "tgx/controls/button.h"
 #include "tgx/frame/mainwin.h"
+#include "tgx/wnd/reserved.h"
 #include "tgx/wnd/tabstops.h"
 
 #include <algorithm>
@@ -213,10 +214,7 @@ WindowKind kindOf(const AWnd& wnd)
 /// Returns whether id is that of a part that controls look for in themselves. Each control has its own.
 bool isPartOfControl(std::string_view id)
 {
-    constexpr std::string_view parts[] = {"CheckboxState", "RadioState", "ComboPrev",
-                                          "ComboNext",     "ComboMenu",  "ScrollBar"};
-    return std::any_of(std::begin(parts), std::end(parts),
-                       [&](std::string_view part) { return CString::equalNoCase(part, id); });
+    return tgx::part::isOfScript(id) || CString::equalNoCase(tgx::part::scrollBar, id);
 }
 
 /// An id together with the window below which a search would find it.

@@ -16,8 +16,6 @@ namespace {
 constexpr std::string_view controls[] = {"BUTTON",  "CHECKBOX", "RADIOBUTTON", "COMBOBOX",   "EDITBOX",
                                          "LISTBOX", "KEYBOARD", "TABCONTROL",  "HSCROLLBAR", "VSCROLLBAR"};
 constexpr std::string_view clickable[] = {"BUTTON", "CHECKBOX", "RADIOBUTTON", "USERDEF"};
-// The ids by which the toolkit finds the parts of a control, ignoring case.
-constexpr std::string_view parts[] = {"checkboxstate", "radiostate", "combomenu", "combonext", "comboprev"};
 
 template<std::size_t N>
 bool isOneOf(const std::string_view (&words)[N], std::string_view word)
@@ -120,7 +118,7 @@ void checkReserved(const Script& script, int line, const Statement& statement, F
         findings.add("reserved-id", script, line, 1,
                      "a click on " + inQuotes(id) + (leaves ? " leaves the screen" : " closes the box") +
                          ", but this is not a button; for decoration use the id \"static\"");
-    else if (isOneOf(parts, tgx::lowercased(id)) && statement.keyword != std::string_view("USERDEF"))
+    else if (tgx::part::isOfScript(id) && statement.keyword != std::string_view("USERDEF"))
         findings.add("reserved-id", script, line, 1,
                      inQuotes(id) + " is the id of a control's part; give this window another id");
 }

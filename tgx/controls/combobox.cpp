@@ -1,6 +1,7 @@
 #include "tgx/controls/combobox.h"
 
 #include "tgx/base/fixed.h"
+#include "tgx/wnd/reserved.h"
 #include "tgx/wnd/stage.h"
 #include "tgx/wnd/window_cast.h"
 
@@ -43,7 +44,7 @@ void AComboBox::Buttons::release(const AWnd* hit)
 /// A script may give these ids to windows of any kind.
 AComboBox::Buttons AComboBox::getButtons()
 {
-    return {getButton("ComboPrev", 1), getButton("ComboNext", 1)};
+    return {getButton(tgx::part::comboPrev, 1), getButton(tgx::part::comboNext, 1)};
 }
 
 int AComboBox::addItem(const CString& text)
@@ -95,7 +96,7 @@ int AComboBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, 
     if (!handling.mayGoOn() || !isVisible(1))
         return 0;
     // What is done to the two buttons counts as done to the box.
-    if (about != "ComboPrev" && about != "ComboNext" && isMeantForAnother(wnd))
+    if (about != tgx::part::comboPrev && about != tgx::part::comboNext && isMeantForAnother(wnd))
         return 0;
 
     Buttons buttons = getButtons();
@@ -142,9 +143,9 @@ void AComboBox::tellOfChoice()
 /// Null when a window of that id is no list.
 AListBox* AComboBox::getOrMakeMenu()
 {
-    if (AWnd* menu = getWnd("ComboMenu", 1))
+    if (AWnd* menu = getWnd(tgx::part::comboMenu, 1))
         return windowAs<AListBox>(menu);
-    auto* made = new AFloatingMenu("ComboMenu", 0, 0, width(), tgx::stage()->screenHeight);
+    auto* made = new AFloatingMenu(tgx::part::comboMenu, 0, 0, width(), tgx::stage()->screenHeight);
     addChildWindow(made);
     return made;
 }
@@ -218,7 +219,7 @@ void AComboBox::draw(int frameStep)
     if (!isVisible(1))
         return;
     // A menu that is no longer in front does not stay on the screen.
-    AWnd* menu = getWnd("ComboMenu", 1);
+    AWnd* menu = getWnd(tgx::part::comboMenu, 1);
     if (menu && menu->isVisible(1) && menu != tgx::stage()->getMouseCaptureWnd(0))
         menu->setVisible(0);
     // Once more: during the opening run the button hides its text.

@@ -5,12 +5,6 @@
 #include "tgx/controls/vidiprinter.h"
 #include "tgx/script/statements.h"
 
-/// Also a bar graph: that is what a graph is at first.
-AWnd* graphWnd(AWnd& target, const ScriptLine& line)
-{
-    return addControl<AGraph>(target, line);
-}
-
 AWnd* lineGraph(AWnd& target, const ScriptLine& line)
 {
     auto* made = addControl<AGraph>(target, line);
