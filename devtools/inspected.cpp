@@ -1,9 +1,11 @@
 #include "devtools/inspected.h"
 
+#include "platform/framework/text.h"
 #include "player/reach.h"
 #include "player/reports.h"
 #include "tgx/controls/button.h"
 #include "tgx/frame/mainwin.h"
+#include "tgx/wnd/reserved.h"
 #include "tgx/wnd/tabstops.h"
 
 #include <algorithm>
@@ -65,7 +67,6 @@ std::string idOf(const AWnd& wnd)
 /// Writes control characters as \n, \t or \xNN.
 std::string shownText(std::string_view text)
 {
-    constexpr char digits[] = "0123456789ABCDEF";
     std::string shown;
     for (const char c : text) {
         const auto code = static_cast<unsigned char>(c);
@@ -74,7 +75,7 @@ std::string shownText(std::string_view text)
         else if (c == '\t')
             shown += "\\t";
         else if (code < 0x20 || code == 0x7F)
-            shown += std::string("\\x") + digits[code >> 4] + digits[code & 15];
+            shown += tgx::hexEscape(c);
         else
             shown += c;
     }
@@ -213,10 +214,7 @@ WindowKind kindOf(const AWnd& wnd)
 /// Returns whether id is that of a part that controls look for in themselves. Each control has its own.
 bool isPartOfControl(std::string_view id)
 {
-    constexpr std::string_view parts[] = {"CheckboxState", "RadioState", "ComboPrev",
-                                          "ComboNext",     "ComboMenu",  "ScrollBar"};
-    return std::any_of(std::begin(parts), std::end(parts),
-                       [&](std::string_view part) { return CString::equalNoCase(part, id); });
+    return tgx::part::isOfScript(id) || CString::equalNoCase(tgx::part::scrollBar, id);
 }
 
 /// An id together with the window below which a search would find it.

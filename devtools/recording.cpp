@@ -68,34 +68,48 @@ bool isRelevantHold(std::span<const Step> steps, std::size_t index, std::size_t 
     return !hasText && end < steps.size() && steps[end].tick - steps[index].tick >= longHold;
 }
 
-/// Leaves out holds without an effect, modifiers that only form characters, and moves on the way to another
-/// one.
+/// Returns whether the step is a release, a modifier that only forms a character, or a move on the way to
+/// another one.
+bool hasNoEffect(std::span<const Step> steps, std::size_t index)
+{
+    const Step& step = steps[index];
+    switch (step.kind) {
+    case Kind::Hold:
+        return !step.held;
+    case Kind::Key:
+        return step.isTyped && isModifier(step.code);
+    case Kind::Move:
+        return step.isPassedThrough && index + 1 < steps.size() && steps[index + 1].kind == Kind::Move &&
+               steps[index + 1].tick - step.tick < leverRest;
+    default:
+        return false;
+    }
+}
+
+/// Writes a hold with its release if it is relevant, and leaves it out otherwise.
+void selectHold(std::span<const Step> steps, std::size_t index, std::vector<bool>& isLeftOut)
+{
+    const std::size_t end = endOfHold(steps, index);
+    isLeftOut[index] = !isRelevantHold(steps, index, end);
+    if (isLeftOut[index])
+        return;
+    if (end < steps.size())
+        isLeftOut[end] = false;
+    const int code = steps[index].code;
+    for (std::size_t i = index + 1; i < end; ++i) // the hold includes the modifier's own key
+        if (steps[i].kind == Kind::Key && steps[i].code == code && isModifier(code))
+            isLeftOut[i] = true;
+}
+
+/// Leaves out holds and other steps without an effect.
 std::vector<Step> relevantSteps(std::span<const Step> steps)
 {
     std::vector<bool> isLeftOut(steps.size());
-    for (std::size_t i = 0; i < steps.size(); ++i) {
-        const Step& step = steps[i];
-        if (step.kind == Kind::Hold && !step.held) // unless its hold is kept, see below
-            isLeftOut[i] = true;
-        if (step.kind == Kind::Key && step.isTyped && isModifier(step.code))
-            isLeftOut[i] = true;
-        if (step.kind == Kind::Move && step.isPassedThrough && i + 1 < steps.size())
-            isLeftOut[i] = steps[i + 1].kind == Kind::Move && steps[i + 1].tick - step.tick < leverRest;
-    }
-    for (std::size_t i = 0; i < steps.size(); ++i) {
-        if (steps[i].kind != Kind::Hold || !steps[i].held)
-            continue;
-        const std::size_t end = endOfHold(steps, i);
-        const bool isWritten = isRelevantHold(steps, i, end);
-        isLeftOut[i] = !isWritten;
-        if (!isWritten)
-            continue;
-        if (end < steps.size())
-            isLeftOut[end] = false;
-        for (std::size_t k = i + 1; k < end; ++k) // the hold includes the modifier's own key
-            if (steps[k].kind == Kind::Key && steps[k].code == steps[i].code && isModifier(steps[k].code))
-                isLeftOut[k] = true;
-    }
+    for (std::size_t i = 0; i < steps.size(); ++i)
+        isLeftOut[i] = hasNoEffect(steps, i);
+    for (std::size_t i = 0; i < steps.size(); ++i)
+        if (steps[i].kind == Kind::Hold && steps[i].held)
+            selectHold(steps, i, isLeftOut);
     std::vector<Step> kept;
     for (std::size_t i = 0; i < steps.size(); ++i)
         if (!isLeftOut[i])

@@ -7,6 +7,7 @@
 #include "platform/framework/cfile.h"
 #include "platform/framework/cstring.h"
 #include "platform/framework/datadir.h"
+#include "platform/framework/text.h"
 
 #include <algorithm>
 #include <deque>
@@ -53,7 +54,7 @@ std::vector<std::string> Sources::textFiles() const
         looked.push_back(std::move(below));
     for (const std::string& folder : looked)
         for (std::string& file : script_text::filesIn(folder, ".tgs"))
-            if (names.insert(script_text::lowered(script_text::compiledName(file))).second)
+            if (names.insert(tgx::lowercased(script_text::compiledName(file))).second)
                 found.push_back(std::move(file));
     return found;
 }
@@ -86,7 +87,7 @@ Sources::Scripts Sources::compileTexts()
     std::set<std::string> included;
     Scripts fresh;
     const auto keepLast = [&](const std::string& name) {
-        if (const auto last = built.find(script_text::lowered(name)); last != built.end())
+        if (const auto last = built.find(tgx::lowercased(name)); last != built.end())
             fresh.insert(*last);
     };
     const auto read = [&](const std::string& path, std::string& reason) {
@@ -114,12 +115,12 @@ Sources::Scripts Sources::compileTexts()
             if (each.severity == script_text::Diagnostic::Error)
                 fault(script_text::headline(each), script_text::describe(each));
         // An editor may empty a file before it writes it.
-        if (!script.hasErrors() && script.lines.empty() && built.contains(script_text::lowered(name)))
+        if (!script.hasErrors() && script.lines.empty() && built.contains(tgx::lowercased(name)))
             fault(file + ": error: there is no statement in it any more");
         else if (!script.hasErrors()) {
             script_text::Emitted emitted = script_text::emit(script);
             ScriptLines places(script_text::sideMap(script, emitted));
-            std::string key = script_text::lowered(name);
+            std::string key = tgx::lowercased(name);
             fresh[std::move(key)] = {std::move(name),
                                      std::make_shared<const std::string>(std::move(emitted.bytes)),
                                      std::move(places)};
@@ -127,7 +128,7 @@ Sources::Scripts Sources::compileTexts()
         }
         keepLast(name);
     }
-    const std::string mainKey = script_text::lowered(mainScript);
+    const std::string mainKey = tgx::lowercased(mainScript);
     if (built.contains(mainKey) && !fresh.contains(mainKey) && !isOnDisk(mainScript)) {
         fault("the text of " + mainScript + " is gone; the interface stays until it is back");
         keepLast(mainScript);
@@ -175,7 +176,7 @@ bool Sources::lookAtCompiled()
         watched->add(file + ".map");
         std::error_code failure;
         const fs::file_time_type time = fs::last_write_time(file, failure);
-        std::string key = script_text::lowered(fs::path(file).filename().string());
+        std::string key = tgx::lowercased(fs::path(file).filename().string());
         if (!failure && !built.contains(key))
             fresh[std::move(key)] = time;
     }
@@ -200,12 +201,12 @@ bool Sources::haveChanged() const
 
 bool Sources::isFromText(const std::string& script) const
 {
-    return built.contains(script_text::lowered(script));
+    return built.contains(tgx::lowercased(script));
 }
 
 std::string Sources::placeOf(const std::string& script, unsigned offset) const
 {
-    const auto text = built.find(script_text::lowered(script));
+    const auto text = built.find(tgx::lowercased(script));
     const ScriptLines& found = text == built.end() ? lines.of(script) : text->second.lines;
     const std::string place = found.placeOf(offset);
     return place.empty() ? script + ", byte " + std::to_string(offset) : place;

@@ -1,20 +1,18 @@
 #include "player/json.h"
 
-#include <cstdio>
+#include "platform/framework/text.h"
 
 std::string jsonString(std::string_view bytes)
 {
     std::string text = "\"";
-    for (unsigned char c : bytes) {
+    for (const char c : bytes) {
         if (c < 0x20 || c > 0x7E) {
-            char escape[8];
-            std::snprintf(escape, sizeof escape, "\\u%04x", c);
-            text += escape;
+            text += tgx::unicodeEscape(c);
             continue;
         }
         if (c == '"' || c == '\\')
             text += '\\';
-        text += static_cast<char>(c);
+        text += c;
     }
     return text + '"';
 }

@@ -1,10 +1,10 @@
 #include "player/words.h"
 
+#include "platform/framework/text.h"
 #include "platform/media/encoding.h"
 
 #include <algorithm>
 #include <charconv>
-#include <cstdio>
 #include <limits>
 
 namespace {
@@ -29,13 +29,6 @@ int hexByte(std::string_view digits)
     return error == std::errc() && end == digits.data() + 2 ? static_cast<int>(value) : -1;
 }
 
-std::string escaped(unsigned char byte)
-{
-    char hex[8];
-    std::snprintf(hex, sizeof hex, "\\x%02X", byte);
-    return hex;
-}
-
 /// Returns the converted bytes of the character of line at place, and advances place.
 std::string takeCharacter(std::string_view line, std::size_t& place, Characters characters)
 {
@@ -46,7 +39,7 @@ std::string takeCharacter(std::string_view line, std::size_t& place, Characters 
     if (character == 0 || characters == Characters::Utf8)
         return std::string(source);
     if (character == 0xFFFD && source != "\xEF\xBF\xBD") {
-        const std::string byte = escaped(static_cast<unsigned char>(source[0]));
+        const std::string byte = tgx::hexEscape(source[0]);
         throw WrongLine("the byte 0x" + byte.substr(2) + " is not UTF-8; save the file as UTF-8, or write " +
                         byte);
     }
@@ -192,7 +185,7 @@ std::string quote(std::string_view text)
     for (const char c : text) {
         const std::string character = utf8From1252({&c, 1});
         const auto byte = static_cast<unsigned char>(c);
-        quoted += byte < 0x20 || byte == 0x7F || character == "\xEF\xBF\xBD" ? escaped(byte) : character;
+        quoted += byte < 0x20 || byte == 0x7F || character == "\xEF\xBF\xBD" ? tgx::hexEscape(c) : character;
     }
     return quoted + '"';
 }
@@ -209,7 +202,7 @@ std::string quoteName(std::string_view name)
             quoted += source;
         else
             for (const char c : source)
-                quoted += escaped(static_cast<unsigned char>(c));
+                quoted += tgx::hexEscape(c);
     }
     return quoted + '"';
 }
@@ -220,7 +213,7 @@ std::string quoteWord(std::string_view text)
     for (const char c : text) {
         if (c == '"' || c == '\\')
             word += '\\';
-        word += c < 0x20 || c > 0x7E ? escaped(static_cast<unsigned char>(c)) : std::string(1, c);
+        word += c < 0x20 || c > 0x7E ? tgx::hexEscape(c) : std::string(1, c);
     }
     return word + '"';
 }

@@ -192,6 +192,128 @@ Canvas emptyPlace(int factor)
     return large;
 }
 
+// The places of the section begin at 110, 54: five of 74 by 52, three high.
+constexpr int sectionWidth = 584, sectionHeight = 244;
+constexpr float deck = 50, keel = 222, waterline = 150;
+
+/// Paints the water beside the ship and below her.
+void paintSectionWater(Canvas& canvas)
+{
+    canvas.paint(0, static_cast<int>(waterline) - 4, sectionWidth, sectionHeight, [](float x, float y) {
+        float surface = waterline + 1.6f * std::sin(x / 13) + 1.2f * std::sin(x / 31 + 1);
+        if (y < surface)
+            return Colour{};
+        float deep = (y - surface) / (sectionHeight - surface);
+        Colour sea = mix(rgb(palette::sea), rgb(palette::harbour), 0.25f + 0.6f * deep);
+        return y < surface + 1.6f ? rgb(palette::foam, 0.7f) : faded(sea, 0.55f * (1 - 0.5f * deep));
+    });
+}
+
+/// Paints masts, derricks, house and funnel above the deck, cut off by the picture's edge.
+void paintUpperWorks(Canvas& canvas)
+{
+    Colour rig = mix(rgb(palette::timber), rgb(palette::brass), 0.35f);
+    for (float x : {189.0f, 411.0f}) {
+        canvas.fill(stroke({{x, deck}, {x, 0}}, 4), rig);
+        canvas.fill(stroke({{x, 27}, {x + 50, 5}}, 2.6f), rig);
+        canvas.fill(stroke({{x, 2}, {x + 50, 5}}, 1), rgb(palette::mist, 0.5f));
+        canvas.fill(stroke({{x + 49, 5}, {x + 49, 24}}, 1), rgb(palette::mist, 0.5f));
+    }
+    Shape chimney = polygon({{62, -6}, {88, -6}, {92, 24}, {64, 24}});
+    canvas.fill(chimney, [](float x, float y) {
+        Colour coat = y > 2 && y < 10 ? rgb(palette::amber) : rgb(palette::brick);
+        return mix(coat, rgb(palette::night), 0.15f + 0.4f * smooth(64, 92, x));
+    });
+    Shape house = box(34, 22, 112, deck + 2, 2);
+    canvas.fill(house, [](float, float y) {
+        return mix(rgb(palette::cream), rgb(palette::slate), 0.12f + 0.35f * smooth(22, 52, y));
+    });
+    canvas.fill(stroke({{30, 22}, {116, 22}}, 3), rgb(palette::cream));
+    for (float x = 46; x < 110; x += 15) {
+        canvas.fill(disc(x, 35, 4), rgb(palette::amber));
+        canvas.lamp(x, 35, 12, rgb(palette::amber, 0.35f));
+    }
+}
+
+/// Paints the hull, cut open.
+void paintHull(Canvas& canvas)
+{
+    Shape hull = polygon({{8, deck - 8},
+                          {30, deck},
+                          {480, deck},
+                          {510, deck - 6},
+                          {578, deck - 20},
+                          {560, 130},
+                          {536, 196},
+                          {508, keel},
+                          {62, keel},
+                          {34, 206},
+                          {22, 170},
+                          {18, 120}});
+    canvas.fill(hull, [](float, float y) {
+        return y > waterline ? mix(mix(rgb(palette::brick), rgb(palette::night), 0.45f), rgb(palette::night),
+                                   smooth(waterline, keel, y) * 0.4f)
+                             : mix(rgb(palette::night), rgb(palette::harbour), 0.25f);
+    });
+    canvas.fill(outline(hull, 3.4f), rgb(palette::brass, 0.95f));
+    canvas.fill(stroke({{30, deck}, {480, deck}}, 3), rgb(palette::cream, 0.85f));
+}
+
+/// Paints the boarded hold with a deck under each row of places.
+void paintHold(Canvas& canvas)
+{
+    canvas.fill(box(112, 52, 488, 214, 3), [](float x, float y) {
+        float plank = std::fmod(y, 13.0f);
+        Colour wood = mix(mix(rgb(palette::timber), rgb(palette::night), 0.55f), rgb(palette::night),
+                          0.35f * clouds(x / 40, y / 3, 3, 44));
+        return plank < 1 ? mix(wood, rgb(palette::night), 0.5f) : wood;
+    });
+    for (float y : {106.0f, 158.0f, 210.0f})
+        canvas.fill(box(112, y - 2, 488, y + 1.5f), mix(rgb(palette::timber), rgb(palette::brass), 0.45f));
+    canvas.fill(outline(box(112, 52, 488, 214, 3), 2), rgb(palette::brass, 0.9f));
+}
+
+/// Paints the engine room, which is aft, with its shaft and propeller.
+void paintEngineRoom(Canvas& canvas)
+{
+    canvas.fill(box(42, 64, 102, 208, 6), rgb(palette::night, 0.7f));
+    Shape boiler = box(46, 112, 98, 186, 9);
+    canvas.fill(boiler, metal(mix(rgb(palette::slate), rgb(palette::night), 0.2f), boiler));
+    canvas.fill(outline(boiler, 1.6f), rgb(palette::night));
+    for (float y : {126.0f, 150.0f}) {
+        canvas.fill(box(46, y - 2, 98, y + 2), rgb(palette::night, 0.45f));
+        for (float x = 51; x < 98; x += 6)
+            canvas.fill(disc(x, y, 1), rgb(palette::mist, 0.8f));
+    }
+    for (float x : {55.0f, 72.0f, 89.0f}) { // fire doors
+        canvas.fill(box(x - 6.5f, 160, x + 6.5f, 178, 2), rgb(palette::night));
+        canvas.fill(box(x - 4.5f, 163, x + 4.5f, 176, 1), [](float, float y) {
+            return mix(rgb(palette::amber), rgb(palette::brick), (y - 163) / 13);
+        });
+        canvas.lamp(x, 170, 17, rgb(palette::amber, 0.4f));
+    }
+    canvas.fill(stroke({{72, 112}, {72, 70}, {76, 52}}, 11),
+                mix(rgb(palette::slate), rgb(palette::night), 0.4f));
+    canvas.fill(stroke({{54, 200}, {90, 200}}, 5), rgb(palette::brass, 0.7f)); // the shaft
+    canvas.fill(stroke({{6, 200}, {46, 200}}, 4), rgb(palette::brass, 0.9f));
+    canvas.fill(ellipse(6, 200, 4, 17), rgb(palette::brass));
+}
+
+/// Paints the chain, which runs down from the hawse into coils.
+void paintChain(Canvas& canvas)
+{
+    Colour chain = mix(rgb(palette::mist), rgb(palette::slate), 0.35f);
+    for (int link = 0; link < 13; ++link) {
+        float down = static_cast<float>(link) / 13;
+        Point from{552 - 28 * smooth(0, 1, down), 58 + 104 * down};
+        canvas.fill(outline(ellipse(from.x, from.y, link % 2 ? 2.2f : 3.2f, 5), 1.5f), chain);
+    }
+    for (int coil = 0; coil < 4; ++coil) {
+        float y = 186 - 7 * static_cast<float>(coil), half = 11 - 1.5f * static_cast<float>(coil);
+        canvas.fill(outline(ellipse(524, y, half, 4.5f), 2.2f), chain);
+    }
+}
+
 } // namespace
 
 Canvas goodsIcons()
@@ -220,104 +342,13 @@ Canvas goodsStowed()
 
 Canvas holdSection()
 {
-    constexpr int width = 584, height = 244;
-    constexpr float deck = 50, keel = 222,
-                    water = 150; // the places begin at 110, 54: five of 74 by 52, three high
-    Canvas canvas(width, height);
-    // The water behind her, and below.
-    canvas.paint(0, static_cast<int>(water) - 4, width, height, [&](float x, float y) {
-        float surface = water + 1.6f * std::sin(x / 13) + 1.2f * std::sin(x / 31 + 1);
-        if (y < surface)
-            return Colour{};
-        float deep = (y - surface) / (height - surface);
-        Colour sea = mix(rgb(palette::sea), rgb(palette::harbour), 0.25f + 0.6f * deep);
-        return y < surface + 1.6f ? rgb(palette::foam, 0.7f) : faded(sea, 0.55f * (1 - 0.5f * deep));
-    });
-    // Masts, derricks, house and funnel above the deck, cut off by the picture's edge.
-    Colour rig = mix(rgb(palette::timber), rgb(palette::brass), 0.35f);
-    for (float x : {189.0f, 411.0f}) {
-        canvas.fill(stroke({{x, deck}, {x, 0}}, 4), rig);
-        canvas.fill(stroke({{x, 27}, {x + 50, 5}}, 2.6f), rig);
-        canvas.fill(stroke({{x, 2}, {x + 50, 5}}, 1), rgb(palette::mist, 0.5f));
-        canvas.fill(stroke({{x + 49, 5}, {x + 49, 24}}, 1), rgb(palette::mist, 0.5f));
-    }
-    Shape chimney = polygon({{62, -6}, {88, -6}, {92, 24}, {64, 24}});
-    canvas.fill(chimney, [](float x, float y) {
-        Colour coat = y > 2 && y < 10 ? rgb(palette::amber) : rgb(palette::brick);
-        return mix(coat, rgb(palette::night), 0.15f + 0.4f * smooth(64, 92, x));
-    });
-    Shape house = box(34, 22, 112, deck + 2, 2);
-    canvas.fill(house, [](float, float y) {
-        return mix(rgb(palette::cream), rgb(palette::slate), 0.12f + 0.35f * smooth(22, 52, y));
-    });
-    canvas.fill(stroke({{30, 22}, {116, 22}}, 3), rgb(palette::cream));
-    for (float x = 46; x < 110; x += 15) {
-        canvas.fill(disc(x, 35, 4), rgb(palette::amber));
-        canvas.lamp(x, 35, 12, rgb(palette::amber, 0.35f));
-    }
-    // The hull, cut open.
-    Shape hull = polygon({{8, deck - 8},
-                          {30, deck},
-                          {480, deck},
-                          {510, deck - 6},
-                          {578, deck - 20},
-                          {560, 130},
-                          {536, 196},
-                          {508, keel},
-                          {62, keel},
-                          {34, 206},
-                          {22, 170},
-                          {18, 120}});
-    canvas.fill(hull, [&](float, float y) {
-        return y > water ? mix(mix(rgb(palette::brick), rgb(palette::night), 0.45f), rgb(palette::night),
-                               smooth(water, keel, y) * 0.4f)
-                         : mix(rgb(palette::night), rgb(palette::harbour), 0.25f);
-    });
-    canvas.fill(outline(hull, 3.4f), rgb(palette::brass, 0.95f));
-    canvas.fill(stroke({{30, deck}, {480, deck}}, 3), rgb(palette::cream, 0.85f));
-    // The hold is boarded and has a deck under each row of places.
-    canvas.fill(box(112, 52, 488, 214, 3), [](float x, float y) {
-        float plank = std::fmod(y, 13.0f);
-        Colour wood = mix(mix(rgb(palette::timber), rgb(palette::night), 0.55f), rgb(palette::night),
-                          0.35f * clouds(x / 40, y / 3, 3, 44));
-        return plank < 1 ? mix(wood, rgb(palette::night), 0.5f) : wood;
-    });
-    for (float y : {106.0f, 158.0f, 210.0f})
-        canvas.fill(box(112, y - 2, 488, y + 1.5f), mix(rgb(palette::timber), rgb(palette::brass), 0.45f));
-    canvas.fill(outline(box(112, 52, 488, 214, 3), 2), rgb(palette::brass, 0.9f));
-    // The engine room is aft and the chain locker forward.
-    canvas.fill(box(42, 64, 102, 208, 6), rgb(palette::night, 0.7f));
-    Shape boiler = box(46, 112, 98, 186, 9);
-    canvas.fill(boiler, metal(mix(rgb(palette::slate), rgb(palette::night), 0.2f), boiler));
-    canvas.fill(outline(boiler, 1.6f), rgb(palette::night));
-    for (float y : {126.0f, 150.0f}) {
-        canvas.fill(box(46, y - 2, 98, y + 2), rgb(palette::night, 0.45f));
-        for (float x = 51; x < 98; x += 6)
-            canvas.fill(disc(x, y, 1), rgb(palette::mist, 0.8f));
-    }
-    for (float x : {55.0f, 72.0f, 89.0f}) { // fire doors
-        canvas.fill(box(x - 6.5f, 160, x + 6.5f, 178, 2), rgb(palette::night));
-        canvas.fill(box(x - 4.5f, 163, x + 4.5f, 176, 1), [](float, float y) {
-            return mix(rgb(palette::amber), rgb(palette::brick), (y - 163) / 13);
-        });
-        canvas.lamp(x, 170, 17, rgb(palette::amber, 0.4f));
-    }
-    canvas.fill(stroke({{72, 112}, {72, 70}, {76, 52}}, 11),
-                mix(rgb(palette::slate), rgb(palette::night), 0.4f));
-    canvas.fill(stroke({{54, 200}, {90, 200}}, 5), rgb(palette::brass, 0.7f)); // the shaft
-    canvas.fill(stroke({{6, 200}, {46, 200}}, 4), rgb(palette::brass, 0.9f));
-    canvas.fill(ellipse(6, 200, 4, 17), rgb(palette::brass));
-    // The chain runs down from the hawse into coils.
-    Colour chain = mix(rgb(palette::mist), rgb(palette::slate), 0.35f);
-    for (int link = 0; link < 13; ++link) {
-        float down = static_cast<float>(link) / 13;
-        Point from{552 - 28 * smooth(0, 1, down), 58 + 104 * down};
-        canvas.fill(outline(ellipse(from.x, from.y, link % 2 ? 2.2f : 3.2f, 5), 1.5f), chain);
-    }
-    for (int coil = 0; coil < 4; ++coil) {
-        float y = 186 - 7 * static_cast<float>(coil), half = 11 - 1.5f * static_cast<float>(coil);
-        canvas.fill(outline(ellipse(524, y, half, 4.5f), 2.2f), chain);
-    }
+    Canvas canvas(sectionWidth, sectionHeight);
+    paintSectionWater(canvas);
+    paintUpperWorks(canvas);
+    paintHull(canvas);
+    paintHold(canvas);
+    paintEngineRoom(canvas);
+    paintChain(canvas);
     return canvas;
 }
 

@@ -64,18 +64,20 @@ std::vector<float> shoreDistance()
     return distance;
 }
 
-} // namespace
-
-Canvas chartCoast()
+/// Draws the rhumb lines that spread from the rose.
+void drawRhumbLines(Canvas& canvas)
 {
-    Canvas canvas(chartWidth, chartHeight);
-    // Rhumb lines from the rose; the land is painted over them.
     constexpr Point rose{550, 130};
     for (int i = 0; i < 32; ++i) {
         float angle = static_cast<float>(i) * 0.1963495f;
         Point end{rose.x + 900 * std::cos(angle), rose.y + 900 * std::sin(angle)};
         canvas.fill(stroke({rose, end}, 1), rgb(palette::ink, i % 4 == 0 ? 0.34f : 0.18f));
     }
+}
+
+/// Paints land and sea.
+void paintLandAndSea(Canvas& canvas)
+{
     std::vector<float> shore = shoreDistance();
     canvas.paint(0, 0, chartWidth, chartHeight, [&](float x, float y) {
         float distance = shore[static_cast<std::size_t>(y) * chartWidth + static_cast<std::size_t>(x)];
@@ -98,7 +100,11 @@ Canvas chartCoast()
         }
         return mix(water, rgb(palette::ink), ink);
     });
-    // Hills, one stroke up and one down, where the land is high.
+}
+
+/// Draws hills where the land is high, with one stroke up and one down.
+void drawHills(Canvas& canvas)
+{
     for (int i = 0; i < 60; ++i) {
         float x = 30 + 570 * hashed(i, 1, 150), y = 26 + 460 * hashed(i, 2, 150);
         if (landHeight(x, y) < 34 || landHeight(x - 14, y) < 20 || landHeight(x + 14, y) < 20 ||
@@ -110,7 +116,11 @@ Canvas chartCoast()
             rgb(palette::timber));
         canvas.fill(stroke({{x + 1, y}, {x + size * 0.5f, y + size * 0.7f}}, 1), rgb(palette::timber, 0.7f));
     }
-    // Meridians and parallels.
+}
+
+/// Draws meridians and parallels.
+void drawGrid(Canvas& canvas)
+{
     for (int i = 1; i < 6; ++i)
         canvas.fill(
             stroke({{static_cast<float>(i) * 105.5f, 0}, {static_cast<float>(i) * 105.5f, chartHeight}}, 1),
@@ -119,7 +129,11 @@ Canvas chartCoast()
         canvas.fill(
             stroke({{0, static_cast<float>(i) * 104.5f}, {chartWidth, static_cast<float>(i) * 104.5f}}, 1),
             rgb(palette::ink, 0.16f));
-    // The company's routes, with the ports at their ends.
+}
+
+/// Draws the company's routes, with the ports at their ends.
+void drawRoutes(Canvas& canvas)
+{
     constexpr Point ellery{144, 210}, quillHaven{353, 68}, northSound{543, 35}, brannoc{298, 315},
         gannet{288, 390}, farholm{513, 410};
     route(canvas, ellery, {290, 190}, quillHaven);
@@ -127,6 +141,18 @@ Canvas chartCoast()
     route(canvas, ellery, {230, 230}, brannoc);
     route(canvas, ellery, {190, 340}, gannet);
     route(canvas, brannoc, {390, 470}, farholm);
+}
+
+} // namespace
+
+Canvas chartCoast()
+{
+    Canvas canvas(chartWidth, chartHeight);
+    drawRhumbLines(canvas); // the land is painted over them
+    paintLandAndSea(canvas);
+    drawHills(canvas);
+    drawGrid(canvas);
+    drawRoutes(canvas);
     return canvas;
 }
 

@@ -1,5 +1,6 @@
 #include "language/check/collect.h"
 
+#include "platform/framework/text.h"
 #include "tgx/script/reader.h"
 
 #include <algorithm>
@@ -22,7 +23,7 @@ constexpr const char* scriptDirectory = "uig"; // compared without case
 
 std::string endingOf(const fs::path& path)
 {
-    return folded(path.extension().string());
+    return tgx::lowercased(path.extension().string());
 }
 
 bool isScript(const fs::path& path)
@@ -59,7 +60,7 @@ fs::path rootOf(const fs::path& folder)
     fs::path root = folder;
     for (fs::path each = normalized(folder); each.has_relative_path();
          each = each.parent_path(), root /= "..")
-        if (folded(each.filename().string()) == scriptDirectory)
+        if (tgx::lowercased(each.filename().string()) == scriptDirectory)
             return root.lexically_normal().has_filename() ? root.lexically_normal()
                                                           : root.lexically_normal().parent_path();
     return folder;
@@ -67,7 +68,7 @@ fs::path rootOf(const fs::path& folder)
 
 bool isScriptDirectory(const fs::path& folder)
 {
-    return folded(normalized(folder).filename().string()) == scriptDirectory;
+    return tgx::lowercased(normalized(folder).filename().string()) == scriptDirectory;
 }
 
 std::string dataDirectoryOf(const fs::path& root)
@@ -217,7 +218,7 @@ private:
             const fs::path& folder = waiting.front();
             for (auto& [path, each] : files)
                 if (path.parent_path() == normalized(folder) && load(each))
-                    texts += folded(*each.contents);
+                    texts += tgx::lowercased(*each.contents);
             std::error_code error, ignored;
             fs::directory_iterator each(folder, error);
             for (const fs::directory_iterator end; !error && each != end; each.increment(error)) {
@@ -236,7 +237,7 @@ private:
     /// Returns whether a string in the texts begins with that folder.
     static bool mentionsFolder(const std::string& texts, const fs::path& folder)
     {
-        std::string name = folded(folder.generic_string());
+        std::string name = tgx::lowercased(folder.generic_string());
         for (const char slash : {'/', '\\'}) {
             std::replace(name.begin(), name.end(), '/', slash);
             const std::string sought = name + slash;
@@ -295,7 +296,7 @@ void addFromData(ScriptFolder& folder, const script_text::ReadFile& read)
 {
     std::set<std::string> names;
     for (const ScriptFile& each : folder.files)
-        names.insert(folded(each.name));
+        names.insert(tgx::lowercased(each.name));
     std::error_code error, ignored;
     fs::directory_iterator each(folder.dataDirectory, error);
     for (const fs::directory_iterator end; !error && each != end; each.increment(error)) {
@@ -307,7 +308,7 @@ void addFromData(ScriptFolder& folder, const script_text::ReadFile& read)
             const fs::path& path = script->path();
             std::string name = nameBelow(each->path(), path);
             if (endingOf(path) != compiledEnding || !script->is_regular_file(ignored) ||
-                !names.insert(folded(name)).second)
+                !names.insert(tgx::lowercased(name)).second)
                 continue;
             std::string why;
             if (std::optional<std::string> bytes = read(path.string(), why))

@@ -2,6 +2,7 @@
 
 #include "language/check/tree.h"
 #include "language/check/words.h"
+#include "platform/framework/text.h"
 #include "tgx/controls/radiobutton.h"
 #include "tgx/wnd/reserved.h"
 #include "tgx/wnd/tabstops.h"
@@ -90,7 +91,7 @@ private:
     {
         if (wnd.getID().IsEmpty())
             return;
-        const auto [first, isFirst] = ids.try_emplace(folded(wnd.getID().view()), &wnd);
+        const auto [first, isFirst] = ids.try_emplace(tgx::lowercased(wnd.getID().view()), &wnd);
         if (!isFirst && !check.reading.isPointedTo(&wnd))
             check.add("duplicate-id", wnd,
                       "another window " + inQuotes(wnd.getID().view()) + " is already in " + describe(top) +

@@ -2,6 +2,7 @@
 
 #include "language/check/rules.h"
 #include "language/text/statement_form.h"
+#include "platform/framework/text.h"
 #include "tgx/script/reader.h"
 #include "tgx/wnd/reserved.h"
 
@@ -15,8 +16,6 @@ namespace {
 constexpr std::string_view controls[] = {"BUTTON",  "CHECKBOX", "RADIOBUTTON", "COMBOBOX",   "EDITBOX",
                                          "LISTBOX", "KEYBOARD", "TABCONTROL",  "HSCROLLBAR", "VSCROLLBAR"};
 constexpr std::string_view clickable[] = {"BUTTON", "CHECKBOX", "RADIOBUTTON", "USERDEF"};
-// The ids by which the toolkit finds the parts of a control, ignoring case.
-constexpr std::string_view parts[] = {"checkboxstate", "radiostate", "combomenu", "combonext", "comboprev"};
 
 template<std::size_t N>
 bool isOneOf(const std::string_view (&words)[N], std::string_view word)
@@ -34,39 +33,64 @@ void checkWidths(const Script& script, int line, Findings& findings)
                          "this word does not follow a width, and counts as a column of width 0");
 }
 
-void checkSizes(const Script& script, int line, std::string_view keyword, Findings& findings)
-{
-    const auto number = [&](int token) { return script.number(line, token); };
-    const auto add = [&](int token, const char* text) {
-        findings.add("zero-size", script, line, token, text);
-    };
-    const bool isBitmapStrip = keyword == "BITMAP" && script.tokenCount(line) > 10;
-    if (isOneOf(controls, keyword) && (number(4) <= 0 || number(5) <= 0)) {
-        add(number(4) <= 0 ? 4 : 5, "a control of this size cannot be clicked");
-    } else if (keyword == "BORDER") {
+/// Finds sizes of 0 in a line.
+class SizeRules {
+public:
+    SizeRules(const Script& owner, int at, Findings& found) : script(owner), line(at), findings(found) {}
+
+    void check(std::string_view keyword)
+    {
+        if (isOneOf(controls, keyword))
+            checkSize(4, "a control of this size cannot be clicked");
+        if (keyword == "BORDER")
+            checkBorder();
+        else if (keyword == "BMPINFO")
+            checkStrip(1);
+        else if (keyword == "BITMAP" && script.tokenCount(line) > 10)
+            checkStrip(7);
+        else if (keyword == "LISTLOOK" && number(1) == 0)
+            add(1, "rows of height 0 count as 1; a negative height keeps the current one");
+        else if (keyword.ends_with("SCROLLBAR") && !script.string(line, 6).empty())
+            checkSize(7, "a scroll bar's six frames need a size");
+    }
+
+private:
+    int number(int token) const { return script.number(line, token); }
+    void add(int token, const char* text) { findings.add("zero-size", script, line, token, text); }
+
+    /// Checks the width at the token and the height after it.
+    void checkSize(int token, const char* text)
+    {
+        if (number(token) <= 0 || number(token + 1) <= 0)
+            add(number(token) <= 0 ? token : token + 1, text);
+    }
+    void checkBorder()
+    {
         if (number(3) <= 0)
             add(3, "a border with pieces of this size is not drawn");
         else if (number(2) <= 0)
             add(2, "with this width the border's pieces cover the picture");
-    } else if (isBitmapStrip || keyword == "BMPINFO") {
-        const int first = isBitmapStrip ? 7 : 1;
-        if (number(first + 3) <= 0)
-            add(first + 3, "a picture with this number of frames is not shown; a still picture has 1");
-        else if (number(first + 3) > 1 && (number(first) <= 0 || number(first + 1) <= 0))
-            add(number(first) <= 0 ? first : first + 1, "a strip of several frames needs the size of one");
-    } else if (keyword == "LISTLOOK" && number(1) == 0) {
-        add(1, "rows of height 0 count as 1; a negative height keeps the current one");
     }
-    if (keyword.ends_with("SCROLLBAR") && !script.string(line, 6).empty() &&
-        (number(7) <= 0 || number(8) <= 0))
-        add(number(7) <= 0 ? 7 : 8, "a scroll bar's six frames need a size");
-}
+    /// Checks a strip whose frame size begins at the token.
+    void checkStrip(int token)
+    {
+        const int frames = number(token + 3);
+        if (frames <= 0)
+            add(token + 3, "a picture with this number of frames is not shown; a still picture has 1");
+        else if (frames > 1)
+            checkSize(token, "a strip of several frames needs the size of one");
+    }
+
+    const Script& script;
+    const int line;
+    Findings& findings;
+};
 
 /// Finds words of a font style that parseFontStyle ignores.
 void checkStyle(const Script& script, int line, Findings& findings)
 {
     static const std::vector<std::string_view> known{"bold", "italic", "shadow"};
-    const std::string style = folded(script.string(line, 2));
+    const std::string style = tgx::lowercased(script.string(line, 2));
     for (std::size_t start = 0; (start = style.find_first_not_of(" ,", start)) != style.npos;) {
         const std::string word = style.substr(start, style.find_first_of(" ,", start) - start);
         start += word.size();
@@ -94,7 +118,7 @@ void checkReserved(const Script& script, int line, const Statement& statement, F
         findings.add("reserved-id", script, line, 1,
                      "a click on " + inQuotes(id) + (leaves ? " leaves the screen" : " closes the box") +
                          ", but this is not a button; for decoration use the id \"static\"");
-    else if (isOneOf(parts, folded(id)) && statement.keyword != std::string_view("USERDEF"))
+    else if (tgx::part::isOfScript(id) && statement.keyword != std::string_view("USERDEF"))
         findings.add("reserved-id", script, line, 1,
                      inQuotes(id) + " is the id of a control's part; give this window another id");
 }
@@ -157,7 +181,7 @@ void checkArguments(const Script& script, Findings& findings)
         const Statement* statement = script.statement(line);
         if (!statement)
             continue;
-        checkSizes(script, line, statement->keyword, findings);
+        SizeRules(script, line, findings).check(statement->keyword);
         if (script.isKeyword(line, "ADDFONT"))
             checkStyle(script, line, findings);
         checkReserved(script, line, *statement, findings);

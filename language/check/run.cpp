@@ -6,6 +6,7 @@
 #include "language/check/rules.h"
 #include "language/check/words.h"
 #include "platform/framework/datadir.h"
+#include "platform/framework/text.h"
 #include "platform/host/headless/headless_host.h"
 #include "platform/limits.h"
 #include "platform/system/clock.h"
@@ -138,7 +139,8 @@ const WndLines* Reading::linesOf(const AWnd* wnd) const
 
 bool Reading::isNamedStop(const AWnd& wnd) const
 {
-    return endedEarly || namedStops.contains(&wnd) || laterStops.contains(folded(wnd.getID().view()));
+    return endedEarly || namedStops.contains(&wnd) ||
+           laterStops.contains(tgx::lowercased(wnd.getID().view()));
 }
 
 bool Reading::isKnownFont(const bmpfont* font) const
@@ -320,14 +322,7 @@ void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef
         findings.add(code, *at.script, at.line, token, std::move(text));
     };
     if (statement.kind != StatementKind::Command && !statement.target.fits(target->getWindowType())) {
-        if (isGameWindow(target))
-            endedEarly = endedEarly || at.script->place(at.line).subroutine != LinePlace::none;
-        else
-            add("wrong-window", 0,
-                std::string(keyword) + " acts on " + typesOf(statement.target) +
-                    (executed.current ? ", but " + (target->getID().IsEmpty() ? "this" : describe(*target)) +
-                                            " is " + typeOf(*target)
-                                      : ", but it is not in a window's block"));
+        explainWrongWindow(executed, *target, at, statement);
     } else if (keyword == "FONT" || keyword == "LISTFONTS") {
         for (int i = 1; i < executed.count && knowsAllFonts; ++i)
             if (!win->getFont(executed.tokens[i].value))
@@ -337,13 +332,7 @@ void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef
     } else if (keyword == "POINTER") {
         explainPointer(at);
     } else if (keyword == "GOTO") {
-        const Script* called = set.calledBy(*at.script, at.line);
-        const Subroutine* body = called ? called->subroutine(executed.tokens[1].text.view()) : nullptr;
-        // A missing or recursive subroutine is reported by the rules for calls.
-        if (body && !body->reachesRing)
-            add("limit-exceeded", 1,
-                "calls of subroutines are nested more than " + std::to_string(limits::subroutineDepth) +
-                    " deep here");
+        explainGoto(executed, at);
     } else if (keyword == "RADIOBUTTON") {
         add("limit-exceeded", 0, "the radio group has too many members, or windows are nested too deeply");
     } else if (makesWindow(statement)) {
@@ -356,6 +345,31 @@ void Reading::explainFailure(const ExecutedLine& executed, AWnd* target, LineRef
     } else {
         add("line-fails", 0, std::string(keyword) + " fails when the toolkit reads it");
     }
+}
+
+void Reading::explainWrongWindow(const ExecutedLine& executed, AWnd& target, LineRef at,
+                                 const Statement& statement)
+{
+    if (isGameWindow(&target)) {
+        endedEarly = endedEarly || at.script->place(at.line).subroutine != LinePlace::none;
+        return;
+    }
+    const std::string name = target.getID().IsEmpty() ? "this" : describe(target);
+    findings.add("wrong-window", *at.script, at.line,
+                 std::string(statement.keyword) + " acts on " + typesOf(statement.target) +
+                     (executed.current ? ", but " + name + " is " + typeOf(target)
+                                       : ", but it is not in a window's block"));
+}
+
+void Reading::explainGoto(const ExecutedLine& executed, LineRef at)
+{
+    const Script* called = set.calledBy(*at.script, at.line);
+    const Subroutine* body = called ? called->subroutine(executed.tokens[1].text.view()) : nullptr;
+    // A missing or recursive subroutine is reported by the rules for calls.
+    if (body && !body->reachesRing)
+        findings.add("limit-exceeded", *at.script, at.line, 1,
+                     "calls of subroutines are nested more than " + std::to_string(limits::subroutineDepth) +
+                         " deep here");
 }
 
 void Reading::explainMissingWindow(const ExecutedLine& executed, AWnd& target, LineRef at)
@@ -384,7 +398,7 @@ void Reading::explainMissingWindow(const ExecutedLine& executed, AWnd& target, L
         const std::string_view name = executed.tokens[i].text.view();
         std::string text = "no window " + inQuotes(name) + " in " + describe(target) + " at this point";
         if (const int later = comesLater(name); later >= 0) {
-            laterStops.insert(folded(name));
+            laterStops.insert(tgx::lowercased(name));
             text += "; it is defined later, in line " + std::to_string(at.script->numberOf(later));
         } else if (mayBeMade) {
             continue;

@@ -75,6 +75,9 @@ private:
     void handleLine(const ExecutedLine& executed);
     void recordLine(const ExecutedLine& executed, AWnd* target, LineRef at, const Statement& statement);
     void explainFailure(const ExecutedLine& executed, AWnd* target, LineRef at, const Statement& statement);
+    void explainWrongWindow(const ExecutedLine& executed, AWnd& target, LineRef at,
+                            const Statement& statement);
+    void explainGoto(const ExecutedLine& executed, LineRef at);
     void explainMissingWindow(const ExecutedLine& executed, AWnd& target, LineRef at);
     void explainPointer(LineRef at);
     void checkMessages(LineRef at, bool hasFailed);

@@ -3,6 +3,7 @@
 #include "language/text/emit.h"
 #include "language/text/statement_form.h"
 #include "language/text/text_files.h"
+#include "platform/framework/text.h"
 #include "platform/media/encoding.h"
 #include "tgx/script/reader.h"
 
@@ -81,7 +82,7 @@ private:
 /// Returns the same key for all spellings of a name.
 std::string keyOf(std::string_view name)
 {
-    std::string key = folded(name);
+    std::string key = tgx::lowercased(name);
     std::replace(key.begin(), key.end(), '\\', '/');
     return key;
 }
@@ -159,7 +160,7 @@ Script* ScriptSet::find(std::string_view name) const
 const std::vector<Script*>& ScriptSet::ofFile(std::string_view name) const
 {
     static const std::vector<Script*> none;
-    const auto found = byFile.find(folded(name));
+    const auto found = byFile.find(tgx::lowercased(name));
     return found == byFile.end() ? none : found->second;
 }
 
@@ -185,14 +186,9 @@ void findFonts(const std::vector<Script*>& scripts, const ScriptSet& set)
                                 });
 }
 
-std::string folded(std::string_view text)
-{
-    return script_text::lowered(text);
-}
-
 bool isMain(const Script& script)
 {
-    return folded(script.name) == mainScriptFile;
+    return tgx::lowercased(script.name) == mainScriptFile;
 }
 
 std::string inQuotes(std::string_view text)

@@ -150,8 +150,6 @@ void forEachLineThroughCalls(const Script& script, int first, int end, const Scr
     }
 }
 
-/// Returns an id with its letters in lower case. The toolkit ignores case when it searches for ids.
-std::string folded(std::string_view text);
 /// Returns whether the script is the main script, which a game reads first.
 bool isMain(const Script& script);
 /// Returns a text of a script in quotes, for messages.

@@ -4,6 +4,7 @@
 
 #include "language/text/parsed_script.h"
 #include "language/text/statement_form.h"
+#include "platform/framework/text.h"
 #include "platform/media/code_page.h"
 #include "platform/media/encoding.h"
 #include "tgx/script/reader.h"
@@ -36,7 +37,7 @@ std::string quoted(std::string_view text)
             const char next = i + 1 < text.size() ? text[i + 1] : '"';
             out += next == '"' || next == '\\' || next == 'x' || !isPlain(next) ? "\\\\" : "\\";
         } else if (!isPlain(text[i])) {
-            out += {'\\', 'x', hexDigits[c >> 4], hexDigits[c & 15]};
+            out += tgx::hexEscape(text[i]);
         } else {
             out += utf8From1252(text.substr(i, 1));
         }

@@ -1,6 +1,7 @@
 #include "language/text/text_files.h"
 
 #include "platform/framework/datadir.h"
+#include "platform/framework/text.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -21,21 +22,12 @@ std::string shortest(const fs::path& path)
 
 } // namespace
 
-std::string lowered(std::string_view text)
-{
-    std::string result(text);
-    for (char& c : result)
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c + ('a' - 'A'));
-    return result;
-}
-
 std::vector<std::string> filesIn(const std::string& folder, std::string_view ending)
 {
     std::vector<std::string> files;
     std::error_code failure;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder, failure))
-        if (lowered(entry.path().extension().string()) == ending && entry.is_regular_file(failure))
+        if (tgx::lowercased(entry.path().extension().string()) == ending && entry.is_regular_file(failure))
             files.push_back(shortest(entry.path().lexically_normal()));
     std::sort(files.begin(), files.end());
     return files;
@@ -46,7 +38,7 @@ std::string scriptFolder()
     std::error_code failure;
     for (const std::string& folder : dataDirectories())
         for (const fs::directory_entry& entry : fs::directory_iterator(folder, failure))
-            if (lowered(entry.path().filename().string()) == "uig" && entry.is_directory(failure))
+            if (tgx::lowercased(entry.path().filename().string()) == "uig" && entry.is_directory(failure))
                 return entry.path().string();
     return "";
 }

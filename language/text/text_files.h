@@ -6,8 +6,6 @@
 
 namespace script_text {
 
-/// Returns text with its ASCII letters in lower case, as names of scripts are compared.
-std::string lowered(std::string_view text);
 /// Returns the files of a folder with that ending (lower case, with the dot), sorted by name; none if the
 /// folder cannot be read. Paths are relative to the working directory where they are below it.
 std::vector<std::string> filesIn(const std::string& folder, std::string_view ending);

@@ -1,5 +1,7 @@
 #include "platform/display/message_text.h"
 
+#include "platform/framework/text.h"
+
 #include <algorithm>
 #include <cstdio>
 
@@ -14,10 +16,7 @@ std::string oneLine(std::string_view message)
         } else if (c >= 0x20 && c <= 0x7E) {
             line += c;
         } else {
-            char escaped[8];
-            std::snprintf(escaped, sizeof escaped, "\\u%04x",
-                          static_cast<unsigned>(static_cast<unsigned char>(c)));
-            line += escaped;
+            line += tgx::unicodeEscape(c);
         }
     }
     return line;

@@ -1,17 +1,13 @@
 #include "platform/framework/cstring.h"
 
 #include "platform/framework/exceptions.h"
+#include "platform/framework/text.h"
 
 #include <algorithm>
 #include <cstdarg>
-#include <cstdio>
 
 namespace {
 
-char lowercased(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
 char uppercased(char c)
 {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c;
@@ -47,8 +43,8 @@ int CString::compareNoCase(std::string_view a, std::string_view b)
 {
     const std::size_t shared = std::min(a.size(), b.size());
     for (std::size_t i = 0; i < shared; ++i) {
-        const auto left = static_cast<unsigned char>(lowercased(a[i]));
-        const auto right = static_cast<unsigned char>(lowercased(b[i]));
+        const auto left = static_cast<unsigned char>(tgx::lowercased(a[i]));
+        const auto right = static_cast<unsigned char>(tgx::lowercased(b[i]));
         if (left != right)
             return left < right ? -1 : 1;
     }
@@ -98,7 +94,8 @@ int CString::ReverseFind(char what) const
 
 CString& CString::MakeLower()
 {
-    std::transform(characters.begin(), characters.end(), characters.begin(), lowercased);
+    for (char& c : characters)
+        c = tgx::lowercased(c);
     return *this;
 }
 
@@ -110,17 +107,10 @@ CString& CString::MakeUpper()
 
 void CString::Format(const char* format, ...)
 {
-    va_list measured;
-    va_start(measured, format);
-    va_list written;
-    va_copy(written, measured);
-    const int length = std::vsnprintf(nullptr, 0, format, measured);
-    va_end(measured);
-
+    std::va_list arguments;
+    va_start(arguments, format);
     // Formats into a new string, because an argument may point into this one.
-    std::string text(static_cast<std::size_t>(std::max(length, 0)), '\0');
-    if (length > 0)
-        std::vsnprintf(text.data(), text.size() + 1, format, written);
-    va_end(written);
+    std::string text = tgx::formatted(format, arguments);
+    va_end(arguments);
     characters = std::move(text);
 }

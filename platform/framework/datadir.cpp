@@ -1,6 +1,7 @@
 #include "platform/framework/datadir.h"
 
 #include "platform/framework/out_of_memory.h"
+#include "platform/framework/text.h"
 
 #include <chrono>
 #include <cstdlib>
@@ -35,16 +36,6 @@ std::vector<std::string>& roots()
 {
     static auto& folders = *new std::vector<std::string>(defaultRoots());
     return folders;
-}
-
-std::string lowercased(std::string_view name)
-{
-    std::string result(name);
-    for (char& c : result) {
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c + ('a' - 'A'));
-    }
-    return result;
 }
 
 bool hasDriveLetter(std::string_view name)
@@ -124,7 +115,7 @@ std::shared_ptr<const Listing> listingOf(const std::string& folder)
     listing->inode = status.st_ino;
     listing->changed = status.st_mtim;
     while (const dirent* entry = ::readdir(directory)) {
-        const auto [known, isNew] = listing->names.try_emplace(lowercased(entry->d_name), entry->d_name);
+        const auto [known, isNew] = listing->names.try_emplace(tgx::lowercased(entry->d_name), entry->d_name);
         if (!isNew && entry->d_name < known->second)
             known->second = entry->d_name;
     }
@@ -158,7 +149,7 @@ bool enterFolder(std::string& path, const std::string& name)
     const std::shared_ptr<const Listing> listing = listingOf(path);
     if (!listing)
         return false;
-    const auto match = listing->names.find(lowercased(name));
+    const auto match = listing->names.find(tgx::lowercased(name));
     if (match == listing->names.end())
         return false;
     path += '/' + match->second;
@@ -193,7 +184,7 @@ std::optional<std::string> findBelow(const std::string& root, const std::vector<
             const std::shared_ptr<const Listing> listing = listingOf(path);
             if (!listing)
                 return std::nullopt;
-            const auto match = listing->names.find(lowercased(component));
+            const auto match = listing->names.find(tgx::lowercased(component));
             if (match == listing->names.end())
                 return std::nullopt;
             next = path + '/' + match->second;
@@ -225,7 +216,7 @@ std::string memoryKey(std::string_view name)
     std::string key;
     if (const std::optional<std::vector<std::string>> components = splitSafely(name))
         for (const std::string& component : *components)
-            key += '/' + lowercased(component);
+            key += '/' + tgx::lowercased(component);
     return key;
 }
 

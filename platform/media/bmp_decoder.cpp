@@ -181,6 +181,35 @@ bool decodeTrueColour(const ByteReader& file, const Header& header, Image& image
     return true;
 }
 
+bool isRunLength(const Header& header)
+{
+    return (header.compression == rle8 && header.bits == 8) ||
+           (header.compression == rle4 && header.bits == 4);
+}
+
+bool isIndexed(const Header& header)
+{
+    return header.bits == 1 || header.bits == 4 || header.bits == 8;
+}
+
+bool isSupported(const Header& header)
+{
+    const bool isTrueColour = header.bits == 16 || header.bits == 24 || header.bits == 32;
+    const bool hasMasks = header.compression == masks || header.compression == alphaMasks;
+    const bool isMasked = hasMasks && (header.bits == 16 || header.bits == 32);
+    return (isIndexed(header) || isTrueColour) &&
+           (header.compression == plain || isRunLength(header) || isMasked);
+}
+
+/// Returns whether the file has all rows of a picture that is not run-length encoded.
+bool hasAllRows(const ByteReader& file, const Header& header)
+{
+    const std::size_t stride = (header.width * header.bits + 31) / 32 * 4;
+    const std::size_t lastRow = (header.width * header.bits + 7) / 8; // its padding may be missing
+    return header.pixelsAt >= fileHeader + header.headerSize &&
+           header.pixelsAt + stride * (header.height - 1) + lastRow <= file.bytes.size();
+}
+
 } // namespace
 
 bool readBmpSize(std::string_view bytes, long long& width, long long& height)
@@ -197,26 +226,14 @@ ImageRef decodeBmp(std::string_view bytes)
 {
     const ByteReader file{bytes};
     Header header;
-    if (!readHeader(file, header))
+    if (!readHeader(file, header) || !isSupported(header))
         return nullptr;
-    const bool isIndexed = header.bits == 1 || header.bits == 4 || header.bits == 8;
-    const bool isTrueColour = header.bits == 16 || header.bits == 24 || header.bits == 32;
-    const bool isRuns =
-        (header.compression == rle8 && header.bits == 8) || (header.compression == rle4 && header.bits == 4);
-    const bool isMasks = (header.compression == masks || header.compression == alphaMasks) &&
-                         (header.bits == 16 || header.bits == 32);
-    if (!(isIndexed || isTrueColour) || !(header.compression == plain || isRuns || isMasks))
+    const bool isRuns = isRunLength(header);
+    if (!isRuns && !hasAllRows(file, header))
         return nullptr;
-    if (!isRuns) {
-        const std::size_t stride = (header.width * header.bits + 31) / 32 * 4;
-        const std::size_t lastRow = (header.width * header.bits + 7) / 8; // its padding may be missing
-        if (header.pixelsAt < fileHeader + header.headerSize ||
-            header.pixelsAt + stride * (header.height - 1) + lastRow > bytes.size())
-            return nullptr;
-    }
     ImageRef image = makeImage(static_cast<int>(header.width), static_cast<int>(header.height));
-    const bool isDecoded = isRuns      ? decodeRuns(file, header, *image)
-                           : isIndexed ? decodeIndexed(file, header, *image)
-                                       : decodeTrueColour(file, header, *image);
+    const bool isDecoded = isRuns              ? decodeRuns(file, header, *image)
+                           : isIndexed(header) ? decodeIndexed(file, header, *image)
+                                               : decodeTrueColour(file, header, *image);
     return isDecoded ? image : nullptr;
 }

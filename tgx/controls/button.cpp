@@ -2,6 +2,7 @@
 
 #include "tgx/base/fixed.h"
 #include "tgx/base/swapped.h"
+#include "tgx/wnd/reserved.h"
 #include "tgx/wnd/window_cast.h"
 
 #include <algorithm>
@@ -38,9 +39,9 @@ AButton* AButton::getStateWnd()
 {
     if (children.GetSize() == 0)
         return nullptr;
-    AWnd* wnd = getWnd("RadioState", 1);
+    AWnd* wnd = getWnd(tgx::part::radioState, 1);
     if (!wnd)
-        wnd = getWnd("CheckboxState", 1);
+        wnd = getWnd(tgx::part::checkboxState, 1);
     return windowAs<AButton>(wnd);
 }
 

@@ -1,12 +1,27 @@
 #include "tgx/controls/combobox.h"
 
 #include "tgx/base/fixed.h"
+#include "tgx/wnd/reserved.h"
 #include "tgx/wnd/stage.h"
 #include "tgx/wnd/window_cast.h"
 
 #include <algorithm>
 #include <climits>
 #include <cstdlib>
+
+namespace {
+
+bool isKeyForPrevious(const tgx::Stage& stage)
+{
+    return stage.keyCode == VK_UP || stage.keyDown[VK_HOME] || stage.keyDown[VK_INSERT];
+}
+
+bool isKeyForNext(const tgx::Stage& stage)
+{
+    return stage.keyCode == VK_DOWN || stage.keyDown[VK_END] || stage.keyDown[VK_DELETE];
+}
+
+} // namespace
 
 AComboBox::AComboBox(const CString& name, int x, int y, int width, int height)
     : AButton(name, x, y, width, height, WND_COMBOBOX)
@@ -19,10 +34,17 @@ void AComboBox::Buttons::setState(E_BUTTON_STATE state)
             button->setButtonState(state);
 }
 
+void AComboBox::Buttons::release(const AWnd* hit)
+{
+    for (AButton* button : {prev, next})
+        if (button && button != hit && button->getButtonState() != BS_DISABLED)
+            button->setButtonState(BS_NORMAL);
+}
+
 /// Returns the two step buttons. A script may give their ids to other kinds of window, which do not count.
 AComboBox::Buttons AComboBox::getButtons()
 {
-    return {getButton("ComboPrev", 1), getButton("ComboNext", 1)};
+    return {getButton(tgx::part::comboPrev, 1), getButton(tgx::part::comboNext, 1)};
 }
 
 int AComboBox::addItem(const CString& text)
@@ -74,7 +96,7 @@ int AComboBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, 
     if (!handling.canContinue() || !isVisible(1))
         return 0;
     // An action on one of the two buttons counts as one on the box.
-    if (about != "ComboPrev" && about != "ComboNext" && isMeantForAnother(wnd))
+    if (about != tgx::part::comboPrev && about != tgx::part::comboNext && isMeantForAnother(wnd))
         return 0;
 
     Buttons buttons = getButtons();
@@ -83,21 +105,15 @@ int AComboBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, 
     const bool onNext = hit && hit == buttons.next;
     if (onPrev || onNext)
         setButtonState(BS_NORMAL);
-    if (action != MA_LBUTTONUP && action != MA_KEY) {
-        for (AButton* button : {buttons.prev, buttons.next})
-            if (button && button != hit && button->getButtonState() != BS_DISABLED)
-                button->setButtonState(BS_NORMAL);
+    if (action != MA_LBUTTONUP && action != MA_KEY)
+        buttons.release(hit);
+    else if (items.GetSize() < 2)
         return 0;
-    }
-    if (items.GetSize() < 2)
-        return 0;
-
-    const tgx::Stage* stage = tgx::stage();
-    if (onPrev || stage->keyCode == VK_UP || stage->keyDown[VK_HOME] || stage->keyDown[VK_INSERT]) {
+    else if (onPrev || isKeyForPrevious(*tgx::stage()))
         step(-1, buttons.prev);
-    } else if (onNext || stage->keyCode == VK_DOWN || stage->keyDown[VK_END] || stage->keyDown[VK_DELETE]) {
+    else if (onNext || isKeyForNext(*tgx::stage()))
         step(1, buttons.next);
-    } else {
+    else {
         buttons.setState(BS_NORMAL);
         if (menuAllowed && action == MA_LBUTTONUP)
             openMenu();
@@ -127,9 +143,9 @@ void AComboBox::reportChoice()
 /// Returns the menu, or null if the window of that id is not a list.
 AListBox* AComboBox::getOrMakeMenu()
 {
-    if (AWnd* menu = getWnd("ComboMenu", 1))
+    if (AWnd* menu = getWnd(tgx::part::comboMenu, 1))
         return windowAs<AListBox>(menu);
-    auto* made = new AFloatingMenu("ComboMenu", 0, 0, width(), tgx::stage()->screenHeight);
+    auto* made = new AFloatingMenu(tgx::part::comboMenu, 0, 0, width(), tgx::stage()->screenHeight);
     addChildWindow(made);
     return made;
 }
@@ -203,7 +219,7 @@ void AComboBox::draw(int frameStep)
     if (!isVisible(1))
         return;
     // A menu that is no longer in front is hidden.
-    AWnd* menu = getWnd("ComboMenu", 1);
+    AWnd* menu = getWnd(tgx::part::comboMenu, 1);
     if (menu && menu->isVisible(1) && menu != tgx::stage()->getMouseCaptureWnd(0))
         menu->setVisible(0);
     // Drawn again, because the button hides its text during the opening run.

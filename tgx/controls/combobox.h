@@ -57,6 +57,8 @@ private:
         AButton* next;
 
         void setState(E_BUTTON_STATE state);
+        /// Sets each enabled button to normal, except the one that the pointer is on.
+        void release(const AWnd* hit);
     };
     Buttons getButtons();
     void step(int direction, AButton* pressed);

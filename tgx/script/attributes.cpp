@@ -44,57 +44,12 @@ void bmpFile(AWnd& target, const ScriptLine& line)
     target.setBmpFilename(line.text(1), -1, -1);
 }
 
-void bmpFrame(AWnd& target, const ScriptLine& line)
-{
-    target.setCurrentFrame(line.number(1));
-}
-
-void bmpInfo(AWnd& target, const ScriptLine& line)
-{
-    target.setBmpInfo(line.number(1), line.number(2), line.number(3), line.number(4));
-}
-
-void bmpOffset(AWnd& target, const ScriptLine& line)
-{
-    target.setBmpOffset(line.number(1), line.number(2));
-}
-
-void bmpSource(AWnd& target, const ScriptLine& line)
-{
-    target.setBmpSourceInfo(line.number(1), line.number(2));
-}
-
-void bmpStretch(AWnd& target, const ScriptLine& line)
-{
-    target.setBmpStretch(line.number(1));
-}
-
-void bmpTile(AWnd& target, const ScriptLine& line)
-{
-    target.setBmpTile(line.number(1));
-}
-
-void bmpBlitMode(AWnd& target, const ScriptLine& line)
-{
-    target.setBmpBlitMode(line.number(1));
-}
-
 // Token 4 is the hot border of a list box; for any other window it is not used.
 void border(AWnd& target, const ScriptLine& line)
 {
     target.setBorder(line.text(1), line.number(2), line.number(3));
     if (auto* list = line.count == 5 ? windowAs<AListBox>(&target) : nullptr)
         list->setHotBorder(line.text(4), line.number(2), line.number(3));
-}
-
-void easyClose(AWnd& target, const ScriptLine& line)
-{
-    target.setEasyClose(line.number(1));
-}
-
-void enabled(AWnd& target, const ScriptLine& line)
-{
-    target.setEnabled(line.number(1));
 }
 
 bool font(AWnd& target, const ScriptLine& line)
@@ -132,34 +87,4 @@ bool tabOrder(AWnd& target, const ScriptLine& line)
 void text(AWnd& target, const ScriptLine& line)
 {
     target.setWindowText(line.text(1));
-}
-
-void textCentreV(AWnd& target, const ScriptLine& line)
-{
-    target.setTextCentreV(line.number(1));
-}
-
-void textOffset(AWnd& target, const ScriptLine& line)
-{
-    target.setTextOffset(line.number(1), line.number(2));
-}
-
-void textRaw(AWnd& target, const ScriptLine& line)
-{
-    target.setTextRaw(line.number(1));
-}
-
-void textWrap(AWnd& target, const ScriptLine& line)
-{
-    target.setTextWrap(line.number(1));
-}
-
-void visible(AWnd& target, const ScriptLine& line)
-{
-    target.setVisible(line.number(1));
-}
-
-void wndPos(AWnd& target, const ScriptLine& line)
-{
-    target.setWndPos(line.number(1), line.number(2), line.number(3), line.number(4));
 }

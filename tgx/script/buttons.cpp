@@ -5,9 +5,9 @@
 #include "tgx/controls/editbox.h"
 #include "tgx/controls/radiobutton.h"
 #include "tgx/controls/scrollbar.h"
-#include "tgx/controls/tabcontrol.h"
 #include "tgx/script/run.h"
 #include "tgx/script/statements.h"
+#include "tgx/wnd/reserved.h"
 
 namespace {
 
@@ -34,20 +34,6 @@ void applyButtonForm(AButton& button, const ScriptLine& line)
                                    line.number(17));
 }
 
-/// Makes a part that its control finds by a fixed name, from box, bitmap, frame size and delay, and frames of
-/// the states.
-AWnd* stateButton(const char* name, AWnd& target, const ScriptLine& line)
-{
-    auto* button = new AButton(name, line.number(1), line.number(2), line.number(3), line.number(4));
-    target.addChildWindow(button);
-    button->setBmpFilename(line.text(5), -1, -1);
-    button->setBmpInfo(line.number(6), line.number(7), line.number(8), 1);
-    if (line.count >= 13)
-        button->setButtonAnimFrames(line.number(9), line.number(10), line.number(11), line.number(12),
-                                    line.number(13));
-    return button;
-}
-
 /// Returns the number of radio buttons at the end of target's children, up to limit.
 int lastRadioButtons(AWnd& target, int limit)
 {
@@ -69,6 +55,18 @@ AWnd* scrollBar(bool horizontal, AWnd& target, const ScriptLine& line)
 
 } // namespace
 
+AWnd* addStateButton(const char* name, AWnd& target, const ScriptLine& line)
+{
+    auto* button = new AButton(name, line.number(1), line.number(2), line.number(3), line.number(4));
+    target.addChildWindow(button);
+    button->setBmpFilename(line.text(5), -1, -1);
+    button->setBmpInfo(line.number(6), line.number(7), line.number(8), 1);
+    if (line.count >= 13)
+        button->setButtonAnimFrames(line.number(9), line.number(10), line.number(11), line.number(12),
+                                    line.number(13));
+    return button;
+}
+
 void applyBarForm(AWnd& bar, const ScriptLine& line)
 {
     bar.setBmpFilename(line.text(6), -1, -1);
@@ -87,16 +85,6 @@ AWnd* checkBox(AWnd& target, const ScriptLine& line)
     AWnd* made = button(target, line);
     static_cast<AButton*>(made)->setCheckBox(1);
     return made;
-}
-
-AWnd* checkBoxState(AWnd& target, const ScriptLine& line)
-{
-    return stateButton("CheckboxState", target, line);
-}
-
-AWnd* radioState(AWnd& target, const ScriptLine& line)
-{
-    return stateButton("RadioState", target, line);
 }
 
 // The radio buttons directly before it form its group; each of them is linked with all others.
@@ -122,11 +110,6 @@ AWnd* radioButton(AWnd& target, const ScriptLine& line)
     return made;
 }
 
-AWnd* tabControl(AWnd& target, const ScriptLine& line)
-{
-    return addControl<ATabControl>(target, line);
-}
-
 AWnd* editBox(AWnd& target, const ScriptLine& line)
 {
     AWnd* made = addControl<AEditBox>(target, line);
@@ -144,33 +127,6 @@ AWnd* vScrollBar(AWnd& target, const ScriptLine& line)
     return scrollBar(false, target, line);
 }
 
-// An argument after the line's end is 0: the line of a button without a disabled run leaves it out.
-void buttonFps(AButton& target, const ScriptLine& line)
-{
-    target.setButtonAnimFPS(line.number(1), line.number(2), line.number(3), line.number(4), line.number(5));
-}
-
-void buttonFrames(AButton& target, const ScriptLine& line)
-{
-    target.setButtonAnimFrames(line.number(1), line.number(2), line.number(3), line.number(4),
-                               line.number(5));
-}
-
-void buttonLoop(AButton& target, const ScriptLine& line)
-{
-    target.setButtonAnimLoop(line.number(1), line.number(2), line.number(3), line.number(4), line.number(5));
-}
-
-void buttonTextShift(AButton& target, const ScriptLine& line)
-{
-    target.setTextShift(line.number(1));
-}
-
-void buttonCheck(AButton& target, const ScriptLine& line)
-{
-    target.setCheckBox(line.number(1));
-}
-
 AWnd* comboBox(AWnd& target, const ScriptLine& line)
 {
     auto* made = addControl<AComboBox>(target, line);
@@ -180,35 +136,10 @@ AWnd* comboBox(AWnd& target, const ScriptLine& line)
 
 AWnd* comboMenu(AWnd& target, const ScriptLine& line)
 {
-    auto* menu =
-        new AFloatingMenu("ComboMenu", line.number(1), line.number(2), line.number(3), line.number(4));
+    auto* menu = new AFloatingMenu(tgx::part::comboMenu, line.number(1), line.number(2), line.number(3),
+                                   line.number(4));
     target.addChildWindow(menu);
     menu->setBmpFilename(line.text(5), -1, -1);
     menu->setVisible(0);
     return menu;
-}
-
-AWnd* comboNext(AWnd& target, const ScriptLine& line)
-{
-    return stateButton("ComboNext", target, line);
-}
-
-AWnd* comboPrev(AWnd& target, const ScriptLine& line)
-{
-    return stateButton("ComboPrev", target, line);
-}
-
-void comboBelow(AComboBox& target, const ScriptLine& line)
-{
-    target.setMenuBelow(line.number(1));
-}
-
-void comboDrops(AComboBox& target, const ScriptLine& line)
-{
-    target.setMenuAllowed(line.number(1));
-}
-
-void comboWrap(AComboBox& target, const ScriptLine& line)
-{
-    target.setWrapItems(line.number(1));
 }

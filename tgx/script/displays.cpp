@@ -5,12 +5,6 @@
 #include "tgx/controls/vidiprinter.h"
 #include "tgx/script/statements.h"
 
-/// Makes a graph for GRAPH and BARGRAPH alike: bars are the default style.
-AWnd* graphWnd(AWnd& target, const ScriptLine& line)
-{
-    return addControl<AGraph>(target, line);
-}
-
 AWnd* lineGraph(AWnd& target, const ScriptLine& line)
 {
     auto* made = addControl<AGraph>(target, line);

@@ -1,7 +1,6 @@
 // Statements that make list boxes and set their attributes, and the one that fills list and combo boxes.
 
 #include "tgx/controls/combobox.h"
-#include "tgx/controls/keyboard.h"
 #include "tgx/script/statements.h"
 
 #include <cstdlib>
@@ -40,16 +39,6 @@ try {
 
 } // namespace
 
-AWnd* listBox(AWnd& target, const ScriptLine& line)
-{
-    return addControl<AListBox>(target, line);
-}
-
-AWnd* keyboard(AWnd& target, const ScriptLine& line)
-{
-    return addControl<AKeyboard>(target, line);
-}
-
 // Adds an item to a combo box or a row to a list box.
 bool item(AWnd& target, const ScriptLine& line)
 {
@@ -77,11 +66,6 @@ void titles(AListBox& list, const ScriptLine& line)
 {
     for (int i = 1; i < line.count; ++i)
         list.setTitle(i - 1, line.text(i));
-}
-
-void titleBmp(AListBox& list, const ScriptLine& line)
-{
-    list.setTitleBmpFile(line.text(1));
 }
 
 void listOptions(AListBox& list, const ScriptLine& line)
@@ -140,9 +124,4 @@ void listFixedRows(AListBox& list, const ScriptLine& line)
 {
     for (int i = 1; i < line.count; ++i)
         list.addNonSelectableRow(line.number(i));
-}
-
-void scrollBarInfo(AListBox& list, const ScriptLine& line)
-{
-    list.setScrollBarInfo(line.text(1), line.number(2));
 }

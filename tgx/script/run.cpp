@@ -2,6 +2,7 @@
 
 #include "platform/display/msgbox.h"
 #include "platform/framework/datadir.h"
+#include "platform/framework/text.h"
 #include "tgx/wnd/wnd.h"
 
 #include <algorithm>
@@ -60,12 +61,6 @@ AWnd* find(AWnd& below, std::string_view id, long long& steps)
     return nullptr;
 }
 
-/// Returns text as a key that ignores case.
-std::string folded(CString text)
-{
-    return text.MakeLower().str();
-}
-
 /// Adds the first window of each name, in the order of a search.
 void enterNames(AWnd& below, std::unordered_map<std::string, AWnd*>& first, long long& steps)
 {
@@ -73,7 +68,7 @@ void enterNames(AWnd& below, std::unordered_map<std::string, AWnd*>& first, long
     for (int i = 0; i < count; ++i) {
         if (AWnd* child = childAt(below, i)) {
             ++steps;
-            first.try_emplace(folded(child->getID()), child);
+            first.try_emplace(tgx::lowercased(child->getID().view()), child);
             enterNames(*child, first, steps);
         }
     }
@@ -185,8 +180,9 @@ CFile* ScriptRun::findStream(const CArray<CFile*, CFile*>& gotoFiles, const CStr
 {
     StreamNames& names = streamNames[&gotoFiles];
     for (; names.known < gotoFiles.GetSize(); ++names.known)
-        names.first.try_emplace(folded(gotoFiles.GetAt(names.known)->GetFileName()), names.known);
-    const auto found = names.first.find(folded(file));
+        names.first.try_emplace(tgx::lowercased(gotoFiles.GetAt(names.known)->GetFileName().view()),
+                                names.known);
+    const auto found = names.first.find(tgx::lowercased(file.view()));
     return found == names.first.end() ? nullptr : gotoFiles.GetAt(found->second);
 }
 
@@ -224,7 +220,7 @@ AWnd* ScriptRun::findByIndex(AWnd& below, const CString& id)
         workLeft -= steps * indexedWindow;
     }
     wndNames.linesLeft = linesLeft;
-    const auto found = wndNames.first.find(folded(id));
+    const auto found = wndNames.first.find(tgx::lowercased(id.view()));
     return found == wndNames.first.end() ? nullptr : found->second;
 }
 

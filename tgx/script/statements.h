@@ -7,6 +7,7 @@
 #include "tgx/wnd/window_cast.h"
 
 #include <type_traits>
+#include <utility>
 
 class ScriptRun;
 
@@ -30,6 +31,7 @@ struct ScriptLine {
 ///     bool f(Target&, const ScriptLine&)     false: the line fails
 ///     AWnd* f(AWnd& target, const ScriptLine&)   the window that it made; null: the line fails
 ///     bool f(const ScriptLine&)              a command, which has no target
+///     void Target::f(...)                    a setter, which receives tokens 1, 2 and so on
 /// The row's target rule has checked the window's type; a line for a window of another class fails.
 template<auto handler>
 struct HandlerOf;
@@ -60,6 +62,34 @@ struct HandlerOf<handler> {
     }
 };
 
+/// The value of a token as an argument of that type.
+template<class Argument>
+Argument argumentOf(const ScriptLine& line, int token)
+{
+    static_assert(std::is_same_v<Argument, int> || std::is_same_v<Argument, const CString&>);
+    if constexpr (std::is_same_v<Argument, int>)
+        return line.number(token);
+    else
+        return line.text(token);
+}
+
+template<class Target, class Result, class... Argument, Result (Target::*setter)(Argument...)>
+struct HandlerOf<setter> {
+    static void set(Target& target, const ScriptLine& line)
+    {
+        pass(target, line, std::index_sequence_for<Argument...>());
+    }
+    template<std::size_t... place>
+    static void pass(Target& target, const ScriptLine& line, std::index_sequence<place...>)
+    {
+        (target.*setter)(argumentOf<Argument>(line, static_cast<int>(place) + 1)...);
+    }
+    static bool run(AWnd& target, const ScriptLine& line, AWnd*& made)
+    {
+        return HandlerOf<&HandlerOf::set>::run(target, line, made);
+    }
+};
+
 template<bool (*handler)(const ScriptLine&)>
 struct HandlerOf<handler> {
     static bool run(AWnd&, const ScriptLine& line, AWnd*&) { return handler(line); }
@@ -82,28 +112,13 @@ AWnd* window(AWnd& target, const ScriptLine& line);
 
 // Attributes of any window (attributes.cpp).
 void bmpFile(AWnd& target, const ScriptLine& line);
-void bmpFrame(AWnd& target, const ScriptLine& line);
-void bmpInfo(AWnd& target, const ScriptLine& line);
-void bmpOffset(AWnd& target, const ScriptLine& line);
-void bmpSource(AWnd& target, const ScriptLine& line);
-void bmpStretch(AWnd& target, const ScriptLine& line);
-void bmpTile(AWnd& target, const ScriptLine& line);
-void bmpBlitMode(AWnd& target, const ScriptLine& line);
 void border(AWnd& target, const ScriptLine& line);
-void easyClose(AWnd& target, const ScriptLine& line);
-void enabled(AWnd& target, const ScriptLine& line);
 bool font(AWnd& target, const ScriptLine& line);
 void justify(AWnd& target, const ScriptLine& line);
 bool tabList1(AWnd& target, const ScriptLine& line);
 bool tabList2(AWnd& target, const ScriptLine& line);
 bool tabOrder(AWnd& target, const ScriptLine& line);
 void text(AWnd& target, const ScriptLine& line);
-void textCentreV(AWnd& target, const ScriptLine& line);
-void textOffset(AWnd& target, const ScriptLine& line);
-void textRaw(AWnd& target, const ScriptLine& line);
-void textWrap(AWnd& target, const ScriptLine& line);
-void visible(AWnd& target, const ScriptLine& line);
-void wndPos(AWnd& target, const ScriptLine& line);
 
 // Forms shared by statements of several families: the tokens after id and box.
 /// Adds a control with the line's id and box to target and returns it.
@@ -116,34 +131,27 @@ Control* addControl(AWnd& target, const ScriptLine& line)
 }
 void applyTextForm(AWnd& wnd, const ScriptLine& line);
 void applyBarForm(AWnd& bar, const ScriptLine& line);
+AWnd* addStateButton(const char* name, AWnd& target, const ScriptLine& line);
+/// Makes a part that its control finds by the id.
+template<const char* id>
+AWnd* stateButton(AWnd& target, const ScriptLine& line)
+{
+    return addStateButton(id, target, line);
+}
 /// Stores the justification that token names. Returns false if it names none.
 bool justificationOf(const TOKEN_INFO& token, AWnd::E_TEXTJUSTIFY& justify);
 
 // Buttons, combo boxes, tabs, edit boxes and scroll bars (buttons.cpp).
 AWnd* button(AWnd& target, const ScriptLine& line);
 AWnd* checkBox(AWnd& target, const ScriptLine& line);
-AWnd* checkBoxState(AWnd& target, const ScriptLine& line);
 AWnd* editBox(AWnd& target, const ScriptLine& line);
 AWnd* hScrollBar(AWnd& target, const ScriptLine& line);
 AWnd* radioButton(AWnd& target, const ScriptLine& line);
-AWnd* radioState(AWnd& target, const ScriptLine& line);
-AWnd* tabControl(AWnd& target, const ScriptLine& line);
 AWnd* vScrollBar(AWnd& target, const ScriptLine& line);
 AWnd* comboBox(AWnd& target, const ScriptLine& line);
 AWnd* comboMenu(AWnd& target, const ScriptLine& line);
-AWnd* comboNext(AWnd& target, const ScriptLine& line);
-AWnd* comboPrev(AWnd& target, const ScriptLine& line);
-void comboBelow(AComboBox& target, const ScriptLine& line);
-void comboDrops(AComboBox& target, const ScriptLine& line);
-void comboWrap(AComboBox& target, const ScriptLine& line);
-void buttonCheck(AButton& target, const ScriptLine& line);
-void buttonFps(AButton& target, const ScriptLine& line);
-void buttonFrames(AButton& target, const ScriptLine& line);
-void buttonLoop(AButton& target, const ScriptLine& line);
-void buttonTextShift(AButton& target, const ScriptLine& line);
 
 // Progress bars, vidiprinters and graphs (displays.cpp).
-AWnd* graphWnd(AWnd& target, const ScriptLine& line);
 AWnd* lineGraph(AWnd& target, const ScriptLine& line);
 AWnd* progressBar(AWnd& target, const ScriptLine& line);
 AWnd* vidiPrinter(AWnd& target, const ScriptLine& line);
@@ -151,8 +159,6 @@ AWnd* vProgressBar(AWnd& target, const ScriptLine& line);
 void graphInfo(AGraph& target, const ScriptLine& line);
 
 // List boxes, keyboards, and the items of combo boxes (lists.cpp).
-AWnd* keyboard(AWnd& target, const ScriptLine& line);
-AWnd* listBox(AWnd& target, const ScriptLine& line);
 bool item(AWnd& target, const ScriptLine& line);
 void columns(AListBox& list, const ScriptLine& line);
 void listFixedColumns(AListBox& list, const ScriptLine& line);
@@ -162,6 +168,4 @@ void listHighlight(AListBox& list, const ScriptLine& line);
 void listIcons(AListBox& list, const ScriptLine& line);
 void listLook(AListBox& list, const ScriptLine& line);
 void listOptions(AListBox& list, const ScriptLine& line);
-void scrollBarInfo(AListBox& list, const ScriptLine& line);
-void titleBmp(AListBox& list, const ScriptLine& line);
 void titles(AListBox& list, const ScriptLine& line);

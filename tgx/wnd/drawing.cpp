@@ -27,6 +27,17 @@ Steps stepsOnScreen(int start, int length, int stride, int size, int screen)
     return {first, end};
 }
 
+/// A popup that has slid away is closed by the window that opened it.
+void closeFinishedPopup(const AWnd& opener)
+{
+    tgx::Stage* stage = tgx::stage();
+    if (!stage || stage->getPopupWndCount() == 0)
+        return;
+    const AWnd* popup = opener.getPopupWnd();
+    if (popup && popup->hasWndAnimData() && popup->isWndAnimFinished())
+        stage->deletePopupWnd();
+}
+
 } // namespace
 
 void AWnd::draw(int frameStep)
@@ -66,12 +77,7 @@ void AWnd::draw(int frameStep)
             return;
     }
 
-    if (tgx::Stage* stage = tgx::stage(); stage && stage->getPopupWndCount() > 0) {
-        // A popup that has slid away is closed by the window that opened it.
-        const AWnd* popup = getPopupWnd();
-        if (popup && popup->hasWndAnimData() && popup->isWndAnimFinished())
-            stage->deletePopupWnd();
-    }
+    closeFinishedPopup(*this);
     if (frameStep != 0 && anim && !anim->updatePos(frameStep) && anim->getDeleteWhenDone()) {
         anim.reset();
         LayoutVersion::bump();

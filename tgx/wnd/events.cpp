@@ -29,6 +29,13 @@ bool escPointsAt(std::string_view id)
                        [id](const char* name) { return CString::equalNoCase(name, id); });
 }
 
+bool tgx::part::isOfScript(std::string_view id)
+{
+    constexpr std::string_view ids[] = {checkboxState, radioState, comboMenu, comboNext, comboPrev};
+    return std::any_of(std::begin(ids), std::end(ids),
+                       [id](std::string_view part) { return CString::equalNoCase(part, id); });
+}
+
 bool leavesScreen(std::string_view id)
 {
     static constexpr std::string_view ids[] = {"TGX_EXIT", "TGX_CANCEL", "TGX_BACK", "TGX_CLOSE"};

@@ -2,6 +2,7 @@
 #include "language/text/print.h"
 #include "language/text/text_files.h"
 #include "language/text/watch.h"
+#include "platform/framework/text.h"
 #include "tools/tgx/commands.h"
 #include "tools/tgx/files.h"
 #include "tools/tgx/terminal.h"
@@ -104,7 +105,7 @@ int watch(const BuildOptions& options)
 bool isAmongScripts(const std::string& file)
 {
     const std::filesystem::path path = std::filesystem::absolute(file).lexically_normal();
-    return script_text::lowered(path.parent_path().filename().string()) == "uig";
+    return tgx::lowercased(path.parent_path().filename().string()) == "uig";
 }
 
 /// Returns the exit status.

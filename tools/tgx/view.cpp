@@ -2,6 +2,7 @@
 #include "language/text/text_files.h"
 #include "platform/display/host.h"
 #include "platform/framework/datadir.h"
+#include "platform/framework/text.h"
 #include "player/player.h"
 #include "tgx/base/swapped.h"
 #include "tgx/frame/mainwin.h"
@@ -109,7 +110,7 @@ private:
 std::string scriptName(const std::string& given)
 {
     const fs::path path(given);
-    const std::string ending = script_text::lowered(path.extension().string());
+    const std::string ending = tgx::lowercased(path.extension().string());
     return ending == ".tgs" || ending.empty() ? fs::path(path).replace_extension(".tgx").string() : given;
 }
 
@@ -120,7 +121,7 @@ bool scriptExists(const ViewOptions& options)
     folders.push_back(script_text::scriptFolder());
     for (const std::string& folder : folders)
         for (const std::string& file : script_text::filesIn(folder, ".tgs"))
-            if (script_text::lowered(script_text::compiledName(file)) == script_text::lowered(options.script))
+            if (tgx::lowercased(script_text::compiledName(file)) == tgx::lowercased(options.script))
                 return true;
     return findDataFile("UIG\\" + options.script).has_value();
 }

@@ -2,6 +2,55 @@
 
 #include <cstdio>
 
+namespace {
+
+const struct {
+    const char* name;
+    Canvas (*paint)();
+} pictures[] = {
+    {"page", page},
+    {"panel", panelFill},
+    {"sheet", sheetFill},
+    {"frame", panelFrame},
+    {"sheetframe", sheetFrame},
+    {"hotframe", hotFrame},
+    {"menuframe", menuFrame},
+    {"rule", rule},
+    {"dim", dim},
+    {"button", buttonStrip},
+    {"opening", openingStrip},
+    {"check", checkStrip},
+    {"tick", tick},
+    {"radio", radioStrip},
+    {"dot", dot},
+    {"tab", tabStrip},
+    {"combo", [] { return comboStrip(true); }},
+    {"steps", [] { return comboStrip(false); }},
+    {"prev", [] { return stepStrip(false); }},
+    {"next", [] { return stepStrip(true); }},
+    {"hbar", [] { return scrollStrip(true); }},
+    {"vbar", [] { return scrollStrip(false); }},
+    {"titles", titleBand},
+    {"chosen", [] { return rowBand(true); }},
+    {"hot", [] { return rowBand(false); }},
+    {"keys", keyPlates},
+    {"keychosen", [] { return keyBand(true); }},
+    {"keyhot", [] { return keyBand(false); }},
+    {"weather", weatherIcons},
+    {"progress", progressStrip},
+    {"tank", tankStrip},
+    {"tape", tape},
+    {"boat", boat},
+    {"bay", bay},
+    {"windmill", windmillStrip},
+    {"waves", waveTile},
+    {"stripes", stripes},
+    {"glow", glow},
+    {"rings", rings},
+};
+
+} // namespace
+
 // controls_art DIR: paints the examples' pictures into the data directory DIR. Every run writes the same
 // bytes.
 int main(int argc, char** argv)
@@ -11,50 +60,6 @@ int main(int argc, char** argv)
         return 2;
     }
     const std::string directory = std::string(argv[1]) + '/';
-    const struct {
-        const char* name;
-        Canvas (*paint)();
-    } pictures[] = {
-        {"page", page},
-        {"panel", panelFill},
-        {"sheet", sheetFill},
-        {"frame", panelFrame},
-        {"sheetframe", sheetFrame},
-        {"hotframe", hotFrame},
-        {"menuframe", menuFrame},
-        {"rule", rule},
-        {"dim", dim},
-        {"button", buttonStrip},
-        {"opening", openingStrip},
-        {"check", checkStrip},
-        {"tick", tick},
-        {"radio", radioStrip},
-        {"dot", dot},
-        {"tab", tabStrip},
-        {"combo", [] { return comboStrip(true); }},
-        {"steps", [] { return comboStrip(false); }},
-        {"prev", [] { return stepStrip(false); }},
-        {"next", [] { return stepStrip(true); }},
-        {"hbar", [] { return scrollStrip(true); }},
-        {"vbar", [] { return scrollStrip(false); }},
-        {"titles", titleBand},
-        {"chosen", [] { return rowBand(true); }},
-        {"hot", [] { return rowBand(false); }},
-        {"keys", keyPlates},
-        {"keychosen", [] { return keyBand(true); }},
-        {"keyhot", [] { return keyBand(false); }},
-        {"weather", weatherIcons},
-        {"progress", progressStrip},
-        {"tank", tankStrip},
-        {"tape", tape},
-        {"boat", boat},
-        {"bay", bay},
-        {"windmill", windmillStrip},
-        {"waves", waveTile},
-        {"stripes", stripes},
-        {"glow", glow},
-        {"rings", rings},
-    };
     for (const auto& picture : pictures) {
         const std::string path = directory + "art/" + picture.name + ".png";
         if (!writePng(picture.paint(), path, true, Grain::None)) {

@@ -1,5 +1,7 @@
 #include "tests/unit/devtools/recorder_fixture.h"
 
+#include <span>
+
 namespace {
 
 struct Row {
@@ -8,7 +10,25 @@ struct Row {
     const char* lines;
 };
 
-TEST_F(RecorderTest, TheRecordingIsWhatAPersonWouldWriteAndHasTheSameEffect)
+/// Checks that a recording is what a person would write, and that it has the same effect when played.
+class RecordedLinesTest : public RecorderTest {
+protected:
+    void compare(std::span<const Row> rows)
+    {
+        for (const Row& row : rows) {
+            SCOPED_TRACE(row.name);
+            begin();
+            play("frame 60");
+            record();
+            doAsUser(row.actions);
+            EXPECT_EQ(lines(), row.lines);
+            const Outcome recorded = outcome();
+            EXPECT_EQ(playBack(), recorded);
+        }
+    }
+};
+
+TEST_F(RecordedLinesTest, ClicksAreWrittenById)
 {
     const Row rows[] = {
         {"a click by id, without the frames that the line runs itself",
@@ -42,7 +62,13 @@ TEST_F(RecorderTest, TheRecordingIsWhatAPersonWouldWriteAndHasTheSameEffect)
         {"other buttons", "move 350 270;10;press right;5;release right;4;press middle;2;release middle;4",
          "move to LIST 50 70\nframe 10\npress right\nframe 5\nrelease right\nframe 4\npress middle\nframe 2\n"
          "release middle\nframe 4\n"},
+    };
+    compare(rows);
+}
 
+TEST_F(RecordedLinesTest, RowsAndLeversAreWrittenAsPositions)
+{
+    const Row rows[] = {
         {"a row", "move 330 260;10;press left;5;release left;20", "frame 9\nrow LIST 2\nframe 19\n"},
         {"a cell, with small movements inside it",
          "move 400 270;10;press left;5;move 405 265;2;release left;20", "frame 9\nrow LIST 2 1\nframe 19\n"},
@@ -75,7 +101,13 @@ TEST_F(RecorderTest, TheRecordingIsWhatAPersonWouldWriteAndHasTheSameEffect)
          "release left\nframe 9\n"},
         {"a scroll bar's end", "move 525 399;3;press left;3;release left;2",
          "move to BAR 5 199\nframe 3\npress left\nframe 3\nrelease left\nframe 2\n"},
+    };
+    compare(rows);
+}
 
+TEST_F(RecordedLinesTest, KeysAreWrittenAsTextWhereTheyType)
+{
+    const Row rows[] = {
         {"typing",
          "move 310 110;10;press left;5;release left;20;down 16;3;down 74 74;3;up 16;2;up 74;down 69 101;3;"
          "up 69;4;down 186 59;4;up 186;5;down 222 34;2;down 220 92;9;down 8 8;3;up 8;70;down 77 109;2;"
@@ -104,7 +136,13 @@ TEST_F(RecorderTest, TheRecordingIsWhatAPersonWouldWriteAndHasTheSameEffect)
         {"a controller", "move 30 40;10;pad 40;5;pad 35;10",
          "hover OK\nframe 9\n# controller keys: their second code cannot be played back, keyCode2 stays "
          "0\nkey down\nframe 5\nkey end\nframe 10\n"},
+    };
+    compare(rows);
+}
 
+TEST_F(RecordedLinesTest, WaitsForPopupsAndScreensAreWritten)
+{
+    const Row rows[] = {
         {"a combo box's menu",
          "move 310 30;10;press left;5;release left;20;move 320 80;5;press left;5;release left;20",
          "frame 9\nclick PORT\nwait until popup ComboMenu\nframe 23\nrow ComboMenu 2\nwait until popup none\n"
@@ -130,16 +168,7 @@ TEST_F(RecorderTest, TheRecordingIsWhatAPersonWouldWriteAndHasTheSameEffect)
          "move 230 20;10;press left;5;release left;2;press left;20;release left;30",
          "frame 9\nclick GO\nframe\npress left\nwait until active CHART\nframe 16\nrelease left\nframe 30\n"},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        begin();
-        play("frame 60");
-        record();
-        doAsUser(row.actions);
-        EXPECT_EQ(lines(), row.lines);
-        const Outcome recorded = outcome();
-        EXPECT_EQ(playBack(), recorded);
-    }
+    compare(rows);
 }
 
 /// A user who does random things. The same seed gives the same actions.

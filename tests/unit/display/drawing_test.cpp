@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <set>
+#include <span>
 
 namespace {
 
@@ -68,146 +69,105 @@ TEST_F(DrawingTest, SourceIsClippedToTheBitmapAndTargetToTheScreen)
     };
     const struct {
         const char* name;
-        int x, y, sx, sy, w, h, sw, sh;
+        struct {
+            int x, y, sx, sy, w, h, sw, sh;
+        } blit;
         int painted; // pixels
         std::vector<Point> points;
     } rows[] = {
-        {"whole", 10, 10, 0, 0, 4, 4, -1, -1, 16, {{10, 10, 0x010100}, {13, 13, 0x040400}}},
-        {"part", 10, 10, 1, 2, 2, 2, -1, -1, 4, {{10, 10, 0x020300}, {11, 11, 0x030400}}},
+        {"whole", {10, 10, 0, 0, 4, 4, -1, -1}, 16, {{10, 10, 0x010100}, {13, 13, 0x040400}}},
+        {"part", {10, 10, 1, 2, 2, 2, -1, -1}, 4, {{10, 10, 0x020300}, {11, 11, 0x030400}}},
         {"past the left and top edge of the screen",
-         -2,
-         -3,
-         0,
-         0,
-         4,
-         4,
-         -1,
-         -1,
+         {-2, -3, 0, 0, 4, 4, -1, -1},
          2,
          {{0, 0, 0x030400}, {1, 0, 0x040400}}},
-        {"past right and bottom", 98, 79, 0, 0, 4, 4, -1, -1, 2, {{98, 79, 0x010100}, {99, 79, 0x020100}}},
+        {"past right and bottom", {98, 79, 0, 0, 4, 4, -1, -1}, 2, {{98, 79, 0x010100}, {99, 79, 0x020100}}},
         {"source starts before the bitmap",
-         10,
-         10,
-         -2,
-         -1,
-         4,
-         4,
-         -1,
-         -1,
+         {10, 10, -2, -1, 4, 4, -1, -1},
          6,
          {{11, 11, ground}, {12, 11, 0x010100}}},
         {"source ends after the bitmap",
-         10,
-         10,
-         3,
-         3,
-         4,
-         4,
-         -1,
-         -1,
+         {10, 10, 3, 3, 4, 4, -1, -1},
          1,
          {{10, 10, 0x040400}, {11, 10, ground}}},
         {"doubled",
-         10,
-         10,
-         0,
-         0,
-         8,
-         8,
-         4,
-         4,
+         {10, 10, 0, 0, 8, 8, 4, 4},
          64,
          {{11, 11, 0x010100}, {12, 11, 0x020100}, {17, 17, 0x040400}}},
-        {"halved", 10, 10, 0, 0, 2, 2, 4, 4, 4, {{10, 10, 0x010100}, {11, 11, 0x030300}}},
+        {"halved", {10, 10, 0, 0, 2, 2, 4, 4}, 4, {{10, 10, 0x010100}, {11, 11, 0x030300}}},
         {"stretched by a fraction",
-         10,
-         10,
-         0,
-         0,
-         6,
-         1,
-         4,
-         1,
+         {10, 10, 0, 0, 6, 1, 4, 1},
          6,
          {{11, 10, 0x010100}, {12, 10, 0x020100}, {14, 10, 0x030100}, {15, 10, 0x040100}}},
-        {"stretched, past left", -3, 10, 0, 0, 8, 2, 4, 1, 10, {{0, 10, 0x020100}, {1, 11, 0x030100}}},
+        {"stretched, past left", {-3, 10, 0, 0, 8, 2, 4, 1}, 10, {{0, 10, 0x020100}, {1, 11, 0x030100}}},
         {"stretched, source starts before the bitmap",
-         10,
-         10,
-         -1,
-         0,
-         9,
-         3,
-         3,
-         1,
+         {10, 10, -1, 0, 9, 3, 3, 1},
          18,
          {{12, 10, ground}, {13, 10, 0x010100}, {18, 12, 0x020100}}},
         {"stretched, source ends after the bitmap",
-         10,
-         10,
-         3,
-         0,
-         6,
-         1,
-         2,
-         1,
+         {10, 10, 3, 0, 6, 1, 2, 1},
          3,
          {{12, 10, 0x040100}, {13, 10, ground}}},
-        {"no width", 10, 10, 0, 0, 0, 4, -1, -1, 0, {}},
-        {"a negative height", 10, 10, 0, 0, 4, -4, -1, -1, 0, {}},
-        {"an empty source", 10, 10, 0, 0, 4, 4, 0, 4, 0, {}},
-        {"only one source size given", 10, 10, 0, 0, 4, 4, -1, 4, 0, {}},
-        {"completely outside the screen", 100, 0, 0, 0, 4, 4, -1, -1, 0, {}},
+        {"no width", {10, 10, 0, 0, 0, 4, -1, -1}, 0, {}},
+        {"a negative height", {10, 10, 0, 0, 4, -4, -1, -1}, 0, {}},
+        {"an empty source", {10, 10, 0, 0, 4, 4, 0, 4}, 0, {}},
+        {"only one source size given", {10, 10, 0, 0, 4, 4, -1, 4}, 0, {}},
+        {"completely outside the screen", {100, 0, 0, 0, 4, 4, -1, -1}, 0, {}},
         {"the largest numbers",
-         INT_MAX,
-         INT_MAX,
-         INT_MAX,
-         INT_MAX,
-         INT_MAX,
-         INT_MAX,
-         INT_MAX,
-         INT_MAX,
+         {INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX},
          0,
          {}},
-        {"the smallest numbers", INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MAX, INT_MAX, -1, -1, 0, {}},
-        {"stretched far past both edges", INT_MIN, -5, 0, 0, INT_MAX, 1000, 4, 4, 0, {}},
+        {"the smallest numbers", {INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MAX, INT_MAX, -1, -1}, 0, {}},
+        {"stretched far past both edges", {INT_MIN, -5, 0, 0, INT_MAX, 1000, 4, 4}, 0, {}},
         {"one source pixel covers the screen",
-         -1000000000,
-         -1000000000,
-         0,
-         0,
-         INT_MAX,
-         INT_MAX,
-         4,
-         4,
+         {-1000000000, -1000000000, 0, 0, INT_MAX, INT_MAX, 4, 4},
          8000,
          {{0, 0, 0x020200}, {99, 79, 0x020200}}},
-        {"a source of the largest size", 0, 0, 0, 0, 4, 4, INT_MAX, INT_MAX, 1, {{0, 0, 0x010100}}},
-        {"a source that starts at the smallest number", 0, 0, INT_MIN, 0, 100, 1, INT_MAX, 1, 0, {}},
+        {"a source of the largest size", {0, 0, 0, 0, 4, 4, INT_MAX, INT_MAX}, 1, {{0, 0, 0x010100}}},
+        {"a source that starts at the smallest number", {0, 0, INT_MIN, 0, 100, 1, INT_MAX, 1}, 0, {}},
     };
     surface sprite(&window);
     sprite.setImage(numbered(), "");
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        window.frame(
-            [&] { sprite.blit(row.x, row.y, row.sx, row.sy, row.w, row.h, row.sw, row.sh, nullptr, -1); });
+        const auto& at = row.blit;
+        window.frame([&] { sprite.blit(at.x, at.y, at.sx, at.sy, at.w, at.h, at.sw, at.sh, nullptr, -1); });
         EXPECT_EQ(100 * 80 - window.count(ground), row.painted);
         for (const Point& point : row.points)
             EXPECT_EQ(window.at(point.x, point.y), point.colour) << point.x << ", " << point.y;
     }
 }
 
-TEST_F(DrawingTest, ShapesPaintTheirPixels)
-{
-    constexpr std::uint32_t ink = 0xFFFFFF;
-    const auto none = [](int, int) { return false; };
-    const struct {
+class ShapesTest : public DrawingTest {
+protected:
+    static constexpr std::uint32_t ink = 0xFFFFFF;
+    struct Row {
         const char* name;
         std::function<void(Scene&)> paint;
-        int painted;
-        std::function<bool(int x, int y)> contains;
-    } rows[] = {
+        int painted;                                // pixels
+        std::function<bool(int x, int y)> contains; // null for a shape of about that many pixels
+    };
+    void compare(std::span<const Row> rows)
+    {
+        for (const auto& row : rows) {
+            SCOPED_TRACE(row.name);
+            window.frame([&] { row.paint(window); });
+            if (row.contains || row.painted == 8000) {
+                EXPECT_EQ(window.count(ink), row.painted);
+            } else {
+                EXPECT_NEAR(window.count(ink), 4 * 80, 90); // three pixels across a diagonal
+            }
+            for (int y = 0; y < 80 && row.contains; y++)
+                for (int x = 0; x < 100; x++)
+                    ASSERT_EQ(window.at(x, y) == ink, row.contains(x, y)) << x << ", " << y;
+        }
+    }
+};
+
+TEST_F(ShapesTest, RectanglesPaintTheirPixels)
+{
+    const auto none = [](int, int) { return false; };
+    const Row rows[] = {
         {"fill excludes its second corner", [](Scene& w) { w.fillrect(10, 20, 13, 22, ink); }, 6,
          [](int x, int y) { return x >= 10 && x < 13 && y >= 20 && y < 22; }},
         {"fill with swapped corners", [](Scene& w) { w.fillrect(13, 20, 10, 22, ink); }, 0, none},
@@ -222,6 +182,13 @@ TEST_F(DrawingTest, ShapesPaintTheirPixels)
          [](int x, int y) { return x == 10 && y >= 20 && y < 25; }},
         {"outline outside the screen is invisible",
          [](Scene& w) { w.rectangle(INT_MIN, -1, INT_MAX, 81, ink); }, 0, none},
+    };
+    compare(rows);
+}
+
+TEST_F(ShapesTest, LinesPaintTheirPixels)
+{
+    const Row rows[] = {
         {"horizontal line includes both ends", [](Scene& w) { w.drawLine(10, 20, 15, 20, 1, ink); }, 6,
          [](int x, int y) { return y == 20 && x >= 10 && x <= 15; }},
         {"diagonal line", [](Scene& w) { w.drawLine(15, 25, 10, 20, 1, ink); }, 6,
@@ -238,18 +205,7 @@ TEST_F(DrawingTest, ShapesPaintTheirPixels)
         {"line of the largest width", [](Scene& w) { w.drawLine(50, 40, 60, 40, INT_MAX, ink); }, 8000,
          nullptr},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        window.frame([&] { row.paint(window); });
-        if (row.contains || row.painted == 8000) {
-            EXPECT_EQ(window.count(ink), row.painted);
-        } else {
-            EXPECT_NEAR(window.count(ink), 4 * 80, 90); // three pixels across a diagonal
-        }
-        for (int y = 0; y < 80 && row.contains; y++)
-            for (int x = 0; x < 100; x++)
-                ASSERT_EQ(window.at(x, y) == ink, row.contains(x, y)) << x << ", " << y;
-    }
+    compare(rows);
 }
 
 TEST_F(DrawingTest, ALineIsTheSameFromBothEndsAndEquallyWideAtEveryAngle)

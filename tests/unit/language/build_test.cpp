@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <span>
+
 using namespace std::string_literals;
 using script_text::ParsedScript;
 
@@ -41,13 +43,26 @@ TEST(Build, CompilesText)
     }
 }
 
-TEST(Build, ReportsWhatIsWrongAndWhatWasExpected)
+struct ReportRow {
+    const char* name;
+    const char* text;
+    const char* report; // without the file's name at the start of each line
+};
+
+void compareReports(std::span<const ReportRow> rows)
 {
-    const struct {
-        const char* name;
-        const char* text;
-        const char* report; // without the file's name at the start of each line
-    } rows[] = {
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        std::string report;
+        for (const auto& each : parse(row.text).diagnostics)
+            report += headline(each).substr(std::string("a.tgs:").size()) + '\n';
+        EXPECT_EQ(report, row.report);
+    }
+}
+
+TEST(Build, ReportsTextsThatAreNoTokens)
+{
+    const ReportRow rows[] = {
         {"an unknown keyword", "\n  LISTBOXX \"L\" 1 2 3 4",
          "2:3: error: unknown keyword LISTBOXX; did you mean LISTBOX?\n"},
         {"a keyword in lower case", "window \"P\" 1 2 3 4",
@@ -95,6 +110,13 @@ TEST(Build, ReportsWhatIsWrongAndWhatWasExpected)
          "1:1: error: unknown keyword FOO1; did you mean FONT?\n"
          "2:1: error: unknown keyword BEGINN; did you mean BEGIN?\n"
          "3:6: error: this string has no end; expected \" before the end of the line\n"},
+    };
+    compareReports(rows);
+}
+
+TEST(Build, ReportsWhatAStatementExpects)
+{
+    const ReportRow rows[] = {
         {"an argument after EMPTY", "EMPTY 1",
          "1:1: error: EMPTY is a line without a token and takes no arguments\n"},
         {"a line after the unfinished one", "#! unfinished: 0F\nEND",
@@ -120,6 +142,13 @@ TEST(Build, ReportsWhatIsWrongAndWhatWasExpected)
          "1:1: error: no statement begins like this; expected a keyword\n"},
         {"a string without quotes", "BMPFILE ship",
          "1:9: error: unknown name ship; a string needs quotes; expected: BMPFILE \"bitmap\"\n"},
+    };
+    compareReports(rows);
+}
+
+TEST(Build, ReportsDefinitionsAndIncludes)
+{
+    const ReportRow rows[] = {
         {"a misspelt name", "DEFINE WIDTH 3\nBMPOFFSET WIDHT WIDTH",
          "2:11: error: unknown name WIDHT; did you mean WIDTH? expected: BMPOFFSET x y\n"},
         {"a name used before its DEFINE", "FONT F\nDEFINE F 1",
@@ -147,13 +176,7 @@ TEST(Build, ReportsWhatIsWrongAndWhatWasExpected)
         {"an INCLUDE after another word", "BEGIN INCLUDE \"b\"",
          "1:7: error: INCLUDE must be the first word of a line\n"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        std::string report;
-        for (const auto& each : parse(row.text).diagnostics)
-            report += headline(each).substr(std::string("a.tgs:").size()) + '\n';
-        EXPECT_EQ(report, row.report);
-    }
+    compareReports(rows);
 }
 
 TEST(Build, ShowsTheLineWithAMark)

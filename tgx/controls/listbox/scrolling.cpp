@@ -1,6 +1,7 @@
 #include "tgx/base/fixed.h"
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/controls/scrollbar.h"
+#include "tgx/wnd/reserved.h"
 
 #include <algorithm>
 
@@ -74,7 +75,7 @@ int AListBox::createScrollBar()
     if (scrollBar)
         return 0;
     const int inset = borderInset();
-    auto* bar = new AScrollBar("ScrollBar", width() - inset - barThickness, titleHeight() + inset,
+    auto* bar = new AScrollBar(tgx::part::scrollBar, width() - inset - barThickness, titleHeight() + inset,
                                barThickness, height() - titleHeight() - 2 * inset);
     addChildWindow(bar);
     scrollBar = bar;
