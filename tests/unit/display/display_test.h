@@ -109,17 +109,13 @@ inline std::string le(std::uint32_t value, int bytes)
     return text;
 }
 
-struct BmpForm {
-    int bits = 24;
-    std::uint32_t compression = 0;
-    std::string palette; // four bytes per entry
-    std::string pixels;
-};
-inline std::string bmpFile(int width, int height, const BmpForm& form)
+/// Makes a BMP. palette: four bytes per entry.
+inline std::string bmpFile(int width, int height, int bits, const std::string& pixels,
+                           const std::string& palette = "", std::uint32_t compression = 0)
 {
-    const auto start = static_cast<std::uint32_t>(54 + form.palette.size());
+    const auto start = static_cast<std::uint32_t>(54 + palette.size());
     return "BM" + le(0, 8) + le(start, 4) + le(40, 4) + le(static_cast<std::uint32_t>(width), 4) +
-           le(static_cast<std::uint32_t>(height), 4) + le(1, 2) +
-           le(static_cast<std::uint32_t>(form.bits), 2) + le(form.compression, 4) + le(0, 12) +
-           le(static_cast<std::uint32_t>(form.palette.size() / 4), 4) + le(0, 4) + form.palette + form.pixels;
+           le(static_cast<std::uint32_t>(height), 4) + le(1, 2) + le(static_cast<std::uint32_t>(bits), 2) +
+           le(compression, 4) + le(0, 12) + le(static_cast<std::uint32_t>(palette.size() / 4), 4) + le(0, 4) +
+           palette + pixels;
 }

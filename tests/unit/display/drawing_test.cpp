@@ -4,7 +4,7 @@
 
 #include <cmath>
 #include <set>
-#include <span>
+#include <sstream>
 
 namespace {
 
@@ -63,149 +63,103 @@ ImageRef numbered()
 
 TEST_F(DrawingTest, SourceIsClippedToTheBitmapAndTargetToTheScreen)
 {
-    struct Point {
-        int x, y;
-        std::uint32_t colour;
-    };
     const struct {
         const char* name;
-        struct {
-            int x, y, sx, sy, w, h, sw, sh;
-        } blit;
-        int painted; // pixels
-        std::vector<Point> points;
+        int x, y, sx, sy, w, h, sw, sh;
+        int painted;        // pixels
+        const char* points; // "X Y PIXEL, ...", PIXEL is column and row in the bitmap, or 00 for the backdrop
     } rows[] = {
-        {"whole", {10, 10, 0, 0, 4, 4, -1, -1}, 16, {{10, 10, 0x010100}, {13, 13, 0x040400}}},
-        {"part", {10, 10, 1, 2, 2, 2, -1, -1}, 4, {{10, 10, 0x020300}, {11, 11, 0x030400}}},
-        {"past the left and top edge of the screen",
-         {-2, -3, 0, 0, 4, 4, -1, -1},
-         2,
-         {{0, 0, 0x030400}, {1, 0, 0x040400}}},
-        {"past right and bottom", {98, 79, 0, 0, 4, 4, -1, -1}, 2, {{98, 79, 0x010100}, {99, 79, 0x020100}}},
-        {"source starts before the bitmap",
-         {10, 10, -2, -1, 4, 4, -1, -1},
-         6,
-         {{11, 11, ground}, {12, 11, 0x010100}}},
-        {"source ends after the bitmap",
-         {10, 10, 3, 3, 4, 4, -1, -1},
-         1,
-         {{10, 10, 0x040400}, {11, 10, ground}}},
-        {"doubled",
-         {10, 10, 0, 0, 8, 8, 4, 4},
-         64,
-         {{11, 11, 0x010100}, {12, 11, 0x020100}, {17, 17, 0x040400}}},
-        {"halved", {10, 10, 0, 0, 2, 2, 4, 4}, 4, {{10, 10, 0x010100}, {11, 11, 0x030300}}},
-        {"stretched by a fraction",
-         {10, 10, 0, 0, 6, 1, 4, 1},
-         6,
-         {{11, 10, 0x010100}, {12, 10, 0x020100}, {14, 10, 0x030100}, {15, 10, 0x040100}}},
-        {"stretched, past left", {-3, 10, 0, 0, 8, 2, 4, 1}, 10, {{0, 10, 0x020100}, {1, 11, 0x030100}}},
-        {"stretched, source starts before the bitmap",
-         {10, 10, -1, 0, 9, 3, 3, 1},
-         18,
-         {{12, 10, ground}, {13, 10, 0x010100}, {18, 12, 0x020100}}},
-        {"stretched, source ends after the bitmap",
-         {10, 10, 3, 0, 6, 1, 2, 1},
-         3,
-         {{12, 10, 0x040100}, {13, 10, ground}}},
-        {"no width", {10, 10, 0, 0, 0, 4, -1, -1}, 0, {}},
-        {"a negative height", {10, 10, 0, 0, 4, -4, -1, -1}, 0, {}},
-        {"an empty source", {10, 10, 0, 0, 4, 4, 0, 4}, 0, {}},
-        {"only one source size given", {10, 10, 0, 0, 4, 4, -1, 4}, 0, {}},
-        {"completely outside the screen", {100, 0, 0, 0, 4, 4, -1, -1}, 0, {}},
-        {"the largest numbers",
-         {INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX},
-         0,
-         {}},
-        {"the smallest numbers", {INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MAX, INT_MAX, -1, -1}, 0, {}},
-        {"stretched far past both edges", {INT_MIN, -5, 0, 0, INT_MAX, 1000, 4, 4}, 0, {}},
-        {"one source pixel covers the screen",
-         {-1000000000, -1000000000, 0, 0, INT_MAX, INT_MAX, 4, 4},
-         8000,
-         {{0, 0, 0x020200}, {99, 79, 0x020200}}},
-        {"a source of the largest size", {0, 0, 0, 0, 4, 4, INT_MAX, INT_MAX}, 1, {{0, 0, 0x010100}}},
-        {"a source that starts at the smallest number", {0, 0, INT_MIN, 0, 100, 1, INT_MAX, 1}, 0, {}},
+        {"whole", 10, 10, 0, 0, 4, 4, -1, -1, 16, "10 10 11, 13 13 44"},
+        {"part", 10, 10, 1, 2, 2, 2, -1, -1, 4, "10 10 23, 11 11 34"},
+        {"past the left and top edge of the screen", -2, -3, 0, 0, 4, 4, -1, -1, 2, "0 0 34, 1 0 44"},
+        {"past right and bottom", 98, 79, 0, 0, 4, 4, -1, -1, 2, "98 79 11, 99 79 21"},
+        {"source starts before the bitmap", 10, 10, -2, -1, 4, 4, -1, -1, 6, "11 11 00, 12 11 11"},
+        {"source ends after the bitmap", 10, 10, 3, 3, 4, 4, -1, -1, 1, "10 10 44, 11 10 00"},
+        {"doubled", 10, 10, 0, 0, 8, 8, 4, 4, 64, "11 11 11, 12 11 21, 17 17 44"},
+        {"halved", 10, 10, 0, 0, 2, 2, 4, 4, 4, "10 10 11, 11 11 33"},
+        {"stretched by a fraction", 10, 10, 0, 0, 6, 1, 4, 1, 6, "11 10 11, 12 10 21, 14 10 31, 15 10 41"},
+        {"stretched, past left", -3, 10, 0, 0, 8, 2, 4, 1, 10, "0 10 21, 1 11 31"},
+        {"stretched, source starts before the bitmap", 10, 10, -1, 0, 9, 3, 3, 1, 18,
+         "12 10 00, 13 10 11, 18 12 21"},
+        {"stretched, source ends after the bitmap", 10, 10, 3, 0, 6, 1, 2, 1, 3, "12 10 41, 13 10 00"},
+        {"no width", 10, 10, 0, 0, 0, 4, -1, -1, 0, ""},
+        {"a negative height", 10, 10, 0, 0, 4, -4, -1, -1, 0, ""},
+        {"an empty source", 10, 10, 0, 0, 4, 4, 0, 4, 0, ""},
+        {"only one source size given", 10, 10, 0, 0, 4, 4, -1, 4, 0, ""},
+        {"completely outside the screen", 100, 0, 0, 0, 4, 4, -1, -1, 0, ""},
+        {"the largest numbers", INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, 0,
+         ""},
+        {"the smallest numbers", INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MAX, INT_MAX, -1, -1, 0, ""},
+        {"stretched far past both edges", INT_MIN, -5, 0, 0, INT_MAX, 1000, 4, 4, 0, ""},
+        {"one source pixel covers the screen", -1000000000, -1000000000, 0, 0, INT_MAX, INT_MAX, 4, 4, 8000,
+         "0 0 22, 99 79 22"},
+        {"a source of the largest size", 0, 0, 0, 0, 4, 4, INT_MAX, INT_MAX, 1, "0 0 11"},
+        {"a source that starts at the smallest number", 0, 0, INT_MIN, 0, 100, 1, INT_MAX, 1, 0, ""},
     };
     surface sprite(&window);
     sprite.setImage(numbered(), "");
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        const auto& at = row.blit;
-        window.frame([&] { sprite.blit(at.x, at.y, at.sx, at.sy, at.w, at.h, at.sw, at.sh, nullptr, -1); });
+        window.frame(
+            [&] { sprite.blit(row.x, row.y, row.sx, row.sy, row.w, row.h, row.sw, row.sh, nullptr, -1); });
         EXPECT_EQ(100 * 80 - window.count(ground), row.painted);
-        for (const Point& point : row.points)
-            EXPECT_EQ(window.at(point.x, point.y), point.colour) << point.x << ", " << point.y;
+        std::istringstream points(row.points);
+        char comma = 0;
+        for (int x, y, pixel; points >> x >> y >> pixel; points >> comma)
+            EXPECT_EQ(window.at(x, y),
+                      pixel ? static_cast<unsigned>(pixel / 10 << 16 | pixel % 10 << 8) : ground)
+                << x << ", " << y;
     }
 }
 
-class ShapesTest : public DrawingTest {
-protected:
-    static constexpr std::uint32_t ink = 0xFFFFFF;
-    struct Row {
+TEST_F(DrawingTest, ShapesPaintTheirPixels)
+{
+    constexpr std::uint32_t ink = 0xFFFFFF;
+    enum Shape { Fill, Outline, Line };
+    constexpr int least = INT_MIN, most = INT_MAX, about = -1; // three pixels across a diagonal
+    const struct {
         const char* name;
-        std::function<void(Scene&)> paint;
-        int painted;                                // pixels
-        std::function<bool(int x, int y)> contains; // null for a shape of about that many pixels
+        Shape shape;
+        int x1, y1, x2, y2, width;
+        int painted;       // pixels
+        const char* areas; // of painted pixels: "LEFT TOP RIGHT BOTTOM, ..."
+    } rows[] = {
+        {"fill excludes its second corner", Fill, 10, 20, 13, 22, 0, 6, "10 20 13 22"},
+        {"fill with swapped corners", Fill, 13, 20, 10, 22, 0, 0, ""},
+        {"fill with the extreme coordinates", Fill, least, least, most, most, 0, 8000, ""},
+        {"outline", Outline, 10, 20, 14, 25, 0, 14, "10 20 14 21, 10 24 14 25, 10 20 11 25, 13 20 14 25"},
+        {"outline one pixel wide is a line", Outline, 10, 20, 11, 25, 0, 5, "10 20 11 25"},
+        {"outline outside the screen is invisible", Outline, least, -1, most, 81, 0, 0, ""},
+        {"horizontal line includes both ends", Line, 10, 20, 15, 20, 1, 6, "10 20 16 21"},
+        {"diagonal line", Line, 15, 25, 10, 20, 1, 6,
+         "10 20 11 21, 11 21 12 22, 12 22 13 23, 13 23 14 24, 14 24 15 25, 15 25 16 26"},
+        {"line of one point", Line, 10, 20, 10, 20, 0, 1, "10 20 11 21"},
+        {"thick vertical line", Line, 20, 10, 20, 30, 2, 42, "19 10 21 31"},
+        {"horizontal line with the extreme coordinates", Line, least, 40, most, 40, 1, 100, "0 40 100 41"},
+        {"diagonal line with the extreme coordinates", Line, least, least, most, most, 3, about, ""},
+        {"line of the largest width", Line, 50, 40, 60, 40, most, 8000, ""},
     };
-    void compare(std::span<const Row> rows)
-    {
-        for (const auto& row : rows) {
-            SCOPED_TRACE(row.name);
-            window.frame([&] { row.paint(window); });
-            if (row.contains || row.painted == 8000) {
-                EXPECT_EQ(window.count(ink), row.painted);
-            } else {
-                EXPECT_NEAR(window.count(ink), 4 * 80, 90); // three pixels across a diagonal
-            }
-            for (int y = 0; y < 80 && row.contains; y++)
-                for (int x = 0; x < 100; x++)
-                    ASSERT_EQ(window.at(x, y) == ink, row.contains(x, y)) << x << ", " << y;
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        window.frame([&] {
+            if (row.shape == Fill)
+                window.fillrect(row.x1, row.y1, row.x2, row.y2, ink);
+            else if (row.shape == Outline)
+                window.rectangle(row.x1, row.y1, row.x2, row.y2, ink);
+            else
+                window.drawLine(row.x1, row.y1, row.x2, row.y2, row.width, ink);
+        });
+        if (row.painted == about) {
+            EXPECT_NEAR(window.count(ink), 4 * 80, 90);
+        } else {
+            EXPECT_EQ(window.count(ink), row.painted);
         }
+        std::istringstream areas(row.areas);
+        char comma = 0;
+        for (int left, top, right, bottom; areas >> left >> top >> right >> bottom; areas >> comma)
+            for (int i = 0; i < (right - left) * (bottom - top); i++)
+                EXPECT_EQ(window.at(left + i % (right - left), top + i / (right - left)), ink) << i;
     }
-};
-
-TEST_F(ShapesTest, RectanglesPaintTheirPixels)
-{
-    const auto none = [](int, int) { return false; };
-    const Row rows[] = {
-        {"fill excludes its second corner", [](Scene& w) { w.fillrect(10, 20, 13, 22, ink); }, 6,
-         [](int x, int y) { return x >= 10 && x < 13 && y >= 20 && y < 22; }},
-        {"fill with swapped corners", [](Scene& w) { w.fillrect(13, 20, 10, 22, ink); }, 0, none},
-        {"fill with the extreme coordinates",
-         [](Scene& w) { w.fillrect(INT_MIN, INT_MIN, INT_MAX, INT_MAX, ink); }, 8000,
-         [](int, int) { return true; }},
-        {"outline", [](Scene& w) { w.rectangle(10, 20, 14, 25, ink); }, 14,
-         [](int x, int y) {
-             return x >= 10 && x < 14 && y >= 20 && y < 25 && (x == 10 || x == 13 || y == 20 || y == 24);
-         }},
-        {"outline one pixel wide is a line", [](Scene& w) { w.rectangle(10, 20, 11, 25, ink); }, 5,
-         [](int x, int y) { return x == 10 && y >= 20 && y < 25; }},
-        {"outline outside the screen is invisible",
-         [](Scene& w) { w.rectangle(INT_MIN, -1, INT_MAX, 81, ink); }, 0, none},
-    };
-    compare(rows);
-}
-
-TEST_F(ShapesTest, LinesPaintTheirPixels)
-{
-    const Row rows[] = {
-        {"horizontal line includes both ends", [](Scene& w) { w.drawLine(10, 20, 15, 20, 1, ink); }, 6,
-         [](int x, int y) { return y == 20 && x >= 10 && x <= 15; }},
-        {"diagonal line", [](Scene& w) { w.drawLine(15, 25, 10, 20, 1, ink); }, 6,
-         [](int x, int y) { return x - 10 == y - 20 && x >= 10 && x <= 15; }},
-        {"line of one point", [](Scene& w) { w.drawLine(10, 20, 10, 20, 0, ink); }, 1,
-         [](int x, int y) { return x == 10 && y == 20; }},
-        {"thick vertical line", [](Scene& w) { w.drawLine(20, 10, 20, 30, 2, ink); }, 42,
-         [](int x, int y) { return (x == 19 || x == 20) && y >= 10 && y <= 30; }},
-        {"horizontal line with the extreme coordinates",
-         [](Scene& w) { w.drawLine(INT_MIN, 40, INT_MAX, 40, 1, ink); }, 100,
-         [](int, int y) { return y == 40; }},
-        {"diagonal line with the extreme coordinates",
-         [](Scene& w) { w.drawLine(INT_MIN, INT_MIN, INT_MAX, INT_MAX, 3, ink); }, 80 * 3 + 78 + 82, nullptr},
-        {"line of the largest width", [](Scene& w) { w.drawLine(50, 40, 60, 40, INT_MAX, ink); }, 8000,
-         nullptr},
-    };
-    compare(rows);
 }
 
 TEST_F(DrawingTest, ALineIsTheSameFromBothEndsAndEquallyWideAtEveryAngle)

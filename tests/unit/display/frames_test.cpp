@@ -20,7 +20,7 @@ protected:
         std::string pixels;
         for (int i = 0; i < 256 * 192; i++)
             pixels += std::string(1, blue) + std::string("\x10\x20", 2);
-        write(name, bmpFile(256, 192, {24, 0, "", pixels}));
+        write(name, bmpFile(256, 192, 24, pixels));
     }
     void put(int x, int y) { white.blit(x, y, 20, 20, nullptr, -1); }
     int changedPixels() const
@@ -93,7 +93,7 @@ TEST_F(FramesTest, OverlappingBoxesKeepTheirOrderInEveryTile)
 
 TEST_F(FramesTest, ADeletedSurfaceIsStillShownByItsFrame)
 {
-    write("a.bmp", bmpFile(1, 1, {24, 0, "", std::string("\x30\x20\x10\0", 4)}));
+    write("a.bmp", bmpFile(1, 1, 24, std::string("\x30\x20\x10\0", 4)));
     surface* sprite = window.createsprite("a.bmp", -1, -1, -1);
     ASSERT_TRUE(sprite);
     window.frame([&] {
@@ -111,7 +111,7 @@ TEST_F(FramesTest, ADeletedSurfaceIsStillShownByItsFrame)
 TEST_F(FramesTest, PixelsOfAFileAreDroppedWhenNotShownAndReloadedWhenUsed)
 {
     const auto picture = [&](char blue) {
-        write("a.bmp", bmpFile(1, 1, {24, 0, "", std::string(1, blue) + std::string("\x20\x10\0", 3)}));
+        write("a.bmp", bmpFile(1, 1, 24, std::string(1, blue) + std::string("\x20\x10\0", 3)));
     };
     picture('\x30');
     const long long before = livePixelCount();
@@ -150,7 +150,7 @@ TEST_F(FramesTest, PixelsOfAFileAreDroppedWhenNotShownAndReloadedWhenUsed)
 
 TEST_F(FramesTest, SetPixelAffectsOnlyLaterBlitsOfThatSurface)
 {
-    write("a.bmp", bmpFile(1, 1, {24, 0, "", std::string("\x30\x20\x10\0", 4)}));
+    write("a.bmp", bmpFile(1, 1, 24, std::string("\x30\x20\x10\0", 4)));
     surface* one = window.createsprite("a.bmp", -1, -1, -1);
     surface* other = window.createsprite("a.bmp", -1, -1, -1);
     ASSERT_NE(one, other);
@@ -180,7 +180,7 @@ TEST_F(FramesTest, SetPixelAffectsOnlyLaterBlitsOfThatSurface)
 TEST_F(FramesTest, AReloadShowsTheNewContentsOfTheFiles)
 {
     const auto colour = [&](char blue) {
-        write("a.bmp", bmpFile(1, 1, {24, 0, "", std::string(1, blue) + std::string("\0\0\0", 3)}));
+        write("a.bmp", bmpFile(1, 1, 24, std::string(1, blue) + std::string("\0\0\0", 3)));
     };
     colour('\x10');
     surface* a = window.createsprite("a.bmp", -1, -1, -1);
@@ -201,7 +201,7 @@ TEST_F(FramesTest, AReloadShowsTheNewContentsOfTheFiles)
 TEST_F(FramesTest, PicturesLoadedAlternatelyAreDecodedOnceInAFrame)
 {
     for (const char* name : {"a.bmp", "b.bmp"})
-        write(name, bmpFile(1, 1, {24, 0, "", std::string("\x30\x20\x10\0", 4)}));
+        write(name, bmpFile(1, 1, 24, std::string("\x30\x20\x10\0", 4)));
     std::map<std::string, std::set<std::uint32_t>> ids;
     for (int round = 0; round < 3; round++)
         for (const char* name : {"a.bmp", "b.bmp"}) {
@@ -231,19 +231,19 @@ TEST_F(FramesTest, AFailedFileIsDecodedAgainOnlyAfterAChangeOrReload)
     };
     const std::string palette(16, '\x40');
     write("a.bmp",
-          bmpFile(2, 2, {8, 1, palette, std::string("\x02\x01", 2)})); // run-length data without an end
+          bmpFile(2, 2, 8, std::string("\x02\x01", 2), palette, 1)); // run-length data without an end
     EXPECT_EQ(idsTaken(tryIt), 1u);
     EXPECT_EQ(idsTaken([&] { window.frame(tryIt); }), 0u);
     window.reloadsurfaces();
     EXPECT_EQ(idsTaken(tryIt), 1u);
-    write("a.bmp", bmpFile(2, 2, {8, 1, palette, std::string("\x02\x01\0\x01", 4)}));
+    write("a.bmp", bmpFile(2, 2, 8, std::string("\x02\x01\0\x01", 4), palette, 1));
     EXPECT_NE(window.createsprite("a.bmp", -1, -1, -1), nullptr);
 }
 
 TEST_F(FramesTest, PixelsOfAllPicturesTogetherAreLimited)
 {
-    write("small.bmp", bmpFile(1, 1, {24, 0, "", std::string(4, 1)}));
-    write("large.bmp", bmpFile(8000, 8000, {8, 1, std::string(16, 0), std::string("\0\x01", 2)}));
+    write("small.bmp", bmpFile(1, 1, 24, std::string(4, 1)));
+    write("large.bmp", bmpFile(8000, 8000, 8, std::string("\0\x01", 2), std::string(16, 0), 1));
     std::vector<surface*> sections;
     for (int i = 0; i < 3; i++)
         sections.push_back(window.createBkgndSection(&white, 0, 0, 8000, 8000, nullptr));
@@ -292,7 +292,7 @@ TEST_F(FramesTest, ANewBackdropAppearsOnlyWhereItIsMarkedDirty)
 
 TEST_F(FramesTest, ABackdropIsStretchedToTheScreenOrPlain)
 {
-    write("small.bmp", bmpFile(2, 1, {24, 0, "", std::string("\xFF\0\xFF\0\xFF\0\0\0", 8)}));
+    write("small.bmp", bmpFile(2, 1, 24, std::string("\xFF\0\xFF\0\xFF\0\0\0", 8)));
     window.setbackdrop("small.bmp", -1);
     EXPECT_EQ(window.getBackdrop()->width, 256);
     EXPECT_STREQ(window.getBackdrop()->filename, "small.bmp");
