@@ -138,6 +138,18 @@ protected:
         return out;
     }
     AWnd* get(const char* id) { return window->getWnd(id, 1); }
+    /// The messages, separated by commas; of those that a line of t.tgx failed only its number.
+    std::string failures() const
+    {
+        std::string all;
+        for (const std::string& message : messages) {
+            int number = 0;
+            std::sscanf(message.c_str(), "Encountered an error on line %d", &number);
+            const bool isLine = message == lineError(number, "t.tgx");
+            all += (all.empty() ? "" : ", ") + (isLine ? std::to_string(number) : message);
+        }
+        return all;
+    }
 
     std::filesystem::path directory;
     std::unique_ptr<AControlsApp> app;
