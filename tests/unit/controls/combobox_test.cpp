@@ -15,21 +15,21 @@ protected:
         int& updated;
     };
 
-    static constexpr const char* buttons = "COMBOPREV 0 0 20 20 \"\"\nCOMBONEXT 100 0 20 20 \"\"\n";
-    static constexpr const char* items = "ITEM \"one\"\nITEM \"two\"\nITEM \"three\"\n";
+    static constexpr const char* buttons = "COMBOPREV 0 0 20 20 ''; COMBONEXT 100 0 20 20 ''\n";
+    static constexpr const char* items = "ITEM 'one'; ITEM 'two'; ITEM 'three'\n";
 
     /// lines: statements for BOX. others: for the screen.
     void startBox(const std::string& lines, const std::string& position = "200 200",
                   const std::string& others = "")
     {
         bitmap("UIG/scroll1.bmp", 16, 160);
-        start("SCREEN \"FIRST\" 0 0 640 480 \"\"\n");
+        start("SCREEN 'FIRST' 0 0 640 480 ''");
         win().classes["S"] = [this](const CString& id, int x, int y, int w, int h) {
             return new CountingScreen(id, x, y, w, h, updates);
         };
-        script("SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nCOMBOBOX \"BOX\" " + position + " 120 20 \"text\"\n" +
-               "BEGIN\n" + lines + "END\n" + others + "TABLIST1 \"BOX\"\nTABLIST2 \"BOX\"\nEND\n" +
-               "WINDOW \"OTHER\" 0 0 50 50\nBEGIN\nBUTTON \"TGX_OK\" 10 10 20 20 \"\"\nEND\n");
+        script("SCREEN 'S' 0 0 640 480 '' { COMBOBOX 'BOX' " + position + " 120 20 'text' {" + lines + "}\n" +
+               others + "\nTABLIST1 'BOX'; TABLIST2 'BOX' }\n" +
+               "WINDOW 'OTHER' 0 0 50 50 { BUTTON 'TGX_OK' 10 10 20 20 '' }");
         play("change S close", "frame 7");
         measureFont(0);
         updates = 0;
@@ -37,20 +37,8 @@ protected:
     AComboBox* box() { return static_cast<AComboBox*>(wnd("BOX")); }
     AListBox* menu() { return static_cast<AListBox*>(wnd("ComboMenu")); }
     bool isOpen() { return win().isInPopupList("ComboMenu"); }
-    void clickAt(int x, int y)
-    {
-        play("move " + std::to_string(x) + " " + std::to_string(y), "tick", "press left", "tick",
-             "release left", "tick");
-    }
-    /// Plays each event, as in "key up,key return", followed by step.
-    void playEach(const char* events, const char* step)
-    {
-        std::istringstream stream(events);
-        for (std::string event; std::getline(stream, event, ',');)
-            play(event, step);
-    }
-    void clickBox() { clickAt(box()->centreX(), box()->centreY()); }
-    void clickRow(int row) { clickAt(menu()->centreX(), menu()->top() + 24 * row + 12); }
+    void clickBox() { click(box()->centreX(), box()->centreY()); }
+    void clickRow(int row) { click(menu()->centreX(), menu()->top() + 24 * row + 12); }
     int updatesSince() { return std::exchange(updates, 0); }
     std::string shown() { return box()->getWindowText(); }
     std::string placeOfMenu()
@@ -156,9 +144,7 @@ TEST_F(ComboBoxTest, WithOneItemThereIsNothingToStepTo)
 TEST_F(ComboBoxTest, TheMenuStaysOnTheScreen)
 {
     const struct {
-        const char* name;
-        const char* lines;
-        const char* position;
+        const char *name, *lines, *position;
         const char* places; // at each opening
     } rows[] = {
         {"above", "", "200 200", "200 127 120 73,200 127 120 73"},
@@ -168,12 +154,10 @@ TEST_F(ComboBoxTest, TheMenuStaysOnTheScreen)
         {"to the very bottom", "COMBOBELOW 1\n", "200 407", "200 427 120 73"},
         {"off the bottom, each time from its last position", "COMBOBELOW 1\n", "200 440",
          "200 460 120 50,200 460 120 30,200 460 120 30"},
-        {"a menu from the script",
-         "COMBOMENU 5 3 80 50 \"\"\nBEGIN\nLISTLOOK 16\nBORDER \"edge.bmp\" 4 4\nEND\n", "200 200",
+        {"a menu from the script", "COMBOMENU 5 3 80 50 '' { LISTLOOK 16; BORDER 'edge.bmp' 4 4 }", "200 200",
          "205 143 80 57,205 143 80 57"},
-        {"a menu from the script, below",
-         "COMBOBELOW 1\nCOMBOMENU 5 3 80 50 \"\"\nBEGIN\nBORDER \"edge.bmp\" 4 4\nEND\n", "200 440",
-         "205 460 80 55,205 460 80 38"},
+        {"a menu from the script, below", "COMBOBELOW 1; COMBOMENU 5 3 80 50 '' { BORDER 'edge.bmp' 4 4 }",
+         "200 440", "205 460 80 55,205 460 80 38"},
     };
     strip("edge.bmp", 4, 4, 8);
     for (const auto& row : rows) {
@@ -191,7 +175,7 @@ TEST_F(ComboBoxTest, TheMenuStaysOnTheScreen)
             EXPECT_EQ(menu()->getItemCount(), 3);
             EXPECT_TRUE(!made || made == menu()) << "the same menu is opened each time";
             made = menu();
-            clickAt(630, 5);
+            click(630, 5);
             EXPECT_FALSE(isOpen() || menu()->isVisible(0));
         }
     }
@@ -222,7 +206,7 @@ TEST_F(ComboBoxTest, ChoosingInTheMenu)
         SCOPED_TRACE(row.name);
         startBox(std::string(buttons) + items);
         box()->setSelectedItem(1);
-        clickAt(240, 210);
+        click(240, 210);
         ASSERT_TRUE(isOpen());
         EXPECT_EQ(win().mouseX, 260);
         EXPECT_EQ(win().mouseY, 139) << "on the first row";
@@ -272,7 +256,7 @@ TEST_F(ComboBoxTest, ACoveredMenuIsHidden)
     play("frame");
     EXPECT_FALSE(menu()->isVisible(0));
     EXPECT_EQ(call("main getPopupWnd 1"), "\"ComboMenu\"");
-    clickAt(wnd("TGX_OK")->centreX(), wnd("TGX_OK")->centreY());
+    click(wnd("TGX_OK")->centreX(), wnd("TGX_OK")->centreY());
     play("frame");
     EXPECT_EQ(win().getWnd("OTHER", 1), nullptr);
     EXPECT_TRUE(menu()->isVisible(1)) << "in front again";
@@ -322,7 +306,7 @@ TEST_F(ComboBoxTest, Drawing)
 
 TEST_F(ComboBoxTest, StatementsAndTree)
 {
-    startBox("COMBOWRAP 2\nCOMBODROPS 2\nCOMBOBELOW 3\nITEM\nITEM \"ICON3\" \"b\"\n");
+    startBox("COMBOWRAP 2; COMBODROPS 2; COMBOBELOW 3; ITEM; ITEM 'ICON3' 'b'");
     EXPECT_EQ(box()->getWrapItems(), 0) << "the lowest bit";
     EXPECT_EQ(box()->getMenuAllowed(), 0);
     EXPECT_EQ(box()->getMenuBelow(), 1);
@@ -334,10 +318,8 @@ TEST_F(ComboBoxTest, StatementsAndTree)
     for (const char* line : {"12", "14"}) // COMBOBELOW and COMBODROPS
         expectMessage("Encountered an error on line " + std::string(line) +
                       " in script.tgx\nThe line is :\n\t");
-    startBox(
-        items, "200 200",
-        "BUTTON \"B\" 0 0 9 9 \"\"\nBEGIN\nCOMBOWRAP 0\nCOMBOBELOW 1\nCOMBONEXT 0 0 1 1 \"\"\nCOMBODROPS "
-        "0\nEND\n");
+    startBox(items, "200 200",
+             "BUTTON 'B' 0 0 9 9 '' { COMBOWRAP 0; COMBOBELOW 1; COMBONEXT 0 0 1 1 ''; COMBODROPS 0 }");
     EXPECT_EQ(wnd("B")->getWindowCount(), 0) << "a step button in another kind of window is ignored";
     box()->setSelectedItem(1);
     play("tree t.json");
@@ -347,8 +329,7 @@ TEST_F(ComboBoxTest, StatementsAndTree)
 
 TEST_F(ComboBoxTest, WindowsWithThePartsNamesButOfOtherClasses)
 {
-    startBox("WINDOW \"ComboPrev\" 0 0 20 20\nWINDOW \"ComboNext\" 100 0 20 20\nWINDOW \"ComboMenu\" 0 0 9 "
-             "9\n" +
+    startBox("WINDOW 'ComboPrev' 0 0 20 20; WINDOW 'ComboNext' 100 0 20 20; WINDOW 'ComboMenu' 0 0 9 9\n" +
              std::string(items));
     play("move 260 210", "key down", "tick");
     EXPECT_EQ(shown(), "two");
@@ -356,7 +337,7 @@ TEST_F(ComboBoxTest, WindowsWithThePartsNamesButOfOtherClasses)
     EXPECT_EQ(win().getPopupWndCount(), 0);
     play("frame");
 
-    startBox("LISTBOX \"ComboMenu\" 0 0 90 90\n" + std::string(items));
+    startBox("LISTBOX 'ComboMenu' 0 0 90 90\n" + std::string(items));
     clickBox();
     clickRow(1);
     EXPECT_EQ(shown(), "two") << "any list can be the menu";

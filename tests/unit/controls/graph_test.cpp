@@ -14,11 +14,8 @@ class GraphTest : public TgxTest {
 protected:
     void SetUp() override
     {
-        start("SCREEN \"S\" 0 0 640 480 \"\"\n"
-              "BEGIN\n"
-              "  BARGRAPH \"BARS\" 100 100 200 100\n"
-              "  LINEGRAPH \"LINES\" 100 100 200 100\n"
-              "END\n");
+        start("SCREEN 'S' 0 0 640 480 '' { "
+              "BARGRAPH 'BARS' 100 100 200 100; LINEGRAPH 'LINES' 100 100 200 100 }");
         measureFont(0);
     }
     AGraph* graph(const std::string& id) { return static_cast<AGraph*>(wnd(id)); }
@@ -194,9 +191,9 @@ TEST_F(GraphTest, GraphInfoSetsOnlyTheArgumentsGiven)
         std::vector<int> info; // begins with the lengths of the two texts
     } rows[] = {
         {"GRAPHINFO", {0, 0, 1, 20, 10, 2, 0}},
-        {"GRAPHINFO \"a\" \"bc\"", {1, 2, 1, 20, 10, 2, 0}},
-        {"GRAPHINFO \"a\" \"bc\" 5", {1, 2, 5, 20, 10, 2, 0}},
-        {"GRAPHINFO \"a\" \"bc\" 5 6 7 8 3", {1, 2, 5, 6, 7, 8, 1}},
+        {"GRAPHINFO 'a' 'bc'", {1, 2, 1, 20, 10, 2, 0}},
+        {"GRAPHINFO 'a' 'bc' 5", {1, 2, 5, 20, 10, 2, 0}},
+        {"GRAPHINFO 'a' 'bc' 5 6 7 8 3", {1, 2, 5, 6, 7, 8, 1}},
     };
     for (const auto& row : rows) {
         start("SCREEN \"S\" 0 0 9 9 \"\"\nGRAPH \"G\" 0 0 9 9\nBEGIN\n" + std::string(row.line) + "\nEND\n");

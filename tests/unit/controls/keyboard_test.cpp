@@ -6,27 +6,19 @@ namespace {
 /// A popup called BOX with the windows NAME and ECHO, an edit box EDIT and the keyboard KEYS.
 class KeyboardTest : public TgxTest {
 protected:
-    static constexpr const char* box = R"(
-WINDOW "BOX" 100 50 300 300
-BEGIN
-  TEXTWND "NAME" 0 0 200 20 "old"
-  TEXTWND "ECHO" 0 20 200 20 "echo"
-  EDITBOX "EDIT" 0 40 200 20 "old"
-  KEYBOARD "KEYS" 0 100 200 120
-  BEGIN
-    COLUMNS 40 CENTRE 40 CENTRE 40 CENTRE
-    ITEM "A" "B" "7"
-    ITEM "XY" "Sp" "<"
-    ITEM "." "C" "OK"
-    LISTLOOK 24 0 1
-  END
-  TABORDER "KEYS"
-END
-)";
+    static constexpr const char* box = R"(WINDOW 'BOX' 100 50 300 300 {
+          TEXTWND 'NAME' 0 0 200 20 'old'; TEXTWND 'ECHO' 0 20 200 20 'echo'
+          EDITBOX 'EDIT' 0 40 200 20 'old'
+          KEYBOARD 'KEYS' 0 100 200 120 {
+            COLUMNS 40 CENTRE 40 CENTRE 40 CENTRE; ITEM 'A' 'B' '7'; ITEM 'XY' 'Sp' '<'; ITEM '.' 'C' 'OK'
+            LISTLOOK 24 0 1
+          }
+          TABORDER 'KEYS'
+        })";
 
     void openBox(const std::string& initialise = "KEYS initialise NAME ECHO 20")
     {
-        start("SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nEND\n" + std::string(box));
+        start("SCREEN 'S' 0 0 640 480 ''\n" + std::string(box));
         play("frame 6");
         ASSERT_NE(win().setPopupWnd("BOX", wnd("S"), 141, "script.tgx"), nullptr);
         if (!initialise.empty())
@@ -48,8 +40,7 @@ END
 TEST_F(KeyboardTest, TypesByMouse)
 {
     const struct {
-        const char* name;
-        const char* before;
+        const char *name, *before;
         int maxChars;
         std::vector<const char*> keys;
         const char* after;
@@ -131,9 +122,7 @@ TEST_F(KeyboardTest, WithoutTargetOrEcho)
 {
     const char* const both = "KEYS initialise NAME ECHO 20";
     const struct {
-        const char* name;
-        const char* initialise;
-        const char* gone;
+        const char *name, *initialise, *gone;
         const char *key, *text, *echo; // "" for a deleted window
         bool open;
     } rows[] = {

@@ -6,8 +6,8 @@ using ListBoxDrawingTest = ListBoxTest;
 
 TEST_F(ListBoxDrawingTest, AFrameFromBackToFront)
 {
-    startList("COLUMNS 60 40 RIGHT 30 CENTRE\nTITLES \"A\" \"B\" \"C\"\nLISTLOOK 24 1\n"
-              "ITEM \"a0\" \"b0\" \"c0\"\nITEM \"a1\"");
+    startList(
+        "COLUMNS 60 40 RIGHT 30 CENTRE; TITLES 'A' 'B' 'C'; LISTLOOK 24 1; ITEM 'a0' 'b0' 'c0'; ITEM 'a1'");
     list()->addDividerColumn(1);
     list()->addDividerColumn(0);
     list()->setSelectedItem(0);
@@ -60,7 +60,7 @@ TEST_F(ListBoxDrawingTest, Highlights)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        startList(std::string(row.bitmaps ? "LISTHIGHLIGHT \"sel.bmp\" \"hot.bmp\"\n" : "") +
+        startList(std::string(row.bitmaps ? "LISTHIGHLIGHT 'sel.bmp' 'hot.bmp'\n" : "") +
                   "COLUMNS 50 50\nITEM \"a\" \"b\"\nITEM \"c\" \"d\"");
         list()->setBmpBlitMode(2);
         list()->setCellHighlight(row.ofCells);
@@ -79,8 +79,7 @@ TEST_F(ListBoxDrawingTest, Icons)
     bitmap("tall.bmp", 40, 60);
     bitmap("wide.bmp", 90, 24);
     bitmap("thin.bmp", 30, 24);
-    startList(
-        "COLUMNS 40\nLISTICONS \"grid.bmp\" \"short.bmp\" \"tall.bmp\" \"wide.bmp\" \"thin.bmp\" \"none\"");
+    startList("COLUMNS 40; LISTICONS 'grid.bmp' 'short.bmp' 'tall.bmp' 'wide.bmp' 'thin.bmp' 'none'");
     const auto icon = [](const char* file, int w, int h) { return blit(file).to(110, 100, w, h).mode(-1); };
     const auto frame = [&](int sx, int sy) { return icon("grid.bmp", 40, 24).from(sx, sy); };
     const Drawn low = icon("short.bmp", 40, 10).at(110, 107);
@@ -142,7 +141,7 @@ TEST_F(ListBoxDrawingTest, Progress)
         {"-1 is frame 0", left, "0##PROGRESS##-1", over(part(110, 0, 100))},
         {"one panel", left, "1##PROGRESS##50", over(blit("half.bmp").to(110, 100, 50, 10).mode(-1))},
     };
-    startList("LISTICONS \"panels.bmp\" \"half.bmp\"");
+    startList("LISTICONS 'panels.bmp' 'half.bmp'");
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         list()->reset(1, 0);
@@ -190,7 +189,7 @@ TEST_F(ListBoxDrawingTest, FontsOfRowsAndColumns)
     std::string fonts;
     for (int i = 0; i < 4; ++i) {
         expectMessage("cannot load none.ttf");
-        fonts += "ADDFONT \"none.ttf\" \"\" 12 0\n";
+        fonts += "ADDFONT 'none.ttf' '' 12 0\n";
     }
     startList(fonts +
               "COLUMNS 30 30\nTITLES \"T\" \"T\"\nLISTFONTS 1 2 3 4\nITEM \"a\" \"a\"\nITEM \"b\" \"b\"\n"
@@ -230,7 +229,7 @@ TEST_F(ListBoxDrawingTest, FontsOfRowsAndColumns)
 
 TEST_F(ListBoxDrawingTest, AZeroIsShownAsADash)
 {
-    startList("COLUMNS 60\nTITLES \"0\"\nLISTOPTIONS 1");
+    startList("COLUMNS 60; TITLES '0'; LISTOPTIONS 1");
     const struct {
         const char *cell, *shown;
     } rows[] = {{"0", "-"},         {"0.0", "-"},       {"00", "00"}, {"0.00", "0.00"},
@@ -259,9 +258,9 @@ TEST_F(ListBoxDrawingTest, NumberOfVisibleRows)
         {"one pixel more", 73, "", 0, these(at(106, "r0"), at(130, "r1"), at(154, "r2"))},
         {"scrolled", 73, "", 100, these(at(106, "r7"), at(130, "r8"), at(154, "r9"))},
         {"beyond the end", 73, "", 130, these(at(106, "r9"))},
-        {"the title always", 20, "TITLES \"T\"", 0, these(at(106, "T"))},
+        {"the title always", 20, "TITLES 'T'", 0, these(at(106, "T"))},
         {"taller rows", 73, "LISTLOOK 36", 0, these(at(112, "r0"), at(148, "r1"))},
-        {"a border and an offset move everything inwards", 77, "BORDER \"edge.bmp\" 3 6\nTEXTOFFSET 5 7", 100,
+        {"a border and an offset move everything inwards", 77, "BORDER 'edge.bmp' 3 6; TEXTOFFSET 5 7", 100,
          these(text("r8").at(118, 116), text("r9").at(118, 140))},
     };
     strip("edge.bmp", 6, 6, 8);
@@ -282,7 +281,7 @@ TEST_F(ListBoxDrawingTest, NumberOfVisibleRows)
 
 TEST_F(ListBoxDrawingTest, RowsAppearOneByOne)
 {
-    startList("COLUMNS 50\nITEM \"a\"\nITEM \"b\"\nITEM \"c\"\nITEM \"d\"\nLISTOPTIONS 0 1");
+    startList("COLUMNS 50; ITEM 'a'; ITEM 'b'; ITEM 'c'; ITEM 'd'; LISTOPTIONS 0 1");
     list()->startup();
     EXPECT_EQ(texts(), Trace{}) << "a frame of 0 ticks reveals nothing";
     for (int i = 0; i < 3 && list()->getRevealedItems() == 0; ++i)
@@ -306,7 +305,7 @@ TEST_F(ListBoxDrawingTest, RowsAppearOneByOne)
 
 TEST_F(ListBoxDrawingTest, SlidingRows)
 {
-    startList("COLUMNS 50\nTITLES \"T\"\nITEM \"a\"");
+    startList("COLUMNS 50; TITLES 'T'; ITEM 'a'");
     list()->setSelectedItem(0);
     const struct {
         const char* name;
@@ -332,7 +331,7 @@ TEST_F(ListBoxDrawingTest, TheHotBorderIsDrawnBelowTheRows)
 {
     strip("glow.bmp", 60, 60, 8);
     expectMessage("cannot load none.bmp");
-    startList("COLUMNS 50\nITEM \"a\"\nWNDPOS 100 100 120 120\nBORDER \"none.bmp\" 0 60 \"glow.bmp\"");
+    startList("COLUMNS 50; ITEM 'a'; WNDPOS 100 100 120 120; BORDER 'none.bmp' 0 60 'glow.bmp'");
     const auto corner = [](int piece, int x, int y) {
         return blit("glow.bmp").from(piece * 61, 0).to(x, y, 60, 60).mode(-1);
     };
@@ -349,7 +348,7 @@ TEST_F(ListBoxDrawingTest, TheHotBorderIsDrawnBelowTheRows)
 TEST_F(ListBoxDrawingTest, TheScrollBarNarrowsTheRowsAndIsDrawnAboveThem)
 {
     bitmap("title.bmp", 50, 20);
-    startList("COLUMNS 50\nTITLES \"T\"\nLISTLOOK 24 1", "", 76);
+    startList("COLUMNS 50; TITLES 'T'; LISTLOOK 24 1", "", 76);
     addRows(3);
     list()->setSelectedItem(0);
     const auto piece = [](int frame, int y) {

@@ -12,8 +12,8 @@ protected:
     void startList(const std::string& attributes, const std::string& others = "", int height = 121)
     {
         strip("UIG/scroll1.bmp", 16, 26, 6);
-        start("SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nLISTBOX \"LIST\" 100 100 200 " + std::to_string(height) +
-              "\nBEGIN\n" + attributes + "\nEND\n" + others + "\nEND\n");
+        start("SCREEN 'S' 0 0 640 480 '' { LISTBOX 'LIST' 100 100 200 " + std::to_string(height) + " {" +
+              attributes + "}\n" + others + "}");
         play("frame 6");
         for (int i = 0; i < win().getFontCount(); ++i)
             measureFont(i);
@@ -36,11 +36,6 @@ protected:
         list()->removeAllItems(0);
         list()->setItemData(list()->addItem(), 0, CString(cell));
         play("frame");
-    }
-    void click(int x, int y)
-    {
-        play("move " + std::to_string(x) + " " + std::to_string(y), "press left", "tick", "release left",
-             "tick");
     }
     int first() { return list()->getFirstVisibleItem(); }
     /// The selected row and column, then the hot ones, as in "1,0 -1,0".

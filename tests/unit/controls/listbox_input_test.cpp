@@ -8,19 +8,9 @@ protected:
     /// and the list IN in a window is below it.
     void startLists(const std::string& attributes = "", const std::string& others = "")
     {
-        startList("COLUMNS 50 50\n" + attributes, R"(
-LISTBOX "PEER" 400 100 100 121
-BEGIN
-  ITEM "p"
-END
-BUTTON "GO" 400 300 50 50 ""
-WINDOW "BOX" 100 300 200 100
-BEGIN
-  LISTBOX "IN" 0 0 100 100
-  BEGIN
-    ITEM "i"
-  END
-END
+        startList("COLUMNS 50 50\n" + attributes,
+                  R"(LISTBOX 'PEER' 400 100 100 121 { ITEM 'p' }; BUTTON 'GO' 400 300 50 50 ''
+            WINDOW 'BOX' 100 300 200 100 { LISTBOX 'IN' 0 0 100 100 { ITEM 'i' } }
 )" + others);
         addRows(10);
     }
@@ -51,7 +41,7 @@ TEST_F(ListBoxInputTest, PressesAndMoves)
         play(row.event, "tick");
         EXPECT_EQ(state(), row.state);
     }
-    EXPECT_EQ(clicks(), (std::vector<std::string>{"LIST", "LIST"})) << "the screen sees the list's id";
+    EXPECT_EQ(clicks(), "LIST LIST") << "the screen sees the list's id";
     list()->addNonSelectableRow(1);
     list()->setHotItem(1);
     play("doubleclick left", "tick");
@@ -74,7 +64,7 @@ TEST_F(ListBoxInputTest, PressesAndMoves)
 
 TEST_F(ListBoxInputTest, TheTitleRowIsTheRowAboveThePage)
 {
-    startLists("TITLES \"T\"");
+    startLists("TITLES 'T'");
     list()->setSelectedItem(3);
     click(120, 110);
     EXPECT_EQ(state(), "-1,-1 -1,-1");
@@ -114,24 +104,16 @@ TEST_F(ListBoxInputTest, PairedListsShareOneSelection)
 
 TEST_F(ListBoxInputTest, AClickElsewhereDeselects)
 {
-    startLists("", R"(
-WINDOW "POP" 500 300 100 100
-BEGIN
-  LISTBOX "PL" 0 0 100 50
-  BEGIN
-    ITEM "x"
-  END
-  BUTTON "PB" 0 60 50 20 ""
-END
-SCREEN "OTHER" 0 0 640 480 ""
-)");
+    startLists(
+        "",
+        R"(WINDOW 'POP' 500 300 100 100 { LISTBOX 'PL' 0 0 100 50 { ITEM 'x' }; BUTTON 'PB' 0 60 50 20 '' }
+        SCREEN 'OTHER' 0 0 640 480 '')");
     const char* const popup = "call main setPopupWnd POP S 0";
     const struct {
         const char* name;
         int keep;
         const char* before;
-        int x, y;
-        int list, in, popupList;
+        int x, y, list, in, popupList;
     } rows[] = {
         {"on the list itself", 0, "", 120, 130, 1, -1, -1},
         {"on another list", 0, "", 420, 110, -1, -1, -1},
@@ -214,7 +196,7 @@ TEST_F(ListBoxInputTest, UpAndDown)
 
 TEST_F(ListBoxInputTest, LeftAndRightWithCellHighlight)
 {
-    startList("COLUMNS 30 30 30 30\nLISTLOOK 24 0 1\nITEM \"a\"", "TABORDER \"LIST\"");
+    startList("COLUMNS 30 30 30 30; LISTLOOK 24 0 1; ITEM 'a'", "TABORDER 'LIST'");
     const struct {
         const char* name;
         int wrap;
@@ -260,10 +242,10 @@ TEST_F(ListBoxInputTest, WhereTabMovesThePointer)
         const char* result; // start of the expected result; "[0" if there is no row
     } rows[] = {
         {"the first row", "COLUMNS 50", 2, "[1,200,112]"},
-        {"below the titles", "COLUMNS 50\nTITLES \"T\"", 2, "[1,200,136]"},
+        {"below the titles", "COLUMNS 50; TITLES 'T'", 2, "[1,200,136]"},
         {"below fixed rows", "COLUMNS 50\nLISTFIXEDROWS 0 1", 3, "[1,200,160]"},
         {"in the middle of the content", "COLUMNS 50\nTEXTOFFSET 5 7", 2, "[1,140,119]"},
-        {"inside the border", "COLUMNS 50\nBORDER \"edge.bmp\" 6 4", 2, "[1,200,118]"},
+        {"inside the border", "COLUMNS 50; BORDER 'edge.bmp' 6 4", 2, "[1,200,118]"},
         {"before the bar", "COLUMNS 50", 6, "[1,192,112]"},
         {"all fixed", "COLUMNS 50\nLISTFIXEDCOLUMNS 0", 2, "[0"},
         {"all of the page", "COLUMNS 50\nLISTFIXEDROWS 0 1 2 3 4", 6, "[0"},
@@ -272,7 +254,7 @@ TEST_F(ListBoxInputTest, WhereTabMovesThePointer)
     strip("edge.bmp", 4, 4, 8);
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        startList(row.attributes, "BUTTON \"GO\" 400 300 50 50 \"\"\nTABORDER \"GO\" \"LIST\"");
+        startList(row.attributes, "BUTTON 'GO' 400 300 50 50 ''; TABORDER 'GO' 'LIST'");
         addRows(row.rows);
         EXPECT_TRUE(callList("getMousePosOfFirstSelectableItem").starts_with(row.result));
         play("move 410 310", "tick", "key tab", "tick 2");
@@ -280,7 +262,7 @@ TEST_F(ListBoxInputTest, WhereTabMovesThePointer)
         EXPECT_EQ(row.result[1] == '1' ? row.result : "[1,425,325]", "[1," + pointer + "]")
             << "a list without a row is skipped";
     }
-    startList("COLUMNS 50\nTITLES \"T\"");
+    startList("COLUMNS 50; TITLES 'T'");
     addRows(10);
     list()->scrollToLastItem();
     EXPECT_EQ(callList("getMousePosOfFirstSelectableItem"), "[1,192,136]") << "not the row below the titles";
@@ -295,7 +277,7 @@ TEST_F(ListBoxInputTest, AColumnIncludesTheGapAfterIt)
         {"the first column also has a gap before it", "", 10, 170},
         {"a narrow gap", "", 4, 158},
         {"moved content", "TEXTOFFSET 20 0\n", 10, 190},
-        {"a border", "BORDER \"edge.bmp\" 6 4\n", 10, 176},
+        {"a border", "BORDER 'edge.bmp' 6 4\n", 10, 176},
     };
     strip("edge.bmp", 4, 4, 8);
     for (const auto& row : rows) {
@@ -376,7 +358,7 @@ TEST_F(ListBoxInputTest, ScrollingToARow)
 
 TEST_F(ListBoxInputTest, TheBarScrollsItsList)
 {
-    startLists("TITLES \"T\"");
+    startLists("TITLES 'T'");
     EXPECT_EQ(bar()->height(), 97) << "below the titles";
     list()->reset(1, 1);
     list()->addColumn(50, AWnd::TJ_LEFT);
@@ -438,7 +420,7 @@ TEST_F(ListBoxInputTest, TheHotPositionIsRestoredWhenThePointerReturns)
     play("move 180 200", "tick", "move 410 310", "tick", "press left", "tick", "move 120 110", "tick",
          "move 410 310", "tick", "release left", "tick", "move 120 110", "tick");
     EXPECT_EQ(state(), "-1,-1 4,1") << "dragging a press over the list changes nothing";
-    startLists("TITLES \"T\"");
+    startLists("TITLES 'T'");
     for (const int item : {2, 3}) {
         play("move 180 " + std::to_string(130 + 24 * item), "tick", "move 410 310", "tick");
         list()->reset(0, 1);

@@ -7,7 +7,7 @@ using ListBoxModelTest = ListBoxTest;
 
 TEST_F(ListBoxModelTest, SettingACellThatHasAValue)
 {
-    startList("COLUMNS 50 50\nITEM \"\" \"\"");
+    startList("COLUMNS 50 50; ITEM '' ''");
     const struct {
         const char *name, *before, *call, *after;
     } rows[] = {
@@ -36,7 +36,7 @@ TEST_F(ListBoxModelTest, SettingACellThatHasAValue)
 
 TEST_F(ListBoxModelTest, RowsAndColumnsOutsideTheTable)
 {
-    startList("COLUMNS 50 50\nTITLES \"A\"\nITEM \"a\" \"b\"\nITEM \"c\" \"d\"");
+    startList("COLUMNS 50 50; TITLES 'A'; ITEM 'a' 'b'; ITEM 'c' 'd'");
     const char* const exception = R"({"error": "invalid argument"})";
     const struct {
         const char *name, *call, *value;
@@ -79,8 +79,7 @@ TEST_F(ListBoxModelTest, ColumnsRowsAndTitles)
     list()->setTitle(3, "T");
     EXPECT_EQ(list()->getItemsPerPage(), 4) << "one title adds the title row";
     const struct {
-        int rowHeight;
-        int rowsOfPage;
+        int rowHeight, rowsOfPage;
     } heights[] = {{30, 3}, {200, -1}, {0, 120}, {-5, 120}};
     for (const auto& row : heights) {
         list()->setRowHeight(row.rowHeight);
@@ -121,7 +120,7 @@ TEST_F(ListBoxModelTest, WrappedTextIsSplitIntoRows)
 
 TEST_F(ListBoxModelTest, RowAndColumnOfAPositionAreClearedTogether)
 {
-    startList("COLUMNS 50 50\nITEM \"a\"\nITEM \"b\"");
+    startList("COLUMNS 50 50; ITEM 'a'; ITEM 'b'");
     const struct {
         const char *call, *state;
     } rows[] = {
@@ -160,7 +159,7 @@ TEST_F(ListBoxModelTest, WhatRemainsAfterEmptyingTheList)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.call);
-        startList("COLUMNS 50 50\nTITLES \"A\"\nLISTFIXEDROWS 1\nLISTFIXEDCOLUMNS 1");
+        startList("COLUMNS 50 50; TITLES 'A'; LISTFIXEDROWS 1; LISTFIXEDCOLUMNS 1");
         addRows(10);
         list()->scrollToLastItem();
         list()->setSelectedItem(7);
@@ -205,12 +204,10 @@ TEST_F(ListBoxModelTest, RemovingARowOnThePageScrollsTheList)
 
 TEST_F(ListBoxModelTest, NonSelectableCells)
 {
-    startList("VISIBLE 0\nCOLUMNS 50 50\nLISTFIXEDROWS 1 3\nITEM \"a##ICON##\" \"ICON0\"\nITEM \"b\"\nITEM "
-              "\"\" \"c\"");
+    startList("VISIBLE 0; COLUMNS 50 50; LISTFIXEDROWS 1 3; ITEM 'a##ICON##' 'ICON0'; ITEM 'b'; ITEM '' 'c'");
     const struct {
         const char* name;
-        int item, column;
-        int fixed, fixedWithBlanks;
+        int item, column, fixed, fixedWithBlanks;
     } rows[] = {
         {"text with an icon", 0, 0, 0, 0}, {"an icon alone", 0, 1, 0, 1}, {"a fixed row", 1, 0, 1, 1},
         {"an empty cell", 2, 0, 0, 1},     {"text", 2, 1, 0, 0},          {"outside the table", 9, 0, 0, 1},
@@ -234,8 +231,8 @@ TEST_F(ListBoxModelTest, ASecondStartupLoadsMissingBitmapsAndNoIconTwice)
         expectMessage("cannot load hot.bmp");
     }
     expectMessage("cannot load title.bmp");
-    startList("COLUMNS 60\nLISTICONS \"one.bmp\" \"none.bmp\"\nLISTHIGHLIGHT \"sel.bmp\" \"hot.bmp\"\n"
-              "TITLEBMP \"title.bmp\"\nITEM \"ICON1\"\nITEM \"ICON0\"");
+    startList(R"(COLUMNS 60; LISTICONS 'one.bmp' 'none.bmp'; LISTHIGHLIGHT 'sel.bmp' 'hot.bmp'
+        TITLEBMP 'title.bmp'; ITEM 'ICON1'; ITEM 'ICON0')");
     surface* icon = win().createsprite("game.bmp", -1, -1, -1);
     EXPECT_EQ(list()->addIcon(icon), 2) << "a missing file keeps its index";
     EXPECT_EQ(list()->addIcon(icon), 3);
@@ -264,7 +261,7 @@ TEST_F(ListBoxModelTest, ASecondStartupLoadsMissingBitmapsAndNoIconTwice)
 
 TEST_F(ListBoxModelTest, MoreRowsThan16BitsCanCount)
 {
-    startList("COLUMNS 50\nTITLES \"A\"");
+    startList("COLUMNS 50; TITLES 'A'");
     addRows(40000);
     EXPECT_EQ(list()->getItemCount(), 40000);
     EXPECT_EQ(list()->getRevealedItems(), 32767);
@@ -286,15 +283,15 @@ TEST_F(ListBoxModelTest, Statements)
         {"a justification follows its width", "COLUMNS 100 RIGHT 50", "getColumnWidth 1", "50"},
         {"any other word is a column without width", "COLUMNS 70 VISIBLE", "getColumnWidth 1", "0"},
         {"also a word at the start", "COLUMNS RIGHT 50", "getColumnWidth 0", "0"},
-        {"without columns one as wide as the list is added", "ITEM \"a\"", "getColumnWidth 0", "200"},
-        {"a row of texts", "COLUMNS 9 9\nITEM \"a\" \"F2\"", "getItemText 0 1", "\"F2\""},
-        {"an empty row", "COLUMNS 9\nITEM\nITEM \"a\"", "getItemText 1 0", "\"a\""},
+        {"without columns one as wide as the list is added", "ITEM 'a'", "getColumnWidth 0", "200"},
+        {"a row of texts", "COLUMNS 9 9; ITEM 'a' 'F2'", "getItemText 0 1", "\"F2\""},
+        {"an empty row", "COLUMNS 9; ITEM; ITEM 'a'", "getItemText 1 0", "\"a\""},
         {"a number has no text", "ITEM 5", "getItemText 0 0", "\"\""},
-        {"an icon", "ITEM \"ICON3\"", "getItemText 0 0", "\"##ICON##3##FRAME##0\""},
-        {"an icon with a frame", "ITEM \"ICON3F-1\"", "getItemText 0 0", "\"##ICON##3##FRAME##-1\""},
-        {"the first F is used", "ITEM \"ICON1F2F3\"", "getItemText 0 0", "\"##ICON##1##FRAME##2\""},
-        {"a word that begins with ICON", "ITEM \"ICONS\"", "getItemText 0 0", "\"##ICON##0##FRAME##0\""},
-        {"ICON must begin the text, in upper case", "ITEM \"IconICON3\"", "getItemText 0 0", "\"IconICON3\""},
+        {"an icon", "ITEM 'ICON3'", "getItemText 0 0", "\"##ICON##3##FRAME##0\""},
+        {"an icon with a frame", "ITEM 'ICON3F-1'", "getItemText 0 0", "\"##ICON##3##FRAME##-1\""},
+        {"the first F is used", "ITEM 'ICON1F2F3'", "getItemText 0 0", "\"##ICON##1##FRAME##2\""},
+        {"a word that begins with ICON", "ITEM 'ICONS'", "getItemText 0 0", "\"##ICON##0##FRAME##0\""},
+        {"ICON must begin the text, in upper case", "ITEM 'IconICON3'", "getItemText 0 0", "\"IconICON3\""},
         {"a row height of 0", "LISTLOOK 0", "getRowHeight", "0"},
         {"a negative row height is ignored", "LISTLOOK -1 1 1", "getRowHeight", "24"},
         {"but its flags are set: title", "LISTLOOK -1 3 1", "getTitleShaded", "1"},
@@ -306,8 +303,8 @@ TEST_F(ListBoxModelTest, Statements)
         {"fixed rows add up", "LISTFIXEDROWS 1 2\nLISTFIXEDROWS 5", "isNonSelectable 2 0", "1"},
         {"fixed columns", "LISTFIXEDCOLUMNS 4 -1", "isNonSelectable 0 -1", "1"},
         {"the keyword alone does nothing",
-         "COLUMNS\nLISTOPTIONS\nLISTFONTS\nLISTICONS\nLISTFIXEDROWS\n"
-         "LISTFIXEDCOLUMNS\nTITLES\nSCROLLBARINFO \"x\" 3",
+         R"(COLUMNS; LISTOPTIONS; LISTFONTS; LISTICONS; LISTFIXEDROWS; LISTFIXEDCOLUMNS; TITLES
+             SCROLLBARINFO 'x' 3)",
          "getItemsPerPage", "5"},
     };
     for (const auto& row : rows) {
@@ -324,14 +321,13 @@ TEST_F(ListBoxModelTest, StatementsThatFail)
         int failing; // number of the line that fails, from 1
         const char* cells;
     } rows[] = {
-        {"more cells than columns", "COLUMNS 9 9\nITEM \"a\" \"b\"\nITEM \"c\" \"d\" \"e\" \"f\"", 3,
-         "a b|c d"},
-        {"a font outside the table", "VISIBLE 0\nCOLUMNS 9\nITEM \"a\"\nLISTFONTS 0 1", 4, "a"},
-        {"a column after a row", "VISIBLE 0\nCOLUMNS 9\nITEM \"a\"\nCOLUMNS 9\nITEM \"b\" \"c\"", 5, "a |b "},
-        {"no row height", "LISTLOOK\nITEM \"a\"", 1, "a"},
-        {"one highlight", "LISTHIGHLIGHT \"x.bmp\"\nITEM \"a\"", 1, "a"},
-        {"two title bitmaps", "TITLEBMP \"x.bmp\" \"y.bmp\"\nITEM \"a\"", 1, "a"},
-        {"scroll bar info without a width", "SCROLLBARINFO \"x.bmp\"\nITEM \"a\"", 1, "a"},
+        {"more cells than columns", "COLUMNS 9 9; ITEM 'a' 'b'; ITEM 'c' 'd' 'e' 'f'", 3, "a b|c d"},
+        {"a font outside the table", "VISIBLE 0; COLUMNS 9; ITEM 'a'; LISTFONTS 0 1", 4, "a"},
+        {"a column after a row", "VISIBLE 0; COLUMNS 9; ITEM 'a'; COLUMNS 9; ITEM 'b' 'c'", 5, "a |b "},
+        {"no row height", "LISTLOOK; ITEM 'a'", 1, "a"},
+        {"one highlight", "LISTHIGHLIGHT 'x.bmp'; ITEM 'a'", 1, "a"},
+        {"two title bitmaps", "TITLEBMP 'x.bmp' 'y.bmp'; ITEM 'a'", 1, "a"},
+        {"scroll bar info without a width", "SCROLLBARINFO 'x.bmp'; ITEM 'a'", 1, "a"},
     };
     const auto expectFailure = [this](int line) {
         expectMessage("Encountered an error on line " + std::to_string(line) +
@@ -345,9 +341,8 @@ TEST_F(ListBoxModelTest, StatementsThatFail)
     }
     // On another window all lines except the last fail.
     const char* const lines =
-        "COLUMNS 9\nITEM \"a\"\nLISTOPTIONS 1\nLISTHIGHLIGHT \"x\"\nLISTFONTS 0\nLISTICONS \"x\"\n"
-        "LISTLOOK\nLISTFIXEDCOLUMNS 1\nLISTFIXEDROWS 1\nTITLEBMP\nTITLES \"A\"\n"
-        "SCROLLBARINFO \"x\" 3\n";
+        R"(COLUMNS 9; ITEM 'a'; LISTOPTIONS 1; LISTHIGHLIGHT 'x'; LISTFONTS 0; LISTICONS 'x'; LISTLOOK
+            LISTFIXEDCOLUMNS 1; LISTFIXEDROWS 1; TITLEBMP; TITLES 'A'; SCROLLBARINFO 'x' 3;)";
     for (int i = 0; i < 11; ++i)
         expectFailure(8 + i);
     startList("", std::string("BUTTON \"B\" 0 0 9 9 \"\"\nBEGIN\n") + lines + "END");

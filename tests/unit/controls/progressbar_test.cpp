@@ -8,13 +8,10 @@ TEST_F(ProgressBarTest, ThePercentageIsAPartOfTheBitmapAboveEverythingElse)
 {
     bitmap("two.bmp", 200, 80); // twice the frame's width is enough for two frames
     bitmap("one.bmp", 199, 80);
-    start("SCREEN \"S\" 0 0 640 480 \"\"\n"
-          "BEGIN\n"
-          "  PROGRESSBAR \"H\" 10 20 150 100 \"two.bmp\" 100 80\n"
-          "  VPROGRESSBAR \"V\" 10 20 150 100 \"two.bmp\" 100 80\n"
-          "  PROGRESSBAR \"ONE\" 10 20 150 100 \"one.bmp\" 100 80\n"
-          "  PROGRESSBAR \"BARE\" 10 20 150 100 \"\" 100 80\n"
-          "END\n");
+    start(R"(SCREEN 'S' 0 0 640 480 '' {
+          PROGRESSBAR 'H' 10 20 150 100 'two.bmp' 100 80; VPROGRESSBAR 'V' 10 20 150 100 'two.bmp' 100 80
+          PROGRESSBAR 'ONE' 10 20 150 100 'one.bmp' 100 80; PROGRESSBAR 'BARE' 10 20 150 100 '' 100 80
+        })");
     play("frame 6");
     const struct {
         const char *name, *call, *bmp;

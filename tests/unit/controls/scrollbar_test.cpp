@@ -10,14 +10,11 @@ protected:
     void SetUp() override
     {
         strip("bar.bmp", 20, 20, 6);
-        start("SCREEN \"S\" 0 0 640 480 \"\"\n"
-              "BEGIN\n"
-              "  VSCROLLBAR \"V\" 100 100 20 200 \"bar.bmp\" 20 20\n"
-              "  HSCROLLBAR \"H\" 200 100 210 20 \"bar.bmp\" 20 20\n"
-              "  HSCROLLBAR \"BARE\" 200 200 210 16 \"\" 0 0\n"
-              "  VSCROLLBAR \"BAREV\" 500 100 16 200 \"\" 20 24\n"
-              "  HSCROLLBAR \"SHORT\" 200 300 60 20 \"bar.bmp\" 20 20\n"
-              "END\n");
+        start(R"(SCREEN 'S' 0 0 640 480 '' {
+              VSCROLLBAR 'V' 100 100 20 200 'bar.bmp' 20 20; HSCROLLBAR 'H' 200 100 210 20 'bar.bmp' 20 20
+              HSCROLLBAR 'BARE' 200 200 210 16 '' 0 0; VSCROLLBAR 'BAREV' 500 100 16 200 '' 20 24
+              HSCROLLBAR 'SHORT' 200 300 60 20 'bar.bmp' 20 20
+            })");
         play("frame 6");
     }
     AScrollBar* bar(const std::string& id) { return static_cast<AScrollBar*>(wnd(id)); }
@@ -42,10 +39,8 @@ TEST_F(ScrollBarTest, ACancelledPressReleasesTheLever)
 TEST_F(ScrollBarTest, ADragFollowsThePointerOffTheBarInWholePercentages)
 {
     const struct {
-        const char* name;
-        const char* event;
-        int percent;
-        int held;
+        const char *name, *event;
+        int percent, held;
     } rows[] = {
         {"on the lever, after its centre", "move 110 135", 0, 0},
         {"held: the lever moves to the pointer", "press left", 3, 1},

@@ -43,8 +43,7 @@ protected:
 TEST_F(TabControlTest, TabsAndTheirPages)
 {
     const struct {
-        const char* name;
-        const char* children;
+        const char *name, *children;
         const char* radio; // button that is asked for the selected one of the group
         const char *tabAtFirst, *pageAtFirst;
         int clicked; // index

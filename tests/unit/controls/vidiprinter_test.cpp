@@ -7,10 +7,7 @@ class VidiPrinterTest : public TgxTest {
 protected:
     void SetUp() override
     {
-        start("SCREEN \"S\" 0 0 640 480 \"\"\n"
-              "BEGIN\n"
-              "  VIDIPRINTER \"V\" 100 100 200 40 \"abc\" 10 4\n"
-              "END\n");
+        start("SCREEN 'S' 0 0 640 480 '' { VIDIPRINTER 'V' 100 100 200 40 'abc' 10 4 }");
         measureFont(0);
     }
 };

@@ -25,30 +25,18 @@ protected:
     {
         strip("strip.bmp", 20, 10, 3);
         bitmap("ground.bmp", 640, 480, 0x305070);
-        start(R"(
-          SCREEN "MENU" 0 0 640 480 ""
-          BEGIN
-            BMPFILE "ground.bmp"
-            WINDOW "PANEL" 20 30 200 200
-            BEGIN
-              BUTTON "GO" 10 10 80 40 "On"
-              WINDOW "" 10 100 60 60
-              BEGIN
-                WINDOW "PICTURE" 5 5 20 10
-                BEGIN
-                  BMPFILE "strip.bmp"
-                  BMPINFO 20 10 1 3
-                END
-              END
-              WINDOW "LABEL" 150 60 100 20
-            END
-            WINDOW "COVER" 20 130 200 100
-            TABORDER "LABEL" "GO"
-          END
-          WINDOW "BOX" 300 300 100 100
-          BEGIN
-            BUTTON "OK" 10 10 20 20 ""
-          END)");
+        start(R"(SCREEN 'MENU' 0 0 640 480 '' {
+              BMPFILE 'ground.bmp'
+              WINDOW 'PANEL' 20 30 200 200 {
+                BUTTON 'GO' 10 10 80 40 'On'
+                WINDOW '' 10 100 60 60 {
+                  WINDOW 'PICTURE' 5 5 20 10 { BMPFILE 'strip.bmp'; BMPINFO 20 10 1 3 }
+                }
+                WINDOW 'LABEL' 150 60 100 20
+              }
+              WINDOW 'COVER' 20 130 200 100; TABORDER 'LABEL' 'GO'
+            }
+            WINDOW 'BOX' 300 300 100 100 { BUTTON 'OK' 10 10 20 20 '' })");
         play("frame 2");
     }
     void openBox() { win().setPopupWnd(wnd("BOX"), screen("MENU"), 0); }
@@ -120,8 +108,7 @@ TEST_F(InspectorTest, DescribesAWindow)
 TEST_F(InspectorTest, ShowsWhyAWindowGetsNoInput)
 {
     struct Row {
-        const char* name;
-        const char* id;
+        const char *name, *id;
         std::function<void()> given;
         Texts lines; // after the line "made by"
     };
@@ -181,35 +168,16 @@ TEST_F(InspectorTest, ShortensLongPathsAndTexts)
 
 TEST_F(InspectorTest, CountsWindowsAndDuplicateIds)
 {
-    start(R"(
-      SCREEN "MENU" 0 0 640 480 ""
-      BEGIN
-        BUTTON "GO" 0 0 10 10 ""
-        BEGIN
-          CHECKBOXSTATE 0 0 5 5 "" 5 5 1 0 0 0 1
-        END
-        BUTTON "KEEP" 0 20 10 10 ""
-        BEGIN
-          CHECKBOXSTATE 0 0 5 5 "" 5 5 1 0 0 0 1
-        END
-        WINDOW "PANEL" 20 0 100 100
-        BEGIN
-          WINDOW "go" 0 0 10 10
-          WINDOW "" 0 0 10 10
-          WINDOW "" 0 0 10 10
-          WINDOW "menu" 0 0 10 10
-        END
-        LISTBOX "LIST" 200 0 100 100
-        EDITBOX "NAME" 200 200 100 20 ""
-      END
-      SCREEN "OTHER" 0 0 640 480 ""
-      BEGIN
-        BUTTON "KEEP" 0 0 10 10 ""
-      END
-      WINDOW "BOX" 300 300 100 100
-      BEGIN
-        BUTTON "GO" 10 10 20 20 ""
-      END)");
+    start(R"(SCREEN 'MENU' 0 0 640 480 '' {
+          BUTTON 'GO' 0 0 10 10 '' { CHECKBOXSTATE 0 0 5 5 '' 5 5 1 0 0 0 1 }
+          BUTTON 'KEEP' 0 20 10 10 '' { CHECKBOXSTATE 0 0 5 5 '' 5 5 1 0 0 0 1 }
+          WINDOW 'PANEL' 20 0 100 100 {
+            WINDOW 'go' 0 0 10 10; WINDOW '' 0 0 10 10; WINDOW '' 0 0 10 10; WINDOW 'menu' 0 0 10 10
+          }
+          LISTBOX 'LIST' 200 0 100 100; EDITBOX 'NAME' 200 200 100 20 ''
+        }
+        SCREEN 'OTHER' 0 0 640 480 '' { BUTTON 'KEEP' 0 0 10 10 '' }
+        WINDOW 'BOX' 300 300 100 100 { BUTTON 'GO' 10 10 20 20 '' })");
     play("frame 2");
     const Texts screenOnly{"screens, popups\t1",
                            "plain\t5",
@@ -236,22 +204,10 @@ TEST_F(InspectorTest, CountsWindowsAndDuplicateIds)
 
 TEST_F(InspectorTest, AWindowThatIsShownInTwoPlacesIsCountedOnce)
 {
-    start(R"(
-      WINDOW "SHARED" 0 0 50 50
-      BEGIN
-        BUTTON "PART" 0 0 10 10 ""
-      END
-      SCREEN "MENU" 0 0 640 480 ""
-      BEGIN
-        WINDOW "A" 0 0 100 100
-        BEGIN
-          POINTER "SHARED"
-        END
-        WINDOW "B" 200 0 100 100
-        BEGIN
-          POINTER "SHARED"
-        END
-      END)");
+    start(R"(WINDOW 'SHARED' 0 0 50 50 { BUTTON 'PART' 0 0 10 10 '' }
+        SCREEN 'MENU' 0 0 640 480 '' {
+          WINDOW 'A' 0 0 100 100 { POINTER 'SHARED' }; WINDOW 'B' 200 0 100 100 { POINTER 'SHARED' }
+        })");
     play("frame 2");
     ASSERT_EQ(wnd("B")->getWnd("PART", 1), wnd("A")->getWnd("PART", 1));
     EXPECT_EQ(textsOf(describeCensus(takeCensus(win()))),

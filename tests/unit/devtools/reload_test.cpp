@@ -27,10 +27,10 @@ class ReloadTest : public TgxTest {
 protected:
     ~ReloadTest() override { tools.reset(); }
 
-    /// Saves UIG/name in text form, as an author would.
+    /// Saves UIG/name in text form, as an author would. text may be in the form of scriptLines.
     void save(const std::string& text, const std::string& name = "script.tgs")
     {
-        write("UIG/" + name, text);
+        write("UIG/" + name, scriptLines(text));
         isNewer("UIG/" + name);
     }
     /// Sets a file time that is a second later than all before, because two quick writes may get the same
@@ -43,7 +43,7 @@ protected:
     /// Starts with a compiled script and lets the devtools find the text.
     void startWithTools(const std::string& text)
     {
-        start("SCREEN \"FIRST\" 0 0 640 480 \"\"");
+        start("SCREEN 'FIRST' 0 0 640 480 ''");
         tools.emplace(win(), DevToolsOptions{.readsScript = true, .outDirectory = data.string()});
         saveAndWait(text);
     }
@@ -83,11 +83,7 @@ private:
     std::filesystem::file_time_type time = std::filesystem::file_time_type::clock::now();
 };
 
-constexpr const char* note = R"(SCREEN "MENU" 0 0 640 480 ""
-BEGIN
-    TEXTWND "NOTE" 10 10 200 20 "before"
-END
-)";
+constexpr const char* note = "SCREEN 'MENU' 0 0 640 480 '' { TEXTWND 'NOTE' 10 10 200 20 'before' }";
 
 TEST_F(ReloadTest, ATextReplacesTheCompiledScript)
 {
@@ -105,9 +101,8 @@ TEST_F(ReloadTest, ATextReplacesTheCompiledScript)
 TEST_F(ReloadTest, ATextWithAnErrorDoesNotChangeTheInterface)
 {
     startWithTools(note);
-    saveAndWait(
-        "SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    TEXTWMD \"NOTE\" 10 10 200 20 \"after\"\nEND\n");
-    EXPECT_EQ(faults(), inUig("script.tgs:3:5: error: unknown keyword TEXTWMD; did you mean TEXTWND?\n"));
+    saveAndWait("SCREEN 'MENU' 0 0 640 480 '' { TEXTWMD 'NOTE' 10 10 200 20 'after' }");
+    EXPECT_EQ(faults(), inUig("script.tgs:3:1: error: unknown keyword TEXTWMD; did you mean TEXTWND?\n"));
     EXPECT_EQ(textOf("NOTE"), "before");
 
     saveAndWait(note);
@@ -116,20 +111,20 @@ TEST_F(ReloadTest, ATextWithAnErrorDoesNotChangeTheInterface)
 
 TEST_F(ReloadTest, ATextWithAnErrorDoesNotBlockTheOthers)
 {
-    startWithTools("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    GOTO \"PART\" \"part.tgx\"\nEND\n");
-    save("SUBROUTINE \"PART\"\nTEXTWND \"NOTE\" 0 0 90 20 \"one\"\n", "part.tgs");
+    startWithTools("SCREEN 'MENU' 0 0 640 480 '' { GOTO 'PART' 'part.tgx' }");
+    save("SUBROUTINE 'PART'; TEXTWND 'NOTE' 0 0 90 20 'one'", "part.tgs");
     save("BUTTOM\n", "unused.tgs");
-    saveAndWait("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    GOTO \"PART\" \"part.tgx\"\n    FONT 0\nEND\n");
+    saveAndWait("SCREEN 'MENU' 0 0 640 480 '' { GOTO 'PART' 'part.tgx'; FONT 0 }");
     EXPECT_EQ(textOf("NOTE"), "one");
     EXPECT_EQ(faults(), inUig("unused.tgs:1:1: error: unknown keyword BUTTOM; did you mean BUTTON?\n"));
-    save("SUBROUTINE \"PART\"\nTEXTWMD \"NOTE\" 0 0 90 20 \"two\"\n", "part.tgs");
-    saveAndWait("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    GOTO \"PART\" \"part.tgx\"\nEND\n");
+    save("SUBROUTINE 'PART'; TEXTWMD 'NOTE' 0 0 90 20 'two'", "part.tgs");
+    saveAndWait("SCREEN 'MENU' 0 0 640 480 '' { GOTO 'PART' 'part.tgx' }");
     EXPECT_EQ(textOf("NOTE"), "one") << "the last good form of the script";
 }
 
 TEST_F(ReloadTest, AnEditorMayEmptyOrReplaceTheFileFirst)
 {
-    startWithTools("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    EDITBOX \"NAME\" 0 0 90 20 \"\"\nEND\n");
+    startWithTools("SCREEN 'MENU' 0 0 640 480 '' { EDITBOX 'NAME' 0 0 90 20 '' }");
     control<AEditBox>("NAME").setWindowText("Ann");
     saveAndWait("");
     EXPECT_EQ(textOf("NAME"), "Ann");
@@ -139,7 +134,7 @@ TEST_F(ReloadTest, AnEditorMayEmptyOrReplaceTheFileFirst)
     play(aWhile);
     EXPECT_EQ(textOf("NAME"), "Ann");
     EXPECT_EQ(faults(), "the text of script.tgx is gone; the interface stays until it is back\n");
-    saveAndWait("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    EDITBOX \"NAME\" 0 0 60 20 \"\"\nEND\n");
+    saveAndWait("SCREEN 'MENU' 0 0 640 480 '' { EDITBOX 'NAME' 0 0 60 20 '' }");
     EXPECT_EQ(textOf("NAME"), "Ann");
     EXPECT_EQ(wnd("NAME")->width(), 60);
     EXPECT_EQ(faults(), "");
@@ -147,8 +142,7 @@ TEST_F(ReloadTest, AnEditorMayEmptyOrReplaceTheFileFirst)
 
 TEST_F(ReloadTest, AMissingPictureRemainsAFault)
 {
-    startWithTools(
-        "SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    BITMAP \"PLATE\" 0 0 20 20 \"plate.bmp\"\nEND\n");
+    startWithTools("SCREEN 'MENU' 0 0 640 480 '' { BITMAP 'PLATE' 0 0 20 20 'plate.bmp' }");
     EXPECT_EQ(faults(), inUig("script.tgs:3: cannot load plate.bmp\n"));
     bitmap("other.bmp", 20, 20, 0xFF0000);
     isNewer("other.bmp");
@@ -172,31 +166,30 @@ TEST_F(ReloadTest, AMissingFolderOrScriptIsOneFault)
 
 TEST_F(ReloadTest, ALineThatFailsIsNamed)
 {
-    startWithTools("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    BUTTONLOOP 1 1 1 1\nEND\n");
+    startWithTools("SCREEN 'MENU' 0 0 640 480 '' { BUTTONLOOP 1 1 1 1 }");
     EXPECT_EQ(faults(), inUig("script.tgs:3: BUTTONLOOP does not go with a ScreenSpy\n"));
 }
 
 TEST_F(ReloadTest, ALineMayDeleteTheWindowOfItsBlock)
 {
-    start("SCREEN \"FIRST\" 0 0 640 480 \"\"");
+    start("SCREEN 'FIRST' 0 0 640 480 ''");
     win().classes["KILLER"] = [this](const CString& id, int x, int y, int w, int h) {
         delete win().getWnd("P", 1);
         return new AWnd(AWnd::WND_PLAIN, id, x, y, w, h);
     };
     tools.emplace(win(), DevToolsOptions{.readsScript = true});
-    saveAndWait("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    WINDOW \"P\" 0 0 50 50\n    BEGIN\n"
-                "        USERDEF \"K\" 0 0 9 9 \"KILLER\"\n    END\nEND\n");
+    saveAndWait("SCREEN 'MENU' 0 0 640 480 '' { WINDOW 'P' 0 0 50 50 { USERDEF 'K' 0 0 9 9 'KILLER' } }");
     EXPECT_EQ(win().getWnd("P", 1), nullptr);
     EXPECT_EQ(faults(), inUig("script.tgs:5: USERDEF failed\n"));
 }
 
 TEST_F(ReloadTest, AMapGivesTheLinesOfACompiledScript)
 {
-    start("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\nTEXTWND \"NOTE\" 10 10 200 20 \"x\"\nEND");
+    start("SCREEN 'MENU' 0 0 640 480 '' { TEXTWND 'NOTE' 10 10 200 20 'x' }");
     write("UIG/script.tgx.map", "0 7 menu.tgs\n22 8 menu.tgs\n24 12 parts/notes.tgs\n47 9 menu.tgs\n");
     isNewer("UIG/script.tgx.map");
     tools.emplace(win(), DevToolsOptions{.readsScript = true});
-    script("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\nTEXTWND \"NOTE\" 10 10 200 20 \"again\"\nEND");
+    script("SCREEN 'MENU' 0 0 640 480 '' { TEXTWND 'NOTE' 10 10 200 20 'again' }");
     isNewer("UIG/script.tgx");
     write("UIG/script.tgx.map", "0 7 menu.tgs\n22 8 menu.tgs\n24 12 parts/notes.tgs\n47 9 menu.tgs\n");
     isNewer("UIG/script.tgx.map");
@@ -205,7 +198,7 @@ TEST_F(ReloadTest, AMapGivesTheLinesOfACompiledScript)
     EXPECT_EQ(tools->getOrigins().placeOf(*wnd("MENU")), "menu.tgs:7");
     EXPECT_EQ(tools->getOrigins().placeOf(*wnd("NOTE")), "parts/notes.tgs:12");
 
-    script("SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\nTEXTWND \"NOTE\" 10 10 200 20 \"once more\"\nEND");
+    script("SCREEN 'MENU' 0 0 640 480 '' { TEXTWND 'NOTE' 10 10 200 20 'once more' }");
     isNewer("UIG/script.tgx");
     play(aWhile);
     EXPECT_EQ(tools->getOrigins().placeOf(*wnd("MENU")), "script.tgx, byte 0")
@@ -216,8 +209,7 @@ TEST_F(ReloadTest, AChangedPictureIsReloaded)
 {
     bitmap("plate.bmp", 20, 20, 0xFF0000);
     isNewer("plate.bmp");
-    startWithTools(
-        "SCREEN \"MENU\" 0 0 640 480 \"\"\nBEGIN\n    BITMAP \"PLATE\" 0 0 20 20 \"plate.bmp\"\nEND\n");
+    startWithTools("SCREEN 'MENU' 0 0 640 480 '' { BITMAP 'PLATE' 0 0 20 20 'plate.bmp' }");
     EXPECT_EQ(win().getScreenImage().row(5)[5] & 0xFFFFFF, 0xFF0000u);
     bitmap("plate.bmp", 20, 20, 0x00FF00);
     isNewer("plate.bmp");
@@ -225,52 +217,22 @@ TEST_F(ReloadTest, AChangedPictureIsReloaded)
     EXPECT_EQ(win().getScreenImage().row(5)[5] & 0xFFFFFF, 0x00FF00u);
 }
 
-constexpr const char* everything = R"(SCREEN "MENU" 0 0 640 480 ""
-BEGIN
-    TEXTWND "TITLE" 0 0 100 20 "Menu"
-END
-SCREEN "FORM" 0 0 640 480 ""
-BEGIN
-    CHECKBOX "TICK" 0 0 50 20 "Tick"
-    CHECKBOX "UNTOUCHED" 0 20 50 20 "Tock"
-    RADIOBUTTON "ONE" 60 0 50 20 "One"
-    RADIOBUTTON "TWO" 60 20 50 20 "Two"
-    TEXTWND "BREAK" 0 0 1 1 ""
-    EDITBOX "NAME" 0 50 100 20 "nobody"
-    EDITBOX "HOME" 0 70 100 20 "nowhere"
-    VSCROLLBAR "BAR" 120 0 10 100 "" 10 10
-    COMBOBOX "GOODS" 0 100 100 20 ""
-    BEGIN
-        ITEM "tea"
-        ITEM "salt"
-        ITEM "rum"
-    END
-    LISTBOX "LOG" 200 0 100 60
-    BEGIN
-        COLUMNS 80
-        LISTLOOK 20
-        ITEM "a"
-        ITEM "b"
-        ITEM "c"
-        ITEM "d"
-        ITEM "e"
-        ITEM "f"
-        ITEM "g"
-    END
-    TABCONTROL "PAGES" 320 0 200 200
-    BEGIN
-        RADIOBUTTON "TAB1" 0 0 50 20 "1"
-        RADIOBUTTON "TAB2" 50 0 50 20 "2"
-        WINDOW "PAGE1" 0 20 200 180
-        WINDOW "PAGE2" 0 20 200 180
-    END
-END
-WINDOW "ASK" 0 0 100 100
-BEGIN
-    VISIBLE 0
-    EDITBOX "ANSWER" 0 0 80 20 ""
-END
-)";
+constexpr const char* everything = R"(SCREEN 'MENU' 0 0 640 480 '' { TEXTWND 'TITLE' 0 0 100 20 'Menu' }
+    SCREEN 'FORM' 0 0 640 480 '' {
+      CHECKBOX 'TICK' 0 0 50 20 'Tick'; CHECKBOX 'UNTOUCHED' 0 20 50 20 'Tock'
+      RADIOBUTTON 'ONE' 60 0 50 20 'One'; RADIOBUTTON 'TWO' 60 20 50 20 'Two'; TEXTWND 'BREAK' 0 0 1 1 ''
+      EDITBOX 'NAME' 0 50 100 20 'nobody'; EDITBOX 'HOME' 0 70 100 20 'nowhere'
+      VSCROLLBAR 'BAR' 120 0 10 100 '' 10 10
+      COMBOBOX 'GOODS' 0 100 100 20 '' { ITEM 'tea'; ITEM 'salt'; ITEM 'rum' }
+      LISTBOX 'LOG' 200 0 100 60 {
+        COLUMNS 80; LISTLOOK 20; ITEM 'a'; ITEM 'b'; ITEM 'c'; ITEM 'd'; ITEM 'e'; ITEM 'f'; ITEM 'g'
+      }
+      TABCONTROL 'PAGES' 320 0 200 200 {
+        RADIOBUTTON 'TAB1' 0 0 50 20 '1'; RADIOBUTTON 'TAB2' 50 0 50 20 '2'; WINDOW 'PAGE1' 0 20 200 180
+        WINDOW 'PAGE2' 0 20 200 180
+      }
+    }
+    WINDOW 'ASK' 0 0 100 100 { VISIBLE 0; EDITBOX 'ANSWER' 0 0 80 20 '' })";
 
 TEST_F(ReloadTest, SelectionsAndTypedTextAreRestored)
 {
@@ -345,9 +307,9 @@ TEST_F(ReloadTest, AScreenThatNoLongerExistsIsReported)
 
 TEST_F(ReloadTest, FontsAreReplacedAndNotAppended)
 {
-    startWithTools("ADDFONT \"none.ttf\" \"\" 20\n" + std::string(note));
+    startWithTools("ADDFONT 'none.ttf' '' 20\n" + std::string(note));
     EXPECT_EQ(win().getFontCount(), 2);
-    saveAndWait("ADDFONT \"none.ttf\" \"\" 24\n" + std::string(note));
+    saveAndWait("ADDFONT 'none.ttf' '' 24\n" + std::string(note));
     EXPECT_EQ(win().getFontCount(), 2);
 }
 
@@ -379,9 +341,8 @@ TEST_F(ReloadTest, TheKeysOfTheDevtoolsDoNotReachTheGame)
 
 TEST_F(ReloadTest, TheListOfScreensOpensAScreenOfAnyScript)
 {
-    save("SCREEN \"CELLAR\" 0 0 640 480 \"\"\n", "cellar.tgs");
-    startWithTools("SCREEN \"HALL\" 0 0 640 480 \"\"\nSCREEN \"LOFT\" 0 0 640 480 \"\"\n"
-                   "WINDOW \"NOTE\" 0 0 9 9\n");
+    save("SCREEN 'CELLAR' 0 0 640 480 ''", "cellar.tgs");
+    startWithTools("SCREEN 'HALL' 0 0 640 480 ''; SCREEN 'LOFT' 0 0 640 480 ''; WINDOW 'NOTE' 0 0 9 9");
     const struct {
         const char* name;
         std::vector<int> keys;

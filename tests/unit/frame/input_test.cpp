@@ -19,15 +19,10 @@ class InputTest : public TgxTest {
 protected:
     void SetUp() override
     {
-        start("SCREEN \"S\" 0 0 640 480 \"\"\n"
-              "BEGIN\n"
-              "  BUTTON \"A\" 0 0 100 40 \"\"\n"
-              "  BUTTON \"B\" 100 0 100 40 \"\"\n"
-              "  BUTTON \"C\" 200 0 100 40 \"\"\n"
-              "  BUTTON \"D\" 300 0 100 40 \"\"\n"
-              "  WINDOW \"WMatchScreen\" 0 0 1 1\n"
-              "  TABORDER \"A\" \"B\" \"C\" \"D\"\n"
-              "END\n");
+        start(R"(SCREEN 'S' 0 0 640 480 '' {
+              BUTTON 'A' 0 0 100 40 ''; BUTTON 'B' 100 0 100 40 ''; BUTTON 'C' 200 0 100 40 ''
+              BUTTON 'D' 300 0 100 40 ''; WINDOW 'WMatchScreen' 0 0 1 1; TABORDER 'A' 'B' 'C' 'D'
+            })");
         play("frame 6", "move 50 20", "tick");
     }
 };
@@ -46,9 +41,9 @@ TEST_F(InputTest, ACancelledPressClicksNothing)
     cancel();
     play("tick 2");
     EXPECT_EQ(screen("S")->getButton("A", 0)->getButtonState(), AButton::BS_NORMAL);
-    EXPECT_EQ(clicks(), none);
-    play("press left", "tick", "release left", "tick");
-    EXPECT_EQ(clicks(), std::vector<std::string>{"B"}) << "the next press works as usual";
+    EXPECT_EQ(clicks(), "");
+    click();
+    EXPECT_EQ(clicks(), "B") << "the next press works as usual";
 }
 
 TEST_F(InputTest, OneActionIsDispatchedPerTick)
@@ -130,8 +125,7 @@ TEST_F(InputTest, TabSkipsUnusableStops)
     wnd("B")->setEnabled(0);
     wnd("C")->setVisible(0);
     const struct {
-        const char* event;
-        const char* focus;
+        const char *event, *focus;
     } rows[] = {
         {"key tab", "D"},   {"key tab", "A"}, {"key left", "D"}, {"key right", "A"},
         {"hold shift", ""}, {"key tab", "D"}, {"key tab", "A"},  {"lift shift", ""},

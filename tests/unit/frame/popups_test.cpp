@@ -7,8 +7,6 @@ namespace {
 /// 270, 190. Each has a button TGX_OK, its first tab stop, at a different place.
 class PopupsTest : public TgxTest {
 protected:
-    using Calls = std::vector<std::string>;
-
     /// Records the calls that the toolkit makes.
     struct RecordingWnd : AWnd {
         RecordingWnd(const CString& name, int x, int y, int w, int h) : AWnd(WND_PLAIN, name, x, y, w, h) {}
@@ -46,7 +44,7 @@ protected:
                "WINDOW \"QUERYBOX\" 0 0 200 100\nBEGIN\nBUTTON \"TGX_YES\" 10 60 40 20 \"\"\n"
                "BUTTON \"TGX_NO\" 150 60 40 20 \"\"\nTABORDER \"TGX_NO\" \"TGX_YES\"\nEND\n",
                "common.tgx");
-        start("SCREEN \"FIRST\" 0 0 640 480 \"\"\n");
+        start("SCREEN 'FIRST' 0 0 640 480 ''");
         win().classes["S"] = [](const CString& id, int x, int y, int w, int h) {
             return new AskingScreen(id, x, y, w, h);
         };
@@ -66,7 +64,7 @@ protected:
     }
     void TearDown() override { calls.clear(); }
 
-    Calls taken() { return std::exchange(calls, {}); }
+    std::string taken() { return joined(std::exchange(calls, {}), ", "); }
     AWnd* open(const std::string& id, const std::string& parent)
     {
         AWnd* opener = parent == "-" ? nullptr : wnd(parent);
@@ -78,7 +76,6 @@ protected:
             win().deletePopupWnd();
         play("frame");
     }
-    void click() { play("press left", "tick", "release left", "tick"); }
     /// Clicks on ASK and calls ask in that tick.
     void clickToAsk(std::function<void()> ask)
     {
@@ -96,7 +93,6 @@ protected:
         }
         return ids;
     }
-    std::string pointer() { return std::to_string(win().mouseX) + " " + std::to_string(win().mouseY); }
     std::string textIn(const std::string& box, const char* id)
     {
         return wnd(box)->getWnd(CString(id), 1)->getWindowText();
@@ -106,7 +102,7 @@ protected:
     static constexpr const char* ofB1 = "290 210";
     static constexpr const char* ofB2 = "330 210";
     static constexpr const char* ofB3 = "350 240";
-    static inline Calls calls; // outlives the windows that record in it
+    static inline std::vector<std::string> calls; // outlives the windows that record in it
 };
 
 TEST_F(PopupsTest, MessagesOfOneHandlerAppearOneAfterTheOther)
@@ -134,8 +130,7 @@ TEST_F(PopupsTest, MessagesOfOneHandlerAppearOneAfterTheOther)
         play("frame");
     }
     play("key return", "tick");
-    EXPECT_EQ(taken(),
-              (Calls{"messageBox1 TGX_OK", "messageBox12 TGX_OK", "messageBox123 TGX_OK", "OWN TGX_OK"}));
+    EXPECT_EQ(taken(), "messageBox1 TGX_OK, messageBox12 TGX_OK, messageBox123 TGX_OK, OWN TGX_OK");
     EXPECT_EQ(popups(), "");
     EXPECT_EQ(pointer(), ofAsk);
     EXPECT_EQ(win().getWnd("messageBox1", 1), nullptr);
@@ -150,16 +145,15 @@ TEST_F(PopupsTest, EachPopupPassesThePointerToTheNext)
         EXPECT_EQ(pointer(), ofB1) << id;
     }
     const struct {
-        const char* left;
-        const char* pointer;
+        const char *left, *pointer;
     } rows[] = {{"B2 B3-", ofB2}, {"B3", ofB3}, {"", ofAsk}};
     for (const auto& row : rows) {
         play("key return", "frame");
         EXPECT_EQ(popups(), row.left);
         EXPECT_EQ(pointer(), row.pointer);
     }
-    EXPECT_EQ(taken(), (Calls{"B1 startup", "B2 startup", "B3 startup", "B1 TGX_OK", "B1 close", "B1 deleted",
-                              "B2 TGX_OK", "B2 close", "B2 deleted", "B3 TGX_OK", "B3 close", "B3 deleted"}));
+    EXPECT_EQ(taken(), "B1 startup, B2 startup, B3 startup, B1 TGX_OK, B1 close, B1 deleted, B2 TGX_OK, B2 "
+                       "close, B2 deleted, B3 TGX_OK, B3 close, B3 deleted");
 }
 
 TEST_F(PopupsTest, OpeningByParent)
@@ -167,8 +161,7 @@ TEST_F(PopupsTest, OpeningByParent)
     const struct {
         const char* name;
         const char* opened; // popup and parent alternate; - for no parent
-        const char* popups;
-        const char* pointer;
+        const char *popups, *pointer;
     } rows[] = {
         {"the same parent: after it, hidden", "B1 S B2 S", "B1 B2-", ofB1},
         {"another parent: in front", "B1 S B2 P", "B2 B1", ofB2},
@@ -215,7 +208,7 @@ TEST_F(PopupsTest, APopupThatIsOpenedAgain)
     EXPECT_EQ(pointer(), "5 6") << "the pointer returns to where it was at the last opening";
     EXPECT_EQ(popup->posX(0), 270);
     play("frame 2");
-    EXPECT_EQ(taken(), (Calls{"B1 startup", "B1 startup", "B1 close"})) << "closed, but not deleted";
+    EXPECT_EQ(taken(), "B1 startup, B1 startup, B1 close") << "closed, but not deleted";
     EXPECT_EQ(win().setPopupWnd(nullptr, nullptr, 0), nullptr) << "nothing to close";
     win().deletePopupWnd();
     EXPECT_EQ(open("B1", "P"), popup);
@@ -235,18 +228,17 @@ TEST_F(PopupsTest, AScreenChangeClosesAllPopupsFrontFirst)
     EXPECT_EQ(popups(), "B2 B1 B3-");
     taken();
     play("change NEXT close", "frame 5");
-    EXPECT_EQ(taken(), (Calls{"B2 close", "B1 close", "B3 close", "S close"}));
+    EXPECT_EQ(taken(), "B2 close, B1 close, B3 close, S close");
     EXPECT_EQ(popups(), "");
     play("frame");
-    EXPECT_EQ(taken(), (Calls{"B3 deleted", "B1 deleted", "B2 deleted"}));
+    EXPECT_EQ(taken(), "B3 deleted, B1 deleted, B2 deleted");
     EXPECT_EQ(win().getWnd("S", 1), nullptr);
 }
 
 TEST_F(PopupsTest, APopupThatSlides)
 {
     const struct {
-        const char* name;
-        const char* sliding;
+        const char *name, *sliding;
         int deleteWhenDone;
         const char* after;
     } rows[] = {
@@ -290,14 +282,12 @@ TEST_F(PopupsTest, AnswersToAQuery)
         SCOPED_TRACE(row.name);
         taken();
         clickToAsk([this] { win().queryBox("title", "text", "", "Q", screen("S"), 1); });
-        EXPECT_EQ(taken(), Calls{"click ASK"});
+        EXPECT_EQ(taken(), "click ASK");
         EXPECT_EQ(pointer(), "390 260");
         EXPECT_EQ(call("TGX_YES getText"), "\"Yes\"");
         EXPECT_EQ(call("TGX_NO getText"), "\"No\"");
-        std::istringstream events(row.events);
-        for (std::string event; std::getline(events, event, ',');)
-            play(event, "frame");
-        EXPECT_EQ(taken(), *row.answer ? Calls{row.answer} : none);
+        playEach(row.events, "frame");
+        EXPECT_EQ(taken(), row.answer);
         EXPECT_EQ(popups(), row.open ? "Q" : "");
         closeAll();
         play("move 25 26", "frame");
@@ -307,8 +297,7 @@ TEST_F(PopupsTest, AnswersToAQuery)
     taken();
     screen("S")->queryBox("title", "text", "", "Q");
     play("tick 2", "release left", "tick");
-    EXPECT_EQ(taken(), Calls{"Q TGX_NO"})
-        << "the press is over: its release is a click where the pointer is now";
+    EXPECT_EQ(taken(), "Q TGX_NO") << "the press is over: its release is a click where the pointer is now";
 }
 
 TEST_F(PopupsTest, BoxesMissingInTheScript)
@@ -328,8 +317,7 @@ TEST_F(PopupsTest, BoxesMissingInTheScript)
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         std::string lines;
-        std::istringstream ids(row.buttons);
-        for (std::string id; ids >> id;)
+        for (const std::string& id : parts(row.buttons))
             lines += "BUTTON \"" + id + "\" 0 0 9 9 \"-\"\n";
         script("WINDOW \"QUERYBOX\" 0 0 200 100\nBEGIN\n" + lines + "END\n", "common.tgx");
         EXPECT_EQ(win().queryBox("title", "text", "", "Q", screen("S"), row.yesNo), 1);
@@ -352,7 +340,7 @@ TEST_F(PopupsTest, BoxesMissingInTheScript)
         EXPECT_EQ(popups(), "B1");
         EXPECT_EQ(pointer(), ofB1);
     }
-    script("WINDOW \"MESSAGEBOX\" 0 0 9 9\n", "common.tgx");
+    script("WINDOW 'MESSAGEBOX' 0 0 9 9", "common.tgx");
     EXPECT_EQ(win().messageBox("title", "text", "", "M", screen("S")), 1) << "without its texts";
     EXPECT_EQ(popups(), "B1 M-");
 }
@@ -364,7 +352,7 @@ TEST_F(PopupsTest, ADeletedParentOrPopupLeavesTheOthersInOrder)
     delete wnd("P");
     EXPECT_EQ(wnd("B1")->getParent(), nullptr);
     click();
-    EXPECT_EQ(taken(), none);
+    EXPECT_EQ(taken(), "");
     EXPECT_EQ(popups(), "B1") << "nothing receives the answer";
     open("B2", "-");
     EXPECT_EQ(popups(), "B1 B2-") << "as a popup without a parent";
@@ -374,13 +362,13 @@ TEST_F(PopupsTest, ADeletedParentOrPopupLeavesTheOthersInOrder)
     EXPECT_EQ(popups(), "B3 B2-");
     taken();
     play("key return", "frame");
-    EXPECT_EQ(taken(), (Calls{"B3 TGX_OK", "B3 close", "B3 deleted"}));
+    EXPECT_EQ(taken(), "B3 TGX_OK, B3 close, B3 deleted");
     EXPECT_EQ(popups(), "B2") << "it is still shown";
     delete wnd("B2");
     taken();
     play("move 25 26", "frame");
     click();
-    EXPECT_EQ(taken(), Calls{"click ASK"});
+    EXPECT_EQ(taken(), "click ASK");
 }
 
 } // namespace

@@ -28,20 +28,18 @@ private:
 
 class ScreensTest : public TgxTest {
 protected:
-    using Calls = std::vector<std::string>;
-
     void begin(int width = 640)
     {
-        start("SCREEN \"FIRST\" 0 0 640 480 \"\"\n", width);
+        start("SCREEN 'FIRST' 0 0 640 480 ''", width);
         for (const char* name : {"A", "B", "C"})
             win().classes[name] = [](const CString& id, int x, int y, int w, int h) {
                 return new RecordingScreen(id, x, y, w, h, calls);
             };
-        script("WINDOW \"OLDER\" 0 0 10 10\nSCREEN \"A\" 0 0 640 480 \"a.bmp\"\nBEGIN\nWINDOW \"W\" 0 0 100 "
-               "100\nEND\n"
-               "SCREEN \"B\" 0 0 640 480 \"b.bmp\"\nBEGIN\nWINDOW \"TGX_BACK\" 0 0 100 100\nWINDOW "
-               "\"TGX_CLOSE\" 200 0 50 50\n"
-               "END\nSCREEN \"C\" 0 0 640 480 \"\"\nWINDOW \"PLAIN\" 0 0 10 10\n");
+        script(R"(WINDOW 'OLDER' 0 0 10 10; SCREEN 'A' 0 0 640 480 'a.bmp' { WINDOW 'W' 0 0 100 100 }
+            SCREEN 'B' 0 0 640 480 'b.bmp' {
+              WINDOW 'TGX_BACK' 0 0 100 100; WINDOW 'TGX_CLOSE' 200 0 50 50
+            }
+            SCREEN 'C' 0 0 640 480 ''; WINDOW 'PLAIN' 0 0 10 10)");
         bitmap("a.bmp", 640, 480, 0x112233);
         bitmap("b.bmp", 640, 480, 0x445566);
         play("frame 2", "change A close", "frame 6");
@@ -52,7 +50,7 @@ protected:
         RecordingScreen::onCall = nullptr;
         calls.clear();
     }
-    Calls taken() { return std::exchange(calls, {}); }
+    std::string taken() { return joined(std::exchange(calls, {}), ", "); }
     std::string active() { return win().getActiveScreen() ? win().getActiveScreen()->getID().str() : "none"; }
     void click(int x, int y)
     {
@@ -60,7 +58,7 @@ protected:
              "frame");
     }
 
-    static inline Calls calls; // outlives the windows that record in it
+    static inline std::vector<std::string> calls; // outlives the windows that record in it
 };
 
 TEST_F(ScreensTest, FiveFramesAreShownBeforeTheChange)
@@ -68,10 +66,10 @@ TEST_F(ScreensTest, FiveFramesAreShownBeforeTheChange)
     begin();
     play("change B", "frame 4");
     EXPECT_EQ(active(), "A");
-    EXPECT_EQ(taken(), none);
+    EXPECT_EQ(taken(), "");
     play("frame");
     EXPECT_EQ(active(), "B");
-    EXPECT_EQ(taken(), (Calls{"A close", "B startup", "B initialise"}));
+    EXPECT_EQ(taken(), "A close, B startup, B initialise");
     EXPECT_EQ(screen("B")->getCaller(), "A");
     EXPECT_TRUE(screen("A")->isOpen()) << "suspended";
 }
@@ -85,11 +83,11 @@ TEST_F(ScreensTest, GoingBackReturnsToTheSuspendedScreenAndItsPointer)
     EXPECT_EQ(active(), "B") << "the change waits for its frames";
     play("frame 4");
     EXPECT_EQ(active(), "A");
-    EXPECT_EQ(taken(), (Calls{"B close", "A returned"}));
+    EXPECT_EQ(taken(), "B close, A returned");
     EXPECT_EQ(win().mouseX, 321);
     EXPECT_EQ(win().mouseY, 123);
     play("frame");
-    EXPECT_EQ(taken(), (Calls{"B deleted"})) << "at the next dispatched tick";
+    EXPECT_EQ(taken(), "B deleted") << "at the next dispatched tick";
     EXPECT_EQ(screen("A")->getCaller(), "") << "unchanged";
 }
 
@@ -127,7 +125,7 @@ TEST_F(ScreensTest, AScreenMarkedForDeletionIsReadAgain)
     EXPECT_EQ(active(), "A");
     EXPECT_NE(static_cast<AWnd*>(win().getActiveScreen()), dying);
     play("frame");
-    EXPECT_EQ(taken(), (Calls{"B close", "A startup", "A initialise", "A deleted"}))
+    EXPECT_EQ(taken(), "B close, A startup, A initialise, A deleted")
         << "the old screen is deleted, not the new one";
     EXPECT_EQ(active(), "A");
 }
@@ -168,7 +166,7 @@ TEST_F(ScreensTest, TheWindowTypeAloneDoesNotDecideTheClass)
         win().classes[name] = [type = type](const CString& id, int x, int y, int w, int h) {
             return new AWnd(type, id, x, y, w, h);
         };
-        text += std::string("USERDEF \"") + name + "\" 0 0 90 90 \"" + name + "\"\n";
+        text += std::string("USERDEF '") + name + "' 0 0 90 90 '" + name + "'\n";
     }
     text +=
         "USERDEF \"H\" 100 0 90 90 \"list\"\nBEGIN\n  ITEM \"a\"\n  COLUMNS 9\n  VSCROLLBAR \"V\" 0 0 20 90 "
@@ -198,11 +196,10 @@ TEST_F(ScreensTest, AChangeToTheActiveScreenItself)
 {
     begin();
     play("change A", "frame 5");
-    EXPECT_EQ(taken(), (Calls{"A close", "A returned"}));
+    EXPECT_EQ(taken(), "A close, A returned");
     EXPECT_EQ(screen("A")->getCaller(), "A");
     play("change A close", "frame 6");
-    EXPECT_EQ(taken(), (Calls{"A close", "A startup", "A initialise", "A deleted"}))
-        << "a new one replaces it";
+    EXPECT_EQ(taken(), "A close, A startup, A initialise, A deleted") << "a new one replaces it";
     EXPECT_TRUE(screen("A")->isOpen());
 }
 
@@ -211,7 +208,7 @@ TEST_F(ScreensTest, ASecondRequestCarriesOutTheFirstOneAtOnce)
     begin();
     play("change B", "frame 2", "change C");
     EXPECT_EQ(active(), "B");
-    EXPECT_EQ(taken(), (Calls{"A close", "B startup", "B initialise"}));
+    EXPECT_EQ(taken(), "A close, B startup, B initialise");
     play("move 20 20", "frame");
     EXPECT_EQ(win().getCurFocusWnd(), wnd("TGX_BACK")) << "input is dispatched again";
     EXPECT_EQ(win().getPendingScreen(), "");
@@ -227,7 +224,7 @@ TEST_F(ScreensTest, AMissingScreenChangesNothing)
         expectMessage("cannot find screen " + std::string(name));
         play("change " + std::string(name) + " close", "frame 6");
         EXPECT_EQ(active(), "A");
-        EXPECT_EQ(taken(), none);
+        EXPECT_EQ(taken(), "");
         EXPECT_EQ(win().getPopupWndCount(), 1);
         EXPECT_EQ(static_cast<HeadlessHost&>(displayhost::current()).cursor, CursorShape::Normal);
     }
@@ -252,10 +249,10 @@ TEST_F(ScreensTest, ClosingAllButTheCurrent)
     play("change B", "frame 6", "change C", "frame 6");
     taken();
     win().closeAllScreensExceptCurrent();
-    EXPECT_EQ(taken(), (Calls{"A close", "B close"}));
+    EXPECT_EQ(taken(), "A close, B close");
     EXPECT_FALSE(screen("B")->isOpen());
     play("change B", "frame 6");
-    EXPECT_EQ(taken(), (Calls{"C close", "B startup", "B initialise"}));
+    EXPECT_EQ(taken(), "C close, B startup, B initialise");
 }
 
 TEST_F(ScreensTest, ClosingAllButTheCurrentMissesNoneIfAHandlerDeletesAnOlderWindow)
@@ -269,15 +266,14 @@ TEST_F(ScreensTest, ClosingAllButTheCurrentMissesNoneIfAHandlerDeletesAnOlderWin
             delete wnd("OLDER");
     };
     win().closeAllScreensExceptCurrent();
-    EXPECT_EQ(taken(), (Calls{"B close", "C close"}));
+    EXPECT_EQ(taken(), "B close, C close");
 }
 
 TEST_F(ScreensTest, InputMadeDuringAChangeDoesNotReachTheNewScreen)
 {
     const struct {
         const char* name;
-        bool dropsInput;
-        bool whileLoading;
+        bool dropsInput, whileLoading;
         const char* active;
     } rows[] = {
         {"a host that keeps all input", false, false, "A"},
@@ -333,7 +329,7 @@ TEST_F(WipeTest, TheNewBackdropIsUncoveredFromTheLeft)
     begin();
     win().setWipeEnabled(1);
     play("change B", "frame 5");
-    EXPECT_EQ(taken(), (Calls{"A close", "B startup", "B initialise"})) << "a new screen is started at once";
+    EXPECT_EQ(taken(), "A close, B startup, B initialise") << "a new screen is started at once";
     EXPECT_EQ(wipe(4), "0 | 40 | swap | 120 | ");
     EXPECT_EQ(pixel(119), 0x445566u);
     EXPECT_EQ(pixel(120), 0x112233u);
@@ -346,9 +342,9 @@ TEST_F(WipeTest, TheNewBackdropIsUncoveredFromTheLeft)
     play("change A", "frame 5");
     taken();
     wipe(15);
-    EXPECT_EQ(taken(), none);
+    EXPECT_EQ(taken(), "");
     wipe(1);
-    EXPECT_EQ(taken(), (Calls{"A returned"})) << "a suspended screen returns at the last frame";
+    EXPECT_EQ(taken(), "A returned") << "a suspended screen returns at the last frame";
     play("frame");
     EXPECT_EQ(pixel(0), 0u) << "with the background that it kept";
     EXPECT_EQ(pixel(1), 0x445566u) << "of the backdrop at that time";
@@ -407,8 +403,8 @@ BEGIN
 END
 END
 )";
-    start("SCREEN \"A\" 0 0 64 48 \"back.bmp\"\n" + contents + "SCREEN \"B\" 0 0 64 48 \"\"\n" + contents +
-              "SCREEN \"EMPTY\" 0 0 64 48 \"\"\nBEGIN\nWINDOW \"NONE\" 0 0 1 1\nEND\n",
+    start("SCREEN 'A' 0 0 64 48 'back.bmp'\n" + contents + "SCREEN 'B' 0 0 64 48 ''\n" + contents +
+              "SCREEN 'EMPTY' 0 0 64 48 '' { WINDOW 'NONE' 0 0 1 1 }\n",
           64, 48);
     play("frame 6");
     const auto visit = [&](const char* name) {

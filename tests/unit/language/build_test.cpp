@@ -128,8 +128,7 @@ TEST(Build, ReportsWhatAStatementExpects)
          "height\n"},
         {"a keyword with several allowed numbers of arguments", "TEXTWND",
          "1:1: error: TEXTWND takes 6, 8 or 9 arguments, this line has 0; expected: TEXTWND \"name\" x y "
-         "width "
-         "height \"text\" [textX textY [\"bitmap\"]]\n"},
+         "width height \"text\" [textX textY [\"bitmap\"]]\n"},
         {"too many repeated arguments",
          "LISTFIXEDROWS 1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 7 8 9 0",
          "1:73: error: a line has at most 29 arguments, this one has 30\n"},

@@ -85,9 +85,8 @@ const CheckRow rows[] = {
      "anyway. Is an END missing? [nested-screen]\n"},
 
     {"a missing script",
-     "WINDOW \"A\" 0 0 9 9\nBEGIN\n  GOTO \"S\" \"part.tgx\"\n  GOTO \"S\" \"150\"\nEND\n== "
-     "parts.tgs\nWINDOW "
-     "\"B\" 0 0 9 9",
+     "WINDOW \"A\" 0 0 9 9\nBEGIN\n  GOTO \"S\" \"part.tgx\"\n  GOTO \"S\" \"150\"\nEND\n== parts.tgs\n"
+     "WINDOW \"B\" 0 0 9 9",
      "a.tgs:3:12: error: no script \"part.tgx\"; did you mean \"parts.tgx\"? [missing-script]\n"},
     {"a missing subroutine",
      "WINDOW \"A\" 0 0 9 9\nBEGIN\n  GOTO \"s1\" \"parts.tgx\"\n  GOTO \"S1\"\nEND\n== parts.tgs\nSUBROUTINE "
@@ -155,9 +154,8 @@ const CheckRow rows[] = {
      "script.tgs:1:9: error: the font \"none.ttf\" cannot be loaded; the built-in font is used instead "
      "[missing-font]\n"},
     {"fonts of two main scripts, and of a library that both may use",
-     "ADDFONT \"none.ttf\" \"\" 12\nADDFONT \"none.ttf\" \"\" 12\n== b.tgs\nADDFONT \"none.ttf\" \"\" "
-     "12\nWINDOW \"A\" 0 0 90 90\nBEGIN\n  FONT 2\nEND\n== c.tgs\nWINDOW \"A\" 0 0 90 90\nBEGIN\n  FONT "
-     "2\nEND",
+     "ADDFONT \"none.ttf\" \"\" 12\nADDFONT \"none.ttf\" \"\" 12\n== b.tgs\nADDFONT \"none.ttf\" \"\" 12\n"
+     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  FONT 2\nEND\n== c.tgs\nWINDOW \"A\" 0 0 90 90\nBEGIN\n  FONT 2\nEND",
      "a.tgs:1:9: error: the font \"none.ttf\" cannot be loaded; the built-in font is used instead "
      "[missing-font]\n"
      "a.tgs:2:9: error: the font \"none.ttf\" cannot be loaded; the built-in font is used instead "
@@ -201,13 +199,11 @@ const CheckRow rows[] = {
      "drawn; make it 1 higher [hidden-last-row]\n"},
     {"a combo box at the edge of the screen, and controls with states, pages and texts that do not work",
      "SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\n  COMBOBOX \"C\" 0 440 100 24 \"\"\n  BEGIN\n    COMBOBELOW 1\n  "
-     "  "
-     "ITEM \"a\"\n    ITEM \"b\"\n  END\n  CHECKBOX \"B\" 0 0 90 24 \"\"\n  BEGIN\n    ENABLED 0\n    "
+     "  ITEM \"a\"\n    ITEM \"b\"\n  END\n  CHECKBOX \"B\" 0 0 90 24 \"\"\n  BEGIN\n    ENABLED 0\n    "
      "USERDEF \"RadioState\" 0 0 9 9\n    CHECKBOXSTATE 0 0 20 10 \"three.bmp\" 20 10 1\n  END\n  TABCONTROL "
-     "\"T\" 200 0 "
-     "90 90\n  BEGIN\n    RADIOBUTTON \"R\" 0 0 20 20 \"\"\n    WINDOW \"P\" 0 20 9 9\n    BEGIN\n      "
-     "VISIBLE 0\n    END\n  END\n  EDITBOX \"E\" 0 100 90 6 \"\"\n  TEXTWND \"X\" 0 200 300 24 \"a\\nb\"\n  "
-     "TABORDER \"C\" \"B\" \"R\" \"E\"\nEND",
+     "\"T\" 200 0 90 90\n  BEGIN\n    RADIOBUTTON \"R\" 0 0 20 20 \"\"\n    WINDOW \"P\" 0 20 9 9\n    "
+     "BEGIN\n      VISIBLE 0\n    END\n  END\n  EDITBOX \"E\" 0 100 90 6 \"\"\n  TEXTWND \"X\" 0 200 300 24 "
+     "\"a\\nb\"\n  TABORDER \"C\" \"B\" \"R\" \"E\"\nEND",
      "a.tgs:3:3: warning: the menu of \"C\" ends at 512, below the screen of 480 pixels, so its last items "
      "cannot be chosen; remove COMBOBELOW to open it above [menu-off-screen]\n"
      "a.tgs:11:5: warning: \"B\" enables itself when its screen opens; the game can disable it with "
@@ -239,13 +235,10 @@ const CheckRow rows[] = {
      "a.tgs:1:8: warning: the game makes windows of the class \"Ship\", and would be asked for that class "
      "when this screen opens [class-name]\n"},
     {"screens and boxes that cannot be left",
-     "SCREEN \"\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"GO\" 0 0 90 24 \"\"\n  TABORDER \"GO\"\nEND\n"
-     "SCREEN \"B\" 0 0 640 480 \"\"\nBEGIN\n  TEXTWND \"T\" 0 0 90 24 \"b\"\nEND\nWINDOW \"QUERYBOX\" 0 0 "
-     "200 100\nBEGIN\n  "
-     "TEXTWND "
-     "\"MESSAGEBOXTITEL\" 0 0 90 24 \"\"\n  TEXTWND \"MESSAGEBOXTEXT\" 0 24 90 24 \"\"\n  BUTTON \"OK\" 0 60 "
-     "90 24 "
-     "\"\"\n  TABORDER \"OK\"\nEND",
+     "SCREEN \"\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"GO\" 0 0 90 24 \"\"\n  TABORDER \"GO\"\nEND\nSCREEN "
+     "\"B\" 0 0 640 480 \"\"\nBEGIN\n  TEXTWND \"T\" 0 0 90 24 \"b\"\nEND\nWINDOW \"QUERYBOX\" 0 0 200 100\n"
+     "BEGIN\n  TEXTWND \"MESSAGEBOXTITEL\" 0 0 90 24 \"\"\n  TEXTWND \"MESSAGEBOXTEXT\" 0 24 90 24 \"\"\n  "
+     "BUTTON \"OK\" 0 60 90 24 \"\"\n  TABORDER \"OK\"\nEND",
      "a.tgs:1:1: warning: the first screen opens without a name, but nothing can return to it "
      "[unnamed-screen]\n"
      "a.tgs:6:1: warning: nothing in \"B\" can be clicked; a button TGX_BACK returns to the previous screen "
@@ -256,19 +249,17 @@ const CheckRow rows[] = {
      "you mean \"MESSAGEBOXTITEL\"? [missing-box-part]\n"},
     {"missing pictures",
      "SCREEN \"A\" 0 0 640 480 \"none.bmp\"\nBEGIN\n  BITMAP \"static\" 0 0 9 9 \"text.png\"\n  BITMAP \"B\" "
-     "9 "
-     "9 9 9 \"ONE.BMP\"\nEND",
+     "9 9 9 9 \"ONE.BMP\"\nEND",
      "a.tgs:1:24: error: no picture \"none.bmp\" in the data directory; did you mean "
      "\"one.bmp\"? [missing-bitmap]\n"
      "a.tgs:3:27: error: \"text.png\" cannot be read as a picture [missing-bitmap]\n"},
     {"strips that are too small",
      "WINDOW \"A\" 0 0 200 200\nBEGIN\n  BITMAP \"B\" 0 0 20 10 \"three.bmp\" 20 10 1 4\n  BITMAP \"C\" 30 0 "
-     "20 "
-     "10 \"three.bmp\" 20 10 1 3\n  BUTTON \"D\" 60 0 20 10 \"\" 0 0 \"one.bmp\"\n  BUTTON \"E\" 90 0 20 10 "
-     "\"\" "
-     "0 0 \"three.bmp\"\n  VSCROLLBAR \"F\" 0 30 20 90 \"three.bmp\" 20 10\n  PROGRESSBAR \"G\" 30 30 40 10 "
-     "\"one.bmp\" 40 10\n  WINDOW \"H\" 30 60 99 99\n  BEGIN\n    BORDER \"eight.bmp\" 4 9\n  END\n  WINDOW "
-     "\"I\" 30 60 99 99\n  BEGIN\n    BORDER \"eight.bmp\" 4 8\n  END\n  TABORDER \"D\" \"E\" \"F\"\nEND",
+     "20 10 \"three.bmp\" 20 10 1 3\n  BUTTON \"D\" 60 0 20 10 \"\" 0 0 \"one.bmp\"\n  BUTTON \"E\" 90 0 20 "
+     "10 \"\" 0 0 \"three.bmp\"\n  VSCROLLBAR \"F\" 0 30 20 90 \"three.bmp\" 20 10\n  PROGRESSBAR \"G\" 30 "
+     "30 40 10 \"one.bmp\" 40 10\n  WINDOW \"H\" 30 60 99 99\n  BEGIN\n    BORDER \"eight.bmp\" 4 9\n  END\n "
+     " WINDOW \"I\" 30 60 99 99\n  BEGIN\n    BORDER \"eight.bmp\" 4 8\n  END\n  TABORDER \"D\" \"E\" \"F\"\n"
+     "END",
      "a.tgs:3:24: error: \"three.bmp\" is 63 x 10 pixels, too small for 4 frames of 20 x 10 that \"B\" uses; "
      "a row of them is 84 x 10 [strip-too-small]\n"
      "a.tgs:5:32: error: \"one.bmp\" is 20 x 10 pixels, too small for 3 frames of 20 x 10 that \"D\" uses; a "
@@ -281,11 +272,10 @@ const CheckRow rows[] = {
      "row of them is 80 x 9 [strip-too-small]\n"},
     {"tabs and pages",
      "WINDOW \"W\" 0 0 400 400\nBEGIN\n  TABCONTROL \"T\" 0 0 200 200\n  BEGIN\n    RADIOBUTTON \"A\" 0 0 50 "
-     "20 "
-     "\"\"\n    RADIOBUTTON \"B\" 50 0 50 20 \"\"\n    WINDOW \"P\" 0 20 200 180\n  END\n  TABCONTROL \"U\" "
-     "0 200 "
-     "200 200\n  BEGIN\n    RADIOBUTTON \"C\" 0 0 50 20 \"\"\n    WINDOW \"Q\" 0 20 200 180\n    RADIOBUTTON "
-     "\"D\" 50 0 50 20 \"\"\n    WINDOW \"R\" 0 20 200 180\n  END\n  TABORDER \"A\" \"C\" \"D\"\nEND",
+     "20 \"\"\n    RADIOBUTTON \"B\" 50 0 50 20 \"\"\n    WINDOW \"P\" 0 20 200 180\n  END\n  TABCONTROL "
+     "\"U\" 0 200 200 200\n  BEGIN\n    RADIOBUTTON \"C\" 0 0 50 20 \"\"\n    WINDOW \"Q\" 0 20 200 180\n    "
+     "RADIOBUTTON \"D\" 50 0 50 20 \"\"\n    WINDOW \"R\" 0 20 200 180\n  END\n  TABORDER \"A\" \"C\" \"D\"\n"
+     "END",
      "a.tgs:3:3: error: \"T\" has 2 tabs and 1 page [tab-pages]\n"
      "a.tgs:9:3: error: tabs and pages of \"U\" are mixed; put all tabs before or after all pages "
      "[tab-pages]\n"
@@ -293,19 +283,16 @@ const CheckRow rows[] = {
      "[radio-group]\n"},
     {"a radio group with a window in it, and two groups side by side",
      "WINDOW \"W\" 0 0 400 400\nBEGIN\n  RADIOBUTTON \"SKY_A\" 0 0 50 20 \"\"\n  RADIOBUTTON \"SKY_B\" 0 20 "
-     "50 20 "
-     "\"\"\n  WINDOW \"static\" 60 0 9 9\n  RADIOBUTTON \"SKY_C\" 0 40 50 20 \"\"\n  WINDOW \"static\" 200 0 "
-     "9 "
-     "9\n  RADIOBUTTON \"SEA_A\" 200 20 50 20 \"\"\n  RADIOBUTTON \"SEA_B\" 200 40 50 20 \"\"\n  TABORDER "
-     "\"SKY_A\" \"SKY_C\" \"SEA_A\"\nEND",
+     "50 20 \"\"\n  WINDOW \"static\" 60 0 9 9\n  RADIOBUTTON \"SKY_C\" 0 40 50 20 \"\"\n  WINDOW \"static\" "
+     "200 0 9 9\n  RADIOBUTTON \"SEA_A\" 200 20 50 20 \"\"\n  RADIOBUTTON \"SEA_B\" 200 40 50 20 \"\"\n  "
+     "TABORDER \"SKY_A\" \"SKY_C\" \"SEA_A\"\nEND",
      "a.tgs:6:3: warning: \"SKY_C\" starts a new group: the plain window of line 5 separates it from "
      "\"SKY_B\" [radio-group]\n"},
 
     {"duplicate ids",
      "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  BITMAP \"B\" 0 0 9 9 \"\"\n  WINDOW \"C\" 0 0 99 99\n  BEGIN\n "
-     "   "
-     "BITMAP \"b\" 0 0 9 9 \"\"\n    BITMAP \"static\" 0 0 9 9 \"\"\n    BITMAP \"static\" 0 0 9 9 \"\"\n  "
-     "END\nEND\nSCREEN \"C\" 0 0 640 480 \"wide.bmp\"\nSCREEN \"A\" 0 0 640 480 \"wide.bmp\"",
+     "   BITMAP \"b\" 0 0 9 9 \"\"\n    BITMAP \"static\" 0 0 9 9 \"\"\n    BITMAP \"static\" 0 0 9 9 \"\"\n "
+     " END\nEND\nSCREEN \"C\" 0 0 640 480 \"wide.bmp\"\nSCREEN \"A\" 0 0 640 480 \"wide.bmp\"",
      "a.tgs:4:10: warning: reading the window \"C\", which is defined in line 11, starts here; use another "
      "name here [name-taken]\n"
      "a.tgs:6:5: warning: another window \"b\" is already in \"A\", in line 3, and is found first "
@@ -324,22 +311,17 @@ const CheckRow rows[] = {
      "[reserved-id]\n"},
     {"controls that no key reaches",
      "WINDOW \"A\" 0 0 90 90\nBEGIN\n  BUTTON \"B\" 0 0 90 20 \"\"\nEND\nWINDOW \"C\" 0 0 90 90\nBEGIN\n  "
-     "BUTTON "
-     "\"D\" 0 0 90 20 \"\"\n  EDITBOX \"E\" 0 20 90 20 \"\"\n  BUTTON \"TGX_CLOSE\" 0 40 90 20 \"\"\n  "
-     "TABORDER "
-     "\"D\"\nEND",
+     "BUTTON \"D\" 0 0 90 20 \"\"\n  EDITBOX \"E\" 0 20 90 20 \"\"\n  BUTTON \"TGX_CLOSE\" 0 40 90 20 \"\"\n "
+     " TABORDER \"D\"\nEND",
      "a.tgs:1:1: warning: no key reaches the control in \"A\", \"B\"; add them to a TABORDER at the end of "
      "its block [unreachable]\n"
      "a.tgs:8:3: warning: no key reaches \"E\": no TABORDER of \"C\" names it [unreachable]\n"},
     {"texts that do not fit",
      "WINDOW \"A\" 0 0 400 400\nBEGIN\n  TEXTWND \"B\" 0 0 40 20 \"a long text\"\n  TEXTWND \"C\" 0 20 40 60 "
-     "\"a "
-     "long text of many words that goes on\"\n  BEGIN\n    TEXTWRAP 1\n  END\n  TEXTWND \"D\" 0 80 40 60 "
-     "\"two "
-     "lines\"\n  BEGIN\n    TEXTWRAP 1\n  END\n  TEXTWND \"E\" 0 140 40 20 \"a long text\"\n  BEGIN\n    "
-     "TEXTRAW "
-     "1\n  END\n  TEXTWND \"F\" 0 160 90 4 \"low\"\n  COMBOBOX \"G\" 0 180 40 20 \"\"\n  BEGIN\n    ITEM "
-     "\"short\"\n    ITEM \"a long item\"\n  END\n  TABORDER \"G\"\nEND",
+     "\"a long text of many words that goes on\"\n  BEGIN\n    TEXTWRAP 1\n  END\n  TEXTWND \"D\" 0 80 40 60 "
+     "\"two lines\"\n  BEGIN\n    TEXTWRAP 1\n  END\n  TEXTWND \"E\" 0 140 40 20 \"a long text\"\n  BEGIN\n  "
+     "  TEXTRAW 1\n  END\n  TEXTWND \"F\" 0 160 90 4 \"low\"\n  COMBOBOX \"G\" 0 180 40 20 \"\"\n  BEGIN\n   "
+     " ITEM \"short\"\n    ITEM \"a long item\"\n  END\n  TABORDER \"G\"\nEND",
      "a.tgs:3:25: warning: the text of \"B\" is 54 pixels wide in font 0, but its box has 40 [text-clipped]\n"
      "a.tgs:4:26: warning: the text of \"C\" does not fit into 40 x 60 pixels in font 0: it is cut before "
      "\"that goes on\" [text-clipped]\n"
@@ -348,16 +330,14 @@ const CheckRow rows[] = {
      "40 [text-clipped]\n"},
     {"a cell that is wider than its column",
      "WINDOW \"A\" 0 0 400 400\nBEGIN\n  LISTBOX \"L\" 0 0 110 90\n  BEGIN\n    COLUMNS 40 40\n    ITEM "
-     "\"short\" "
-     "\"also\"\n    ITEM \"short\" \"a long text\"\n  END\n  TABORDER \"L\"\nEND",
+     "\"short\" \"also\"\n    ITEM \"short\" \"a long text\"\n  END\n  TABORDER \"L\"\nEND",
      "a.tgs:7:18: warning: the text \"a long text\" in row 1 of \"L\" is 54 pixels wide in font 0, but "
      "column 1 has 40 [text-clipped]\n"},
     {"windows outside of their parents",
      "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  BITMAP \"B\" -20 0 40 40 \"\"\n  BITMAP \"C\" 640 0 9 9 \"\"\n "
-     " "
-     "BUTTON \"D\" 600 470 80 20 \"\"\n  TEXTWND \"E\" 0 -1 90 20 \"text\"\n  USERDEF \"F\" 700 0 90 90\n  "
-     "BEGIN\n "
-     "   TEXTWND \"G\" 0 0 90 20 \"text\"\n  END\n  TABORDER \"D\"\nEND\nWINDOW \"POPUP\" 0 0 641 100",
+     " BUTTON \"D\" 600 470 80 20 \"\"\n  TEXTWND \"E\" 0 -1 90 20 \"text\"\n  USERDEF \"F\" 700 0 90 90\n  "
+     "BEGIN\n    TEXTWND \"G\" 0 0 90 20 \"text\"\n  END\n  TABORDER \"D\"\nEND\nWINDOW \"POPUP\" 0 0 641 "
+     "100",
      "a.tgs:4:3: warning: \"C\" is outside \"A\" (640 x 480) [outside-parent]\n"
      "a.tgs:5:3: warning: \"D\" extends beyond \"A\" (640 x 480) by 40 pixels on the right and 10 below; the "
      "part outside takes no clicks [outside-parent]\n"
@@ -365,20 +345,16 @@ const CheckRow rows[] = {
      "a.tgs:13:1: warning: \"POPUP\" is 641 x 100, larger than the screen of 640 x 480 [outside-parent]\n"},
     {"windows that others cover",
      "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"B\" 0 0 90 20 \"\"\n  TEXTWND \"C\" 0 0 90 20 "
-     "\"label\"\n  "
-     "BUTTON \"D\" 0 20 90 20 \"\"\n  TEXTWND \"E\" 0 20 90 20 \"label\"\n  BEGIN\n    ENABLED 0\n  END\n  "
-     "TEXTWND "
-     "\"F\" 110 10 90 20 \"note\"\n  BITMAP \"G\" 100 0 400 300 \"wide.bmp\"\n  TEXTWND \"H\" 110 10 90 20 "
-     "\"note\"\n  TEXTWND \"I\" 0 400 90 20 \"note\"\n  BITMAP \"J\" 0 390 400 40 \"wide.bmp\"\n  BEGIN\n    "
-     "BMPBLITMODE 2\n  END\n  TABORDER \"B\" \"D\"\nEND",
+     "\"label\"\n  BUTTON \"D\" 0 20 90 20 \"\"\n  TEXTWND \"E\" 0 20 90 20 \"label\"\n  BEGIN\n    ENABLED "
+     "0\n  END\n  TEXTWND \"F\" 110 10 90 20 \"note\"\n  BITMAP \"G\" 100 0 400 300 \"wide.bmp\"\n  TEXTWND "
+     "\"H\" 110 10 90 20 \"note\"\n  TEXTWND \"I\" 0 400 90 20 \"note\"\n  BITMAP \"J\" 0 390 400 40 "
+     "\"wide.bmp\"\n  BEGIN\n    BMPBLITMODE 2\n  END\n  TABORDER \"B\" \"D\"\nEND",
      "a.tgs:3:3: warning: \"B\" is completely covered by \"C\" of line 4, which takes its clicks [covered]\n"
      "a.tgs:10:3: warning: \"F\" cannot be seen: \"G\" of line 11 covers it [covered]\n"},
     {"sizes of 0",
      "WINDOW \"A\" 0 0 90 90\nBEGIN\n  BORDER \"eight.bmp\" 0 8\n  BUTTON \"B\" 0 0 90 0 \"\"\n  BITMAP "
-     "\"C\" 0 0 9 "
-     "9 \"three.bmp\" 0 0 1 3\n  HSCROLLBAR \"D\" 0 0 90 20 \"three.bmp\" 0 0\n  TABORDER \"B\" "
-     "\"D\"\nEND\nWINDOW "
-     "\"E\" 0 0 90 90\nBEGIN\n  BORDER \"eight.bmp\" 8 0\nEND",
+     "\"C\" 0 0 9 9 \"three.bmp\" 0 0 1 3\n  HSCROLLBAR \"D\" 0 0 90 20 \"three.bmp\" 0 0\n  TABORDER \"B\" "
+     "\"D\"\nEND\nWINDOW \"E\" 0 0 90 90\nBEGIN\n  BORDER \"eight.bmp\" 8 0\nEND",
      "a.tgs:3:22: warning: with this width the border's pieces cover the picture [zero-size]\n"
      "a.tgs:4:21: warning: a control of this size cannot be clicked [zero-size]\n"
      "a.tgs:5:34: warning: a strip of several frames needs the size of one [zero-size]\n"
@@ -386,18 +362,15 @@ const CheckRow rows[] = {
      "a.tgs:11:24: warning: a border with pieces of this size is not drawn [zero-size]\n"},
     {"overridden lines",
      "WINDOW \"A\" 0 0 90 90\nBEGIN\n  TEXTRAW 1\n  BMPINFO 9 9 1 1\n  BMPFILE \"one.bmp\"\n  FONT 0\n  "
-     "TEXTWND "
-     "\"B\" 0 0 90 20 \"\"\n  BEGIN\n    FONT 0\n  END\n  FONT 0\n  TEXTRAW 0\nEND",
+     "TEXTWND \"B\" 0 0 90 20 \"\"\n  BEGIN\n    FONT 0\n  END\n  FONT 0\n  TEXTRAW 0\nEND",
      "a.tgs:3:3: warning: TEXTRAW is overridden by the same statement in line 12 [no-effect]\n"
      "a.tgs:4:3: warning: BMPINFO sets a frame size that is reset by the BMPFILE in line 5 [no-effect]\n"},
     {"a line without arguments",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  GRAPH \"G\" 0 0 90 90\n  BEGIN\n    "
-     "GRAPHINFO\n  END\nEND",
+     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  GRAPH \"G\" 0 0 90 90\n  BEGIN\n    GRAPHINFO\n  END\nEND",
      "a.tgs:5:5: warning: GRAPHINFO without arguments does nothing [no-effect]\n"},
     {"allowances",
      "# tgx: allow no-effect zero-size\nWINDOW \"A\" 0 0 90 90\nBEGIN\n  # tgx: allow zero-size no-efect\n\n "
-     " # "
-     "why\n  BORDER \"eight.bmp\" 0 8\n  BORDER \"eight.bmp\" 0 8\nEND",
+     " # why\n  BORDER \"eight.bmp\" 0 8\n  BORDER \"eight.bmp\" 0 8\nEND",
      "a.tgs:1:14: warning: nothing to allow: the next line has no finding no-effect [unused-allowance]\n"
      "a.tgs:1:24: warning: nothing to allow: the next line has no finding zero-size [unused-allowance]\n"
      "a.tgs:4:26: warning: there is no code no-efect; did you mean \"no-effect\"? [unknown-code]\n"
@@ -405,8 +378,7 @@ const CheckRow rows[] = {
      "a.tgs:8:22: warning: with this width the border's pieces cover the picture [zero-size]\n"},
     {"an allowance in an included file",
      "INCLUDE \"b.inc\"\nINCLUDE \"b.inc\"\n== b.inc\nWINDOW \"static\" 0 0 9 9\nBEGIN\n  # tgx: allow "
-     "zero-size\n  "
-     "BORDER \"eight.bmp\" 0 8\n  LISTLOOK 0\nEND",
+     "zero-size\n  BORDER \"eight.bmp\" 0 8\n  LISTLOOK 0\nEND",
      "b.inc:5:3: error: LISTLOOK acts on a list box, but this is a plain window [wrong-window]\n"
      "b.inc:5:12: warning: rows of height 0 count as 1; a negative height keeps the current one "
      "[zero-size]\n"},
@@ -442,9 +414,8 @@ const CheckRow rows[] = {
     {"a recursive subroutine, and others nested too deeply",
      chain(70, 1) +
          "\nSUBROUTINE \"R\"\nBEGIN\nGOTO \"R\"\nEND\nWINDOW \"V\" 0 0 9 9\nBEGIN\nGOTO \"R\"\nEND",
-     "a.tgs:255:6: error: calls of subroutines are nested more than 64 deep here "
-     "[limit-exceeded]\na.tgs:287:6: "
-     "error: the subroutine calls itself: \"R\" -> \"R\" [recursive-subroutine]\n"},
+     "a.tgs:255:6: error: calls of subroutines are nested more than 64 deep here [limit-exceeded]\n"
+     "a.tgs:287:6: error: the subroutine calls itself: \"R\" -> \"R\" [recursive-subroutine]\n"},
     {"a font in too many blocks",
      repeated(21, "WINDOW \"static\" 0 0 9 9\nBEGIN\n") + "ADDFONT \"\" \"\" 9\n" + repeated(21, "END\n"),
      "a.tgs:41:1: error: WINDOW is inside 20 blocks; at most 19 are allowed [too-deep]\n"},
@@ -464,8 +435,7 @@ const CheckRow rows[] = {
      "[unknown-keyword]\n"},
     {"a broken script, and one that uses it",
      "FRAME 1\nSUBROUTINE \"S\"\nBEGIN\nEND\n== b.tgs\nWINDOW \"W\" 0 0 9 9\nBEGIN\n  GOTO \"T\" \"a.tgx\"\n "
-     " "
-     "TABORDER \"MADE_BY_T\"\nEND",
+     " TABORDER \"MADE_BY_T\"\nEND",
      "a.tgs:1:1: error: unknown keyword FRAME [unknown-keyword]\n"},
 };
 

@@ -279,7 +279,7 @@ TEST_F(OnlineTest, ARatingKeepsItsFractionsAndIsCopiedCompletely)
 
 TEST_F(OnlineTest, TheExitClosesTheConnection)
 {
-    start("SCREEN \"S\" 0 0 640 480 \"\"\n");
+    start("SCREEN 'S' 0 0 640 480 ''");
     g_Connection.ConnectionStatus(CS_CONNECTED);
     play("frame 2");
     win().exitProgram();

@@ -43,15 +43,9 @@ protected:
 
     void SetUp() override
     {
-        start(R"(
-SCREEN "MENU" 0 0 640 480 "" "notes"
-BEGIN
-  WINDOW "BOX" 10 20 100 50
-  BEGIN
-    TEXTWND "12" 5 5 50 20 "caf\xE9 \"x\"\\n" 0 0
-  END
-END
-)");
+        start(R"(SCREEN 'MENU' 0 0 640 480 '' 'notes' {
+              WINDOW 'BOX' 10 20 100 50 { TEXTWND '12' 5 5 50 20 'caf\xE9 \"x\"\\n' 0 0 }
+            })");
         wnd("MENU")->addChildWindow(new Dial(AWnd::WND_PLAIN, "DIAL", 200, 200, 30, 30));
     }
 };
@@ -59,8 +53,7 @@ END
 TEST_F(CallsTest, ArgumentsAndResultsOfEachKind)
 {
     const struct {
-        const char* call;
-        const char* value;
+        const char *call, *value;
     } rows[] = {
         {"BOX left", "10"},
         {"box left", "10"}, // look-ups ignore case
@@ -127,8 +120,7 @@ TEST_F(CallsTest, ArgumentsAndResultsOfEachKind)
 TEST_F(CallsTest, AWrongCallIsRefusedWithTheReason)
 {
     const struct {
-        const char* line;
-        const char* reason;
+        const char *line, *reason;
     } rows[] = {
         {"call OKAY left", "no window \"OKAY\"; the screen \"MENU\" has BOX, 12 and DIAL"},
         {"call \"\" left", "no window \"\"; the screen \"MENU\" has BOX, 12 and DIAL"},

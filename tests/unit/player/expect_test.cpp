@@ -9,26 +9,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const char* const menu = R"(
-SCREEN "MENU" 0 0 64 48 ""
-BEGIN
-  WINDOW "PANEL" 0 0 60 40
-  BEGIN
-    BUTTON "OK" 0 0 20 20 "Go"
-  END
-  CHECKBOX "TICK" 0 20 20 20 ""
-  COMBOBOX "CHOICE" 20 0 20 20 ""
-  LISTBOX "LIST" 20 20 20 80
-  BEGIN
-    COLUMNS 20 LEFT
-  END
-END
-SCREEN "OPTIONS" 0 0 64 48 ""
-BEGIN
-  WINDOW "FAR" 0 0 10 10
-END
-WINDOW "QUERY" 0 0 20 20
-)";
+const char* const menu = R"(SCREEN 'MENU' 0 0 64 48 '' {
+      WINDOW 'PANEL' 0 0 60 40 { BUTTON 'OK' 0 0 20 20 'Go' }; CHECKBOX 'TICK' 0 20 20 20 ''
+      COMBOBOX 'CHOICE' 20 0 20 20 ''; LISTBOX 'LIST' 20 20 20 80 { COLUMNS 20 LEFT }
+    }
+    SCREEN 'OPTIONS' 0 0 64 48 '' { WINDOW 'FAR' 0 0 10 10 }; WINDOW 'QUERY' 0 0 20 20)";
 
 class ExpectTest : public TgxTest {
 protected:
@@ -82,8 +67,7 @@ TEST_F(ExpectTest, EachExpectationHoldsOrReportsWhatWasFound)
     box->setSelectedItem(2);
     play("frame", "call TICK setSelected 1");
     const struct {
-        const char* given;
-        const char* expectation;
+        const char *given, *expectation;
         const char* found; // "" if the expectation holds
     } rows[] = {
         {"", "active menu", ""},
@@ -138,8 +122,7 @@ TEST_F(ExpectTest, AWrongExpectationIsRefusedWithTheReason)
 {
     start("", 64, 48);
     const struct {
-        const char* line;
-        const char* reason;
+        const char *line, *reason;
     } rows[] = {
         {"expect", "expected expect EXPECTATION, found 0 words after expect"},
         {"expect activ MENU", "no expectation \"activ\"; did you mean active?"},
@@ -186,8 +169,7 @@ TEST_F(ExpectTest, AWaitRunsFramesUntilItHolds)
 TEST_F(ExpectTest, TheRunContinuesAfterAFailureAndAWrongLineEndsItsPart)
 {
     const struct {
-        const char* name;
-        const char* events;
+        const char *name, *events;
         const char* messages; // on stderr
         const char* values;   // that calls print
         PlayStatus status;
@@ -263,8 +245,7 @@ TEST_F(ExpectTest, AnIncludedFileIsPlayedInPlace)
         "LIST\n");
     EXPECT_EQ(out.str(), "1: 0\n1: 0\n4: 20\n");
     const struct {
-        const char* line;
-        const char* reason;
+        const char *line, *reason;
     } rows[] = {
         {"include gone.part", "cannot read the events file \"gone.part\""},
         {"include steps", "cannot read the events file \"steps\""},

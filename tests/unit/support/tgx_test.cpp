@@ -71,10 +71,56 @@ std::string makeBmp(int width, int height, ColourAt colourAt)
 
 } // namespace
 
+std::string joined(const std::vector<std::string>& texts, const std::string& separator)
+{
+    std::string all;
+    for (const std::string& text : texts)
+        all += (&text == &texts.front() ? "" : separator) + text;
+    return all;
+}
+
+std::vector<std::string> parts(const std::string& text, char separator)
+{
+    std::vector<std::string> all;
+    std::istringstream stream(text);
+    for (std::string part; std::getline(stream, part, separator);)
+        all.push_back(part);
+    return all;
+}
+
+std::string scriptLines(const std::string& text)
+{
+    std::string lines = "\n";
+    const auto endLine = [&] {
+        if (lines.back() != '\n')
+            lines += '\n';
+    };
+    char quote = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char each = text[i];
+        if (quote ? each == quote : each == '"' || each == '\'') {
+            quote = quote ? 0 : each;
+            lines += '"';
+        } else if (quote) {
+            lines += each;
+            if (each == '\\' && i + 1 < text.size())
+                lines += text[++i];
+        } else if (each == '{' || each == '}') {
+            endLine();
+            lines += each == '{' ? "BEGIN\n" : "END\n";
+        } else if (each == ';' || each == '\n') {
+            endLine();
+        } else if (each != ' ' || lines.back() != '\n') {
+            lines += each;
+        }
+    }
+    return lines.substr(1);
+}
+
 std::string assembleScript(const std::string& text)
 {
     std::string bytes;
-    std::istringstream lines(text);
+    std::istringstream lines(scriptLines(text));
     for (std::string line; std::getline(lines, line);) {
         std::vector<Word> words = splitWords(line);
         if (words.empty())
@@ -210,6 +256,18 @@ void TgxTest::hear(const CString& message)
 void TgxTest::playLine(const std::string& line)
 {
     EXPECT_EQ(playWrong(line), "") << "in the events line: " << line;
+}
+
+void TgxTest::playEach(const std::string& lines, const std::string& step)
+{
+    for (const std::string& line : parts(lines, ','))
+        play(line, step);
+}
+
+void TgxTest::click(int x, int y)
+{
+    play("move " + std::to_string(x) + " " + std::to_string(y));
+    click();
 }
 
 std::string TgxTest::playWrong(const std::string& line)

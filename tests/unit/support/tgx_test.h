@@ -36,6 +36,9 @@ private:
     bool addsScreen = false;
 };
 
+std::string joined(const std::vector<std::string>& texts, const std::string& separator = " ");
+std::vector<std::string> parts(const std::string& text, char separator = ' ');
+
 /// A test with its own data directory, a main window on a headless host, virtual time, and the events
 /// language. It fails if a message was not expected with expectMessage, or if an expected message was not
 /// reported.
@@ -48,8 +51,8 @@ protected:
 
     /// Writes a file in the data directory and makes its folders.
     void write(const std::string& name, const std::string& bytes);
-    /// Writes UIG/name, assembled from text: one statement per line, with keywords, numbers and "strings".
-    /// Does not check the statements, so that tests can write wrong ones.
+    /// Writes UIG/name, assembled from text: statements with keywords, numbers and "strings", in the form of
+    /// scriptLines. Does not check the statements, so that tests can write wrong ones.
     void script(const std::string& text, const std::string& name = "script.tgx");
     /// Writes a 24-bit BMP. colour: 0xRRGGBB.
     void bitmap(const std::string& name, int width, int height, unsigned colour = 0x808080);
@@ -68,6 +71,11 @@ protected:
     {
         (playLine(lines), ...);
     }
+    /// Runs events lines separated by commas, each followed by the line step.
+    void playEach(const std::string& lines, const std::string& step = "");
+    /// Moves the pointer there, presses the left button and releases it, with a tick for each.
+    void click(int x, int y);
+    void click() { play("press left", "tick", "release left", "tick"); }
     /// Runs an events line and returns its error message, or "" if it succeeds.
     std::string playWrong(const std::string& line);
     /// Returns the value of `call LINE`, as JSON.
@@ -79,8 +87,9 @@ protected:
     AScreen* screen(const std::string& id) { return static_cast<AScreen*>(wnd(id)); }
     /// Returns the id of the deepest usable window of the active screen or popup at the point, or null.
     const char* idAt(int x, int y);
-    /// Returns the ids clicked since the last call.
-    std::vector<std::string> clicks() { return std::exchange(win().clicks, {}); }
+    /// Returns the ids clicked since the last call, as in "A B".
+    std::string clicks() { return joined(std::exchange(win().clicks, {})); }
+    std::string pointer() { return std::to_string(win().mouseX) + " " + std::to_string(win().mouseY); }
     /// Draws the window with its children and returns the trace.
     Trace drawn(const std::string& id);
     /// Returns the trace of the last frame.
@@ -89,7 +98,6 @@ protected:
     void measureFont(int index, int advance = 10, int lineHeight = 16, int charHeight = 12);
     std::string readOutput(const std::string& name);
 
-    const std::vector<std::string> none;
     std::filesystem::path data; // the data directory
     std::filesystem::path outputs;
     PlayOptions options;
@@ -104,6 +112,11 @@ private:
     std::unique_ptr<Player> player;
     TestMainWin* mainWin = nullptr; // owned by player
 };
+
+/// Returns the text with one statement per line, "strings", and no empty lines. In the short form a semicolon
+/// ends a statement as a line end does, { and } are the lines BEGIN and END, and strings may have single
+/// quotes.
+std::string scriptLines(const std::string& text);
 
 /// Returns the bytes of a compiled script, from text as for TgxTest::script.
 std::string assembleScript(const std::string& text);

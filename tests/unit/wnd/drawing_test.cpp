@@ -13,10 +13,7 @@ protected:
         bitmap("border.bmp", 71, 8);
         strip("strip.bmp", 40, 20, 2); // 81 wide: wider than two frames, so it continues in rows
         strip("row.bmp", 39, 20, 2);
-        start("SCREEN \"S\" 0 0 640 480 \"\"\n"
-              "BEGIN\n"
-              "  BITMAP \"PIC\" 10 20 300 100 \"tile.bmp\" 128 64 0 1\n"
-              "END\n");
+        start("SCREEN 'S' 0 0 640 480 '' { BITMAP 'PIC' 10 20 300 100 'tile.bmp' 128 64 0 1 }");
         play("frame 10");
     }
     AWnd* pic() { return wnd("PIC"); }
@@ -126,8 +123,7 @@ TEST_F(DrawingTest, FramesAdvanceTickByTick)
 TEST_F(DrawingTest, FramePositionsInAStrip)
 {
     const struct {
-        const char* name;
-        const char* strip;
+        const char *name, *strip;
         int frameWidth, frame, srcX, srcY;
     } rows[] = {
         {"a strip of two frames is one row, and the source offset is added", "row.bmp", 40, 1, 41 + 7, 9},
@@ -232,7 +228,7 @@ TEST_F(EarlyWindowTest, AWindowMadeBeforeTheMainWindowGetsItsPictureAndFont)
     auto* early = new AWnd(AWnd::WND_PLAIN, "EARLY", 10, 20, 128, 64);
     early->setBmp(CString("tile.bmp"));
     early->setWindowText("hello");
-    start("SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nWINDOW \"W\" 0 0 9 9\nEND\n");
+    start("SCREEN 'S' 0 0 640 480 '' { WINDOW 'W' 0 0 9 9 }");
     wnd("W")->addChildWindow(early);
     wnd("S")->startup();
     EXPECT_NE(early->getBmp(), nullptr);

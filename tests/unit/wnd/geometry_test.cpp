@@ -6,18 +6,12 @@ class GeometryTest : public TgxTest {
 protected:
     void SetUp() override
     {
-        start("SCREEN \"S\" 0 0 640 480 \"\"\n"
-              "BEGIN\n"
-              "  WINDOW \"PANEL\" 100 100 200 200\n"
-              "  BEGIN\n"
-              "    WINDOW \"UNDER\" 10 20 80 80\n"
-              "    WINDOW \"TOP\" 50 50 100 100\n"
-              "    BEGIN\n"
-              "      WINDOW \"LEAF\" 10 10 20 20\n"
-              "      WINDOW \"STICKSOUT\" 90 0 50 20\n"
-              "    END\n"
-              "  END\n"
-              "END\n");
+        start(R"(SCREEN 'S' 0 0 640 480 '' {
+              WINDOW 'PANEL' 100 100 200 200 {
+                WINDOW 'UNDER' 10 20 80 80
+                WINDOW 'TOP' 50 50 100 100 { WINDOW 'LEAF' 10 10 20 20; WINDOW 'STICKSOUT' 90 0 50 20 }
+              }
+            })");
     }
 };
 
@@ -42,9 +36,7 @@ TEST_F(GeometryTest, TheDeepestUsableWindowUnderThePointIsHit)
     const struct {
         const char* name;
         int x, y;
-        const char* disabled;
-        const char* hidden;
-        const char* hit;
+        const char *disabled, *hidden, *hit;
     } rows[] = {
         {"a later window is on top", 170, 170, nullptr, nullptr, "LEAF"},
         {"the point passes through a disabled window to its parent", 170, 170, "LEAF", nullptr, "TOP"},
@@ -89,8 +81,7 @@ TEST_F(GeometryTest, Centring)
     AWnd* leaf = wnd("LEAF"); // 20 x 20, in TOP, which is 100 x 100 at 150, 150
     const struct {
         const char* name;
-        int width, horizontal, vertical, inParent;
-        int x, y;
+        int width, horizontal, vertical, inParent, x, y;
     } rows[] = {
         {"on the screen, wherever the parent is", 20, 1, 1, 0, 160, 80},
         {"one axis does not change the other", 20, 1, 0, 0, 160, 10},

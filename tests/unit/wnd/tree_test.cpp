@@ -4,28 +4,14 @@
 
 namespace {
 
-const char* const twoScreens = R"(
-ADDFONT "none.ttf" "" 12 0
-SCREEN "A" 0 0 640 480 ""
-BEGIN
-  WINDOW "OkButton" 0 0 50 50
-  WINDOW "static" 0 0 50 50
-  BEGIN
-    WINDOW "DEEP" 0 0 10 10
-    WINDOW "TWICE" 0 0 10 10
-  END
-  WINDOW "twice" 100 0 50 50
-  WINDOW "P" 0 100 20 20
-  WINDOW "Q" 50 100 20 20
-  WINDOW "R" 100 100 20 20
-  TABORDER "P" "Q" "R"
-END
-SCREEN "B" 0 0 640 480 ""
-BEGIN
-  POINTER "DEEP" "script.tgx"
-  WINDOW "TGX_BACK" 0 0 50 50
-END
-)";
+const char* const twoScreens = R"(ADDFONT 'none.ttf' '' 12 0
+    SCREEN 'A' 0 0 640 480 '' {
+      WINDOW 'OkButton' 0 0 50 50
+      WINDOW 'static' 0 0 50 50 { WINDOW 'DEEP' 0 0 10 10; WINDOW 'TWICE' 0 0 10 10 }
+      WINDOW 'twice' 100 0 50 50; WINDOW 'P' 0 100 20 20; WINDOW 'Q' 50 100 20 20
+      WINDOW 'R' 100 100 20 20; TABORDER 'P' 'Q' 'R'
+    }
+    SCREEN 'B' 0 0 640 480 '' { POINTER 'DEEP' 'script.tgx'; WINDOW 'TGX_BACK' 0 0 50 50 })";
 
 class TreeTest : public TgxTest {
 protected:
@@ -107,12 +93,9 @@ TEST_F(TreeTest, TabStops)
 {
     AWnd* a = wnd("A");
     const struct {
-        const char* name;
-        const char* from;
+        const char *name, *from;
         int backwards;
-        const char* disabled;
-        const char* hidden;
-        const char* next;
+        const char *disabled, *hidden, *next;
     } rows[] = {
         {"forwards", "P", 0, "", "", "Q"},
         {"wrapping", "R", 0, "", "", "P"},
@@ -164,9 +147,7 @@ TEST_F(TreeTest, AReleasedChildBelongsToTheCaller)
 TEST_F(TreeTest, NoWindowCanBePutInsideItself)
 {
     const struct {
-        const char* name;
-        const char* holder;
-        const char* added;
+        const char *name, *holder, *added;
     } rows[] = {
         {"itself", "P", "P"},
         {"its parent", "TWICE", "A"},
@@ -245,8 +226,7 @@ TEST_F(TreeTest, AWalkVisitsEveryChildWhateverIsDeleted)
         {"key", [](AWnd& holder) { holder.handleMouseAction("", nullptr, -1, -1, AWnd::MA_KEY); }},
     };
     const struct {
-        const char* victim;
-        const char* visits;
+        const char *victim, *visits;
     } rows[] = {{"A1", "A1B1C1D1"}, {"B1", "A1B1C1D1"}, {"C1", "A1B1D1"}, {"H", "A1B1"}};
     for (const auto& walk : walks) {
         for (const auto& row : rows) {
@@ -268,29 +248,13 @@ TEST_F(TreeTest, AWalkVisitsEveryChildWhateverIsDeleted)
 // deletions and a change of screen.
 TEST_F(TreeTest, AnyWindowMayBeDeletedAtAnyTime)
 {
-    const std::vector<std::string> sequence = {
-        "frame 6",
-        "move 5 5",
-        "press left",
-        "frame",
-        "call main setPopupWnd \"B\" \"P\" 1",
-        "release left",
-        "frame",
-        "move 300 300",
-        "frame",
-        "call main setMouseCaptureWnd R",
-        "frame",
-        "call main setMouseCaptureWnd null",
-        "change B",
-        "frame 3",
-        "frame 3",
-        "key esc",
-        "frame",
-        "key return",
-        "frame 8",
-    };
-    const std::vector<std::string> ids = {"OkButton", "DEEP", "TWICE", "P", "Q", "R", "TGX_BACK", "A", "B"};
-    for (const std::string& victim : ids) {
+    const std::vector<std::string> sequence =
+        parts("frame 6,move 5 5,press left,frame,call main setPopupWnd \"B\" \"P\" 1,release left,"
+              "frame,move 300 300,frame,call main setMouseCaptureWnd R,frame,"
+              "call main setMouseCaptureWnd null,change B,frame 3,frame 3,key esc,frame,key return,"
+              "frame 8",
+              ',');
+    for (const std::string& victim : parts("OkButton DEEP TWICE P Q R TGX_BACK A B")) {
         for (std::size_t at = 0; at < sequence.size(); ++at) {
             SCOPED_TRACE(victim + " is deleted before " + sequence[at]);
             expectMessage("cannot load none.ttf");
