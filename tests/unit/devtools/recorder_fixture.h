@@ -4,6 +4,7 @@
 #include "platform/host/headless/headless_host.h"
 #include "platform/system/clock.h"
 #include "player/reports.h"
+#include "tests/unit/support/input_words.h"
 #include "tests/unit/support/tgx_test.h"
 #include "tgx/controls/combobox.h"
 #include "tgx/controls/listbox/listbox.h"
@@ -45,41 +46,21 @@ protected:
     {
         options.frameMs = 17;
         strip("UIG/scroll1.bmp", 16, 16, 6);
-        script(R"(
-SCREEN "MENU" 0 0 640 480 ""
-BEGIN
-  WINDOW "PANEL" 10 10 200 200
-  BEGIN
-    BUTTON "OK" 10 10 101 50 ""
-    BUTTON "OPEN" 10 70 100 50 ""
-    BUTTON "TWO WORDS" 10 130 100 50 ""
-  END
-  BUTTON "GO" 220 10 60 30 ""
-  BUTTON "" 220 50 60 30 ""
-  BUTTON "TWIN" 220 90 60 30 ""
-  BUTTON "TWIN" 220 130 60 30 ""
-  EDITBOX "NAME" 300 100 200 20 "" 0 0
-  LISTBOX "LIST" 300 200 200 120
-  BEGIN
-    COLUMNS 50 LEFT 80 LEFT
-    TITLES "a" "b"
-  END
-  COMBOBOX "PORT" 300 20 120 24 ""
-  BUTTON "COVERED" 580 20 60 30 ""
-  BUTTON "HALF" 300 440 100 30 ""
-  WINDOW "LID" 340 430 20 40
-  BUTTON "SHADE" 590 0 40 100 ""
-END
-SCREEN "CHART" 0 0 640 480 ""
-BEGIN
-  BUTTON "OK" 400 400 100 50 ""
-  EDITBOX "NAME" 10 300 200 20 "" 0 0
-END
-WINDOW "QUERY" 100 300 200 100
-BEGIN
-  BUTTON "TGX_YES" 10 10 100 50 ""
-END
-)");
+        script(R"(SCREEN 'MENU' 0 0 640 480 '' {
+              WINDOW 'PANEL' 10 10 200 200 {
+                BUTTON 'OK' 10 10 101 50 ''; BUTTON 'OPEN' 10 70 100 50 ''
+                BUTTON 'TWO WORDS' 10 130 100 50 ''
+              }
+              BUTTON 'GO' 220 10 60 30 ''; BUTTON '' 220 50 60 30 ''; BUTTON 'TWIN' 220 90 60 30 ''
+              BUTTON 'TWIN' 220 130 60 30 ''; EDITBOX 'NAME' 300 100 200 20 '' 0 0
+              LISTBOX 'LIST' 300 200 200 120 { COLUMNS 50 LEFT 80 LEFT; TITLES 'a' 'b' }
+              COMBOBOX 'PORT' 300 20 120 24 ''; BUTTON 'COVERED' 580 20 60 30 ''
+              BUTTON 'HALF' 300 440 100 30 ''; WINDOW 'LID' 340 430 20 40; BUTTON 'SHADE' 590 0 40 100 ''
+            }
+            SCREEN 'CHART' 0 0 640 480 '' {
+              BUTTON 'OK' 400 400 100 50 ''; EDITBOX 'NAME' 10 300 200 20 '' 0 0
+            }
+            WINDOW 'QUERY' 100 300 200 100 { BUTTON 'TGX_YES' 10 10 100 50 '' })");
         begin();
     }
     ~RecorderTest() override { stopListening(); }
@@ -132,59 +113,12 @@ END
         listening = nullptr;
     }
 
-    /// Carries out the user's actions, separated by ";": input as in events lines, or a number of ticks to
-    /// wait.
+    /// Carries out the user's actions, separated by ";": input in words, or a number of ticks to wait.
     void doAsUser(const std::string& actions)
     {
-        std::istringstream all(actions);
-        for (std::string action; std::getline(all, action, ';');)
-            if (!action.empty())
-                act(action);
-    }
-    void act(const std::string& action)
-    {
-        InputQueue& input = listening->input();
-        std::istringstream words(action);
-        std::string what;
-        std::string which;
-        int x = 0;
-        int y = 0;
-        words >> what;
-        if (what == "move" && words >> x >> y)
-            input.move(x, y);
-        else if (what == "press")
-            input.press(button(words));
-        else if (what == "release")
-            input.release(button(words));
-        else if (what == "doubleclick")
-            input.doubleClick(button(words));
-        else if (what == "wheel" && words >> which)
-            input.wheel(which == "up");
-        else if (what == "down" && words >> x) // a hold and its key, in the order of a real window
-            input.holdInTurn(static_cast<std::uint8_t>(x), true), type(input, x, words);
-        else if (what == "key" && words >> x)
-            type(input, x, words);
-        else if (what == "up" && words >> x)
-            input.holdInTurn(static_cast<std::uint8_t>(x), false);
-        else if (what == "pad" && words >> x)
-            input.key(static_cast<std::uint8_t>(x), 0, static_cast<std::uint8_t>(x));
-        else
-            pass(std::stoi(what));
-    }
-    static MouseButton button(std::istringstream& words)
-    {
-        std::string name;
-        words >> name;
-        return name == "right"    ? MouseButton::Right
-               : name == "middle" ? MouseButton::Middle
-                                  : MouseButton::Left;
-    }
-    /// Queues a key. The next word is its character, as a number.
-    static void type(InputQueue& input, int code, std::istringstream& words)
-    {
-        int character = 0;
-        words >> character;
-        input.key(static_cast<std::uint8_t>(code), static_cast<char>(character));
+        for (const std::string& action : parts(actions, ';'))
+            if (!action.empty() && !queueInput(listening->input(), action))
+                pass(std::stoi(action));
     }
     void pass(int ticks)
     {

@@ -126,8 +126,7 @@ TEST_F(Files, aMissingFileIsReportedWithTheSearchedFolder)
     setMemoryFile("ram\\x.tgx", std::make_shared<const std::string>());
     const struct {
         const char* name;
-        std::string file;
-        std::string whyNoFile;
+        std::string file, whyNoFile;
     } rows[] = {
         {"a file", "uig\\none.tgx", "no file none.tgx in " + folder + "/uig"},
         {"a file without a folder", "none.bmp", "no file none.bmp in " + folder},

@@ -7,6 +7,7 @@
 #include "platform/host/sdl/pacer.h"
 #include "platform/host/sdl/screen_fit.h"
 #include "platform/system/clock.h"
+#include "tests/unit/support/input_words.h"
 
 #include <gtest/gtest.h>
 
@@ -93,14 +94,23 @@ protected:
         useRealTime();
     }
     InputQueue& queue() { return displayhost::current().input(); }
-    std::vector<std::string> run(int count)
+    /// Queues input in words.
+    template<class... Actions>
+    void queueUp(const Actions&... actions)
+    {
+        EXPECT_TRUE((queueInput(queue(), actions) && ...));
+    }
+    /// Runs ticks and returns what each saw, separated by commas.
+    std::string run(int count)
     {
         wnd->ticks.clear();
-        for (int i = 0; i < count; ++i)
+        std::string all;
+        for (int i = 0; i < count; ++i) {
             wnd->runTick();
-        return wnd->ticks;
+            all += (i ? ", " : "") + wnd->ticks.back();
+        }
+        return all;
     }
-    using Seen = std::vector<std::string>;
 
     std::unique_ptr<displayhost> before;
     std::unique_ptr<Recorder> wnd;
@@ -109,52 +119,36 @@ protected:
 
 TEST_F(Input, aClickBetweenTwoTicksTakesTwoTicks)
 {
-    queue().move(5, 5);
-    queue().move(10, 20);
-    queue().press(MouseButton::Left);
-    queue().move(30, 40);
-    queue().release(MouseButton::Left);
-    queue().move(50, 60);
-    EXPECT_EQ(run(4), (Seen{"at 10,20 down1", "at 30,40 up", "at 50,60", "-"}));
+    queueUp("move 5 5", "move 10 20", "press left", "move 30 40", "release left", "move 50 60");
+    EXPECT_EQ(run(4), "at 10,20 down1, at 30,40 up, at 50,60, -");
     EXPECT_EQ(wnd->prevMouseX, 30);
     EXPECT_EQ(wnd->prevMouseY, 40);
 }
 
 TEST_F(Input, aHeldButtonCountsItsTicks)
 {
-    queue().press(MouseButton::Left);
-    EXPECT_EQ(run(3), (Seen{"down1", "down2", "down3"}));
-    queue().release(MouseButton::Left);
-    queue().press(MouseButton::Left);
-    EXPECT_EQ(run(2), (Seen{"up", "down1"}));
+    queueUp("press left");
+    EXPECT_EQ(run(3), "down1, down2, down3");
+    queueUp("release left", "press left");
+    EXPECT_EQ(run(2), "up, down1");
 }
 
 TEST_F(Input, flagsLastOneTickAndButtonsUntilReleased)
 {
-    queue().doubleClick(MouseButton::Left);
-    queue().release(MouseButton::Left);
-    queue().press(MouseButton::Right);
-    queue().wheel(true);
-    queue().wheel(false);
-    queue().press(MouseButton::Middle);
-    queue().release(MouseButton::Right);
-    queue().release(MouseButton::Middle);
-    EXPECT_EQ(run(10), (Seen{"double", "down1", "up", "right", "right wheelup", "right wheeldown",
-                             "right middle", "rightup middle", "middleup", "-"}));
+    queueUp("doubleclick left", "release left", "press right", "wheel up", "wheel down", "press middle",
+            "release right", "release middle");
+    EXPECT_EQ(run(10), "double, down1, up, right, right wheelup, right wheeldown, right middle, rightup "
+                       "middle, middleup, -");
 }
 
 TEST_F(Input, keysKeepTheirOrderAndAreHeldForTheirTick)
 {
-    queue().holdInTurn(VK_SHIFT, true);
-    queue().key('A', 'A');
-    queue().holdInTurn(VK_SHIFT, false);
-    queue().key('B', 'b', 'B');
-    EXPECT_EQ(run(3), (Seen{"shift key A=A", "key B=b+second", "-"}))
-        << "Shift was released before the first tick";
+    queueUp("hold 16", "key A A", "up 16", "key B b B");
+    EXPECT_EQ(run(3), "shift key A=A, key B=b+second, -") << "Shift was released before the first tick";
     EXPECT_EQ(wnd->keyDown[int('A')], 0);
 
     queue().hold(*wnd, 'A', true);
-    queue().key('A', 'a');
+    queueUp("key A a");
     run(2);
     EXPECT_EQ(wnd->keyDown[int('A')], 1) << "it is still held after its event";
     queue().hold(*wnd, 'A', false);
@@ -164,56 +158,39 @@ TEST_F(Input, keysKeepTheirOrderAndAreHeldForTheirTick)
 TEST_F(Input, aTickThatWasNotEndedIsRepeatedWithoutNewInput)
 {
     wnd->endsTicks = false;
-    queue().key('A', 'a');
-    queue().key('B', 'b');
-    EXPECT_EQ(run(2), (Seen{"key A=a", "key A=a"}));
+    queueUp("key A a", "key B b");
+    EXPECT_EQ(run(2), "key A=a, key A=a");
     wnd->endsTicks = true;
-    EXPECT_EQ(run(3), (Seen{"key A=a", "key B=b", "-"}));
+    EXPECT_EQ(run(3), "key A=a, key B=b, -");
 }
 
 TEST_F(Input, staleEventsAreDroppedAndTheOthersKeepTheirOrder)
 {
-    queue().move(1, 1);
-    queue().move(2, 2);
-    queue().wheel(true);
-    queue().move(3, 3);
-    queue().press(MouseButton::Left);
-    queue().key('A', 'a');
+    queueUp("move 1 1", "move 2 2", "wheel up", "move 3 3", "press left", "key A a");
     queue().key('A', 'a', 0, true);
-    queue().move(4, 4);
-    queue().release(MouseButton::Left);
-    queue().doubleClick(MouseButton::Right);
+    queueUp("move 4 4", "release left", "doubleclick right");
     advanceVirtualTime(251);
-    queue().wheel(false);
+    queueUp("wheel down");
     queue().dropStale(timeGetTime(), 250);
-    EXPECT_EQ(run(6), (Seen{"at 3,3 down1", "down2 key A=a", "at 4,4 up", "-", "right wheeldown", "right"}))
+    EXPECT_EQ(run(6), "at 3,3 down1, down2 key A=a, at 4,4 up, -, right wheeldown, right")
         << "the Recorder has no word for a double click of the right button";
 }
 
 TEST_F(Input, movesBeforeTheFirstTransitionCanBeDropped)
 {
-    const auto queueUp = [this] {
-        queue().move(1, 1);
-        queue().holdInTurn(VK_SHIFT, true);
-        queue().move(2, 2);
-        queue().key('A', 'a');
-        queue().move(3, 3);
-        queue().press(MouseButton::Left);
-    };
-    queueUp();
+    queueUp("move 1 1", "hold 16", "move 2 2", "key A a", "move 3 3", "press left");
     queue().dropMovesAtHead();
-    EXPECT_EQ(run(2), (Seen{"shift key A=a", "at 3,3 down1 shift"}))
-        << "the move before a later press is kept";
+    EXPECT_EQ(run(2), "shift key A=a, at 3,3 down1 shift") << "the move before a later press is kept";
     queue().dropMovesAtHead();
-    queue().move(5, 5);
+    queueUp("move 5 5");
     queue().dropMovesAtHead();
-    EXPECT_EQ(run(1), (Seen{"down2 shift"}));
+    EXPECT_EQ(run(1), "down2 shift");
 }
 
 TEST_F(Input, positionsAreClampedToTheFields)
 {
-    queue().move(100000, -100000);
-    EXPECT_EQ(run(1), (Seen{"at 32767,-32768"}));
+    queueUp("move 100000 -100000");
+    EXPECT_EQ(run(1), "at 32767,-32768");
 }
 
 TEST_F(Input, theLoopEndsAtOnceWhenRunningIsCleared)
@@ -256,57 +233,46 @@ TEST_F(Input, aCloseRequestCallsTheHandlerOrClosesTheWindow)
 TEST_F(Input, aPressHasItsOwnPosition)
 {
     queue().press(MouseButton::Left, InputQueue::Place{50, 60});
-    queue().release(MouseButton::Left);
+    queueUp("release left");
     wnd->mouseX = 9;
-    EXPECT_EQ(run(2), (Seen{"at 50,60 down1", "up"}));
+    EXPECT_EQ(run(2), "at 50,60 down1, up");
     queue().wheel(true, InputQueue::Place{70, 60});
-    EXPECT_EQ(run(1), (Seen{"at 70,60 wheelup"}));
+    EXPECT_EQ(run(1), "at 70,60 wheelup");
 }
 
 TEST_F(Input, aCancelledPressIsNotAClick)
 {
-    queue().press(MouseButton::Left);
-    queue().cancel(MouseButton::Left);
-    queue().press(MouseButton::Left);
-    EXPECT_EQ(run(3), (Seen{"down1", "down1", "down2"})) << "released and pressed again within a tick";
-    queue().cancel(MouseButton::Left);
-    EXPECT_EQ(run(2), (Seen{"-", "-"}));
-    queue().doubleClick(MouseButton::Left);
-    queue().cancel(MouseButton::Left);
-    EXPECT_EQ(run(2), (Seen{"double", "-"}));
+    queueUp("press left", "cancel left", "press left");
+    EXPECT_EQ(run(3), "down1, down1, down2") << "released and pressed again within a tick";
+    queueUp("cancel left");
+    EXPECT_EQ(run(2), "-, -");
+    queueUp("doubleclick left", "cancel left");
+    EXPECT_EQ(run(2), "double, -");
 }
 
 TEST_F(Input, droppingEventsLeavesNoHalfClicks)
 {
-    queue().press(MouseButton::Left);
-    EXPECT_EQ(run(1), (Seen{"down1"}));
-    queue().key('A', 'a');
+    queueUp("press left");
+    EXPECT_EQ(run(1), "down1");
+    queueUp("key A a");
     const std::size_t kept = queue().getEvents().size();
-    queue().release(MouseButton::Left);
-    queue().move(5, 5);
-    queue().press(MouseButton::Right);
-    queue().release(MouseButton::Right);
-    queue().doubleClick(MouseButton::Middle);
-    queue().key('B', 'b');
-    queue().wheel(true);
+    queueUp("release left", "move 5 5", "press right", "release right", "doubleclick middle", "key B b",
+            "wheel up");
     queue().dropFrom(kept);
     queue().release(MouseButton::Middle); // of the dropped press
-    EXPECT_EQ(run(3), (Seen{"down2 key A=a", "at 5,5", "-"}))
-        << "the left button is released without a click";
-    queue().press(MouseButton::Middle);
-    queue().release(MouseButton::Middle);
-    EXPECT_EQ(run(2), (Seen{"middle", "middleup"}));
+    EXPECT_EQ(run(3), "down2 key A=a, at 5,5, -") << "the left button is released without a click";
+    queueUp("press middle", "release middle");
+    EXPECT_EQ(run(2), "middle, middleup");
 
-    queue().press(MouseButton::Left);
-    queue().release(MouseButton::Left);
-    EXPECT_EQ(run(1), (Seen{"down1"}));
+    queueUp("press left", "release left");
+    EXPECT_EQ(run(1), "down1");
     queue().dropAll(*wnd);
-    EXPECT_EQ(run(1), (Seen{"-"})) << "even if the press was taken before";
-    queue().doubleClick(MouseButton::Left);
-    EXPECT_EQ(run(1), (Seen{"double"}));
+    EXPECT_EQ(run(1), "-") << "even if the press was taken before";
+    queueUp("doubleclick left");
+    EXPECT_EQ(run(1), "double");
     queue().dropAll(*wnd);
-    queue().release(MouseButton::Left);
-    EXPECT_EQ(run(1), (Seen{"-"}));
+    queueUp("release left");
+    EXPECT_EQ(run(1), "-");
 }
 
 TEST_F(Input, anInvalidArgumentIsReportedOnceAndTheLoopContinues)
@@ -318,12 +284,11 @@ TEST_F(Input, anInvalidArgumentIsReportedOnceAndTheLoopContinues)
             wnd->running = 0;
         AfxThrowInvalidArgException();
     };
-    queue().key('A', 'a');
-    queue().key('B', 'b');
+    queueUp("key A a", "key B b");
     EXPECT_EQ(runMainLoop(*wnd), 0);
-    EXPECT_EQ(wnd->ticks, (Seen{"key A=a", "key B=b", "-", "-"}))
+    EXPECT_EQ(wnd->ticks, (std::vector<std::string>{"key A=a", "key B=b", "-", "-"}))
         << "the input of a failed tick is not taken again";
-    EXPECT_EQ(messages, (Seen{"invalid argument in a frame"}));
+    EXPECT_EQ(messages, std::vector<std::string>{"invalid argument in a frame"});
 }
 
 TEST(Pacer, catchesUpOnlyAFewTicks)
@@ -357,8 +322,7 @@ TEST(ScreenFit, keepsTheAspectRatioAndMapsThePointer)
 {
     const struct {
         const char* name;
-        int windowWidth, windowHeight;
-        int x, y, w, h;
+        int windowWidth, windowHeight, x, y, w, h;
         bool whole;
     } rows[] = {
         {"as large as the screen", 640, 480, 0, 0, 640, 480, true},
