@@ -8,7 +8,7 @@
 
 include(CMakePackageConfigHelpers)
 
-set(tgx_include_dir ${CMAKE_INSTALL_INCLUDEDIR}/tgx-${PROJECT_VERSION_MAJOR})
+set(tgx_include_dir ${CMAKE_INSTALL_INCLUDEDIR}/tgx-1) # of the interface that version 1 will have
 set(tgx_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tgx)
 
 # The package exports the same names after tgx:: as this build.
