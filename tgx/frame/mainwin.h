@@ -70,7 +70,6 @@ public:
     void waitForNextDraw() { nextDrawCount = 1; }
     /// Returns 1 on the fourth call after waitForNextDraw, otherwise 0.
     int nextDrawDone();
-    AScreenList* getScreenList() const override { return screenList.get(); }
     AScreen* getActiveScreen() const override { return screenList ? screenList->getActiveScreen() : nullptr; }
     /// Returns the front popup, or the active screen if there is none.
     AWnd* getActiveWnd() const override;
@@ -131,7 +130,6 @@ public:
     /// Returns the popup at index, 0 being the front, or null after the last. A negative index raises the
     /// invalid-argument exception.
     AWnd* getPopupWnd(int index) const override;
-    int getPopupWndCount() const override { return popupWnds.GetSize(); }
     /// Returns 1 if a popup with exactly this id is open.
     int isInPopupList(const CString& id) const;
     /// Opens the box "MESSAGEBOX" of "common.tgx". The id "messageBox" is made unique. Returns 1, or 0 if the
@@ -172,14 +170,12 @@ protected:
     /// Draws one frame of the wipe.
     void screenWipe();
 
-    std::unique_ptr<AScreenList> screenList; // null once the exit has completed
-    WndRef darkWnd;                          // dims the screen below the popups; a child of screenList
-    WndList popupWnds;                       // index 0 is the front
-    WndList mouseCaptureWnds;                // index 0 is the top
-    WndRef prevFocusWnd;                     // curFocusWnd of the previous tick
-    WndRef curFocusWnd;                      // window under the pointer inside the input target
-    int focusWndHotTime = 0;                 // ticks
-    WndRef mouseDownWnd;                     // window on which the left button went down
+    WndRef darkWnd;           // dims the screen below the popups; a child of screenList
+    WndList mouseCaptureWnds; // index 0 is the top
+    WndRef prevFocusWnd;      // curFocusWnd of the previous tick
+    WndRef curFocusWnd;       // window under the pointer inside the input target
+    int focusWndHotTime = 0;  // ticks
+    WndRef mouseDownWnd;      // window on which the left button went down
     FrameGovernor governor;
     int targetFPS = 24;     // frames per second that animations are designed for; a subclass may change it
     int wipeFramesLeft = 0; // frames

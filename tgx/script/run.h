@@ -134,6 +134,11 @@ public:
     /// Stores why the current line is about to fail, for the message about it.
     void explainFailure(std::string cause) { failureCause = std::move(cause); }
     std::string takeFailureCause() { return std::exchange(failureCause, {}); }
+    void forgetFailureCause()
+    {
+        if (!failureCause.empty())
+            failureCause.clear();
+    }
 
     // Windows by name. Both operations return the same as getWnd(id, 1) of below.
 
