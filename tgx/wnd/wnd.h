@@ -418,7 +418,7 @@ protected:
     short savedMouseY = 0;
 
 private:
-    friend class WndRef;
+    friend WndRef;
     friend class WndList;
     struct Links; // what few windows have: lists that name it, further holders, windows owned elsewhere
 
@@ -443,32 +443,9 @@ private:
     std::unique_ptr<Links> links;
 };
 
-inline void WndRef::attach(AWnd* target)
+template<>
+inline void tgx::WeakRef<AWnd>::attach(AWnd* to)
 {
-    wnd = target;
-    if (!target)
-        return;
-    next = target->refs;
-    if (next)
-        next->link = &next;
-    link = &target->refs;
-// A ref on the stack takes itself out again before it goes: GCC cannot see that it does.
-#if defined(__GNUC__) && !defined(__clang__) && __GNUC__ >= 12
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wdangling-pointer"
-#endif
-    target->refs = this;
-#if defined(__GNUC__) && !defined(__clang__) && __GNUC__ >= 12
-#pragma GCC diagnostic pop
-#endif
-}
-
-inline void WndRef::detach()
-{
-    if (!wnd)
-        return;
-    *link = next;
-    if (next)
-        next->link = link;
-    wnd = nullptr;
+    if (to)
+        link(to, to->refs);
 }
