@@ -1,14 +1,10 @@
-// Statements that set something on any window. Flags count by their lowest bit, which the setters see to.
+// Statements that set something on any window and need more than a setter of it.
 
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/script/run.h"
 #include "tgx/script/statements.h"
 #include "tgx/wnd/tabstops.h"
 
-namespace {
-
-/// Appends the windows that tokens 1 onwards name, each to be found below target. What stands before a name
-/// that is not found stays.
 bool appendWnds(AWnd& target, const ScriptLine& line, WndList ATabStopInfo::*list)
 {
     for (int i = 1; i < line.count; ++i) {
@@ -19,8 +15,6 @@ bool appendWnds(AWnd& target, const ScriptLine& line, WndList ATabStopInfo::*lis
     }
     return true;
 }
-
-} // namespace
 
 bool justificationOf(const TOKEN_INFO& token, AWnd::E_TEXTJUSTIFY& justify)
 {
@@ -67,21 +61,6 @@ void justify(AWnd& target, const ScriptLine& line)
     AWnd::E_TEXTJUSTIFY chosen;
     if (justificationOf(line.tokens[1], chosen))
         target.setTextJustify(chosen);
-}
-
-bool tabList1(AWnd& target, const ScriptLine& line)
-{
-    return appendWnds(target, line, &ATabStopInfo::insertDeleteWnds);
-}
-
-bool tabList2(AWnd& target, const ScriptLine& line)
-{
-    return appendWnds(target, line, &ATabStopInfo::homeEndWnds);
-}
-
-bool tabOrder(AWnd& target, const ScriptLine& line)
-{
-    return appendWnds(target, line, &ATabStopInfo::tabOrderWnds);
 }
 
 void text(AWnd& target, const ScriptLine& line)

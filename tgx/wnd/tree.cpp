@@ -2,6 +2,7 @@
 #include "tgx/base/fixed.h"
 #include "tgx/wnd/border.h"
 #include "tgx/wnd/child_walk.h"
+#include "tgx/wnd/inside.h"
 #include "tgx/wnd/links.h"
 #include "tgx/wnd/screenlist.h"
 #include "tgx/wnd/stage.h"
@@ -16,15 +17,6 @@ bmpfont* defaultFont()
 {
     tgx::Stage* stage = tgx::stage();
     return stage ? stage->getFont(0) : nullptr;
-}
-
-/// Whether wnd is holder or has it among its parents.
-bool isInside(const AWnd* wnd, const AWnd* holder)
-{
-    for (; wnd; wnd = wnd->getParent())
-        if (wnd == holder)
-            return true;
-    return false;
 }
 
 /// Whether wnd is holder or is listed below it, which a window shown in two places is without being inside.
@@ -130,7 +122,7 @@ void AWnd::inheritFont()
 
 AWnd* AWnd::addChildWindow(AWnd* added)
 {
-    if (!added || isInside(this, added) || isListedBelow(this, added))
+    if (!added || tgx::isInside(this, added) || isListedBelow(this, added))
         return nullptr;
     if (added->owner == this || (added->links && added->links->holders.contains(this)))
         added->getLinks().listedTwice = true;
@@ -170,7 +162,7 @@ AWnd* AWnd::releaseChildWindow(AWnd* released)
 void AWnd::setParentAndIndex(AWnd* newParent, int index)
 {
     // A window that is its own parent counts as one without a parent.
-    if (newParent != this && isInside(newParent, this))
+    if (newParent != this && tgx::isInside(newParent, this))
         return;
     parent = newParent;
     windowIndex = to16(index);
