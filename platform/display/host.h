@@ -17,7 +17,7 @@ struct tagRECT;
 
 enum class CursorShape { Normal, Wait };
 
-/// Age in milliseconds from which pending moves, wheel notches and key repeats are dropped. After a longer
+/// Age in milliseconds beyond which pending moves, wheel notches and key repeats are dropped. After a longer
 /// stall, all input that arrived during it is dropped.
 constexpr std::uint32_t staleInputMillis = 250;
 
@@ -49,8 +49,8 @@ public:
     virtual void movePointer(int x, int y) = 0;
     /// Shows a text to the user.
     virtual void showMessage(const CString& text) = 0;
-    /// Shows a text that follows from cause, such as a missing folder, which may have many consequences. The
-    /// cause is printed after the first of them. An empty cause explains nothing.
+    /// Shows a message with its cause, such as a missing folder, which other messages may share. The cause is
+    /// printed only after the first of them. An empty cause means that it is unknown.
     virtual void showFailure(const CString& text, const std::string& cause);
     /// Waits until the next tick or frame is due. Sets the number of ticks to run, and of frames (0 or 1) to
     /// run after them.
@@ -75,12 +75,12 @@ public:
     bool userWantsToClose = false;
 
 protected:
-    /// Whether cause has not been told yet; from now on it has.
+    /// Returns whether cause has not been printed yet, and marks it as printed.
     bool isNewCause(const std::string& cause) { return !cause.empty() && causes.insert(cause).second; }
 
 private:
     InputQueue queue;
-    std::set<std::string> causes; // that have been told
+    std::set<std::string> causes; // causes that have been printed
 };
 
 /// Makes the default host. Defined in platform/host, because this folder does not depend on the
@@ -89,6 +89,6 @@ std::unique_ptr<displayhost> makeDefaultHost();
 
 /// Opens the window, calls its startup and runs ticks and frames until running is 0 or the window is closed.
 /// onCloseRequest is called when the user closes the window; without it, the window is closed at once. A
-/// CInvalidArgException ends the frame that raised it and is reported once. Returns the exit status: 0, or 1
-/// if no window could be opened.
+/// CInvalidArgException ends the tick or frame that raised it and is reported once. Returns the exit status:
+/// 0, or 1 if no window could be opened.
 TGX_PLATFORM_API int runMainLoop(ddwin& window, const std::function<void()>& onCloseRequest = {});

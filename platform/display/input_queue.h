@@ -76,7 +76,7 @@ public:
     /// Begins a tick: resets window's one-tick flags and key fields to 0, then applies the moves at the head
     /// and one transition. A key counts as held until endTick.
     void beginTick(ddwin& window);
-    /// Ends the tick. Its key is no longer held, unless hold() says so.
+    /// Ends the tick. Its key is no longer held, unless hold() was called for it.
     void endTick(ddwin& window);
     /// Sets at once whether a key is held, independently of its events.
     void hold(ddwin& window, std::uint8_t code, bool held);
@@ -91,11 +91,11 @@ public:
     void dropStale(std::uint32_t now, std::uint32_t oldest);
 
     /// Drops all transitions from index first on, because they were not meant for the screen that is shown
-    /// now. Cancels a button that was held before them. The release of a dropped press is dropped too, even
-    /// if it arrives later.
+    /// now. A dropped release of an earlier press becomes a cancel. The release of a dropped press is dropped
+    /// too, even if it arrives later.
     void dropFrom(std::size_t first);
-    /// Drops all of them in this way, and cancels the buttons that window holds down by what it has taken
-    /// already: their releases are dropped too.
+    /// Drops all transitions like dropFrom(0), and also cancels the buttons that are down in window. Their
+    /// releases are dropped too.
     void dropAll(ddwin& window);
 
 private:

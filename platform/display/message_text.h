@@ -12,7 +12,7 @@ TGX_PLATFORM_API std::string oneLine(std::string_view message);
 
 /// Prints "message: TEXT" to stderr.
 void printMessage(std::string_view message);
-/// "note: TEXT" to stderr.
+/// Prints "note: TEXT" to stderr.
 void printNote(std::string_view note);
 
 /// Returns the text of the box that shows all messages of a frame: the first 20, each cut to 200 characters,

@@ -54,8 +54,8 @@ public:
 
     /// Returns the shared pixels, or null if there are none. Reloads dropped pixels.
     const ImageRef& getImage();
-    /// Sets the pixels with width and height, and names the surface, and the image too if it has no name. The
-    /// pixels count as the game's: they are never dropped.
+    /// Sets the pixels with width and height, and names the surface, and the image too if it has no name.
+    /// These pixels are never dropped.
     void setImage(ImageRef newImage, const CString& name);
 
 protected:
@@ -76,10 +76,10 @@ private:
             loadDropped();
     }
     void loadDropped();
-    /// Takes the pixels of the file of that name.
+    /// Sets pixels loaded from that file, which may be dropped and reloaded.
     void takeFile(ImageRef pixels, const CString& file);
 
     SurfaceRef* refs = nullptr; // head of the list of refs to this surface
-    bool isOfFile = false;      // whether image holds the pixels of the file of that name
+    bool isOfFile = false;      // whether image was loaded from the file called name
     bool isDropped = false;     // whether the pixels were dropped; they are reloaded when used
 };

@@ -31,8 +31,8 @@ public:
     const std::set<std::string, std::less<>>& getRequestedNames() const { return requested; }
     /// Marks a surface as no longer shown, so that its pixels may be dropped if it was loaded from a file.
     void letGo(surface* wanted);
-    /// Drops the pixels of files that are not shown: those that were only loaded in this frame, and those of
-    /// surfaces passed to letGo.
+    /// Drops the pixels of files that are not shown: those loaded in this frame that no surface uses, and
+    /// those of surfaces passed to letGo.
     void makeRoom();
     void endFrame() { makeRoom(); }
 

@@ -34,10 +34,10 @@ private:
 /// regular file, is absolute, or leads out of the data directory, whether by "..", a drive letter or a link.
 TGX_PLATFORM_API std::optional<std::string> findDataFile(std::string_view name);
 
-/// Returns why no file of that name can be found if one of its folders is missing, as in "no folder art in
-/// /games/tide"; otherwise "".
+/// If a folder in the name is missing, returns a message such as "no folder art in /games/tide", otherwise
+/// "".
 TGX_PLATFORM_API std::string missingDataFolder(std::string_view name);
-/// Returns why no file of that name is found, with the folder that was searched, as in "no file menu.tgx in
+/// Returns why the file was not found, with the folder that was searched, such as "no file menu.tgx in
 /// /games/tide/UIG". Returns "" for a file that exists, and for a name that is refused.
 TGX_PLATFORM_API std::string whyNoDataFile(std::string_view name);
 

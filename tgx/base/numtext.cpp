@@ -46,7 +46,8 @@ CString floatToString(ZnFixed value)
     if (value.raw == 0)
         return "  0.0";
 
-    // Just under half a hundredth rounds the second decimal. At the top of the range the sum stays there.
+    // Adding just under half a hundredth rounds the second decimal. The sum is limited to the range's
+    // maximum.
     constexpr int nearlyHalfAHundredth = 20;
     int raised = 0;
     if (__builtin_add_overflow(value.raw, nearlyHalfAHundredth, &raised))

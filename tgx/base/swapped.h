@@ -2,8 +2,7 @@
 
 #include <utility>
 
-/// Puts another value into a variable for as long as the object lives, and the old one back however the block
-/// is left.
+/// Replaces the value of a variable for the lifetime of this object and restores the old one at the end.
 template<class T>
 class Swapped {
 public:

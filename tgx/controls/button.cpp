@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Stores five values that come in the order of the strip in the order of the states.
+/// Stores five values, given in the order of the strip, by state value.
 template<class Value, class Stored>
 void storeByState(Stored (&stored)[5], Value startup, Value normal, Value hot, Value pressed, Value disabled)
 {
@@ -61,7 +61,7 @@ void AButton::setSelected(int select)
         carrier->setButtonState(carrier->selected ? BS_PRESSED : BS_NORMAL);
     }
     if (stateWnd)
-        stateWnd->setEnabled(0); // so that it never takes the pointer
+        stateWnd->setEnabled(0); // so that it never receives the pointer
 }
 
 int AButton::firstFrameOf(E_BUTTON_STATE state) const
@@ -144,7 +144,7 @@ int AButton::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_
     const ActionRefs handling(this, wnd);
     AWnd::handleMouseAction(about, wnd, x, y, action);
 
-    if (!handling.mayGoOn() || !isVisible(1) || isMeantForAnother(wnd))
+    if (!handling.canContinue() || !isVisible(1) || isMeantForAnother(wnd))
         return 0;
     if (buttonState == BS_DISABLED)
         return 1;
@@ -168,7 +168,7 @@ int AButton::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_
     return 1;
 }
 
-bool AButton::openingRunIsOver() const
+bool AButton::isOpeningRunOver() const
 {
     const int frames = stateFrames[BS_STARTUP];
     return frames == 0 || (currentFrame >= frames - 1 && frameTimer >= frameDelay - 1);
@@ -178,11 +178,12 @@ void AButton::draw(int frameStep)
 {
     if (!isVisible(1))
         return;
-    if (buttonState == BS_STARTUP && openingRunIsOver())
+    if (buttonState == BS_STARTUP && isOpeningRunOver())
         setButtonState(BS_NORMAL);
     std::optional<Swapped<short>> still;
     if (buttonState == BS_NORMAL && stateFrames[BS_NORMAL] == 0) {
-        // No frame for rest: it shows only when hot or pressed. The run that it comes from must not go on.
+        // Without a frame for BS_NORMAL the button is only drawn when hot or pressed. The previous run must
+        // not continue.
         currentFrame = -1;
         firstFrame = -1;
         still.emplace(frameCount, std::min<short>(frameCount, 1));
@@ -195,5 +196,5 @@ void AButton::draw(int frameStep)
     const Swapped<short> offsetY(textOffsetY, to16(textOffsetY + textShifted));
     AWnd::draw(frameStep);
     if (AButton* stateWnd = isOpening ? getStateWnd() : nullptr)
-        stateWnd->setEnabled(0); // the end of its own opening run has enabled it
+        stateWnd->setEnabled(0); // enabled by the end of its own opening run
 }

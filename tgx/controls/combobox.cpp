@@ -41,7 +41,7 @@ void AComboBox::Buttons::release(const AWnd* hit)
             button->setButtonState(BS_NORMAL);
 }
 
-/// A script may give these ids to windows of any kind.
+/// Returns the two step buttons. A script may give their ids to other kinds of window, which do not count.
 AComboBox::Buttons AComboBox::getButtons()
 {
     return {getButton(tgx::part::comboPrev, 1), getButton(tgx::part::comboNext, 1)};
@@ -93,9 +93,9 @@ int AComboBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, 
 {
     const ActionRefs handling(this, wnd);
     AButton::handleMouseAction(about, wnd, x, y, action);
-    if (!handling.mayGoOn() || !isVisible(1))
+    if (!handling.canContinue() || !isVisible(1))
         return 0;
-    // What is done to the two buttons counts as done to the box.
+    // An action on one of the two buttons counts as one on the box.
     if (about != tgx::part::comboPrev && about != tgx::part::comboNext && isMeantForAnother(wnd))
         return 0;
 
@@ -131,16 +131,16 @@ void AComboBox::step(int direction, AButton* pressed)
     windowText = items[selectedItem];
     if (pressed)
         pressed->setButtonState(BS_PRESSED);
-    tellOfChoice();
+    reportChoice();
 }
 
-void AComboBox::tellOfChoice()
+void AComboBox::reportChoice()
 {
     if (AWnd* active = tgx::stage()->getMouseCaptureWnd(0))
         active->update();
 }
 
-/// Null when a window of that id is no list.
+/// Returns the menu, or null if the window of that id is not a list.
 AListBox* AComboBox::getOrMakeMenu()
 {
     if (AWnd* menu = getWnd(tgx::part::comboMenu, 1))
@@ -150,7 +150,7 @@ AListBox* AComboBox::getOrMakeMenu()
     return made;
 }
 
-/// The menu stays a child of the box: closing it only hides it, and it serves the next time too.
+/// Opens the menu, which stays a child of the box: closing it only hides it, and it is used again.
 void AComboBox::openMenu()
 {
     tgx::Stage* stage = tgx::stage();
@@ -165,14 +165,14 @@ void AComboBox::openMenu()
     menu->setVisible(1);
     menu->setEasyClose(1);
     stage->setPopupWnd(menu, this, 0);
-    // No move is to be seen at once.
+    // The menu must not see a pointer movement in its first tick.
     stage->prevMouseX = stage->mouseX;
     stage->prevMouseY = stage->mouseY;
     menu->setSelectedItem(selectedItem);
     menu->setHotItem(selectedItem);
 }
 
-/// As high as its rows; on the screen's edges it stays inside, or a little beyond the lower one.
+/// Makes the menu as high as its rows and keeps it inside the screen, or slightly beyond its lower edge.
 void AComboBox::placeMenu(AListBox& menu)
 {
     constexpr int edge = 10; // pixels
@@ -190,7 +190,7 @@ void AComboBox::placeMenu(AListBox& menu)
 
 int AComboBox::handlePopupAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
-    const WndRef self = this; // what the report does may delete the box
+    const WndRef self = this; // handling the action may delete the box
     AWnd::handlePopupAction(about, wnd, x, y, action);
     if (!self || action != MA_LBUTTONUP)
         return 0;
@@ -209,7 +209,7 @@ int AComboBox::handlePopupAction(const CString& about, AWnd* wnd, int x, int y, 
     stage->deletePopupWnd();
     setButtonState(BS_NORMAL);
     if (isChoice)
-        tellOfChoice();
+        reportChoice();
     return 0;
 }
 
@@ -218,11 +218,11 @@ void AComboBox::draw(int frameStep)
     AButton::draw(frameStep);
     if (!isVisible(1))
         return;
-    // A menu that is no longer in front does not stay on the screen.
+    // A menu that is no longer in front is hidden.
     AWnd* menu = getWnd(tgx::part::comboMenu, 1);
     if (menu && menu->isVisible(1) && menu != tgx::stage()->getMouseCaptureWnd(0))
         menu->setVisible(0);
-    // Once more: during the opening run the button hides its text.
+    // Drawn again, because the button hides its text during the opening run.
     textOut(left() + textOffsetX, top() + textOffsetY, width() - textOffsetX, height() - textOffsetY,
             windowText, textJustify, textWrap, ZnFixed::fromInt(1), 0, nullptr);
 }

@@ -4,43 +4,44 @@
 #include "tgx/controls/listbox/floatingmenu.h"
 
 /// Shows one of several texts on a button. Child buttons called "ComboPrev" and "ComboNext", if there are
-/// any, step through them, as do the arrows up and down; a click on the box itself drops a menu of them all.
+/// any, step through them, as do the up and down arrow keys; a click on the box itself opens a menu of all
+/// texts.
 ///
 /// After each choice the box calls update() of the window that has the input, usually its screen, which then
-/// asks for getSelectedItem().
+/// reads getSelectedItem().
 class TGX_API AComboBox : public AButton {
 public:
     AComboBox(const CString& id, int x, int y, int width, int height);
 
     void draw(int frameStep) override;
-    /// 0.
+    /// Always returns 0.
     int handleMouseAction(const CString& id, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
     int handleKeyInput(char key) override;
-    /// Takes over what was chosen in the menu and closes it. 0.
+    /// Takes over the item chosen in the menu and closes the menu. Returns 0.
     int handlePopupAction(const CString& id, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
 
-    /// An item behind the others; the first becomes the text shown. Its index.
+    /// Appends an item and returns its index. The first item becomes the text shown.
     int addItem(const CString& text);
-    /// Drops all items; the text shown stays.
+    /// Removes all items; the text shown stays.
     void reset();
     int getItemCount() const { return items.GetSize(); }
     int getSelectedItem() const { return selectedItem; }
-    /// "" for a negative selection; one behind the last item raises the invalid-argument exception, here and
-    /// in the next two.
+    /// Returns "" for a negative selection. One after the last item raises the invalid-argument exception,
+    /// here and in the next two operations.
     CString getSelectedItemText() const;
     void setSelectedItem(int item);
     const CString& getItemText(int item) const { return items[item]; }
 
-    // Flags count by their lowest bit.
+    // Flags are read from the lowest bit.
 
     int getMenuBelow() const { return menuBelow; }
-    /// Whether the menu opens below the box; otherwise above.
+    /// Sets whether the menu opens below the box or above it.
     void setMenuBelow(int set) { menuBelow = set & 1; }
     int getMenuAllowed() const { return menuAllowed; }
-    /// Whether a click opens the menu.
+    /// Sets whether a click opens the menu.
     void setMenuAllowed(int set) { menuAllowed = set & 1; }
     int getWrapItems() const { return wrapItems; }
-    /// Whether stepping goes round at the ends.
+    /// Sets whether stepping wraps around at the ends.
     void setWrapItems(int set) { wrapItems = set & 1; }
 
 protected:
@@ -51,7 +52,7 @@ protected:
     unsigned wrapItems : 1 = 1;
 
 private:
-    struct Buttons { // null when there is none
+    struct Buttons { // null if there is none
         AButton* prev;
         AButton* next;
 
@@ -64,5 +65,5 @@ private:
     AListBox* getOrMakeMenu();
     void openMenu();
     void placeMenu(AListBox& menu);
-    void tellOfChoice();
+    void reportChoice();
 };

@@ -29,8 +29,8 @@ bool isAccepted(unsigned char character)
 
 } // namespace
 
-/// Puts as many stars in the place of the text as it has characters, for as long as this lives. The two are
-/// exchanged, so a frame takes no memory.
+/// Replaces the text by as many stars as it has characters, for the lifetime of this object. The two strings
+/// are swapped, so a frame allocates nothing.
 class AEditBox::Stars {
 public:
     explicit Stars(AEditBox& password) : box(password)
@@ -55,7 +55,7 @@ AEditBox::AEditBox(const CString& name, int x, int y, int width, int height)
     frameDelay = blinkPeriod;
 }
 
-bool AEditBox::isTypedIn() const
+bool AEditBox::isBeingEdited() const
 {
     return tgx::stage()->getMouseCaptureWnd(0) == this;
 }
@@ -63,7 +63,7 @@ bool AEditBox::isTypedIn() const
 void AEditBox::setWindowText(const CString& text)
 {
     AWnd::setWindowText(text);
-    if (isTypedIn())
+    if (isBeingEdited())
         cursorPos = to16(windowText.GetLength());
 }
 
@@ -76,7 +76,7 @@ int AEditBox::handleLostFocus()
 
 int AEditBox::handleKeyInput(char key)
 {
-    const WndRef self = this; // what the children do may delete the box
+    const WndRef self = this; // a child's handler may delete the box
     AWnd::handleKeyInput(key);
     if (!self)
         return 1;
@@ -120,7 +120,7 @@ int AEditBox::handleKeyInput(char key)
 void AEditBox::typeCharacter()
 {
     tgx::Stage* stage = tgx::stage();
-    // A box of one line takes no more than it can show, counted before the character.
+    // A box of one line accepts no character once its text fills the width.
     if (!textWrap && stage->getStringLength(windowText, font) >= width() - 2 * textOffsetX)
         return;
     const char character = stage->keyChar;
@@ -142,9 +142,9 @@ int AEditBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E
 {
     const ActionRefs handling(this, wnd);
     AWnd::handleMouseAction(about, wnd, x, y, action);
-    if (!handling.mayGoOn() || action != MA_LBUTTONUP)
+    if (!handling.canContinue() || action != MA_LBUTTONUP)
         return 0;
-    if (!isTypedIn()) {
+    if (!isBeingEdited()) {
         if (pointInside(x, y)) {
             cursorPos = to16(windowText.GetLength());
             tgx::stage()->setMouseCaptureWnd(this);
@@ -160,19 +160,19 @@ void AEditBox::endTyping()
     tgx::Stage* stage = tgx::stage();
     cursorPos = to16(windowText.GetLength());
     stage->setMouseCaptureWnd(nullptr);
-    // Boxes whose leave and enter windows lead to each other come to rest.
-    if (atEndOfTyping)
+    // Ends a cycle of boxes whose leave and enter windows are each other.
+    if (isEndingTyping)
         return;
-    atEndOfTyping = 1;
-    // What is pressed may delete this box, or any other window.
+    isEndingTyping = 1;
+    // The pressed windows may delete this box, or any other window.
     const WndRef self = this;
-    goOn();
+    pressNextWnds();
     if (self)
-        atEndOfTyping = 0;
+        isEndingTyping = 0;
 }
 
-/// Reaches and presses the leave window, then the one to enter.
-void AEditBox::goOn()
+/// Moves the pointer to the leave window and presses it, then the enter window.
+void AEditBox::pressNextWnds()
 {
     tgx::Stage* stage = tgx::stage();
     const WndRef self = this;
@@ -203,7 +203,7 @@ void AEditBox::goOn()
 
 void AEditBox::draw(int frameStep)
 {
-    // Text and caret are worked out on the stars; the real text is there again whatever happens.
+    // Text and caret are drawn from the stars; the real text is restored at the end.
     std::optional<Stars> hidden;
     if (isPassword)
         hidden.emplace(*this);
@@ -211,8 +211,8 @@ void AEditBox::draw(int frameStep)
     if (!isVisible(1))
         return;
     RECT box{left(), top(), right(), bottom()};
-    tgx::stage()->adddirtyrect(box); // the caret changes without the window moving
-    if (isTypedIn())
+    tgx::stage()->adddirtyrect(box); // the caret changes even if the window does not
+    if (isBeingEdited())
         drawCaret();
 }
 

@@ -13,7 +13,7 @@ enum Style { Bars = 0, Lines = 1 };
 
 constexpr short leastRange = 10;
 constexpr ZnFixed grown = ZnFixed::fromInt(1);
-constexpr int growthATick = 204; // raw, just under a twentieth
+constexpr int growthPerTick = 204; // raw fixed point, just under a twentieth
 
 constexpr unsigned lineColourUnset = 0xFFFF;
 constexpr int lineWidth = 2;
@@ -25,21 +25,21 @@ constexpr int labelGap = 5; // from an axis to its numbers
 constexpr int leastLabelWidth = 20;
 constexpr int markWidth = 4;
 
-/// A raw value to pixels, truncated towards zero. What lies far off any screen is held where sums with it
-/// stay inside an int.
-int whole(std::int64_t raw)
+/// Converts a raw value to pixels, truncated towards zero. Values far outside any screen are limited, so that
+/// sums with them fit into an int.
+int toPixels(std::int64_t raw)
 {
     constexpr std::int64_t farOff = 1 << 30;
     return static_cast<int>(std::clamp<std::int64_t>(raw / ZnFixed::one, -farOff, farOff));
 }
 
-std::int64_t shifted(int pixels)
+std::int64_t toRaw(int pixels)
 {
     return std::int64_t{pixels} * ZnFixed::one;
 }
 
-/// The range that also holds value: it never falls, and ends where its 16 bits do.
-short raised(short range, int value)
+/// Returns range, extended to contain value within the limits of 16 bits.
+short extended(short range, int value)
 {
     return static_cast<short>(std::clamp<int>(value, range, INT16_MAX));
 }
@@ -56,17 +56,17 @@ bool isSeries(int series)
 
 } // namespace
 
-/// Where values and positions lie in one frame, in screen pixels.
+/// The places of values and positions in one frame, in screen pixels.
 struct AGraph::Plot {
     int left, top, right, bottom;
-    ZnFixed xStep; // pixels a position
-    ZnFixed yStep; // pixels a value
+    ZnFixed xStep; // pixels per position
+    ZnFixed yStep; // pixels per value
     int charHeight, lineHeight;
 
-    int x(int position) const { return whole(shifted(left) + std::int64_t{position} * xStep.raw); }
-    int y(int value) const { return whole(shifted(bottom) - std::int64_t{value} * yStep.raw); }
-    /// Right end of the position that begins at from.
-    int nextX(int from) const { return whole(shifted(from) + xStep.raw); }
+    int x(int position) const { return toPixels(toRaw(left) + std::int64_t{position} * xStep.raw); }
+    int y(int value) const { return toPixels(toRaw(bottom) - std::int64_t{value} * yStep.raw); }
+    /// Returns the right end of the position that begins at from.
+    int nextX(int from) const { return toPixels(toRaw(from) + xStep.raw); }
     int labelWidth() const { return std::max(xStep.toInt(), leastLabelWidth); }
 };
 
@@ -83,8 +83,8 @@ void AGraph::addData(int value, const CString& label, unsigned long colour, int 
     seriesValues[series].Add(value);
     seriesLabels[series].Add(label);
     itemColours.Add(static_cast<unsigned>(colour));
-    xRange = raised(xRange, seriesValues[series].GetSize());
-    yRange = raised(yRange, value);
+    xRange = extended(xRange, seriesValues[series].GetSize());
+    yRange = extended(yRange, value);
 }
 
 void AGraph::removeAll(int restartGrowth)
@@ -134,7 +134,8 @@ AGraph::Plot AGraph::getPlot() const
 
 void AGraph::draw(int frameStep)
 {
-    // Taken before the base moves the window on: the border and the plot are drawn in one place.
+    // Computed before the base advances the window's movement, so that border and plot are drawn in the same
+    // place.
     const Plot plot = getPlot();
     AWnd::draw(frameStep);
     tgx::Stage* stage = tgx::stage();
@@ -163,12 +164,12 @@ void AGraph::draw(int frameStep)
 void AGraph::grow(int frameStep)
 {
     if (frameStep != 0 && growth < grown) {
-        const std::int64_t next = growth.raw + std::int64_t{frameStep} * growthATick;
+        const std::int64_t next = growth.raw + std::int64_t{frameStep} * growthPerTick;
         growth = ZnFixed::fromRaw(static_cast<std::int32_t>(std::clamp<std::int64_t>(next, 0, grown.raw)));
     }
 }
 
-/// Grid lines and numbers of the values. 0 has a number, and the axis for its line.
+/// Draws the grid lines and numbers of the values. 0 has a number; the axis serves as its line.
 void AGraph::drawValueAxis(const Plot& plot)
 {
     tgx::Stage* stage = tgx::stage();
@@ -199,7 +200,8 @@ void AGraph::drawPositionAxis(const Plot& plot)
     }
 }
 
-/// Under a bar's right edge, so that the first position has none; or under the point of a line.
+/// Draws a number below the point of a line or below a bar's right edge, so that with bars position 0 has no
+/// number.
 void AGraph::drawPositionNumber(const Plot& plot, int position)
 {
     tgx::Stage* stage = tgx::stage();
@@ -217,28 +219,30 @@ void AGraph::drawPositionNumber(const Plot& plot, int position)
 void AGraph::drawBar(const Plot& plot, int series, int index)
 {
     const int value = seriesValues[series][index];
-    const unsigned colour = itemColours[index]; // of the first calls, whatever the series
+    const unsigned colour = itemColours[index]; // from call index of addData, whatever its series
     const int x = plot.x(index);
     const int x2 = plot.nextX(x);
     const std::int64_t grownValue =
         std::clamp<std::int64_t>(std::int64_t{growth.raw} * value, INT32_MIN, INT32_MAX);
     const ZnFixed height = ZnFixed::fromRaw(static_cast<std::int32_t>(grownValue)) * plot.yStep;
-    const int barTop = whole(shifted(plot.bottom) - height.raw);
+    const int barTop = toPixels(toRaw(plot.bottom) - height.raw);
 
-    // A negative value has no bar, not even an empty one while it grows.
+    // A bar leaves a gap of one pixel at its left. A negative value has no bar, not even an empty one while
+    // the graph grows.
     if (barTop < plot.bottom)
-        tgx::stage()->fillrect(x + 1, barTop, x2, plot.bottom, colour); // a gap of one pixel at the left
+        tgx::stage()->fillrect(x + 1, barTop, x2, plot.bottom, colour);
     else if (barTop == plot.bottom && value >= 0 && showEmptyBars)
         tgx::stage()->fillrect(x, plot.bottom - 1, x2, plot.bottom, colour);
     if (index < seriesLabels[series].GetSize())
         drawLabel(plot, seriesLabels[series][index], x, barTop);
 }
 
-/// Value n ends at the position behind its own: the line begins where the axes meet.
+/// Draws the line to value index, which ends at the position after its own; the first begins where the axes
+/// meet.
 void AGraph::drawLine(const Plot& plot, int series, int index)
 {
     const CArray<int, int>& values = seriesValues[series];
-    if (shifted(index) >= std::int64_t{growth.raw} * values.GetSize())
+    if (toRaw(index) >= std::int64_t{growth.raw} * values.GetSize())
         return;
     const int x = plot.x(index);
     const int x2 = plot.nextX(x);
@@ -261,7 +265,7 @@ void AGraph::drawLine(const Plot& plot, int series, int index)
         drawLabel(plot, label, x, y);
 }
 
-/// While the back buffer gives no device context, the segment is left out.
+/// Draws a segment of a line, or nothing if the back buffer provides no device context.
 void AGraph::drawSegment(int fromX, int fromY, int toX, int toY, unsigned colour)
 {
     IDirectDrawSurface* buffer = tgx::stage()->getBackBuffer();
@@ -278,7 +282,7 @@ void AGraph::drawSegment(int fromX, int fromY, int toX, int toY, unsigned colour
     buffer->ReleaseDC(context);
 }
 
-/// Above foot, in the middle of the position that begins at x.
+/// Draws label above foot, centred in the position that begins at x.
 void AGraph::drawLabel(const Plot& plot, const CString& label, int x, int foot)
 {
     textOut(x, foot - plot.charHeight, plot.labelWidth(), plot.charHeight, label, TJ_CENTRE, 0,

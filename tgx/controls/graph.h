@@ -4,56 +4,58 @@
 #include "tgx/wnd/wnd.h"
 
 /// Up to four series of values as bars or lines, on a grid with numbered axes; values of 0 and more are
-/// expected. It grows in: bars rise and lines extend over about 21 ticks, from the first drawn frame on.
-/// Numbers and labels stand outside the window's box where need be. Takes no input.
+/// expected. It grows when it appears: bars rise and lines extend over about 21 ticks from the first drawn
+/// frame. Numbers and labels may be outside the window's box. Takes no input.
 class TGX_API AGraph : public AWnd {
 public:
     static constexpr int seriesCount = 4;
 
     AGraph(const CString& id, int x, int y, int width, int height);
 
-    /// Marks its box dirty also while it is invisible; growth goes on only while it shows.
+    /// Marks its box dirty even while it is invisible; growth only continues while it is visible.
     void draw(int frameStep) override;
 
-    /// Appends a value to series 0 to 3; another one is refused without effect. colour, from ddwin::getcol,
-    /// is entered in one table of all series in the order of the calls: bar n of every series has the colour
-    /// of call n. A label stands on top of its bar; at a line's point "|" and "^" are markers.
+    /// Appends a value to series 0 to 3; does nothing for any other. colour, from ddwin::getcol, is appended
+    /// to one table for all series: bar n of every series has the colour of call n. A label is drawn above
+    /// its bar; at a point of a line "|" and "^" are markers.
     void addData(int value, const CString& label, unsigned long colour, int series);
-    /// Drops all values, labels and bar colours and takes both ranges back to 10. restartGrowth not 0: what
-    /// comes grows in anew.
+    /// Removes all values, labels and bar colours and resets both ranges to 10. If restartGrowth is not 0,
+    /// the graph grows again from the start.
     void removeAll(int restartGrowth);
-    /// Values of the series; 0 outside 0 to 3.
+    /// Returns the number of values in the series; 0 for a series outside 0 to 3.
     int getItemCount(int series) const;
 
-    /// 0 to 1.0.
+    /// Returns how far the graph has grown, from 0 to 1.0.
     ZnFixed getGrowth() const { return growth; }
-    /// Positions of the x axis, and the top value of the y axis: 10, or what the data ask for.
+    /// Returns the number of positions on the x axis: 10, or more if the data require it.
     int getXRange() const { return xRange; }
+    /// Returns the top value of the y axis: 10, or more if the data require it.
     int getYRange() const { return yRange; }
 
-    /// Colour of a series' line, as CreatePen takes it: red in the low byte. Of one that none was set for,
-    /// and outside 0 to 3: yellow.
+    /// Returns the colour of a series' line in the format of CreatePen, with red in the low byte. Yellow if
+    /// none was set, and for a series outside 0 to 3.
     unsigned getLineColour(int series) const;
-    /// A series outside 0 to 3 is refused without effect. Stays when the data go.
+    /// Sets the colour of a series' line, which removeAll keeps. Does nothing for a series outside 0 to 3.
     void setLineColour(int series, unsigned colour);
-    /// As ddwin::getcol takes it.
+    /// Returns the grid's colour in the format of ddwin::getcol.
     unsigned getGridColour() const { return gridColour; }
     void setGridColour(unsigned colour) { gridColour = colour; }
-    /// As ddwin::getcol takes it.
+    /// Returns the axes' colour in the format of ddwin::getcol.
     unsigned getAxisColour() const { return axisColour; }
     void setAxisColour(unsigned colour) { axisColour = colour; }
-    /// Number shown at the first x position. 16 bits.
+    /// Returns the number shown at the first x position, stored in 16 bits.
     int getFirstXLabel() const { return firstXLabel; }
     void setFirstXLabel(int number) { firstXLabel = to16(number); }
-    /// 0 bars, 1 lines; with any other neither is drawn.
+    /// Returns the style: 0 bars, 1 lines; with any other value neither is drawn.
     int getStyle() const { return style; }
     void setStyle(int newStyle) { style = newStyle; }
-    /// A bar of height 0 shows as a line of one pixel.
+    /// Returns 1 if a bar of height 0 is drawn as a line of one pixel.
     int getShowEmptyBars() const { return showEmptyBars; }
-    /// Lowest bit.
+    /// Stores the lowest bit of set.
     void setShowEmptyBars(int set) { showEmptyBars = set & 1; }
 
-    // A number, or a grid line, every so many positions (x) or values (y); 0 or less: none. 16 bits.
+    // Intervals between numbers or grid lines, in positions (x) or values (y); 0 or less: none. Stored in 16
+    // bits.
 
     int getXLabelEvery() const { return xLabelEvery; }
     void setXLabelEvery(int positions) { xLabelEvery = to16(positions); }
@@ -74,9 +76,9 @@ public:
 protected:
     ZnFixed growth;
     CArray<int, int> seriesValues[seriesCount];
-    CArray<CString> seriesLabels[seriesCount]; // one for each value
-    CArray<unsigned, unsigned> itemColours;    // one for each addData, whatever its series
-    CArray<unsigned, unsigned> lineColours;    // by series
+    CArray<CString> seriesLabels[seriesCount]; // one per value
+    CArray<unsigned, unsigned> itemColours;    // one per call of addData, for all series
+    CArray<unsigned, unsigned> lineColours;    // index: series
     unsigned gridColour = 0x404040;
     unsigned axisColour = 0;
     short firstXLabel = 0;

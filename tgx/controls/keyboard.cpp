@@ -24,13 +24,14 @@ void AKeyboard::initialise(AWnd* target, AWnd* echo, int most)
 
 void AKeyboard::showInEcho()
 {
+    // Passes a copy, because the echo window may delete the target.
     if (echoWnd && targetWnd)
-        echoWnd->setWindowText(CString(targetWnd->getText())); // a copy: what shows it may delete the target
+        echoWnd->setWindowText(CString(targetWnd->getText()));
 }
 
 int AKeyboard::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
-    const WndRef self(this); // what children and the key do may delete the keyboard
+    const WndRef self(this); // a child's handler or the key may delete the keyboard
     AListBox::handleMouseAction(about, wnd, x, y, action);
     if (!self || !isVisible(1) || action != MA_LBUTTONUP || selectedItem < 0 || !isInitialised)
         return 0;

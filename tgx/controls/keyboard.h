@@ -3,27 +3,28 @@
 #include "tgx/controls/listbox/listbox.h"
 
 /// A list box whose cells are keys: selecting one types its text into another window. "Sp" types a blank, "<"
-/// removes the last character, "OK" closes the front popup, where a keyboard is meant to stand.
+/// removes the last character, and "OK" closes the front popup, which is expected to contain the keyboard.
 ///
-/// The first key replaces the text that was there. Behind a letter a key types in lower case, so the keys of
-/// a script stand in upper case.
+/// The first key replaces the existing text. After a character other than a blank a key types in lower case,
+/// so the keys of a script are in upper case.
 class TGX_API AKeyboard : public AListBox {
 public:
     AKeyboard(const CString& id, int x, int y, int width, int height);
     ~AKeyboard() override;
 
     using AListBox::initialise;
-    /// To be called before the first key; until then keys do nothing. echo, which may be null, shows the same
-    /// text. Neither is owned. maxChars: a text of that length takes no further key.
+    /// Sets the target window. Must be called before the first key; until then keys do nothing. echo, which
+    /// may be null, shows the same text. Neither is owned. A text of maxChars characters accepts no further
+    /// key.
     void initialise(AWnd* target, AWnd* echo, int maxChars);
-    /// 0.
+    /// Always returns 0.
     int handleMouseAction(const CString& id, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
 
-    /// Null when there is none, or none any more.
+    /// Returns the target, or null if there is none or it has been deleted.
     AWnd* getTargetWnd() const { return targetWnd; }
     AWnd* getEchoWnd() const { return echoWnd; }
     int getMaxChars() const { return maxChars; }
-    /// Whether the next key replaces the text. Lowest bit.
+    /// Returns 1 if the next key replaces the text.
     int getReplaceText() const { return replaceText; }
     void setReplaceText(int set) { replaceText = set & 1; }
 

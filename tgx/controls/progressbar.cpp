@@ -26,14 +26,14 @@ bool AProgressBar::hasEmptyPicture() const
     return 2 * frameWidth <= bmp->width;
 }
 
-/// A part of frame 0 from srcY on, the window's left edge to its left edge.
-void AProgressBar::putFull(int srcY, int y, int w, int h)
+/// Draws a part of frame 0, from its left edge and srcY, at the window's left edge and y.
+void AProgressBar::drawFull(int srcY, int y, int w, int h)
 {
     bmp->blit(left(), y, 0, srcY, w, h, -1, -1, nullptr, -1);
 }
 
-/// The upper h rows of frame 1.
-void AProgressBar::putEmpty(int h)
+/// Draws the upper h rows of frame 1.
+void AProgressBar::drawEmpty(int h)
 {
     bmp->blit(left(), top(), frameWidth + 1, 0, frameWidth, h, -1, -1, nullptr, -1);
 }
@@ -41,7 +41,7 @@ void AProgressBar::putEmpty(int h)
 void AProgressBar::draw(int frameStep)
 {
     {
-        const Swapped<surface*> noBitmap(bmp, nullptr); // the base paints all but the bar
+        const Swapped<surface*> noBitmap(bmp, nullptr); // the base paints everything except the bar
         AWnd::draw(frameStep);
     }
     if (!isVisible(1) || !bmp)
@@ -49,12 +49,12 @@ void AProgressBar::draw(int frameStep)
     const ZnFixed fraction = percentage / full;
     if (horizontal) {
         if (hasEmptyPicture())
-            putEmpty(frameHeight);
-        putFull(0, top(), scaledSize(frameWidth, fraction), frameHeight);
+            drawEmpty(frameHeight);
+        drawFull(0, top(), scaledSize(frameWidth, fraction), frameHeight);
     } else {
         const int filled = scaledSize(frameHeight, fraction);
         if (hasEmptyPicture())
-            putEmpty(frameHeight - filled);
-        putFull(frameHeight - filled, bottom() - filled, frameWidth, filled);
+            drawEmpty(frameHeight - filled);
+        drawFull(frameHeight - filled, bottom() - filled, frameWidth, filled);
     }
 }

@@ -2,23 +2,23 @@
 
 #include "tgx/wnd/wnd.h"
 
-/// Shows a percentage as a part of its bitmap. Takes no input.
+/// Shows a percentage by drawing a part of its bitmap. Takes no input.
 ///
 /// Frame 0 of the bitmap is the full bar. Frame 1, the empty bar, is shown where the bar is not full; a
-/// bitmap less than two frames wide has none.
+/// bitmap less than two frames wide has no empty bar.
 class TGX_API AProgressBar : public AWnd {
 public:
-    /// Grows from the left.
+    /// Makes a bar that grows from the left.
     AProgressBar(const CString& id, int x, int y, int width, int height);
 
-    /// The bar lies on top of text and children.
+    /// Draws the bar above text and children.
     void draw(int frameStep) override;
 
-    /// Stores value, held between 0 and 100.0.
+    /// Stores value, limited to 0 to 100.0.
     void setPercentage(ZnFixed value);
     ZnFixed getPercentage() const { return percentage; }
     int getHorizontal() const { return horizontal; }
-    /// Lowest bit. 0: grows from the bottom.
+    /// Stores the lowest bit of set. 0: the bar grows from the bottom.
     void setHorizontal(int set) { horizontal = set & 1; }
 
 protected:
@@ -27,6 +27,6 @@ protected:
 
 private:
     bool hasEmptyPicture() const;
-    void putFull(int srcY, int y, int w, int h);
-    void putEmpty(int h);
+    void drawFull(int srcY, int y, int w, int h);
+    void drawEmpty(int h);
 };

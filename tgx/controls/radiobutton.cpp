@@ -108,7 +108,7 @@ int ARadioButton::handleMouseAction(const CString& about, AWnd* wnd, int x, int 
 {
     const ActionRefs handling(this, wnd);
     AButton::handleMouseAction(about, wnd, x, y, action);
-    if (!handling.mayGoOn() || isMeantForAnother(wnd))
+    if (!handling.canContinue() || isMeantForAnother(wnd))
         return 0;
 
     if (action == MA_KEY) {
@@ -116,7 +116,7 @@ int ARadioButton::handleMouseAction(const CString& about, AWnd* wnd, int x, int 
         const bool back = key == VK_HOME || key == VK_INSERT;
         if (back || key == VK_END || key == VK_DELETE) {
             selectNextButton(back);
-            notifyOfChoice(); // which may delete this button
+            reportChoice(); // may delete this button
         }
         return 0;
     }
@@ -129,7 +129,7 @@ int ARadioButton::handleMouseAction(const CString& about, AWnd* wnd, int x, int 
     return 0;
 }
 
-void ARadioButton::notifyOfChoice()
+void ARadioButton::reportChoice()
 {
     if (auto* holder = dynamic_cast<tgx::RadioGroupParent*>(getParent()))
         holder->radioButtonChosen(getSelectedButton());

@@ -42,14 +42,14 @@ ZnFixed AScrollBar::getPercentageAfter(int steps) const
     return ZnFixed::fromRaw(static_cast<int>(std::clamp<long long>(moved, 0, full.raw)));
 }
 
-/// The list box that holds this bar, or null.
+/// Returns the list box that contains this bar, or null.
 AListBox* AScrollBar::getList() const
 {
     AWnd* holder = getParent();
     return windowAs<AListBox>(holder);
 }
 
-/// Centre of the lever: one and a half frames from the start, and the fraction of the travel.
+/// Returns the centre of the lever: one and a half frames from the start, plus the fraction of the travel.
 int AScrollBar::getLeverWndPos() const
 {
     constexpr int oneAndAHalf = 6144;
@@ -58,8 +58,8 @@ int AScrollBar::getLeverWndPos() const
                             ZnFixed::one);
 }
 
-/// Whole percent, not bounded: a dragged lever moves in steps of 1.0, whatever step says. A bar without
-/// travel gives 0.
+/// Returns a whole percentage, without limits: a dragged lever moves in steps of 1.0, whatever step is.
+/// Returns 0 if the lever cannot travel.
 int AScrollBar::getPercentageFromWndPos(int pos) const
 {
     const long long fromStart = (pos * 4096LL - getFrameSize() * 6144LL) / ZnFixed::one;
@@ -69,21 +69,21 @@ int AScrollBar::getPercentageFromWndPos(int pos) const
 int AScrollBar::handleMouseAction(const CString&, AWnd*, int x, int y, E_MOUSEACTION action)
 {
     if (!isVisible(1)) {
-        release(); // one that is hidden while it is held would keep all input
+        release(); // a bar hidden while it is held would capture all input
         return 0;
     }
-    // An end button shows pressed only behind an action that has pressed it.
+    // An end button is only drawn pressed after an action that has pressed it.
     prevPressed = 0;
     nextPressed = 0;
     switch (action) {
-    case MA_LBUTTONDOWN: // on every tick of the hold: dragging and repeating rest on that
+    case MA_LBUTTONDOWN: // arrives on every tick of the hold, which makes dragging and repeating work
         tgx::stage()->setMouseCaptureWnd(this);
         press(getMouseWndPos(x, y));
-        settle();
+        applyPercentage();
         break;
     case MA_LBUTTONUP:
         release();
-        settle();
+        applyPercentage();
         break;
     case MA_MOVE:
         release();
@@ -121,20 +121,20 @@ void AScrollBar::press(int pos)
         nextPressed = 1;
         percentage = getPercentageAfter(1);
     } else if (const AListBox* list = getList()) {
-        const int page = list->getItemsPerPage(); // beside the lever a press pages
+        const int page = list->getItemsPerPage(); // a press beside the lever moves by a page
         percentage = getPercentageAfter(pos > lever + half ? page : -page);
     }
 }
 
-void AScrollBar::settle()
+void AScrollBar::applyPercentage()
 {
     setPercentage(percentage);
     if (AListBox* list = getList())
         list->scrollTo(percentage);
 }
 
-/// Blits a frame at its own width across the axis.
-void AScrollBar::put(int frame, int along, int length)
+/// Blits length pixels of a frame along the axis; across it the frame keeps its own size.
+void AScrollBar::blitFrame(int frame, int along, int length)
 {
     const int source = frame * (frameWidth + 1);
     if (horizontal)
@@ -167,8 +167,8 @@ void AScrollBar::draw(int frameStep)
     const int end = getScrollLength() - size;
     if (size > 0)
         for (int along = size; along < end; along += size)
-            put(Trough, along, std::min(size, end - along));
-    put(prevPressed ? FirstPressed : FirstButton, 0, size);
-    put(nextPressed ? SecondPressed : SecondButton, end, size);
-    put(Lever, lever - size / 2, size);
+            blitFrame(Trough, along, std::min(size, end - along));
+    blitFrame(prevPressed ? FirstPressed : FirstButton, 0, size);
+    blitFrame(nextPressed ? SecondPressed : SecondButton, end, size);
+    blitFrame(Lever, lever - size / 2, size);
 }

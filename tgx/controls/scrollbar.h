@@ -3,44 +3,44 @@
 #include "tgx/wnd/wnd.h"
 
 /// A bar with a button at each end and a lever between them. Its value is a percentage, whatever it scrolls.
-/// Inside an AListBox it scrolls that list by itself; elsewhere the game reads it.
+/// Inside an AListBox it scrolls that list; elsewhere the game reads the value.
 ///
 /// Its bitmap is a strip of six frames: first button at rest and pressed, second button at rest and pressed,
 /// trough, lever.
 class TGX_API AScrollBar : public AWnd {
 public:
-    /// Without a bitmap only the lever's outline shows.
+    /// Makes a bar without a bitmap, of which only the lever's outline is drawn.
     AScrollBar(const CString& id, int x, int y, int width, int height);
 
     void draw(int frameStep) override;
     void startup() override;
     void close() override;
-    /// 0, so that the action goes on up the tree.
+    /// Always returns 0, so that the windows above handle the action too.
     int handleMouseAction(const CString& id, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
 
-    /// Stores value, held between 0 and 100.0. Scrolls nothing by itself.
+    /// Stores value, limited to 0 to 100.0. Does not scroll anything.
     void setPercentage(ZnFixed value);
     ZnFixed getPercentage() const { return percentage; }
-    /// Percentage points that a click on an end button moves; no bounds.
+    /// Sets the percentage points by which a click on an end button moves the lever; any value is accepted.
     void setStep(ZnFixed value) { step = value; }
     ZnFixed getStep() const { return step; }
-    /// The percentage that so many steps on, or back, lead to, held as above.
+    /// Returns the percentage after moving by steps, which may be negative, limited as above.
     ZnFixed getPercentageAfter(int steps) const;
     int getLeverHeld() const { return leverHeld; }
     int getHorizontal() const { return horizontal; }
-    /// Lowest bit.
+    /// Stores the lowest bit of set.
     void setHorizontal(int set) { horizontal = set & 1; }
 
 protected:
     ZnFixed percentage;                 // 0 to 100.0
     ZnFixed step = ZnFixed::fromInt(1); // percentage points
-    unsigned leverHeld : 1 = 0;         // until the release, also when the pointer has left the lever
-    unsigned prevPressed : 1 = 0;       // the button at the start shows pressed
-    unsigned nextPressed : 1 = 0;       // the button at the end does
+    unsigned leverHeld : 1 = 0;         // until the release, even if the pointer has left the lever
+    unsigned prevPressed : 1 = 0;       // the button at the start is drawn pressed
+    unsigned nextPressed : 1 = 0;       // the button at the end is drawn pressed
     unsigned horizontal : 1 = 0;
 
 private:
-    // Along the axis, pixels from the window's start.
+    // Lengths and positions along the axis, in pixels from the window's start.
     int getFrameSize() const { return horizontal ? frameWidth : frameHeight; }
     int getScrollLength() const { return horizontal ? width() : height(); }
     int getScrollWide() const { return horizontal ? height() : width(); }
@@ -51,7 +51,7 @@ private:
     void press(int pos);
     void release();
     AListBox* getList() const;
-    void settle();
-    void put(int frame, int along, int length);
+    void applyPercentage();
+    void blitFrame(int frame, int along, int length);
     void outlineLever(int lever);
 };

@@ -15,8 +15,8 @@ bool ATabControl::isTab(const AWnd* wnd)
     return wnd && (wnd->getWindowType() == WND_BUTTON || wnd->getWindowType() == WND_RADIOBUTTON);
 }
 
-/// wnd as a tab, or null when it is none.
-AButton* ATabControl::tabAmong(AWnd* wnd)
+/// Returns wnd as a button if it is a tab, otherwise null.
+AButton* ATabControl::asTab(AWnd* wnd)
 {
     return isTab(wnd) ? windowAs<AButton>(wnd) : nullptr;
 }
@@ -30,7 +30,7 @@ void ATabControl::startup()
     if (tabCount == 0)
         tabCount = to16(first->getLinkedButtonsCount(0));
 
-    int pagesBefore = 0; // the first one that is visible
+    int pagesBefore = 0; // number of pages before the first visible one
     for (const AWnd* wnd : children) {
         if (!wnd || wnd->getWindowType() == WND_RADIOBUTTON)
             continue;
@@ -86,9 +86,9 @@ int ATabControl::handleMouseAction(const CString& about, AWnd* wnd, int x, int y
 {
     const ActionRefs handling(this, wnd);
     AWnd::handleMouseAction(about, wnd, x, y, action);
-    if (!handling.mayGoOn() || !isVisible(1) || action != MA_LBUTTONUP)
+    if (!handling.canContinue() || !isVisible(1) || action != MA_LBUTTONUP)
         return 0;
-    AButton* tab = tabAmong(getWndAtPos(x, y, 0));
+    AButton* tab = asTab(getWndAtPos(x, y, 0));
     if (tab && tab->getButtonState() != AButton::BS_DISABLED)
         setActiveWnd(tab, 1);
     return 0;
@@ -98,12 +98,12 @@ void ATabControl::draw(int frameStep)
 {
     if (!isVisible(1))
         return;
-    const WndRef self = this; // a game's class below may delete it
+    const WndRef self = this; // a window of the game's own class may delete it while it is drawn
     AWnd::draw(frameStep);
     if (!self)
         return;
-    for (ChildWalk walk(children); walk.mayGoOn();) {
-        AButton* tab = tabAmong(walk.next());
+    for (ChildWalk walk(children); walk.canContinue();) {
+        AButton* tab = asTab(walk.next());
         if (tab && tab->isSelected())
             tab->draw(0);
     }

@@ -5,7 +5,7 @@
 namespace {
 
 constexpr ZnFixed complete = ZnFixed::fromInt(1);
-constexpr int rawAFrame = 409; // just under a tenth
+constexpr int progressPerFrame = 409; // raw fixed point, just under a tenth
 
 } // namespace
 
@@ -32,13 +32,13 @@ void AVidiPrinter::draw(int frameStep)
     if (!isVisible(1))
         return;
     {
-        const Swapped<CString> noText(windowText, CString()); // the base paints all but the text
+        const Swapped<CString> noText(windowText, CString()); // the base paints everything except the text
         AWnd::draw(frameStep);
     }
     if (windowText.IsEmpty())
         return;
     if (frameStep != 0 && printProgress < complete)
-        printProgress.raw += rawAFrame; // may go past complete, which shows no more
+        printProgress.raw += progressPerFrame; // may exceed complete, which has no effect
     const int x = textJustify == TJ_RIGHT ? left() : left() + textOffsetX;
     textOut(x, top() + textOffsetY, width() - textOffsetX, height() - textOffsetY, windowText, textJustify,
             textWrap, printProgress, printMode, nullptr);

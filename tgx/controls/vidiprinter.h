@@ -2,27 +2,28 @@
 
 #include "tgx/wnd/wnd.h"
 
-/// A window that prints its text bit by bit, from the left, over eleven drawn frames. The text comes up on
-/// one line only: wrapped over several, or with textRaw, it is there at once. Takes no input.
+/// A window that reveals its text gradually, from the left, over eleven drawn frames. Only a text on a single
+/// line is revealed this way: a wrapped text, or one with textRaw, is shown at once. Takes no input.
 class TGX_API AVidiPrinter : public AWnd {
 public:
     AVidiPrinter(const CString& id, int x, int y, int width, int height);
 
-    /// Goes on by one frame, whatever frameStep is, but for 0. The text lies on top of the children.
+    /// Reveals the text by one frame unless frameStep is 0. The text is drawn above the children.
     void draw(int frameStep) override;
     using AWnd::setWindowText;
-    /// Begins anew with a text that differs from the one being printed; with the same text it goes on.
+    /// Starts to print text; continues if it equals the text being printed.
     void setWindowText(const CString& text) override;
-    /// The text that is being printed becomes the window's. The children are not reached.
+    /// Sets the window's text to the text being printed. Does not call the children.
     void finishAnims() override;
 
-    /// How far the text has come: complete from 1.0 on.
+    /// Returns how much of the text is shown; complete at 1.0 or more.
     ZnFixed getPrintProgress() const { return printProgress; }
-    /// The mode of ddwin::textout: 1 shows a part of the text, 0 the text in part of its size.
+    /// Returns the mode of ddwin::textout: 1 shows a part of the text, 0 the whole text at a part of its
+    /// size.
     int getPrintMode() const { return printMode; }
-    /// Lowest bit.
+    /// Stores the lowest bit of set.
     void setPrintMode(int set) { printMode = set & 1; }
-    /// The text that is being printed.
+    /// Returns the text that is being printed.
     const CString& getFullText() const { return fullText; }
 
 protected:

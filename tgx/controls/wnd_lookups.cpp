@@ -1,4 +1,4 @@
-// Operations of the base window that name a control: the base itself knows none of them.
+// Operations of AWnd and AScreen that depend on controls, kept apart so that tgx/wnd does not include them.
 
 #include "tgx/controls/button.h"
 #include "tgx/controls/listbox/listbox.h"

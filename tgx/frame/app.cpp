@@ -11,7 +11,7 @@ int gInterfaceSound = 1;
 
 namespace {
 
-/// The toolkit is an extension module of the framework from its load to its unload.
+/// Registers the toolkit as an extension module of the framework while its library is loaded.
 class LibraryLoad {
 public:
     LibraryLoad()

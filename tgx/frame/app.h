@@ -7,7 +7,7 @@
 
 class AMainWin;
 
-/// For the game's use: whether interface sounds are on. The toolkit neither reads nor writes it. 1 at first.
+/// Whether interface sounds are on; initially 1. For the game's use: the toolkit neither reads nor writes it.
 extern TGX_API int gInterfaceSound;
 
 /// The application object. A game's main constructs it, hands it a main window and calls Run:
@@ -18,12 +18,13 @@ extern TGX_API int gInterfaceSound;
 ///     return app.Run();
 class TGX_API AControlsApp : public CWinApp {
 public:
-    /// Becomes pApp. program and company say where settings are kept; without a program none are kept.
+    /// Sets pApp to this object. program and company determine where settings are stored; without a program
+    /// none are stored.
     explicit AControlsApp(const CString& program = "", const CString& company = "",
                           const CString& version = "");
     ~AControlsApp() override;
 
-    /// Runs mainWin until it is closed. The exit status for main.
+    /// Runs mainWin until it is closed. Returns the exit status for main.
     int Run() override;
 
     AMainWin* mainWin = nullptr; // not owned; set by the game
@@ -31,13 +32,13 @@ public:
     CString companyName;
     CString version;
 
-    /// The strings' buffers; valid until they change.
+    /// Returns the string's buffer, which is valid until the string changes.
     char* getProgramName() { return programName.GetBuffer(); }
     char* getCompanyName() { return companyName.GetBuffer(); }
     char* getVersion() { return version.GetBuffer(); }
 };
 
-/// The main window, or null while there is none. Short for pApp->mainWin.
+/// Returns the main window, pApp->mainWin, or null while there is none.
 inline AMainWin* getMainWin()
 {
     return pApp ? pApp->mainWin : nullptr;

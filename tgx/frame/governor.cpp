@@ -18,7 +18,7 @@ int FrameGovernor::stepFor(std::uint32_t now, int targetFPS)
         return 1;
     }
 
-    // A short slow spell does not raise the step.
+    // A few slow frames do not raise the step.
     const int step = currentFPS != 0 && slowFrames > 2 ? targetFPS / currentFPS : 1;
     ++slowFrames;
     return step;

@@ -4,20 +4,20 @@
 
 #include <cstdint>
 
-/// Works out how many animation ticks a frame stands for, so that animations keep their speed whatever the
-/// frame rate.
+/// Determines how many animation ticks a frame stands for, so that animations keep their speed at any frame
+/// rate.
 class TGX_API FrameGovernor {
 public:
-    /// Ticks for a frame drawn at now, milliseconds: 0 to skip, 1, or more to catch up. Stores the measured
-    /// rate.
+    /// Returns the ticks for a frame drawn at now, in milliseconds: 0 to skip, 1, or more to catch up. Stores
+    /// the measured rate.
     int stepFor(std::uint32_t now, int targetFPS);
-    /// The next frame is measured from now on.
+    /// Stores now, in milliseconds, as the time from which the next frame is measured.
     void frameStarted(std::uint32_t now) { lastDrawTime = now; }
     int getCurrentFPS() const { return currentFPS; }
 
 private:
     std::uint32_t lastDrawTime = 0; // milliseconds
-    int currentFPS = 0;             // of the last frame; 0 for one that took more than a second
-    int slowFrames = 0;             // in a row, at or below the target
+    int currentFPS = 0;             // frames per second, from the last frame; 0 if it took more than a second
+    int slowFrames = 0;             // consecutive frames at or below the target rate
     int skipCounter = 0;            // frames since the last step
 };

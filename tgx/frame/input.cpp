@@ -26,8 +26,8 @@ void loseFocusFrom(AWnd* wnd)
 
 } // namespace
 
-// One tick. A window that the handlers delete drops out of the refs held here; one that they only mark lives
-// on until the end of the tick.
+// Handles one tick. The refs here become null if a handler deletes their window; a window that is only marked
+// for deletion lives until the end of the tick.
 void AMainWin::OnMouseAction()
 {
     if (!screenList)
@@ -35,7 +35,7 @@ void AMainWin::OnMouseAction()
 
     flushMessages();
     if (std::exchange(pressCancelled, 0))
-        mouseDownWnd = nullptr; // what was pressed goes back to rest with the moves that now reach it
+        mouseDownWnd = nullptr; // the pressed window returns to rest with the moves that now reach it
     if (nextDrawCount > 0 || !pendingScreen.IsEmpty()) {
         flushMessages();
         dropLostInput();
@@ -43,8 +43,8 @@ void AMainWin::OnMouseAction()
         return;
     }
     if (lButtonUp && mouseCaptureWnds.GetSize() > 0) {
-        // A click outside an edit box ends the typing.
-        const AWnd* top = alive(mouseCaptureWnds[0]);
+        // A click outside the edit box ends the typing.
+        const AWnd* top = aliveOrNull(mouseCaptureWnds[0]);
         if (isOfType(top, AWnd::WND_EDITBOX) && !top->pointInside(mouseX, mouseY))
             setMouseCaptureWnd(nullptr);
     }
@@ -75,15 +75,15 @@ void AMainWin::OnMouseAction()
     if (screenList)
         screenList->deleteWndsPendingDelete();
     if (rButtonUp && keyCode == VK_END) {
-        // The key that the release was taken for.
+        // The key that chooseAction made of the release.
         keyCode = 0;
         keyCode2 = 0;
     }
     ddwin::OnMouseAction();
 }
 
-/// A person means input for what is shown: what comes before a change and during a load is not for the new
-/// screen.
+/// Drops input that arrived before a change or during a load: the user meant it for the screen that was shown
+/// then.
 void AMainWin::dropLostInput()
 {
     displayhost& host = displayhost::current();
@@ -95,8 +95,8 @@ void AMainWin::dropLostInput()
 
 void AMainWin::OnKeyInput() {}
 
-/// wnd, or null when it is on its way out.
-AWnd* AMainWin::alive(AWnd* wnd) const
+/// Returns wnd, or null if it is marked for deletion.
+AWnd* AMainWin::aliveOrNull(AWnd* wnd) const
 {
     return screenList->isWndToBeDeleted(wnd) ? nullptr : wnd;
 }
@@ -104,16 +104,16 @@ AWnd* AMainWin::alive(AWnd* wnd) const
 AWnd* AMainWin::inputTarget() const
 {
     if (mouseCaptureWnds.GetSize() > 0)
-        if (AWnd* captured = alive(mouseCaptureWnds[0]))
+        if (AWnd* captured = aliveOrNull(mouseCaptureWnds[0]))
             return captured;
     if (popupWnds.GetSize() > 0)
-        if (AWnd* popup = alive(popupWnds[0]))
+        if (AWnd* popup = aliveOrNull(popupWnds[0]))
             return popup;
     return getActiveScreen();
 }
 
-/// The first input that is there, in this order. A key may be spent here, on an edit box or on a move to a
-/// tab stop.
+/// Returns the first pending input, in this order. A key may be consumed here, by an edit box or by a move to
+/// a tab stop.
 AWnd::E_MOUSEACTION AMainWin::chooseAction(AWnd* target)
 {
     if (lButtonDown)
@@ -149,7 +149,8 @@ AWnd::E_MOUSEACTION AMainWin::chooseAction(AWnd* target)
     return takeKey(target) ? AWnd::MA_MOVE : AWnd::MA_KEY;
 }
 
-/// Whether the key has moved the pointer. A key that is typed into an edit box goes there instead.
+/// Passes a key to the edit box that is being typed into, or moves the pointer to a tab stop. Returns true if
+/// the pointer was moved.
 bool AMainWin::takeKey(AWnd* target)
 {
     const bool typing = isOfType(target, AWnd::WND_EDITBOX);
@@ -160,8 +161,8 @@ bool AMainWin::takeKey(AWnd* target)
     if (keyCode != VK_TAB && keyCode != VK_LEFT && keyCode != VK_RIGHT)
         return false;
     const bool backwards = keyCode == VK_LEFT || (keyCode == VK_TAB && keyDown[VK_SHIFT]);
-    AWnd* root =
-        typing ? getActiveWnd() : target; // Tab leaves an edit box for the next stop of its screen or popup
+    // Tab leaves an edit box for the next stop of its screen or popup.
+    AWnd* root = typing ? getActiveWnd() : target;
     return setMousePosOnNextTabStop(root, curFocusWnd, backwards, 0) != 0;
 }
 
@@ -200,7 +201,8 @@ void AMainWin::dispatch(AWnd* to, AWnd::E_MOUSEACTION action)
     } else {
         if (action == AWnd::MA_LBUTTONDOWN && mouseDownCount == 1)
             mouseDownWnd = curFocusWnd;
-        // A press belongs to the window that it began on: elsewhere nothing goes out until the release.
+        // A press belongs to the window on which it began: nothing is sent to other windows until the
+        // release.
         if (mouseDownWnd && mouseDownWnd != curFocusWnd)
             return;
     }
@@ -215,8 +217,8 @@ void AMainWin::dispatch(AWnd* to, AWnd::E_MOUSEACTION action)
         parent->handlePopupAction(id, about, isKey ? mouseX : x, isKey ? mouseY : y, action);
 }
 
-/// Where Home, End, Insert and Delete go: the first window of the target's list for them, if that is one that
-/// takes keys.
+/// Returns the window for a key. For Home, End, Insert and Delete that is the first window of the target's
+/// list for them, if it takes keys; otherwise the window with the focus.
 AWnd* AMainWin::keyWindow(AWnd* target) const
 {
     const auto isKey = [this](VirtualKey key) { return keyDown[key] || keyCode2 == key; };
@@ -278,7 +280,7 @@ int AMainWin::isMouseDownInterval(int interval) const
         interval = 1;
     if (mouseDownCount == 1)
         return 1;
-    // The delay before the repeat. In 64 bits: any interval may come.
+    // The delay before the repeat, in 64 bits because interval may have any value.
     if (mouseDownCount < 3LL * interval)
         return 0;
     return mouseDownCount % interval == 0;
@@ -304,11 +306,11 @@ int AMainWin::setMousePosOnWnd(AWnd* wnd, int jump)
         setMousePos(x, y, jump);
         return 1;
     }
-    // Where it will come to rest, at the size that it has now.
+    // The position is the window's resting place, the size its current one.
     setMousePos(wnd->posX(1) + wnd->width() / 2, wnd->posY(1) + wnd->height() / 2, jump);
     if (isOfType(wnd, AWnd::WND_EDITBOX))
         if (AWnd* active = getActiveWnd()) {
-            // The click gives the edit box the capture: arriving there starts the typing.
+            // The click gives the edit box the capture, so moving to it starts the typing.
             const CString id = wnd->getID();
             active->handleMouseAction(id, wnd, mouseX, mouseY, AWnd::MA_LBUTTONUP);
         }
@@ -317,7 +319,7 @@ int AMainWin::setMousePosOnWnd(AWnd* wnd, int jump)
 
 int AMainWin::setMousePosOnNextTabStop(AWnd* below, AWnd* start, int backwards, int jump)
 {
-    // Arriving at an edit box clicks it, which may delete any of these.
+    // Moving to an edit box clicks it, which may delete any of these.
     const WndRef root = below;
     WndRef from = start;
     if (isOfType(from, AWnd::WND_BUTTON))
@@ -333,7 +335,7 @@ int AMainWin::setMousePosOnNextTabStop(AWnd* below, AWnd* start, int backwards, 
             setMousePosOnWnd(root, jump);
             continue;
         }
-        // A table of cells that is the only stop keeps the pointer, and the key goes on to it.
+        // A list with cell highlight that is the only stop keeps the pointer, and the key is passed to it.
         if (const auto* list = next == from ? windowAs<AListBox>(next) : nullptr;
             list && list->getCellHighlight())
             return 0;

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Five frames are shown between the request for a change and the change itself; then the count stands here.
+/// Frames shown between the request for a change and the change itself.
 constexpr int framesWaited = 5;
 
 template<class Field>
@@ -48,8 +48,7 @@ AMainWin::~AMainWin()
     ownedBuffer.reset();
     screenList.reset();
     if (pApp && pApp->mainWin == this)
-        pApp->mainWin =
-            nullptr; // windows that the game took out of the tree ask for it when they are deleted
+        pApp->mainWin = nullptr; // windows that the game removed from the tree use it when they are deleted
     writeSetting("FullScreen", fullScreen);
     writeSetting("TopMost", topMost);
     writeSetting("BitDepth", bitDepth);
@@ -93,13 +92,13 @@ void AMainWin::drawscreen()
     if (keyCode == VK_F7)
         redrawScreen();
     ddwin::drawscreen();
-    countTowardsChange();
+    advancePendingChange();
 }
 
 void AMainWin::drawPopups()
 {
     bool dimmed = false;
-    // From the back to the front one. A draw may close a popup, so the size is asked anew at each step.
+    // From the back to the front. Drawing may close a popup, so the size is read again in each step.
     for (int i = popupWnds.GetSize() - 1; i >= 0; --i) {
         if (i >= popupWnds.GetSize())
             continue;
@@ -114,8 +113,9 @@ void AMainWin::drawPopups()
     }
 }
 
-/// Behind the frame's flip, outside any handler: the pending change.
-void AMainWin::countTowardsChange()
+/// Counts a frame towards the pending change, and carries the change out after the last one. Runs outside any
+/// handler.
+void AMainWin::advancePendingChange()
 {
     if (pendingScreen.IsEmpty())
         return;
@@ -123,15 +123,15 @@ void AMainWin::countTowardsChange()
         return;
     nextDrawCount = 0;
     const CString name = pendingScreen;
-    if (!doChangeScreenSpecial(name)) { // or else the game has taken the change over
+    if (!doChangeScreenSpecial(name)) { // otherwise the game has carried out the change
         AScreen* next = doChangeScreen();
         if (next && !next->isOpen())
             next->initialise();
     }
-    dropLostInput(); // that came during the load
+    dropLostInput(); // drops what arrived during the load
 }
 
-/// Called from handlers, inside the tree: nothing is deleted under them, however often they ask.
+/// Only sets a flag: handlers inside the tree call this, so nothing may be deleted here.
 void AMainWin::exitProgram()
 {
     exitRequested = true;

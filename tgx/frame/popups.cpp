@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Whether wnd is above or lies inside it, up the parents.
+/// Returns true if wnd is above, or above is one of its parents.
 bool isInside(const AWnd* wnd, const AWnd* above)
 {
     for (; wnd; wnd = wnd->getParent())
@@ -22,7 +22,7 @@ AWnd* AMainWin::setPopupWnd(AWnd* popup, AWnd* parent, int centre)
         closePopup();
         return nullptr;
     }
-    // A popup that would hang under itself gets no parent, so that parents make no ring.
+    // A popup that would become its own ancestor gets no parent, so that the parents form no cycle.
     popup->setParentAndIndex(isInside(parent, popup) ? nullptr : parent, 0);
     popup->setNotifyParent(1);
     if (centre)
@@ -45,8 +45,8 @@ AWnd* AMainWin::setPopupWnd(AWnd* popup, AWnd* parent, int centre)
         return nullptr;
 
     if (popupWnds.GetSize() > 1 && sameParent) {
-        // The popup in front keeps the pointer. The last one's stop waits in the one before it, for the
-        // moment when that one closes, and the last one takes over the way back.
+        // The popup in front keeps the pointer. When the popup before the last closes, the pointer goes to
+        // the last one's tab stop; the last one takes over that popup's saved position.
         AWnd* last = popupWnds[popupWnds.GetSize() - 1];
         AWnd* before = popupWnds[popupWnds.GetSize() - 2];
         const int x = last->getSavedMouseX();
@@ -90,7 +90,7 @@ void AMainWin::closePopup()
             if (place >= 0)
                 popupWnds.RemoveAt(place);
         }
-        // One that waited comes up.
+        // Shows the next popup if it was queued.
         if (popupWnds.GetSize() > 0 && !popupWnds[0]->isVisible(1))
             popupWnds[0]->setVisible(1);
     }
@@ -120,7 +120,8 @@ int AMainWin::isInPopupList(const CString& id) const
     return 0;
 }
 
-/// Null when the script has no such box: that is reported, and open popups stay as they are.
+/// Opens the box called name. Returns null if the script does not define it; that is reported, and open
+/// popups do not change.
 AWnd* AMainWin::openBox(const CString& name, const CString& id, const CString& title, const CString& text,
                         AWnd* parent)
 {
@@ -147,7 +148,7 @@ int AMainWin::messageBox(const CString& title, const CString& text, const CStrin
 {
     CString boxId = id;
     if (boxId == "messageBox") {
-        // The digits pile up: messageBox1, messageBox12, messageBox123.
+        // The numbers accumulate: messageBox1, messageBox12, messageBox123.
         int n = 0;
         do
             boxId += intToString(++n, 0, 0);

@@ -6,9 +6,9 @@
 
 namespace {
 
-constexpr int wipeStrip = 40; // pixels that a wipe uncovers a frame
+constexpr int wipeStrip = 40; // pixels that a wipe uncovers per frame
 
-/// Called with each backdrop; the interface's colours would come from it.
+/// Loaded with each backdrop; meant to contain the colours of the interface.
 constexpr const char* paletteName = "IntPalEl.BMP";
 
 } // namespace
@@ -20,7 +20,7 @@ AScreen* AMainWin::addScreen(const CString& id, int x, int y, int w, int h)
     AWnd* made = createNewWindow(id, x, y, w, h, id);
     auto* screen = windowAs<AScreen>(made);
     if (made && !screen) {
-        // The id is that of a class of the game that is no screen.
+        // The id names a class of the game that is not a screen.
         MsgBox("cannot make screen %s", static_cast<const char*>(id));
         delete made;
     }
@@ -44,7 +44,7 @@ AScreen* AMainWin::changeScreen(const CString& name, int closeCurrent, unsigned 
         setCursor(waitCursor);
 
     if (!pendingScreen.IsEmpty()) {
-        // The first request wins; the new one is dropped.
+        // The pending request is carried out; the new one is dropped.
         nextDrawCount = 0;
         return doChangeScreen();
     }
@@ -55,8 +55,8 @@ AScreen* AMainWin::changeScreen(const CString& name, int closeCurrent, unsigned 
     return nullptr;
 }
 
-/// A screen that a change can lead to. What the change deletes cannot be its own successor: the popups, the
-/// present screen if it is closed for good, and all inside them.
+/// Returns wnd if it is a screen that a change can lead to, otherwise null. Windows that the change deletes
+/// are excluded: the popups, the current screen if it is closed for good, and everything inside them.
 AScreen* AMainWin::usableScreen(AWnd* wnd, bool closesCurrent) const
 {
     auto* screen = windowAs<AScreen>(wnd);
@@ -87,7 +87,7 @@ AScreen* AMainWin::doChangeScreen()
     const ScreenRequest request{pendingScreen, pendingCloseCurrent != 0, pendingResource, pendingFile};
     pendingScreen.Empty();
 
-    // A missing screen is found out before anything is taken down for it.
+    // The new screen is looked up before anything is closed, so that a missing one changes nothing.
     AScreen* found = findOrReadScreen(request);
     if (!found) {
         reportMissingScreen(request);
@@ -96,7 +96,7 @@ AScreen* AMainWin::doChangeScreen()
     return enterScreen(*found, request);
 }
 
-/// screen is the one that request asks for.
+/// Leaves the current screen and enters screen, the one that request names.
 AScreen* AMainWin::enterScreen(AScreen& screen, const ScreenRequest& request)
 {
     WndRef target = &screen;
@@ -113,7 +113,7 @@ AScreen* AMainWin::enterScreen(AScreen& screen, const ScreenRequest& request)
         else if (current)
             static_cast<AScreen*>(current.get())->setOpen(1);
     }
-    // A handler may have deleted it meanwhile.
+    // A handler may have deleted it in the meantime.
     if (!target || screenList->isWndToBeDeleted(target))
         target = findOrReadScreen(request);
     auto* next = static_cast<AScreen*>(target.get());
@@ -164,15 +164,14 @@ void AMainWin::showBackdropOf(const AScreen& screen)
     createspecific(paletteName, -1);
 }
 
-// A wipe of a screen 640 wide, frame by frame:
+// A wipe of a screen 640 pixels wide, frame by frame; each frame ends with drawbackdrop:
 //   wipeFramesLeft   16  15   14        13 ... 3       2       1
 //   uncovered        0   40   backdrop  120 ... 520    whole   whole, returned
-//   then             drawbackdrop, each time
 void AMainWin::screenWipe()
 {
     const int total = screenWidth / wipeStrip;
     if (lButtonUp && wipeFramesLeft > 2)
-        wipeFramesLeft = 2; // a click cuts it short
+        wipeFramesLeft = 2; // a click shortens the wipe
     const int left = wipeFramesLeft;
     AScreen* screen = getActiveScreen();
 
@@ -182,7 +181,7 @@ void AMainWin::screenWipe()
         if (screen) {
             showBackdropOf(*screen);
             if (!wipeReturns)
-                screen->renewBkgnds(); // a new screen was started over the old backdrop
+                screen->renewBkgnds(); // a new screen was started while the old backdrop was shown
         }
     }
     const bool onlySwaps = swaps && left == total - 2 && left > 1;

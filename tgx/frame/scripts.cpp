@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The streams that the subroutine calls of one read have opened.
+/// Holds the streams that the subroutine calls of one read have opened, and deletes them at the end.
 struct GotoCache {
     AMainWin& window;
     CArray<CFile*, CFile*> files;
@@ -17,12 +17,12 @@ struct GotoCache {
     ~GotoCache() { window.deleteAllGotoFiles(files); }
 };
 
-/// Puts the stream's position back.
-struct KeptPosition {
+/// Restores the stream's position at the end of the block.
+struct PositionRestorer {
     CFile* stream;
     unsigned position;
 
-    ~KeptPosition() { stream->Seek(position); }
+    ~PositionRestorer() { stream->Seek(position); }
 };
 
 } // namespace
@@ -93,7 +93,7 @@ int AMainWin::doSubroutine(CFile* stream, const CString& name, AWnd* parent,
         run.noteShared();
 
     const ScriptRun::Subroutine keptStream(run, stream);
-    const KeptPosition kept{stream, stream->GetPosition()};
+    const PositionRestorer restorer{stream, stream->GetPosition()};
     stream->Seek(static_cast<long>(body->position));
     tgx::LineLoop loop{*this, run, stream, gotoFiles, parent};
     loop.open[0] = parent;
@@ -129,19 +129,19 @@ AWnd* AMainWin::readScriptFile(const CString& name, HINSTANCE instance, unsigned
     return toWindow.IsEmpty() ? nullptr : lastTopLevelWnd(toWindow);
 }
 
-/// Whether there was a screen to open.
+/// Opens the first screen. Returns false if there is none.
 bool AMainWin::openFirstScreen()
 {
     AWnd* first = screenList ? screenList->getWndOfType(AWnd::WND_SCREEN, 0, 0) : nullptr;
     if (!first)
         return false;
-    // No request can name a screen without an id: it is entered as it is.
+    // No request can name a screen without an id, so it is entered directly.
     auto* unnamed = first->getID().IsEmpty() ? windowAs<AScreen>(first) : nullptr;
     if (unnamed && pendingScreen.IsEmpty()) {
         enterScreen(*unnamed, {"", false, mainScriptResource, mainScriptFile});
     } else {
         changeScreen(first->getID(), 0, mainScriptResource, mainScriptFile);
-        // With a change already waiting, changeScreen has carried that one out and dropped ours.
+        // If another change was pending, changeScreen has carried it out and dropped this one.
         if (!pendingScreen.IsEmpty())
             doChangeScreen();
     }

@@ -1,16 +1,16 @@
 #pragma once
 
-// Rows of the accessor tables. Each stands for one field of RECORD, the class whose table it is, and defines
-// the accessors of the field's name. Flags are read as bool and short fields as int, whatever their width.
+// Rows of the accessor tables. Each row defines the accessors of one field of RECORD, the class of the table;
+// they have the field's name. Flags are returned as bool and short fields as int, whatever their width.
 
-/// TYPE NAME() const: the field's value.
+/// Defines TYPE NAME() const, which returns the field's value.
 #define READ_ONLY(TYPE, NAME)                                                                                \
     TYPE RECORD::NAME() const                                                                                \
     {                                                                                                        \
         return static_cast<TYPE>(fields.NAME);                                                               \
     }
 
-/// void NAME(TYPE): stores a value.
+/// Defines void NAME(TYPE), which stores a value.
 #define WRITE_ONLY(TYPE, NAME)                                                                               \
     void RECORD::NAME(TYPE value)                                                                            \
     {                                                                                                        \
@@ -19,46 +19,46 @@
 
 #define READ_WRITE(TYPE, NAME) READ_ONLY(TYPE, NAME) WRITE_ONLY(TYPE, NAME)
 
-/// TYPE& NAME(): the field itself.
+/// Defines TYPE& NAME(), which returns the field itself.
 #define REFERENCE(TYPE, NAME)                                                                                \
     TYPE& RECORD::NAME()                                                                                     \
     {                                                                                                        \
         return fields.NAME;                                                                                  \
     }
 
-/// TYPE* NAME(): where the field lies in the record.
+/// Defines TYPE* NAME(), which returns the field's address.
 #define ADDRESS(TYPE, NAME)                                                                                  \
     TYPE* RECORD::NAME()                                                                                     \
     {                                                                                                        \
         return &fields.NAME;                                                                                 \
     }
 
-/// bool QUESTION() const: the list NAME is not empty.
+/// Defines bool QUESTION() const, which returns true if the list NAME is not empty.
 #define NOT_EMPTY(QUESTION, NAME)                                                                            \
     bool RECORD::QUESTION() const                                                                            \
     {                                                                                                        \
         return !fields.NAME.IsEmpty();                                                                       \
     }
 
-/// void OPERATION(): raises the flag NAME.
+/// Defines void OPERATION(), which sets the flag NAME.
 #define RAISE(OPERATION, NAME)                                                                               \
     void RECORD::OPERATION()                                                                                 \
     {                                                                                                        \
         fields.NAME = 1;                                                                                     \
     }
 
-/// void OPERATION(): puts the request NAME back to its idle value.
+/// Defines void OPERATION(), which resets the request NAME to its idle value.
 #define DONE(OPERATION, NAME)                                                                                \
     void RECORD::OPERATION()                                                                                 \
     {                                                                                                        \
         fields.NAME.done();                                                                                  \
     }
 
-/// A request: it is read by its name, and DoneNAME() puts it back.
+/// Defines the accessors of a request: NAME() returns it and DoneNAME() resets it.
 #define REQUEST(TYPE, NAME) READ_ONLY(TYPE, NAME) DONE(Done##NAME, NAME)
 
-/// A list to be shown anew: WHATChanged() reads it, UpdateWHATScreen() raises it, DoneWHATScreen() puts it
-/// back.
+/// Defines the accessors of a list's request to be redrawn: WHATChanged() returns it, UpdateWHATScreen() sets
+/// it and DoneWHATScreen() resets it.
 #define SCREEN_REQUEST(WHAT)                                                                                 \
     READ_ONLY(bool, WHAT##Changed)                                                                           \
     RAISE(Update##WHAT##Screen, WHAT##Changed)                                                               \

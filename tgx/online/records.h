@@ -1,7 +1,7 @@
 #pragma once
 
-/// The records of online play. Classes and fields are the client library's; their accessors are the
-/// toolkit's, defined in this folder. See platform/online/connection.h.
+/// The records of online play. The client library declares the classes and fields; the toolkit defines their
+/// accessors in this folder. See platform/online/connection.h.
 
 #include "platform/online/connection.h"
 #include "platform/online/netchallenge.h"

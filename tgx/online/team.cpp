@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Byte of a word, 0 being the lowest.
+/// Returns a byte of word; byte 0 is the lowest.
 int byteOf(int word, int byte)
 {
     return word >> byte * 8 & 0xFF;
@@ -46,7 +46,7 @@ READ_ONLY(int, Lose)
 #undef RECORD
 #define RECORD CTeamDetails
 
-// True when the own Status has one of the bits.
+// Defines bool NAME() const, which returns true if the record's Status has one of the bits.
 #define STATUS_TEST(NAME, MASK)                                                                              \
     bool RECORD::NAME() const                                                                                \
     {                                                                                                        \

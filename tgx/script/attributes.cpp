@@ -1,4 +1,4 @@
-// Statements that set something on any window and need more than a setter of it.
+// Statements that set an attribute of any window and need more than one of its setters.
 
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/script/run.h"
@@ -38,7 +38,7 @@ void bmpFile(AWnd& target, const ScriptLine& line)
     target.setBmpFilename(line.text(1), -1, -1);
 }
 
-// Token 4 is the hot border of a list box; on any other window it is not read.
+// Token 4 is the hot border of a list box; for any other window it is not used.
 void border(AWnd& target, const ScriptLine& line)
 {
     target.setBorder(line.text(1), line.number(2), line.number(3));
@@ -55,7 +55,7 @@ bool font(AWnd& target, const ScriptLine& line)
     return true;
 }
 
-// A word, read by its id; anything else there changes nothing and is no error.
+// Any argument other than a justification changes nothing and is not an error.
 void justify(AWnd& target, const ScriptLine& line)
 {
     AWnd::E_TEXTJUSTIFY chosen;

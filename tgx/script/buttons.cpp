@@ -1,5 +1,5 @@
-// Statements that make check boxes, radio buttons and parts of controls, and forms that buttons and bars
-// share.
+// Statements that make check boxes, radio buttons and the parts of controls, and forms that several
+// statements share.
 
 #include "tgx/controls/combobox.h"
 #include "tgx/controls/radiobutton.h"
@@ -9,7 +9,7 @@
 
 namespace {
 
-/// How many radio buttons stand at the end of target's children, up to limit.
+/// Returns the number of radio buttons at the end of target's children, up to limit.
 int lastRadioButtons(AWnd& target, int limit)
 {
     int count = 0;
@@ -22,8 +22,8 @@ int lastRadioButtons(AWnd& target, int limit)
 
 } // namespace
 
-/// Text, its offset, bitmap, frame size and delay, frames of the states; each group may be left out from the
-/// end.
+/// Applies text, text offset and bitmap, frame size and delay, and frames of the states; groups may be left
+/// out from the end.
 void applyButtonForm(AButton& button, const ScriptLine& line)
 {
     button.setWindowText(line.text(6));
@@ -70,7 +70,7 @@ AWnd* checkBox(AWnd& target, const ScriptLine& line)
     return made;
 }
 
-// The radio buttons directly in front of it are its group: each comes to know all others.
+// The radio buttons directly before it form its group; each of them is linked with all others.
 AWnd* radioButton(AWnd& target, const ScriptLine& line)
 {
     const int others = lastRadioButtons(target, ARadioButton::maxScriptMembers);
@@ -84,7 +84,7 @@ AWnd* radioButton(AWnd& target, const ScriptLine& line)
         auto* member = static_cast<ARadioButton*>(target.getWndFromIndex(i, ""));
         if (member->getPointerCount() == 0) {
             made->linkNewMember(*member);
-        } else { // it may stand here a second time
+        } else { // it may be here a second time
             made->addLinkedButton(member);
             member->addLinkedButton(made);
         }

@@ -8,7 +8,8 @@
 
 namespace {
 
-/// A script file, or the resource whose number script is; an empty stream when there is neither.
+/// Opens a script file, or the resource whose number script is, or an empty stream if there is neither. Adds
+/// the stream to gotoFiles.
 CFile* openInCache(const ScriptLine& line, const CString& script)
 {
     CFile* stream = line.run.open(script).release();
@@ -31,8 +32,8 @@ CFile* streamOfSubroutine(const ScriptLine& line)
     return cached ? cached : openInCache(line, script);
 }
 
-/// If the line names a script that is not there.
-std::string whyNoSubroutines(const ScriptLine& line)
+/// Returns an explanation if the line names a script that does not exist, otherwise "".
+std::string whyNoSubroutineScript(const ScriptLine& line)
 {
     const CString& script = line.text(2);
     if (line.count < 3 || (line.stream && line.stream->GetFileName() == script))
@@ -45,7 +46,7 @@ std::string whyNoSubroutines(const ScriptLine& line)
 bool addFont(const ScriptLine& line)
 {
     line.window.addNewFont(line.text(1), line.text(2), line.number(3), line.number(4));
-    return true; // a font that cannot be loaded reports itself
+    return true; // addNewFont reports a font that cannot be loaded
 }
 
 bool goTo(const ScriptLine& line)
@@ -55,7 +56,7 @@ bool goTo(const ScriptLine& line)
     const CString& name = line.text(1);
     if (line.window.doSubroutine(streamOfSubroutine(line), name, line.current, line.gotoFiles))
         return true;
-    const std::string cause = whyNoSubroutines(line);
+    const std::string cause = whyNoSubroutineScript(line);
     const std::string text = "Could not find SUBROUTINE";
     displayhost::current().showFailure(CString(text), cause);
     displayhost::current().showFailure(CString(text + ' ' + static_cast<const char*>(name)), cause);

@@ -10,7 +10,7 @@ AWnd* lineGraph(AWnd& target, const ScriptLine& line)
     return made;
 }
 
-// What stands behind the line's end stays as it was.
+// Attributes whose tokens are left out do not change.
 void graphInfo(AGraph& target, const ScriptLine& line)
 {
     if (line.count > 1)

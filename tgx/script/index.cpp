@@ -7,11 +7,11 @@
 
 namespace {
 
-/// The first two tokens of a line.
+/// Receives the tokens of a line and keeps the first two.
 struct LineHead {
     int count = 0;
-    int id = 0;             // of token 0
-    bool hasString = false; // token 1 is one
+    int id = 0;             // id of token 0
+    bool hasString = false; // token 1 is a string
     std::string_view name;
 
     void number(short) { keyword(numberToken); }
@@ -36,7 +36,7 @@ ScriptIndex::ScriptIndex(std::string_view stream, std::shared_ptr<const void> ow
     : bytes(stream), keepAlive(std::move(owner))
 {}
 
-/// visit(name, place) answers whether to go on.
+/// Calls visit(name, place) for each line of the kind until it returns false.
 template<class Visit>
 void ScriptIndex::forEachName(bool ofSubroutines, Visit visit) const
 {
@@ -49,7 +49,7 @@ void ScriptIndex::forEachName(bool ofSubroutines, Visit visit) const
         if (!next)
             return;
         ++line;
-        // A SUBROUTINE line without a string bears the empty name.
+        // A SUBROUTINE line without a string has an empty name.
         const bool wanted = ofSubroutines ? head.id == keyword::subroutine : head.hasString;
         if (wanted) {
             const char* place = ofSubroutines ? next : pos;
@@ -62,8 +62,8 @@ void ScriptIndex::forEachName(bool ofSubroutines, Visit visit) const
 
 std::optional<ScriptIndex::Place> ScriptIndex::find(Names& names, std::string_view name)
 {
-    if (!names.asked) {
-        names.asked = true;
+    if (!names.wasSearched) {
+        names.wasSearched = true;
         std::optional<Place> found;
         forEachName(names.ofSubroutines, [&](std::string_view other, Place place) {
             if (other == name)
@@ -73,13 +73,13 @@ std::optional<ScriptIndex::Place> ScriptIndex::find(Names& names, std::string_vi
         return found;
     }
     const auto byName = [](const Entry& a, const Entry& b) { return a.name < b.name; };
-    if (!names.sorted) {
-        names.sorted = true;
+    if (!names.isSorted) {
+        names.isSorted = true;
         forEachName(names.ofSubroutines, [&](std::string_view other, Place place) {
             names.entries.push_back({other, place});
             return true;
         });
-        // Stable, so that of two lines with one name the first is found.
+        // Stable, so that the first of several lines with the same name is found.
         std::stable_sort(names.entries.begin(), names.entries.end(), byName);
     }
     const auto found = std::lower_bound(names.entries.begin(), names.entries.end(), Entry{name, {}}, byName);

@@ -6,20 +6,20 @@
 #include <string_view>
 #include <vector>
 
-/// Finds the lines of one stream that are asked for by name, without reading what lies before them each time.
+/// Finds lines of one stream by name, without reading everything before them each time.
 class ScriptIndex {
 public:
     struct Place {
         std::size_t position; // bytes from the start of the stream
-        int line;             // 1 for the first
+        int line;             // line number, from 1
     };
 
-    /// keepAlive holds bytes, unless they are memory that outlives the index.
+    /// keepAlive owns bytes, unless they are memory that outlives the index anyway.
     ScriptIndex(std::string_view bytes, std::shared_ptr<const void> keepAlive);
 
-    /// The line behind the first SUBROUTINE line of that name.
+    /// Returns the line after the first SUBROUTINE line of that name.
     std::optional<Place> subroutine(std::string_view name) { return find(subroutines, name); }
-    /// The first line whose token 1 is that string.
+    /// Returns the first line whose token 1 is that string.
     std::optional<Place> window(std::string_view name) { return find(windows, name); }
 
 private:
@@ -27,11 +27,11 @@ private:
         std::string_view name; // inside bytes
         Place place;
     };
-    /// One look goes through the lines. Only who asks a second time pays for a sorted table.
+    /// The names of one kind. The first search reads the lines; the second one builds a sorted table.
     struct Names {
         bool ofSubroutines;
-        bool asked = false;
-        bool sorted = false;
+        bool wasSearched = false;
+        bool isSorted = false;
         std::vector<Entry> entries = {};
     };
 

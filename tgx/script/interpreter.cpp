@@ -19,7 +19,7 @@ LineResult executeLine(const ScriptLine& line)
     if (statement->kind == StatementKind::BlockEnd)
         return {-1};
 
-    // A line of too many tokens has a count that no row allows.
+    // A line with too many tokens has a count that no row allows.
     const bool isCommand = statement->kind == StatementKind::Command;
     AWnd* root = line.window.getScreenList();
     if (!statement->counts.allow(line.count) || !statement->handler ||

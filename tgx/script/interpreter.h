@@ -2,12 +2,12 @@
 
 #include "tgx/script/statements.h"
 
-/// What a line came to.
+/// The result of a line.
 struct LineResult {
-    int depthChange = 0;  // 1 BEGIN, -1 END, lineFailed, else 0
-    bool stores = false;  // made goes on the window stack, null too
-    AWnd* made = nullptr; // the window that the line made
+    int depthChange = 0;  // 1 for BEGIN, -1 for END, lineFailed, otherwise 0
+    bool stores = false;  // made is stored on the window stack, even if it is null
+    AWnd* made = nullptr; // window that the line made
 };
 
-/// Carries one line out.
+/// Executes one line.
 LineResult executeLine(const ScriptLine& line);

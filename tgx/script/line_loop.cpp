@@ -22,8 +22,8 @@ void reportLine(int number, const CString& script, const CString& firstText, con
     displayhost::current().showFailure(CString(text), cause);
 }
 
-/// Goes to the line that defines a window. Returns the number of the line before it: the lines that are
-/// skipped count as if they had been read.
+/// Moves to the line that defines a window. Returns the number of the line before it: skipped lines are
+/// counted as if they had been read.
 int skipTo(LineLoop& loop, const CString& window)
 {
     const auto start = loop.run.indexOf(*loop.stream).window(window.view());
@@ -46,7 +46,8 @@ AWnd* LineLoop::current() const
 {
     if (depth == 0)
         return outside;
-    return depth <= wndStackSize ? open[depth - 1].get() : nullptr; // deeper no statement is carried out
+    // No statement is executed at a greater depth.
+    return depth <= wndStackSize ? open[depth - 1].get() : nullptr;
 }
 
 int LineLoop::execute()
@@ -67,7 +68,7 @@ void readLines(LineLoop& loop, const CString& toWindow, const CString& name)
     int lineNumber = wholeScript ? 0 : skipTo(loop, toWindow);
     while (loop.next()) {
         ++lineNumber;
-        // The window's own line, and any other that has its name first, is never the last of the definition.
+        // The window's own line, and any other line whose token 1 is its name, never ends the definition.
         const bool hasName =
             !wholeScript && loop.tokens[1].id == stringToken && loop.tokens[1].text == toWindow;
         const int change = loop.execute();
@@ -75,7 +76,7 @@ void readLines(LineLoop& loop, const CString& toWindow, const CString& name)
         if (change > lineFailed)
             loop.depth = std::max(loop.depth + change, 0);
         else if (loop.run.isOver())
-            break; // a line that the end of the run stopped is not at fault
+            break; // a line refused because the run is over is not faulty
         else
             reportLine(lineNumber, name, loop.tokens[0].text, cause);
         if (!wholeScript && !hasName && loop.depth == 0)
@@ -86,7 +87,7 @@ void readLines(LineLoop& loop, const CString& toWindow, const CString& name)
 void runSubroutine(LineLoop& loop)
 {
     while (loop.next()) {
-        // The start of another subroutine ends nothing here.
+        // The start of another subroutine does not end this one.
         if (loop.tokens[0].id == keyword::subroutine)
             continue;
         const int change = loop.execute();

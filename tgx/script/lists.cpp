@@ -7,18 +7,19 @@
 
 namespace {
 
-/// A cell of an ITEM line: "ICON", a number, and perhaps "F" and the number of a frame.
+/// Sets a cell of an ITEM line that consists of "ICON", a number and, optionally, "F" and the number of a
+/// frame.
 void setIconCell(AListBox& list, int row, int column, const CString& text)
 {
     constexpr int wordLength = 4;
     const int mark = text.Find('F');
     const int frame = mark < 0 ? 0 : std::atoi(text.Mid(mark + 1));
-    list.setItemDataWithIconIndex(row, column, std::atoi(text.Mid(wordLength)), frame); // ends at the F
+    list.setItemDataWithIconIndex(row, column, std::atoi(text.Mid(wordLength)), frame); // atoi stops at the F
 }
 
-// One line is one row. A list without columns gets one of its own width. A cell that has no place fails the
-// line, and what stands in front of it stays: there are fewer columns, or this one came behind a row. What
-// stands behind the last column that a list can have is dropped.
+// Adds one row per line. A list without columns gets one of its own width. A cell without a column, or whose
+// column was added after a row, fails the line; the cells before it stay. Cells beyond the maximum number of
+// columns are dropped.
 bool addRow(AListBox& list, const ScriptLine& line)
 try {
     if (list.getColumnCount() == 0)
@@ -38,7 +39,7 @@ try {
 
 } // namespace
 
-// An item of a combo box, or a row of a list box.
+// Adds an item to a combo box or a row to a list box.
 bool item(AWnd& target, const ScriptLine& line)
 {
     if (auto* list = windowAs<AListBox>(&target))
@@ -49,7 +50,7 @@ bool item(AWnd& target, const ScriptLine& line)
     return combo != nullptr;
 }
 
-// A width each, with or without a word for the justification behind it.
+// Each column has a width, optionally followed by its justification.
 void columns(AListBox& list, const ScriptLine& line)
 {
     for (int i = 1; i < line.count; ++i) {
@@ -81,7 +82,7 @@ void listHighlight(AListBox& list, const ScriptLine& line)
     list.setHotRowBmpFile(line.text(2));
 }
 
-// An entry that the font table does not have fails the line, as for FONT; the fonts before it stay.
+// A font that is not in the font table fails the line, as with FONT; the fonts before it stay.
 bool listFonts(AListBox& list, const ScriptLine& line)
 {
     constexpr int rowFonts = 3;

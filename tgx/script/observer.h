@@ -8,30 +8,31 @@
 class AWnd;
 class CString;
 
-/// A line of a script.
+/// The place of a line in a script.
 struct ScriptPlace {
-    std::string file; // below UIG, as it was opened, such as "parts\menu.tgx"; empty for an embedded script
-    unsigned offset;  // of its first byte, from the start of the stream
+    /// Path below UIG as it was opened, such as "parts\menu.tgx"; empty for an embedded script.
+    std::string file;
+    unsigned offset; // position of its first byte in the stream
 };
 
-/// The part of a script's path below UIG.
+/// Returns the part of a script's path below UIG.
 TGX_API std::string belowScriptFolder(const CString& path);
 
-/// A line of a script that has been carried out, or has failed.
+/// A line of a script that has been executed or has failed.
 struct ExecutedLine {
     const CString& script;    // name of its stream, without a directory; empty for an embedded script
-    const CString& path;      // the same as it was opened, with its directories
-    unsigned offset;          // of its first byte, from the start of the stream
-    const TOKEN_INFO* tokens; // those behind the line's end are reset
+    const CString& path;      // path as it was opened, with directories
+    unsigned offset;          // position of its first byte in the stream
+    const TOKEN_INFO* tokens; // entries after the line's end are reset
     int count;
-    int depth;       // of blocks around it
-    AWnd* current;   // the window of its block; null at the top level, and where that window is gone
-    int depthChange; // 1 BEGIN, -1 END, lineFailed, else 0
-    AWnd* made;      // the window that it made or brought in, or null
+    int depth;       // number of blocks around it
+    AWnd* current;   // window of its block; null at the top level or if that window has been deleted
+    int depthChange; // 1 for BEGIN, -1 for END, lineFailed, otherwise 0
+    AWnd* made;      // window that it made or showed again, or null
 };
 
-/// Sees each line that a main window's reads carry out, those of subroutines too. Windows that it is shown
-/// may be deleted at any time behind the call. Neither reads a script nor changes the tree.
+/// Receives each line that a main window's reads execute, including those of subroutines. The windows passed
+/// to it may be deleted at any time after the call. It must neither read a script nor change the tree.
 class TGX_API ScriptObserver {
 public:
     virtual ~ScriptObserver();

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Writes tokens into the entries that there are, and counts them all.
+/// Stores tokens in the available entries and counts all of them.
 struct TokenWriter {
     TOKEN_INFO* tokens;
     int maxTokens;
@@ -18,7 +18,7 @@ struct TokenWriter {
     void string(std::string_view text)
     {
         if (TOKEN_INFO* token = next(stringToken))
-            token->text.assign(text); // in the storage that is there
+            token->text.assign(text); // reuses the string's storage
     }
     void keyword(unsigned char id) { next(id); }
 
@@ -37,7 +37,7 @@ private:
 
 int readScriptLine(CFile* stream, TOKEN_INFO* tokens, int maxTokens, int* count)
 {
-    // Most entries are still as the last reset left them, and looking costs less than writing.
+    // Most entries are still reset, and testing them is cheaper than writing.
     for (int i = 0; i < maxTokens; ++i) {
         TOKEN_INFO& token = tokens[i];
         if (token.id == 0 && token.value == 0 && token.text.IsEmpty())

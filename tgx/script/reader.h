@@ -7,19 +7,19 @@
 #include <cstring>
 #include <string_view>
 
-/// First bytes that are no keyword.
-constexpr unsigned char numberToken = 3;    // then the low and the high byte
-constexpr unsigned char stringToken = 4;    // then the characters and a 0
-constexpr unsigned char endOfLineToken = 7; // in no token
+/// First bytes of tokens that are not keywords.
+constexpr unsigned char numberToken = 3;    // followed by the low and the high byte
+constexpr unsigned char stringToken = 4;    // followed by the characters and a 0
+constexpr unsigned char endOfLineToken = 7; // ends a line; not part of a token
 
-/// Reads the line that the stream stands on and leaves it on the next one. 1, or 0 at the end; a line that
-/// the stream's end cuts off is dropped. All maxTokens entries are reset first. count tells all tokens of the
-/// line, also those that found no entry.
+/// Reads the line at the stream's position and moves to the next one. Returns 1, or 0 at the end of the
+/// stream; an incomplete last line is dropped. All maxTokens entries are reset first. Stores in count the
+/// number of tokens of the line, including those for which there was no entry.
 TGX_API int readScriptLine(CFile* stream, TOKEN_INFO* tokens, int maxTokens, int* count);
 
-/// Cuts the line at pos into tokens and hands them to sink in order: sink.number(value), sink.string(text),
-/// sink.keyword(id). The text is followed by a 0 in the stream. The byte behind the line, or null when the
-/// stream ends inside it.
+/// Splits the line at pos into tokens and passes them to sink in order: sink.number(value),
+/// sink.string(text), sink.keyword(id). The text is followed by a 0 in the stream. Returns the byte after the
+/// line, or null if the stream ends inside it.
 template<class Sink>
 const char* scanLine(const char* pos, const char* end, Sink& sink)
 {

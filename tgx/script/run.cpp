@@ -19,13 +19,13 @@ AWnd* childAt(AWnd& wnd, int index)
     return wnd.getWndFromIndex(index, here);
 }
 
-/// The places of windows below a window, that one included. A window that stands in several places counts in
-/// each.
+/// Counts the places of windows in a sub-tree, including its root. A window shown in several places is
+/// counted in each.
 struct Census {
     const AWnd* sought;
-    long most = std::numeric_limits<long>::max(); // behind so many it stops
+    long placesLimit = std::numeric_limits<long>::max(); // the walk stops beyond this
     long places = 0;
-    int height = 0; // levels below the first window
+    int height = 0; // levels below the root
     long timesFound = 0;
     int deepestFound = 0;
 
@@ -38,7 +38,7 @@ struct Census {
             deepestFound = std::max(deepestFound, level);
         }
         const int count = wnd.getWindowCount();
-        for (int i = 0; i < count && places <= most; ++i)
+        for (int i = 0; i < count && places <= placesLimit; ++i)
             if (AWnd* child = childAt(wnd, i))
                 walk(*child, level + 1);
     }
@@ -61,7 +61,7 @@ AWnd* find(AWnd& below, std::string_view id, long long& steps)
     return nullptr;
 }
 
-/// Enters the first window of each name, in the order of a search.
+/// Adds the first window of each name, in the order of a search.
 void enterNames(AWnd& below, std::unordered_map<std::string, AWnd*>& first, long long& steps)
 {
     const int count = below.getWindowCount();
@@ -154,14 +154,14 @@ std::unique_ptr<CFile> ScriptRun::open(const CString& file)
     const bool opened = stream->Open(path) != 0;
     if (stream->wasTooLarge())
         MsgBox("cannot load %s", static_cast<const char*>(path));
-    // The outermost script may be of any size that can be opened.
+    // The outermost script may have any size that can be opened.
     if (!std::exchange(firstFile, false))
         workLeft -= openedName + openedByte * stream->GetLength();
     files[path.str()] = opened ? std::static_pointer_cast<const std::string>(stream->keepAlive()) : nullptr;
     return opened ? std::move(stream) : nullptr;
 }
 
-// Not charged: a stream is gone through twice at most, and opening it has cost more.
+// Not counted as work: a stream is read at most twice, and opening it has cost more.
 ScriptIndex& ScriptRun::indexOf(const CFile& stream)
 {
     const std::string_view bytes = stream.bytes();
@@ -210,7 +210,7 @@ AWnd* ScriptRun::findBelow(AWnd& below, const CString& id)
 
 AWnd* ScriptRun::findByIndex(AWnd& below, const CString& id)
 {
-    // Lines of other kinds may have changed the tree.
+    // Other lines in between may have changed the tree.
     const bool isFresh = wndNames.below == &below && wndNames.linesLeft <= linesLeft + 1;
     if (!isFresh) {
         wndNames.below = &below;
@@ -232,7 +232,7 @@ bool ScriptRun::takePlaces(long places)
     return true;
 }
 
-/// Up the owners to the first that is shown twice: the windows below that one are shown as often as it is.
+/// Returns the places of wnd: it is shown as often as the nearest of its owners that is shown twice.
 ScriptRun::Places ScriptRun::placesOf(AWnd& root, AWnd& wnd)
 {
     int level = 0;

@@ -19,20 +19,21 @@
 
 class AWnd;
 
-/// Why there is no script of that name: with neither a file below UIG nor that resource, the file and the
-/// folder that it was looked for in, else "".
+/// Returns an explanation for a script that cannot be found: if there is neither the file below UIG nor the
+/// resource, the file and the folder in which it was looked for; otherwise "".
 std::string whyNoScript(const CString& file, HINSTANCE instance, unsigned resource);
 
-/// What all reads inside one outermost read of a script share: the limits that end them, the bytes of the
-/// files that they opened, the indexes of those, the streams that subroutines run from. A tree that the
-/// game's own code changes in a way that no script can, during a read, may be counted wrongly.
+/// State shared by all reads inside one outermost read of a script: their limits, the bytes and indexes of
+/// the files that they have opened, and the streams from which subroutines run. If the game's own code
+/// changes the tree during a read, in a way that a script cannot, windows may be counted wrongly.
 class ScriptRun {
 public:
-    /// The run of a read: that of the reads around it, or a new one that ends with the outermost read.
+    /// Provides the run of a read: that of the enclosing reads, or a new one that ends with the outermost
+    /// read.
     class Scope {
     public:
-        /// held: the run of the outermost read, null between reads. script: the name that messages give.
-        /// lines and work: the limits of a new run.
+        /// held is the run of the outermost read, null between reads; script is the name in messages; lines
+        /// and work are the limits of a new run.
         Scope(std::unique_ptr<ScriptRun>& held, const CString& script, long lines, long long work);
         ~Scope();
         Scope(const Scope&) = delete;
@@ -45,7 +46,7 @@ public:
         bool isOutermost;
     };
 
-    /// A read that runs, as long as this lives.
+    /// Counts a read as running for the lifetime of this object.
     class Read {
     public:
         explicit Read(ScriptRun& scriptRun) : run(scriptRun) { ++run.readsRunning; }
@@ -57,7 +58,8 @@ public:
         ScriptRun& run;
     };
 
-    /// A loop over the lines of a stream, as long as this lives. start changes with each line.
+    /// Registers a loop over the lines of a stream for the lifetime of this object. start changes with each
+    /// line.
     class Loop {
     public:
         Loop(ScriptRun& scriptRun, const CFile* source, const unsigned& lineStart)
@@ -73,11 +75,11 @@ public:
         friend class ScriptRun;
         ScriptRun& run;
         const CFile* stream;
-        const unsigned& start; // of the line at hand
+        const unsigned& start; // position of the current line
         const Loop* outer;
     };
 
-    /// A subroutine that runs from stream, which lives until this ends.
+    /// Registers a subroutine that runs from stream and keeps stream open for the lifetime of this object.
     class Subroutine {
     public:
         Subroutine(ScriptRun& scriptRun, CFile* stream);
@@ -94,10 +96,10 @@ public:
     {}
     ~ScriptRun();
 
-    // What ends a run: its lines, and the work that they make beyond being lines. Work is counted as it is
-    // done; the line at hand is still carried out.
+    // A run is limited in its lines and in the work that they cause beyond their number. Work is counted as
+    // it is done; the current line is still executed.
 
-    /// Whether one more line may be executed, which counts it. The first time that it may not is reported.
+    /// Counts a line. Returns false if it may not be executed, which is reported the first time.
     bool mayExecute()
     {
         if (linesLeft <= 0 || workLeft < 0)
@@ -106,68 +108,69 @@ public:
         return true;
     }
     bool isOver() const { return reported; }
-    /// The line at hand, of the innermost loop.
+    /// Returns the current line of the innermost loop.
     std::optional<ScriptPlace> place() const;
-    /// Bytes of a line that was read.
+    /// Counts the bytes of a line that was read.
     void countBytes(unsigned bytes) { workLeft -= bytes; }
-    /// Radio buttons that a new one comes to know, and they it.
+    /// Counts the radio buttons with which a new one is linked.
     void countLinked(int members) { workLeft -= members * linkedMember; }
 
-    bool canReadDeeper() const { return readsRunning <= limits::readDepth; } // the outermost one is in none
+    // The outermost read is not nested.
+    bool canReadDeeper() const { return readsRunning <= limits::readDepth; }
     bool canCallDeeper() const { return static_cast<int>(running.size()) < limits::subroutineDepth; }
 
     // Streams.
 
-    /// The file below the script directory, open; null when there is none. The disk is asked once for each
-    /// name.
+    /// Opens the file below the script directory; returns null if there is none. Accesses the disk once for
+    /// each name.
     std::unique_ptr<CFile> open(const CString& file);
     ScriptIndex& indexOf(const CFile& stream);
-    /// The first of gotoFiles that has that name, ignoring case, or null.
+    /// Returns the first of gotoFiles with that name, ignoring case, or null.
     CFile* findStream(const CArray<CFile*, CFile*>& gotoFiles, const CString& file);
-    /// Empties gotoFiles. Its streams are closed and deleted now, or when no subroutine runs from them any
-    /// more.
+    /// Empties gotoFiles. Closes and deletes its streams now or, if a subroutine runs from them, once it has
+    /// ended.
     void releaseAll(CArray<CFile*, CFile*>& gotoFiles);
 
-    /// Why a line at hand is about to fail, for the message about it; "" when nothing explains it. Forgotten
-    /// with the line.
+    /// Stores why the current line is about to fail, for the message about it.
     void explainFailure(std::string cause) { failureCause = std::move(cause); }
     std::string takeFailureCause() { return std::exchange(failureCause, {}); }
 
-    // Windows by name. Both answer as getWnd(id, 1) on below.
+    // Windows by name. Both operations return the same as getWnd(id, 1) of below.
 
     AWnd* findBelow(AWnd& below, const CString& id);
-    /// For lines that name many windows: the names below a window are gone through once for all such lines
-    /// that follow one another.
+    /// For lines that name many windows: the names below a window are collected once for consecutive lines of
+    /// this kind.
     AWnd* findByIndex(AWnd& below, const CString& id);
 
     // Windows that are shown in several places.
 
-    /// Whether wnd may be shown in target too: the tree keeps no cycle, and stays within
+    /// Returns true if wnd may also be shown in target: the tree must have no cycle and stay within
     /// limits::windowDepth and limits::sharedPlaces. Counts the places.
     bool mayShow(AWnd& root, AWnd& target, AWnd& wnd);
-    /// Whether target may be given a new child. Costs a look at a flag until some window is shown twice.
+    /// Returns true if target may be given a new child. Only tests a flag until a window is shown twice.
     bool mayGrow(AWnd& root, AWnd& target) { return !sharesWindows || mayGrowShared(root, target); }
     void noteShared() { sharesWindows = true; }
 
 private:
-    // Work in steps of a search.
-    static constexpr long long openedName = 20'000; // finding a file on the disk, or that there is none
-    static constexpr long long openedByte = 8;      // the bytes stay in memory until the run ends
+    // Costs in work; one step of a search counts as 1.
+    static constexpr long long openedName = 20'000; // a file that was looked up on the disk
+    static constexpr long long openedByte = 8;      // a byte kept in memory until the run ends
     static constexpr long long indexedWindow = 32;
-    static constexpr long long linkedMember = 32 * openedByte; // four pointers, which stay
+    static constexpr long long linkedMember = 32 * openedByte; // four pointers, which are kept
 
     struct Places {
-        long times = 1;  // how often the window is shown
+        long times = 1;  // number of places that show the window
         int deepest = 0; // levels below the root
     };
-    /// Streams by name: the place of the first of each name in an array, which is read up to known.
+    /// Streams by name: the index of the first of each name in an array whose first known entries have been
+    /// read.
     struct StreamNames {
         int known = 0;
         std::unordered_map<std::string, int> first;
     };
     struct WndNames {
         WndRef below;
-        long linesLeft = 0; // behind the line that asked last
+        long linesLeft = 0; // lines left after the last search
         std::unordered_map<std::string, AWnd*> first;
     };
 
@@ -177,7 +180,7 @@ private:
     bool takePlaces(long places);
     bool isRunning(const CFile* stream) const;
 
-    CString name; // of the outermost script
+    CString name; // name of the outermost script
     std::string failureCause;
     long linesLeft;
     long long workLeft;
@@ -186,14 +189,13 @@ private:
     const Loop* innermost = nullptr;
     bool sharesWindows = false;
     long placesLeft;
-    WndRef counted; // the shared window whose places were counted last
+    WndRef counted; // shared window whose places were counted last
     Places countedPlaces;
     WndNames wndNames;
     bool firstFile = true;
-    std::vector<CFile*> running;                    // one for each subroutine, innermost last
-    std::vector<CFile*> released;                   // by the cache, while a subroutine runs from them
-    std::map<const void*, StreamNames> streamNames; // by array
-    std::map<std::string, std::shared_ptr<const std::string>, std::less<>>
-        files; // null: there is no such file
+    std::vector<CFile*> running;  // stream of each subroutine, innermost last
+    std::vector<CFile*> released; // streams that are deleted once no subroutine runs from them
+    std::map<const void*, StreamNames> streamNames;                               // key: the array
+    std::map<std::string, std::shared_ptr<const std::string>, std::less<>> files; // null: no such file
     std::map<std::pair<const char*, std::size_t>, std::unique_ptr<ScriptIndex>> indexes;
 };

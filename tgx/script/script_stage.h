@@ -11,7 +11,7 @@ class ScriptObserver;
 
 namespace tgx {
 
-/// What a script that is carried out asks of the main window, beside what windows ask. AMainWin implements it
+/// What running scripts need from the main window, in addition to what windows need. AMainWin implements it
 /// and documents the operations.
 class TGX_API ScriptStage : public Stage {
 public:

@@ -12,14 +12,14 @@
 
 class ScriptRun;
 
-/// A line on its way through the interpreter: what a handler sees.
+/// A line and its context, as passed to a handler.
 struct ScriptLine {
     tgx::ScriptStage& window;
     ScriptRun& run;
-    CFile* stream;            // the line's; only the search for subroutines asks
-    const TOKEN_INFO* tokens; // those behind the line's end read as 0 and empty
+    CFile* stream;            // the line's stream, used only to search for subroutines
+    const TOKEN_INFO* tokens; // entries after the line's end are 0 and empty
     int count;
-    AWnd* current; // the window of the block; null at the top of a script
+    AWnd* current; // window of the block; null at the top level of a script
     int depth;
     CArray<CFile*, CFile*>& gotoFiles;
 
@@ -27,13 +27,13 @@ struct ScriptLine {
     const CString& text(int token) const { return tokens[token].text; }
 };
 
-/// Makes a table entry of a handler. A handler is one of
+/// Makes a table entry from a handler. A handler is one of
 ///     void f(Target&, const ScriptLine&)     cannot fail
 ///     bool f(Target&, const ScriptLine&)     false: the line fails
 ///     AWnd* f(AWnd& target, const ScriptLine&)   the window that it made; null: the line fails
 ///     bool f(const ScriptLine&)              a command, which has no target
 ///     void Target::f(...)                    a setter, which receives tokens 1, 2 and so on
-/// The row's target rule has looked at the window's type; a line for a window of another class fails.
+/// The row's target rule has checked the window's type; a line for a window of another class fails.
 template<auto handler>
 struct HandlerOf;
 
@@ -44,7 +44,7 @@ struct HandlerOf<handler> {
         if constexpr (std::is_same_v<Target, AWnd>) {
             return runOn(target, line, made);
         } else {
-            // The row has looked at the window's type, which a game's class may have chosen freely.
+            // The row has checked the window's type, but a game's class may use any type.
             auto* typed = windowAs<Target>(&target);
             return typed && runOn(*typed, line, made);
         }
@@ -117,8 +117,8 @@ void border(AWnd& target, const ScriptLine& line);
 bool font(AWnd& target, const ScriptLine& line);
 void justify(AWnd& target, const ScriptLine& line);
 void text(AWnd& target, const ScriptLine& line);
-/// Appends the windows that tokens 1 onwards name, each to be found below target. What stands before a name
-/// that is not found stays.
+/// Appends the windows below target that the tokens from 1 on name. Returns false at the first name that is
+/// not found; the windows before it stay in the list.
 bool appendWnds(AWnd& target, const ScriptLine& line, WndList ATabStopInfo::*list);
 template<WndList ATabStopInfo::*list>
 bool tabStops(AWnd& target, const ScriptLine& line)
@@ -126,8 +126,8 @@ bool tabStops(AWnd& target, const ScriptLine& line)
     return appendWnds(target, line, list);
 }
 
-// Makers of controls. Each form is what follows the id and the box in a line.
-/// A control with the line's id and box, added to target.
+// Makers of controls. A form is the tokens after id and box, which several statements share.
+/// Adds a control with the line's id and box to target and returns it.
 template<class Control>
 Control* addControl(AWnd& target, const ScriptLine& line)
 {
@@ -161,13 +161,13 @@ Bar* addBar(AWnd& target, const ScriptLine& line)
     return made;
 }
 AWnd* addStateButton(const char* name, AWnd& target, const ScriptLine& line);
-/// A part that its control finds by the id.
+/// Makes a part that its control finds by the id.
 template<const char* id>
 AWnd* stateButton(AWnd& target, const ScriptLine& line)
 {
     return addStateButton(id, target, line);
 }
-/// Whether token is one of the words for it.
+/// Stores the justification that token names. Returns false if it names none.
 bool justificationOf(const TOKEN_INFO& token, AWnd::E_TEXTJUSTIFY& justify);
 
 // Buttons and their parts (buttons.cpp).

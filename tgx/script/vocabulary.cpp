@@ -32,7 +32,7 @@ constexpr TargetRule listOrCombo{typeMask(AWnd::WND_LISTBOX, AWnd::WND_COMBOBOX)
 constexpr TargetRule graph{typeMask(AWnd::WND_GRAPH)};
 constexpr TargetRule buttonOrElseNothing{typeMask(AWnd::WND_BUTTON), TargetRule::DoesNothing};
 constexpr TargetRule radioOrElseNothing{typeMask(AWnd::WND_RADIOBUTTON), TargetRule::DoesNothing};
-// The types of AButton and of the classes that derive from it.
+// The window types of AButton and the classes derived from it.
 constexpr TargetRule anyButton{typeMask(AWnd::WND_BUTTON, AWnd::WND_RADIOBUTTON, AWnd::WND_COMBOBOX)};
 
 constexpr TokenCounts noLine{};

@@ -10,7 +10,7 @@
 
 struct ScriptLine;
 
-/// The ids that code asks for by name. All others stand in the table alone.
+/// The ids that code uses by name. All others are only in the table.
 namespace keyword {
 constexpr int begin = 14;
 constexpr int end = 15;
@@ -23,17 +23,17 @@ constexpr int subroutine = 96;
 enum class StatementKind {
     BlockBegin,
     BlockEnd,
-    Command,      // acts on no window and leaves the window stack alone
-    Window,       // makes a child of the target and opens it for the block behind it
-    Screen,       // the same for a child of the root, whatever the target
-    Reference,    // shows a window that there is in the target too, and opens it
+    Command,      // acts on no window and does not change the window stack
+    Window,       // makes a child of the target and opens it for the block that follows
+    Screen,       // makes a child of the root, whatever the target, and opens it
+    Reference,    // shows an existing window in the target too, and opens it
     Attribute,    // changes the target
-    Definition,   // found by a search; as a line that is executed it fails
-    ArgumentWord, // stands behind another keyword only
+    Definition,   // found by a search; fails if it is executed
+    ArgumentWord, // only valid after another keyword
 };
 
-/// Blocks that may stand around a statement of that kind: one level below the stack's last a block may still
-/// hold commands.
+/// Returns the number of blocks that may be around a statement of that kind. Commands are still allowed one
+/// level deeper than the window stack.
 constexpr int deepestLevel(StatementKind kind)
 {
     return kind == StatementKind::Command ? wndStackSize : wndStackSize - 1;
@@ -41,7 +41,7 @@ constexpr int deepestLevel(StatementKind kind)
 
 enum class ArgumentKind { Number, String, Word, NumberOrWord };
 
-/// The numbers of tokens that a line may have, the keyword included.
+/// The numbers of tokens that a line may have, including the keyword.
 struct TokenCounts {
     std::uint32_t mask = 0; // bit n: n tokens
 
@@ -60,18 +60,18 @@ constexpr TokenCounts atLeast(int count)
     return {((1u << (maxLineTokens + 1)) - 1) & ~((1u << count) - 1)};
 }
 
-/// What a statement asks of its target window.
+/// What a statement requires of its target window.
 struct TargetRule {
     enum Otherwise { Fails, DoesNothing };
 
-    std::uint32_t types = ~0u; // bit n: the window type n fits
+    std::uint32_t types = ~0u; // bit n: window type n is allowed
     Otherwise otherwise = Fails;
 
     constexpr bool fits(int type) const { return (types >> type & 1) != 0; }
 };
 
-/// Carries a line out on its target. made receives the window that it made, if it made one. False: the line
-/// fails.
+/// Executes a line on its target and stores in made the window that it made, if any. Returns false if the
+/// line fails.
 using StatementHandler = bool (*)(AWnd& target, const ScriptLine& line, AWnd*& made);
 
 /// A row of the vocabulary.
@@ -80,22 +80,23 @@ struct Statement {
     const char* keyword;
     StatementKind kind;
     TokenCounts counts;
-    /// The arguments in order, each by a name: "in quotes" a string, UPPER|CASE a word, lower case a number,
+    /// The names of the arguments in order: "in quotes" a string, UPPER|CASE a word, lower case a number,
     /// number|WORD either; a trailing ... repeats the last one.
     const char* form;
     TargetRule target = {};
-    StatementHandler handler = nullptr; // null: the interpreter does not know it, the line fails
+    StatementHandler handler = nullptr; // null: not supported by the interpreter; the line fails
 };
 
-/// The whole language, in id order.
+/// Returns all statements of the language, in id order.
 TGX_API std::span<const Statement> vocabulary();
-/// Null for an id without a row.
+/// Returns the row of id, or null if there is none.
 TGX_API const Statement* statementById(int id);
-/// Exact. Null when there is none.
+/// Returns the row with exactly this keyword, or null if there is none.
 TGX_API const Statement* statementByKeyword(std::string_view keyword);
-/// The argument's name in the form, with quotes around that of a string: token 1 is the first; what stands
-/// behind the last of the form counts as that one. Empty when there is none.
+/// Returns an argument's name in the form, in quotes if it is a string; token 1 is the first. Tokens after
+/// the last argument of the form count as that one. Empty if there is none.
 TGX_API std::string_view argumentName(const Statement& statement, int token);
-/// Kind of the argument at that token, 1 for the first; what stands behind the last of the form counts as
-/// that one. The interpreter never asks: a string where a number is expected reads as 0.
+/// Returns the kind of the argument at token; token 1 is the first. Tokens after the last argument of the
+/// form count as that one. The interpreter does not check kinds: a string where a number is expected counts
+/// as 0.
 TGX_API ArgumentKind argumentKind(const Statement& statement, int token);

@@ -1,4 +1,4 @@
-// Statements that make windows. All with an id and a box have them in tokens 1 to 5.
+// Statements that make windows. Id and box are in tokens 1 to 5.
 
 #include "platform/display/msgbox.h"
 #include "tgx/script/run.h"
@@ -7,7 +7,7 @@
 
 namespace {
 
-/// A plain window with the line's id and box.
+/// Makes a plain window with the line's id and box. The caller owns it.
 AWnd* makePlain(const ScriptLine& line)
 {
     return new AWnd(AWnd::WND_PLAIN, line.text(1), line.number(2), line.number(3), line.number(4),
@@ -16,7 +16,7 @@ AWnd* makePlain(const ScriptLine& line)
 
 } // namespace
 
-/// Text, its offset, bitmap.
+/// Applies text, text offset and bitmap.
 void applyTextForm(AWnd& wnd, const ScriptLine& line)
 {
     wnd.setWindowText(line.text(6));
@@ -48,7 +48,7 @@ AWnd* textWnd(AWnd& target, const ScriptLine& line)
     return wnd;
 }
 
-/// A child of the root, wherever the line stands.
+/// Makes a child of the root, wherever the line is.
 AWnd* screen(AWnd&, const ScriptLine& line)
 {
     AScreen* made =
@@ -63,7 +63,7 @@ AWnd* screen(AWnd&, const ScriptLine& line)
 
 AWnd* userDef(AWnd& target, const ScriptLine& line)
 {
-    const WndRef place(&target); // the game's code runs meanwhile, and may delete it
+    const WndRef place(&target); // the game's code may delete it during the call
     const CString& className = line.text(line.count == 7 ? 6 : 1);
     AWnd* wnd = line.window.createNewWindow(line.text(1), line.number(2), line.number(3), line.number(4),
                                             line.number(5), className);

@@ -20,8 +20,8 @@ bool isScaleAtRest(ZnFixed scale)
     return scale == fullScale || scale.raw == 0;
 }
 
-/// Only the whole part of the increment counts: half a pixel a tick moves nothing. Past the end the offset
-/// stops there.
+/// Moves offset by the whole part of increment per tick, so half a pixel per tick moves nothing. The offset
+/// stops at end.
 void walk(short& offset, short end, ZnFixed increment, int frameStep)
 {
     if (increment.raw == 0 || offset == end)
@@ -123,7 +123,7 @@ void AWnd::setShrinkAnimation(ZnFixed speed)
 
 void AWnd::setGrowAnimation(ZnFixed speed)
 {
-    // speed tells how fast; back to rest is a negative direction.
+    // speed only gives the rate; the direction back to rest is negative.
     const ZnFixed towardsRest = ZnFixed::fromRaw(speed.raw > 0 ? -speed.raw : speed.raw);
     makeAnim().setMoveAnimation(width() / 2, height() / 2, 0, 0, towardsRest, towardsRest, 1);
 }

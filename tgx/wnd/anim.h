@@ -3,8 +3,8 @@
 #include "platform/framework/znfixed.h"
 #include "tgx/export.h"
 
-/// Movement of a window: an offset from its resting place that walks towards an end, tick by tick, while the
-/// window is drawn; and a scale of its size. Owned by its window, which makes it on demand.
+/// The movement of a window: an offset from its resting place that moves towards an end, tick by tick, while
+/// the window is drawn, and a scale of its size. Owned by its window, which creates it on demand.
 class TGX_API APhysicalAnim {
 public:
     APhysicalAnim() = default;
@@ -12,19 +12,20 @@ public:
     APhysicalAnim& operator=(const APhysicalAnim& other);
     virtual ~APhysicalAnim() = default;
 
-    /// Start and end in pixels from the resting place, increments in pixels a tick, of which only the whole
-    /// part counts. Nothing compares the increments with the direction. deleteWhenDone: lowest bit.
+    /// Starts a movement. Start and end are in pixels from the resting place, increments in pixels per tick,
+    /// of which only the whole part counts. The direction of the increments is not checked. Only the lowest
+    /// bit of deleteWhenDone is used.
     void setMoveAnimation(int startX, int startY, int endX, int endY, ZnFixed incX, ZnFixed incY,
                           int deleteWhenDone);
-    /// Stores nothing: what a scale animation would be is left to the game's classes, which may write the
-    /// fields (their window then calls layoutChanged).
+    /// Does nothing. The game's classes may implement a scale animation by writing the fields; their window
+    /// then calls layoutChanged.
     void setScaleAnimation(ZnFixed, ZnFixed, ZnFixed, ZnFixed, int);
-    /// All fields back to their defaults: finished, at rest.
+    /// Resets all fields to their defaults: finished and at rest.
     void reset();
-    /// Walks on by frameStep ticks; the scale by one increment whatever the step. 1 while running, 0 when
-    /// finished. A step of 0 changes nothing and answers 1.
+    /// Advances the offsets by frameStep ticks, and the scale by one increment whatever the step. Returns 1
+    /// while the movement runs, 0 once it has finished. A step of 0 changes nothing and returns 1.
     int updatePos(int frameStep);
-    /// 1 when offsets stand at their ends and each scale is 1.0 or 0.
+    /// Returns 1 if the offsets have reached their ends and each scale is 1.0 or 0.
     int isWndAnimFinished() const;
 
     ZnFixed getIncPosAnimX() const { return incPosX; }
@@ -40,12 +41,12 @@ public:
     int getDeleteWhenDone() const { return deleteWhenDone; }
 
 protected:
-    ZnFixed incPosX, incPosY;     // pixels a tick
+    ZnFixed incPosX, incPosY;     // pixels per tick
     short animOffsetX = 0;        // pixels
     short animOffsetY = 0;        // pixels
     short endPosX = 0;            // pixels
     short endPosY = 0;            // pixels
-    ZnFixed incScaleW, incScaleH; // a draw
+    ZnFixed incScaleW, incScaleH; // per drawn frame
     ZnFixed scaleW = ZnFixed::fromInt(1);
     ZnFixed scaleH = ZnFixed::fromInt(1);
     unsigned deleteWhenDone : 1 = 1;

@@ -31,7 +31,7 @@ void AWnd::setBmp(surface* newBmp)
         frameWidth = to16(std::min(width(), int(bmp->width)));
     if (frameHeight <= 0)
         frameHeight = to16(std::min(height(), int(bmp->height)));
-    // A bitmap out of a pack is not loaded by name again.
+    // A bitmap from a pack is not loaded by name again.
     bmpFilename = isPackName(bmp->filename) ? CString() : CString(bmp->filename);
 }
 
@@ -39,7 +39,7 @@ void AWnd::setBmp(const CString& name)
 {
     if (name.IsEmpty())
         return;
-    const CString wanted = name; // it may be this window's own name, which loading changes
+    const CString wanted = name; // name may refer to bmpFilename, which loading changes
     bmpFilename = wanted;
     tgx::Stage* stage = tgx::stage();
     if (!stage)
@@ -110,8 +110,8 @@ void AWnd::getStartPosForFrame(int frame, surface* strip, int width, int height,
     const int stride = width + 1;
     x = stride * frame;
     y = 0;
-    // Whole frames in a row; a strip too narrow for one, or frames without a width, have no rows to run on
-    // in.
+    // The width of the whole frames in a row; 0, meaning a single row, if no frame fits or frames have no
+    // width.
     const int row = stride > 0 ? strip->width / stride * stride : 0;
     if (row > 0 && x >= row) {
         y = x / row * (height + 1);

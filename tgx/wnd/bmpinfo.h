@@ -2,7 +2,7 @@
 
 #include "tgx/export.h"
 
-/// Exported for games that derive from it; the toolkit makes none and reads none.
+/// Exported for games that derive from it; the toolkit itself does not use it.
 class TGX_API ABmpInfo {
 public:
     ABmpInfo() = default;

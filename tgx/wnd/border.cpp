@@ -30,8 +30,8 @@ void ABorder::draw(int x, int y, int width, int height)
     borderBmp->blitRows({x, y + size, sourceOf(LeftEdge)}, {x + width - size, y + size, sourceOf(RightEdge)},
                         size, height - 2 * size, true);
 
-    // On a window smaller than two pieces each corner shows the part that lies towards the window's own
-    // corner. skipX, skipY: pixels of the piece that stay away on its left and top.
+    // On a window smaller than two pieces each corner piece shows only the part at the window's corner.
+    // skipX, skipY: pixels left out at the piece's left and top.
     const auto put = [&](Piece piece, int skipX, int skipY, int toX, int toY, int w, int h) {
         borderBmp->blit(toX, toY, sourceOf(piece) + skipX, skipY, w, h, -1, -1, nullptr, -1);
     };

@@ -6,24 +6,26 @@
 
 #include <memory>
 
-/// A frame along a window's edge, drawn from a strip of eight square pieces with a gap of 1 pixel: clockwise
-/// from the top left corner. Not owned: the strip stays with the display library.
+/// A frame along a window's edge, drawn from a strip of eight square pieces with a gap of 1 pixel, clockwise
+/// from the top left corner. The strip is not owned; it stays with the display library.
 class TGX_API ABorder {
 public:
-    /// borderWidth: pixels that the window's bitmap stays from the edge; pieceSize: side of a piece.
+    /// borderWidth is the distance in pixels between the window's bitmap and its edge, pieceSize the side of
+    /// a piece in pixels.
     ABorder(surface* bmp, int borderWidth, int pieceSize);
     ABorder(const ABorder&) = default;
     ABorder& operator=(const ABorder&) = default;
     virtual ~ABorder() = default;
 
-    /// One with the strip of that file; a strip that cannot be loaded is reported with "cannot load %s", and
-    /// the border then draws nothing.
+    /// Returns a border with the strip from file. A strip that cannot be loaded is reported with "cannot load
+    /// %s", and the border then draws nothing.
     static std::unique_ptr<ABorder> load(const CString& file, int borderWidth, int pieceSize);
 
     int getBorderWidth() const { return borderWidth; }
     int getPieceSize() const { return pieceSize; }
     surface* getBorderBmp() const { return borderBmp; }
-    /// Outer corner at x, y, screen pixels. Without a strip, or with pieces of 0 or less, it draws nothing.
+    /// Draws the border with its outer corner at x, y, in screen pixels. Draws nothing without a strip or
+    /// with a piece size of 0 or less.
     void draw(int x, int y, int width, int height);
 
 protected:

@@ -4,15 +4,15 @@
 
 class AWnd;
 
-/// Visits a window's children in order while what is done to one of them may add or delete others, or the
-/// window itself. Each child that is there when its turn comes is visited once.
+/// Visits a window's children in order, even if handling one of them adds or deletes others, or the window
+/// itself. Each child that exists when its turn comes is visited once.
 ///
-///     for (ChildWalk walk(children); walk.mayGoOn();)
+///     for (ChildWalk walk(children); walk.canContinue();)
 ///         if (AWnd* next = walk.next())
 ///             next->close();
 ///
-/// Lives on the stack and allocates nothing: running walks are linked through themselves, and whoever removes
-/// a child tells them.
+/// Lives on the stack and allocates nothing: running walks form a linked list, and code that removes a child
+/// notifies them.
 class ChildWalk {
 public:
     using Children = CArray<AWnd*, AWnd*>;
@@ -22,21 +22,21 @@ public:
     ChildWalk& operator=(const ChildWalk&) = delete;
     ~ChildWalk() { innermost = outer; }
 
-    bool mayGoOn() const { return children && index < children->GetSize(); }
-    /// Null for an empty place. Only while the walk may go on.
+    bool canContinue() const { return children && index < children->GetSize(); }
+    /// Returns the next child, or null for an empty entry. Call it only while canContinue returns true.
     AWnd* next() { return children->GetData()[index++]; }
-    /// Place of the child that next will return.
+    /// Returns the index of the child that next will return.
     int getIndex() const { return index; }
     bool isHolderAlive() const { return children != nullptr; }
 
-    /// The child at removedIndex has been removed from changed.
+    /// Notifies the running walks that the child at removedIndex has been removed from changed.
     static void removed(const Children& changed, int removedIndex)
     {
         for (ChildWalk* walk = innermost; walk; walk = walk->outer)
             if (walk->children == &changed && removedIndex < walk->index)
                 --walk->index;
     }
-    /// The window that holds ended is being deleted.
+    /// Ends the running walks over ended, whose window is being deleted.
     static void end(const Children& ended)
     {
         for (ChildWalk* walk = innermost; walk; walk = walk->outer)
@@ -45,7 +45,7 @@ public:
     }
 
 private:
-    static ChildWalk* innermost; // in tree.cpp
+    static ChildWalk* innermost; // defined in tree.cpp
 
     const Children* children; // null once the window is deleted
     ChildWalk* outer;

@@ -9,13 +9,13 @@
 
 namespace {
 
-/// The steps of a row of tiles that touch the screen: from first to below end.
+/// The tiles of a row or column that touch the screen: from first up to, but not including, end.
 struct Steps {
     int first, end;
 };
 
-/// Tiles of size pixels lie every stride pixels from start on, up to but not including start + length,
-/// where the last one is cut.
+/// Returns the tiles that touch the screen. A tile of size pixels begins every stride pixels from start; the
+/// last one is cut at start + length.
 Steps stepsOnScreen(int start, int length, int stride, int size, int screen)
 {
     const int count = (length + stride - 1) / stride;
@@ -61,15 +61,15 @@ void AWnd::draw(int frameStep)
     if (border)
         border->draw(atLeft, atTop, width(), height());
     if (!windowText.IsEmpty()) {
-        // A right-justified text ends textOffsetX short of the right edge.
+        // A right-justified text ends textOffsetX pixels before the right edge.
         const int x = textJustify == TJ_RIGHT ? atLeft : atLeft + textOffsetX;
         textOut(x, atTop + textOffsetY, width() - textOffsetX, height() - textOffsetY, windowText,
                 textJustify, textWrap, ZnFixed::fromInt(1), 0, nullptr);
     }
     if (children.GetSize() > 0) {
         ChildWalk walk(children);
-        while (walk.mayGoOn()) {
-            fetchAhead(walk.getIndex());
+        while (walk.canContinue()) {
+            prefetchChildren(walk.getIndex());
             if (AWnd* next = walk.next())
                 next->draw(frameStep);
         }
@@ -84,9 +84,9 @@ void AWnd::draw(int frameStep)
     }
 }
 
-/// Drawing many small windows waits for memory more than it computes: the windows to come, and their bitmaps,
-/// are asked for while this one is drawn.
-void AWnd::fetchAhead(int index) const
+/// Prefetches the next windows and their bitmaps while this one is drawn: drawing many small windows mostly
+/// waits for memory.
+void AWnd::prefetchChildren(int index) const
 {
     constexpr int windowsAhead = 8;
     constexpr int bitmapsAhead = 4;
@@ -141,7 +141,7 @@ void AWnd::paintBitmap(int atLeft, int atTop)
         bmp->blit(x, y, srcX, srcY, std::min(w, sourceW), std::min(h, sourceH), -1, -1, nullptr, bmpBlitMode);
 }
 
-/// Tiles that lie wholly off the screen are left out, and cost nothing.
+/// Paints the tiles, leaving out those that are wholly off the screen.
 void AWnd::paintTiles(int srcX, int srcY, int x, int y, int w, int h)
 {
     const tgx::Stage* stage = tgx::stage();

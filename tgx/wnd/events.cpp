@@ -14,12 +14,12 @@ bool isOneOf(const std::string_view (&ids)[N], std::string_view id)
     return std::find(std::begin(ids), std::end(ids), id) != std::end(ids);
 }
 
-/// Where Esc puts the pointer: the first of these that is there and enabled.
+/// Esc moves the pointer to the first of these that exists and is enabled.
 constexpr const char* escTargets[] = {"TGX_BACK", "TGX_OK", "TGX_YES", "TGX_CLOSE", "continue"};
 
-/// An Esc search that reaches an edit box clicks it, which sends the key down the tree again: no search
-/// inside a search.
-bool escSearchRuns = false;
+/// Set while Esc searches for its target: a search that reaches an edit box clicks it, which sends the key
+/// down the tree again, and must not start another search.
+bool isEscSearchRunning = false;
 
 } // namespace
 
@@ -50,7 +50,7 @@ bool closesPopup(std::string_view id)
 
 void AWnd::initialise()
 {
-    for (ChildWalk walk(children); walk.mayGoOn();)
+    for (ChildWalk walk(children); walk.canContinue();)
         if (AWnd* next = walk.next())
             next->initialise();
 }
@@ -60,20 +60,20 @@ void AWnd::startup()
     if (anim)
         anim->reset();
     tgx::Stage* stage = tgx::stage();
-    // A window made before the main window was there has no font yet.
+    // A window made before the main window exists has no font yet.
     if (!font && stage)
         font = parent && parent->font ? parent->font : stage->getFont(0);
     if (bkgnd && stage)
         createBkgnd(stage->getBackdrop(), 0);
     setBmp(bmpFilename);
-    for (ChildWalk walk(children); walk.mayGoOn();)
+    for (ChildWalk walk(children); walk.canContinue();)
         if (AWnd* next = walk.next())
             next->startup();
 }
 
 void AWnd::close()
 {
-    for (ChildWalk walk(children); walk.mayGoOn();)
+    for (ChildWalk walk(children); walk.canContinue();)
         if (AWnd* next = walk.next())
             next->close();
 }
@@ -81,14 +81,14 @@ void AWnd::close()
 void AWnd::returned()
 {
     setBmp(bmpFilename);
-    for (ChildWalk walk(children); walk.mayGoOn();)
+    for (ChildWalk walk(children); walk.canContinue();)
         if (AWnd* next = walk.next())
             next->returned();
 }
 
 void AWnd::finishAnims()
 {
-    for (ChildWalk walk(children); walk.mayGoOn();)
+    for (ChildWalk walk(children); walk.canContinue();)
         if (AWnd* next = walk.next())
             next->finishAnims();
 }
@@ -114,21 +114,21 @@ int AWnd::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOU
             if (AWnd* hit = getWndAtPos(x, y, 0))
                 result = hit->handleMouseAction(about, wnd, x, y, action);
     } else {
-        for (ChildWalk walk(children); handling.mayGoOn() && walk.mayGoOn();)
+        for (ChildWalk walk(children); handling.canContinue() && walk.canContinue();)
             if (AWnd* next = walk.next())
                 next->handleMouseAction(about, wnd, x, y, action);
-        // Asked again: a handler may have taken the key, or changed it.
+        // Checked again, because a handler may have consumed or changed the key.
         if (handling.isHandlerAlive() && stage && stage->keyCode == VK_ESCAPE)
             putPointerOnCancel();
     }
 
-    // The handling may have hidden, disabled or deleted what it went through.
+    // A handler may have hidden, disabled or deleted this window.
     return handling.isHandlerAlive() && isEnabled() ? result : 0;
 }
 
 void AWnd::putPointerOnCancel()
 {
-    if (escSearchRuns)
+    if (isEscSearchRunning)
         return;
     AWnd* target = nullptr;
     for (const char* name : escTargets) {
@@ -138,14 +138,14 @@ void AWnd::putPointerOnCancel()
     }
     if (!target || !target->isEnabled())
         return;
-    const Swapped<bool> running(escSearchRuns, true);
+    const Swapped<bool> running(isEscSearchRunning, true);
     tgx::stage()->setMousePosOnWnd(target, 0);
 }
 
 int AWnd::handleKeyInput(char key)
 {
-    const WndRef self = this; // what the key does may delete the window
-    for (ChildWalk walk(children); walk.mayGoOn();)
+    const WndRef self = this; // handling the key may delete the window
+    for (ChildWalk walk(children); walk.canContinue();)
         if (AWnd* next = walk.next())
             next->handleKeyInput(key);
     return self ? handleMouseAction(id, this, -1, -1, MA_KEY) : 0;
@@ -153,7 +153,7 @@ int AWnd::handleKeyInput(char key)
 
 int AWnd::handlePopupAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
-    const WndRef self = this; // what the report does may delete the window
+    const WndRef self = this; // handling the action may delete the window
     if (AWnd* holder = getParent())
         holder->handlePopupAction(about, wnd, x, y, action);
     if (self && action == MA_LBUTTONUP && closesPopup(about.view()) && getPopupWnd())

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Wraps round where the difference does not fit: any position may be asked for.
+/// Returns position - origin, which wraps around on overflow: position may have any value.
 int difference(int position, int origin)
 {
     return static_cast<int>(static_cast<unsigned>(position) - static_cast<unsigned>(origin));
@@ -141,7 +141,7 @@ void AWnd::setVisible(int show)
 {
     const bool wanted = show > 0;
     if (visible == wanted)
-        return; // what is kept of all windows stays good
+        return; // the cached layouts stay valid
     visible = wanted;
     LayoutVersion::bump();
 }

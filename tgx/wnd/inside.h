@@ -4,7 +4,7 @@
 
 namespace tgx {
 
-/// Returns whether wnd is holder or has it among its parents. False for null.
+/// Returns true if wnd is holder or holder is one of its parents. Returns false for null.
 inline bool isInside(const AWnd* wnd, const AWnd* holder)
 {
     for (; wnd; wnd = wnd->getParent())

@@ -4,10 +4,10 @@
 
 #include <vector>
 
-/// What few windows have, kept apart so that the others stay small.
+/// Data that few windows need, kept apart so that the others stay small.
 struct AWnd::Links {
-    std::vector<WndList*> lists; // that name this window, each once
-    WndList holders;             // whose children list this window, its owner aside
-    WndList ownedElsewhere;      // windows that this one owns and does not list
-    bool listedTwice = false;    // one holder may have it in two places
+    std::vector<WndList*> lists; // lists that contain this window, each once
+    WndList holders;             // windows other than the owner that have this window among their children
+    WndList ownedElsewhere;      // windows that this one owns but does not have among its children
+    bool listedTwice = false;    // a holder may contain this window twice
 };

@@ -4,15 +4,15 @@
 
 #include <string_view>
 
-// Ids with a meaning of their own; a script gives them to its buttons. Compared exactly where nothing else is
-// said.
+// Ids with a meaning of their own, which a script gives to its buttons. They are compared exactly unless
+// stated otherwise.
 
-/// "TGX_EXIT", "TGX_CANCEL", "TGX_BACK", "TGX_CLOSE": a click leaves the screen.
+/// Returns true for "TGX_EXIT", "TGX_CANCEL", "TGX_BACK" and "TGX_CLOSE": a click leaves the screen.
 TGX_API bool leavesScreen(std::string_view id);
-/// "TGX_CLOSE", "TGX_YES", "TGX_NO", "TGX_OK", "TGX_CANCEL": a click closes the popup.
+/// Returns true for "TGX_CLOSE", "TGX_YES", "TGX_NO", "TGX_OK" and "TGX_CANCEL": a click closes the popup.
 TGX_API bool closesPopup(std::string_view id);
-/// "TGX_BACK", "TGX_OK", "TGX_YES", "TGX_CLOSE", "continue", ignoring case: Esc puts the pointer on the first
-/// that is there and enabled.
+/// Returns true for "TGX_BACK", "TGX_OK", "TGX_YES", "TGX_CLOSE" and "continue", ignoring case: Esc moves the
+/// pointer to the first one that exists and is enabled.
 TGX_API bool escPointsAt(std::string_view id);
 
 namespace tgx::part {

@@ -50,7 +50,7 @@ void AScreen::exitScreen()
 {
     if (caller.IsEmpty())
         return;
-    // A change that waited is carried out here; its screen is then ours to open.
+    // If another change was pending, it has been carried out, and its screen must be opened here.
     AScreen* reached = tgx::stage()->changeScreen(caller, 1, mainScriptResource, mainScriptFile);
     if (reached && !reached->isOpen())
         reached->initialise();

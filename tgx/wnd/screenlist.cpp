@@ -20,7 +20,7 @@ void AScreenList::setActiveScreen(AScreen* screen)
 
 void AScreenList::closeScreensExceptActive()
 {
-    for (ChildWalk walk(children); walk.mayGoOn();) {
+    for (ChildWalk walk(children); walk.canContinue();) {
         auto* screen = windowAs<AScreen>(walk.next());
         if (screen && screen != getActiveScreen() && screen->isOpen())
             screen->close();
@@ -49,12 +49,12 @@ int AScreenList::deleteWndsPendingDelete()
     while (wndsToDelete.GetSize() > 0) {
         AWnd* wnd = wndsToDelete[wndsToDelete.GetSize() - 1];
         wndsToDelete.RemoveAt(wndsToDelete.GetSize() - 1);
-        // Only direct children go this way; the others lose their mark.
+        // Only direct children are deleted; the others lose their mark.
         if (std::find(children.begin(), children.end(), wnd) == children.end())
             continue;
         if (wnd == activeScreen)
             setActiveScreen(nullptr);
-        delete wnd; // which takes it out of children, and out of wndsToDelete where it stands twice
+        delete wnd; // also removes it from children and from wndsToDelete, where it may have a second entry
     }
     return 1;
 }

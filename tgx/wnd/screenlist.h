@@ -10,19 +10,20 @@ public:
 
     AScreen* getActiveScreen() const { return static_cast<AScreen*>(activeScreen.get()); }
     int getActiveScreenIndex() const { return activeScreenIndex; }
-    /// Null: none is active.
+    /// Sets the active screen; null for none.
     void setActiveScreen(AScreen* screen);
 
-    /// Closes every open screen but the active one; they stay in the tree.
+    /// Closes every open screen except the active one; they stay in the tree.
     void closeScreensExceptActive();
 
-    /// Marks wnd: it counts as gone, and is deleted at the end of the next dispatched input tick. Not
-    /// owned. 1.
+    /// Marks wnd for deletion: it counts as deleted from now on and is deleted at the end of the next
+    /// dispatched input tick. Does not take ownership. Returns 1.
     int addWndToDelete(AWnd* wnd);
-    /// 1 for a marked window and all inside it. They can still be found in the tree, so whoever finds one by
-    /// name asks here.
+    /// Returns 1 for a marked window and all windows inside it. They can still be found in the tree by name,
+    /// so a caller that finds one checks here.
     int isWndToBeDeleted(AWnd* wnd) const;
-    /// Deletes the marked windows that are direct children, last first; the others only lose their mark. 1.
+    /// Deletes the marked windows that are direct children, last first; the others only lose their mark.
+    /// Returns 1.
     int deleteWndsPendingDelete();
     int getWndsToDeleteCount() const { return wndsToDelete.GetSize(); }
 

@@ -9,9 +9,9 @@ class AWnd;
 
 namespace tgx {
 
-/// What windows ask of the main window: with ddwin the drawing operations, string lengths, screen size,
-/// pointer and key fields; here the screens, popups, focus and capture. AMainWin implements it and documents
-/// the operations.
+/// What windows need from the main window. ddwin provides the drawing operations, string lengths, screen
+/// size, pointer and key fields; this class adds the screens, popups, focus and capture. AMainWin implements
+/// it and documents the operations.
 class TGX_API Stage : public ddwin {
 public:
     virtual AScreenList* getScreenList() const = 0;
@@ -33,7 +33,7 @@ public:
     virtual int setMousePosOnNextTabStop(AWnd* root, AWnd* from, int backwards, int jump) = 0;
 };
 
-/// Returns the main window, or null while there is none. Defined by the main window's side.
+/// Returns the main window, or null while there is none. Defined in tgx/frame.
 TGX_API Stage* stage();
 
 } // namespace tgx

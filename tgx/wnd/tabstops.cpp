@@ -29,7 +29,7 @@ AWnd* AWnd::getNextTabStop(AWnd* from, int backwards, CArray<AWnd*, AWnd*>*)
                 return stops[i];
         return nullptr;
     }
-    // The walk ends on from itself, which is its own successor when there is no other.
+    // The search ends at from itself, which is returned if there is no other usable stop.
     for (int steps = 0; steps < count; ++steps) {
         at = backwards ? (at == 0 ? count - 1 : at - 1) : (at == count - 1 ? 0 : at + 1);
         if (stops[at]->isEnabled())

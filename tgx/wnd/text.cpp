@@ -37,8 +37,8 @@ void AWnd::textOut(int x, int y, int width, int height, const CString& text, E_T
         return;
     }
 
-    static std::string
-        line; // the display library takes text that ends in 0; kept, so that a frame allocates nothing
+    // The display library needs text that ends in 0. Static, so that a frame allocates nothing.
+    static std::string line;
     if (!wrap) {
         int length = 0;
         const std::string_view fits = cutToWidth(font, text.view(), width, length);

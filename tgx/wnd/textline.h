@@ -5,9 +5,9 @@
 
 #include <string_view>
 
-/// text without the characters at its end that do not fit; length becomes the width of what is left. A null
-/// font gives all characters a width of 0. No advance is negative, so what lies behind the first character
-/// that does not fit need not be looked at.
+/// Returns the longest part of text, from its start, that fits into width pixels, and stores its width in
+/// length. With a null font every character has a width of 0. No advance is negative, so the search ends at
+/// the first character that does not fit.
 inline std::string_view cutToWidth(const bmpfont* font, std::string_view text, int width, int& length)
 {
     length = 0;
@@ -21,7 +21,7 @@ inline std::string_view cutToWidth(const bmpfont* font, std::string_view text, i
     return text.substr(0, count);
 }
 
-/// Left edge of a line of that length in a box at x.
+/// Returns the left edge of a line of length pixels in a box at x.
 inline int leftEdge(AWnd::E_TEXTJUSTIFY justify, int x, int width, int length)
 {
     switch (justify) {

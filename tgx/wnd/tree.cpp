@@ -19,7 +19,8 @@ bmpfont* defaultFont()
     return stage ? stage->getFont(0) : nullptr;
 }
 
-/// Whether wnd is holder or is listed below it, which a window shown in two places is without being inside.
+/// Returns true if wnd is holder or is listed below it. A window shown in two places may be listed below
+/// holder without being inside it.
 bool isListedBelow(const AWnd* wnd, AWnd* holder)
 {
     if (holder == wnd)
@@ -53,7 +54,7 @@ AWnd::~AWnd()
         if (last->links && last->links->listedTwice)
             unlist(last);
         if (last->owner == this) {
-            last->owner = nullptr; // it need not look for itself in a list that is going away
+            last->owner = nullptr; // it need not remove itself from a list that is being deleted
             delete last;
         } else if (last->parent == this) {
             last->parent = nullptr;
@@ -104,7 +105,7 @@ void AWnd::unlist(AWnd* listed)
             children.RemoveAt(i);
             ChildWalk::removed(children, i);
         }
-    // Below the root they keep their numbers: it remembers the active screen's.
+    // The root's children keep their index, because it stores that of the active screen.
     const tgx::Stage* stage = tgx::stage();
     if (stage && stage->getScreenList() == this)
         return;
@@ -161,7 +162,7 @@ AWnd* AWnd::releaseChildWindow(AWnd* released)
 
 void AWnd::setParentAndIndex(AWnd* newParent, int index)
 {
-    // A window that is its own parent counts as one without a parent.
+    // A window that is its own parent counts as having no parent.
     if (newParent != this && tgx::isInside(newParent, this))
         return;
     parent = newParent;
@@ -170,7 +171,7 @@ void AWnd::setParentAndIndex(AWnd* newParent, int index)
     LayoutVersion::bump();
 }
 
-// Who lists this window and does not own it any more must hear of its end all the same.
+// A window that lists this one without owning it must still be notified when this one is deleted.
 void AWnd::leaveOwner()
 {
     if (owner && owner->lists(this) && !getLinks().holders.contains(owner))

@@ -2,8 +2,8 @@
 
 #include "tgx/wnd/wnd.h"
 
-/// wnd as a T, or null when it is null or of another class. Whatever comes from a look-up by name or from a
-/// game's factory may be of any class: scripts choose the ids.
+/// Returns wnd as a T, or null if it is null or of another class. A window found by name or made by a game's
+/// factory may be of any class, because scripts choose the ids.
 template<class T>
 T* windowAs(AWnd* wnd)
 {

@@ -9,8 +9,8 @@
 
 namespace {
 
-/// Takes the last place of value out of values. Who comes last often goes first, so the search begins at the
-/// back.
+/// Removes the last entry of value from values. The search begins at the back, because the newest entry is
+/// often the first to be removed.
 template<class T>
 void eraseLast(std::vector<T*>& values, const T* value)
 {

@@ -14,22 +14,22 @@ using WndRef = tgx::WeakRef<AWnd>;
 template<>
 inline void tgx::WeakRef<AWnd>::attach(AWnd* to);
 
-/// The window that handles an action and the one that the action is about, across calls that may delete
-/// either:
+/// Holds the window that handles an action and the window that the action is about across calls that may
+/// delete either:
 ///
 ///     const ActionRefs handling(this, wnd);
 ///     AWnd::handleMouseAction(about, wnd, x, y, action);
-///     if (!handling.mayGoOn())
+///     if (!handling.canContinue())
 ///         return 0;
 class ActionRefs {
 public:
-    /// A null subject is none: the action is for all.
+    /// A null aboutWnd means that the action is for all windows.
     ActionRefs(AWnd* handlingWnd, AWnd* aboutWnd)
         : handler(handlingWnd), subject(aboutWnd), isForAll(aboutWnd == nullptr)
     {}
     bool isHandlerAlive() const { return handler.get() != nullptr; }
     bool isSubjectAlive() const { return isForAll || subject.get() != nullptr; }
-    bool mayGoOn() const { return isHandlerAlive() && isSubjectAlive(); }
+    bool canContinue() const { return isHandlerAlive() && isSubjectAlive(); }
 
 private:
     const WndRef handler;
@@ -37,7 +37,7 @@ private:
     const bool isForAll;
 };
 
-/// A list of windows that owns none of them. A window that is deleted drops out of it wherever it stands.
+/// A list of windows that owns none of them. A window is removed from all its positions when it is deleted.
 /// Indexes are checked as in CArray.
 class TGX_API WndList {
 public:
@@ -55,19 +55,19 @@ public:
         InsertAt(GetSize(), wnd);
         return GetSize() - 1;
     }
-    /// Add for a window that the list does not hold: saves the search for it.
+    /// Appends a window that the list does not contain, without searching for it first. Returns its index.
     int addNew(AWnd* wnd);
     void InsertAt(int index, AWnd* wnd);
     void RemoveAt(int index);
     void RemoveAll();
     bool contains(const AWnd* wnd) const;
-    /// Place of the first entry that is wnd, or -1.
+    /// Returns the index of the first entry that is wnd, or -1.
     int find(const AWnd* wnd) const;
 
 private:
     friend class AWnd;
-    void drop(const AWnd* wnd); // a window that is deleted, from all its places
+    void drop(const AWnd* wnd); // removes every entry of a deleted window
 
     std::vector<AWnd*> entries;
-    bool hasDoubles = false; // a window may stand in several places
+    bool hasDoubles = false; // a window may have several entries
 };

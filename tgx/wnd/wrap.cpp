@@ -9,11 +9,11 @@
 
 namespace {
 
-// Width of the text in front of each character, as far as it has been asked for, so that the width of any
-// part is one subtraction.
+// Width of the text before each character, computed as far as needed, so that the width of any part is one
+// subtraction.
 std::vector<long long> widthBefore;
 
-constexpr std::size_t shortText = 20; // characters; longer texts get more space between their lines
+constexpr std::size_t shortText = 20; // characters; the lines of longer texts are spaced wider
 
 } // namespace
 
@@ -83,8 +83,7 @@ bool TextWrap::next()
         if (scan < count - 1) {
             if (breakHere)
                 lastBreak = scan;
-            else if (lastBreak < start) // no blank on this line: the word is cut, and a character lost as a
-                                        // blank would be
+            else if (lastBreak < start) // no blank: the word is cut, and the character at the cut is dropped
                 lastBreak = --scan;
             lineEnd = static_cast<std::size_t>(std::max(lastBreak, start));
             nextStart = lastBreak + 1;

@@ -7,36 +7,37 @@
 class bmpfont;
 
 /// Breaks a text into the lines of a box, at blanks and at line-break marks (a line feed, or a backslash and
-/// an "n"). One pass, and no further than the box's height asks for. While one of these is in use no other
-/// may be: they share their working storage.
+/// an "n"). Works in one pass and only as far as the box's height requires. Only one may be in use at a time,
+/// because they share their working storage.
 ///
 ///     for (TextWrap wrapped(text, font, width, height); wrapped.next();)
 ///         use(wrapped.line(), wrapped.topFrom(y));
 class TGX_API TextWrap {
 public:
-    static constexpr int wideFactor = 6553; // raw fixed point, 1.6: distance of spread lines, in line heights
+    static constexpr int wideFactor = 6553; // raw fixed point, 1.6: spacing of spread lines, in line heights
 
-    /// text is not copied. width and height of the box in pixels; a null font gives all characters a width of
-    /// 0.
+    /// Does not copy text. width and height are those of the box in pixels; with a null font every character
+    /// has a width of 0.
     TextWrap(std::string_view text, const bmpfont* font, int width, int height);
 
-    /// A place in the text that the scan is to look out for, such as a caret's. What it passes over, behind a
-    /// break, it does not see; where it comes by twice the later time counts.
+    /// Sets a position in the text, such as a caret's, to report once the scan has reached it. Characters
+    /// skipped after a break are not seen; if the scan reaches the position twice, the later time counts.
     void watch(int place) { watched = place; }
-    /// Line at which the watched place was seen, or -1, and the width in pixels of that line in front of it.
+    /// Returns the line in which the watched position was seen, or -1.
     int getSeenLine() const { return seenLine; }
+    /// Returns the width in pixels of that line before the watched position.
     int getSeenWidth() const { return seenWidth; }
 
-    /// Goes on to the next line. False when the text or the box's height is used up.
+    /// Advances to the next line. Returns false when the text or the box's height is used up.
     bool next();
 
     std::string_view line() const { return text.substr(lineStart, lineEnd - lineStart); }
-    /// Place of the line's first character in the text.
+    /// Returns the position of the line's first character in the text.
     int getLineStart() const { return static_cast<int>(lineStart); }
     int getLineCount() const { return lineCount; }
-    /// Width of the line in pixels.
+    /// Returns the width of the line in pixels.
     int length() const;
-    /// Top of the line when the box starts at y.
+    /// Returns the top of the line if the box starts at y, in pixels.
     int topFrom(int y) const;
 
 private:
@@ -48,15 +49,15 @@ private:
     int width;
     int height;
     int lineHeight;
-    int factor; // raw fixed point: longer texts have wider spaced lines
+    int factor; // raw fixed point: spacing of the lines, wider in longer texts
     long scan = 0;
     long nextStart = 0;
-    long lastBreak = -1; // place of the last blank that a line can end at; -1: none yet
+    long lastBreak = -1; // position of the last blank at which a line can end; -1: none yet
     std::size_t lineStart = 0;
     std::size_t lineEnd = 0;
-    int lineCount = -1; // of the lines in front of this one
+    int lineCount = -1; // index of this line; -1 before the first
     long watched = -1;
     int seenLine = -1;
     int seenWidth = 0;
-    bool full = false; // the next line would stand out of the box
+    bool full = false; // the next line would not fit into the box
 };

@@ -19,10 +19,10 @@ public:
     void waitForWork(int& ticks, int& frames) override;
     bool dropsLostInput() const override { return dropsInput; }
 
-    /// Whether input that comes while nothing takes it is dropped, as it is for a person.
+    /// Whether input that arrives while nothing takes it is dropped, as by a host for a person.
     bool dropsInput = false;
     CursorShape cursor = CursorShape::Normal;
     std::function<void(const CString&)> onMessage;
-    /// Takes the messages that have a cause, with it; without it onMessage takes them, without the cause.
+    /// Receives the messages that have a cause. If it is not set, onMessage receives them without the cause.
     std::function<void(const CString&, const std::string& cause)> onFailure;
 };

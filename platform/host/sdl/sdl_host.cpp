@@ -351,7 +351,7 @@ void SdlHost::pump(ddwin& polled)
     input().dropStale(timeGetTime(), staleInputMillis);
 }
 
-/// Returns whether the event is about the window or the program, and no input.
+/// Returns whether the event concerns the window or the program and is not input.
 bool SdlHost::handleSystemEvent(const SDL_Event& event)
 {
     switch (event.type) {
@@ -441,7 +441,7 @@ void SdlHost::showMessage(const CString& text)
     messages.push_back(text.str());
 }
 
-/// Of many texts with one cause the box shows the cause alone.
+/// For several messages with the same cause, the box shows only the cause.
 void SdlHost::showFailure(const CString& text, const std::string& cause)
 {
     if (cause.empty())

@@ -27,7 +27,7 @@ public:
     void flush() { sendWaitingKey(0); }
     /// Releases all keys and cancels all buttons without a click, for a window that loses the focus.
     void releaseAll();
-    /// Must be called when the pointer has left the window: it is over nothing, unless a button is held.
+    /// Must be called when the pointer has left the window. It is over nothing then, unless a button is held.
     void pointerLeft();
     /// Must be called when the toolkit has moved the pointer to this position on the screen. Motion events
     /// from before are ignored.

@@ -73,7 +73,7 @@ TEST_F(ButtonTest, TheStateFollowsThePointerTickByTick)
         {"release left", AButton::BS_NORMAL, 1, "GO"},
         {"", AButton::BS_HOT, 1, ""},
         {"press left", AButton::BS_PRESSED, 1, ""},
-        {"move 210 10", AButton::BS_NORMAL, 1, ""}, // the focus has gone; nothing goes out to the other one
+        {"move 210 10", AButton::BS_NORMAL, 1, ""}, // the focus is lost; nothing is sent to the other button
         {"release left", AButton::BS_NORMAL, 1, ""},
         {"", AButton::BS_NORMAL, 1, ""},
     };
@@ -84,12 +84,12 @@ TEST_F(ButtonTest, TheStateFollowsThePointerTickByTick)
         EXPECT_EQ(clicks(), *row.clicked ? std::vector<std::string>{row.clicked} : none);
     }
     EXPECT_EQ(button("STOP")->getButtonState(), AButton::BS_HOT)
-        << "the press is over: the pointer counts again";
+        << "the press is over: the button follows the pointer again";
     play("key return", "tick");
     EXPECT_EQ(clicks(), std::vector<std::string>{"STOP"}) << "Return is a click where the pointer is";
 }
 
-TEST_F(ButtonTest, RunsOfFramesLieInTheStripBehindEachOther)
+TEST_F(ButtonTest, RunsOfFramesFollowOneAnotherInTheStrip)
 {
     button("GO")->setButtonAnimFrames(4, 1, 2, 1, 0);
     const struct {
@@ -101,7 +101,7 @@ TEST_F(ButtonTest, RunsOfFramesLieInTheStripBehindEachOther)
         {"normal", AButton::BS_NORMAL, 4, 1},
         {"hot", AButton::BS_HOT, 5, 2},
         {"pressed", AButton::BS_PRESSED, 7, 1},
-        {"disabled has no run: it goes on showing what it showed", AButton::BS_DISABLED, 7, 1},
+        {"disabled has no run: the picture does not change", AButton::BS_DISABLED, 7, 1},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -114,7 +114,7 @@ TEST_F(ButtonTest, RunsOfFramesLieInTheStripBehindEachOther)
     EXPECT_TRUE(button("GO")->isEnabled());
 }
 
-TEST_F(ButtonTest, TheTextMovesWhileItIsPressedAndWaitsForTheOpeningRun)
+TEST_F(ButtonTest, APressMovesTheTextAndTheOpeningRunHidesIt)
 {
     play("move 210 10", "tick");
     const auto textAt = [&] {
@@ -138,7 +138,7 @@ TEST_F(ButtonTest, TheTextMovesWhileItIsPressedAndWaitsForTheOpeningRun)
     EXPECT_STREQ(button("GO")->getWindowText(), "Go");
 }
 
-TEST_F(ButtonTest, CheckBoxesFlipThemselvesOrTheirTick)
+TEST_F(ButtonTest, CheckBoxesFlipThemselvesOrTheirStateWindow)
 {
     for (const char* id : {"CHECK", "TICKED"}) {
         SCOPED_TRACE(id);
@@ -150,10 +150,10 @@ TEST_F(ButtonTest, CheckBoxesFlipThemselvesOrTheirTick)
     }
     click("TICKED");
     AButton* tick = button("CheckboxState");
-    EXPECT_FALSE(button("TICKED")->getSelected()) << "the tick carries the selection";
+    EXPECT_FALSE(button("TICKED")->getSelected()) << "the state window stores the selection";
     EXPECT_TRUE(tick->getSelected());
     EXPECT_EQ(tick->getButtonState(), AButton::BS_PRESSED);
-    EXPECT_FALSE(tick->getEnabled()) << "and never takes the pointer";
+    EXPECT_FALSE(tick->getEnabled()) << "and never receives the pointer";
 
     button("CHECK")->setButtonState(AButton::BS_DISABLED);
     button("CHECK")->setSelected(1);
@@ -162,9 +162,9 @@ TEST_F(ButtonTest, CheckBoxesFlipThemselvesOrTheirTick)
     EXPECT_FALSE(button("CHECK")->isSelected());
 }
 
-TEST_F(ButtonTest, ATickNeverTakesThePointerFromItsCheckBox)
+TEST_F(ButtonTest, AStateWindowNeverTakesThePointerFromItsCheckBox)
 {
-    // The box opens for longer than its tick, whose own opening run ends meanwhile.
+    // The opening run of the box is longer than that of its state window.
     wnd("TICKED")->setBmp(CString("strip.bmp"));
     button("TICKED")->setButtonAnimFrames(9, 1, 1, 1, 1);
     button("TICKED")->setButtonState(AButton::BS_STARTUP);
@@ -177,7 +177,7 @@ TEST_F(ButtonTest, ATickNeverTakesThePointerFromItsCheckBox)
     }
 }
 
-TEST_F(ButtonTest, WithoutAFrameForRestItShowsOnlyWhenHotOrPressed)
+TEST_F(ButtonTest, WithoutANormalFrameAButtonIsOnlyDrawnWhenHotOrPressed)
 {
     button("GO")->setButtonAnimFrames(0, 0, 2, 1, 0);
     play("move 300 300", "tick");
@@ -190,16 +190,16 @@ TEST_F(ButtonTest, WithoutAFrameForRestItShowsOnlyWhenHotOrPressed)
         EXPECT_EQ(button("GO")->getCurrentFrame(), -1) << frame;
     }
     play("move 10 10", "tick", "draw");
-    EXPECT_EQ(button("GO")->getCurrentFrame(), 1) << "hot again, the run goes on";
+    EXPECT_EQ(button("GO")->getCurrentFrame(), 1) << "hot again: the run continues";
 }
 
-TEST_F(ButtonTest, APointerThatRestsChangesNothingInTheLayout)
+TEST_F(ButtonTest, ARestingPointerDoesNotChangeTheLayout)
 {
     button("TICKED")->setSelected(1);
     moveOnto("TICKED");
     const auto version = LayoutVersion::get();
     play("tick 3");
-    EXPECT_EQ(LayoutVersion::get(), version) << "else each tick would work out all positions anew";
+    EXPECT_EQ(LayoutVersion::get(), version) << "otherwise each tick would compute all positions again";
 }
 
 TEST_F(ButtonTest, TheClickedWindowMayBeDeletedByItsOwnClick)
@@ -222,7 +222,7 @@ TEST_F(ButtonTest, TheClickedWindowMayBeDeletedByItsOwnClick)
     EXPECT_EQ(win().getWnd("BOMB", 1), nullptr);
 }
 
-TEST_F(ButtonTest, ARadioGroupIsARunOfNeighbours)
+TEST_F(ButtonTest, AdjacentRadioButtonsFormAGroup)
 {
     for (const char* id : {"R1", "R2", "R3"})
         EXPECT_EQ(radio(id)->getLinkedButtonsCount(0), 3) << id;
@@ -230,14 +230,14 @@ TEST_F(ButtonTest, ARadioGroupIsARunOfNeighbours)
     EXPECT_EQ(radio("R3")->getLinkedButton(0), radio("R3")) << "itself first, then the nearest";
     EXPECT_EQ(radio("R3")->getLinkedButton(1), radio("R2"));
     EXPECT_THROW(radio("R3")->getLinkedButton(3), CInvalidArgException);
-    EXPECT_EQ(selectedRadio(), "R1") << "the first of them to start";
+    EXPECT_EQ(selectedRadio(), "R1") << "the first one to start";
 
     click("R2");
     EXPECT_EQ(selectedRadio(), "R2");
     click("R2");
-    EXPECT_EQ(selectedRadio(), "R2") << "a click always selects";
+    EXPECT_EQ(selectedRadio(), "R2") << "a click never deselects";
     radio("R1")->setSelectedButton(radio("ALONE"));
-    EXPECT_EQ(selectedRadio(), "R2") << "not of the group";
+    EXPECT_EQ(selectedRadio(), "R2") << "not a member of the group";
 }
 
 TEST_F(ButtonTest, KeysStepThroughARadioGroup)
@@ -249,7 +249,7 @@ TEST_F(ButtonTest, KeysStepThroughARadioGroup)
         const char* selected;
     } rows[] = {
         {"End: the next", "key end", "",
-         "R3"}, // the first lists itself, then R2, R3 in the order of their making
+         "R3"}, // the first lists itself, then R2 and R3 in the order of their creation
         {"wrapping", "key end", "", "R1"},
         {"Home: the one before", "key home", "", "R3"},
         {"the release of the right button is End", "release right", "", "R1"},
@@ -270,24 +270,24 @@ TEST_F(ButtonTest, KeysStepThroughARadioGroup)
     wnd("R2")->setVisible(0);
     wnd("R1")->setEnabled(0);
     radio("R1")->selectNextButton(0);
-    EXPECT_EQ(selectedRadio(), "R1") << "from a hidden one the first that shows, usable or not";
+    EXPECT_EQ(selectedRadio(), "R1") << "from a hidden one to the first visible one, usable or not";
     wnd("R1")->setEnabled(1);
     delete wnd("R2");
     EXPECT_EQ(radio("R1")->getLinkedButtonsCount(0), 2);
     EXPECT_EQ(radio("R1")->addLinkedButton(nullptr), -1);
-    EXPECT_EQ(radio("R1")->addLinkedButton(radio("R3")), 2) << "a member may stand there twice";
+    EXPECT_EQ(radio("R1")->addLinkedButton(radio("R3")), 2) << "a member may be listed twice";
     delete wnd("R3");
     EXPECT_EQ(radio("R1")->getLinkedButtonsCount(0), 1);
 }
 
-TEST_F(ButtonTest, TabsShowTheirPageAndThePointerLeavesWhatGoes)
+TEST_F(ButtonTest, TabsShowTheirPageAndThePointerLeavesAHiddenOne)
 {
     auto* tabs = static_cast<ATabControl*>(wnd("TABS"));
     EXPECT_EQ(tabs->getTabCount(), 2);
     EXPECT_EQ(tabs->getActiveWnd(), wnd("PAGE1"));
     click("TAB2");
     EXPECT_EQ(tabs->getActiveWnd(), wnd("PAGE2"));
-    EXPECT_EQ(win().getCurFocusWnd(), wnd("TAB2")) << "on the tab itself the pointer stays";
+    EXPECT_EQ(win().getCurFocusWnd(), wnd("TAB2")) << "the pointer stays on the tab";
     click("TAB1");
     moveOnto("INNER");
     tabs->setActiveWnd(button("TAB2"), 1);

@@ -3,8 +3,8 @@
 
 namespace {
 
-/// BOX stands at 200, 200 and is 120 x 20 if not told otherwise, with a button at each end, three items, and
-/// a screen that counts the updates. Rows of a menu are 24 high.
+/// BOX is at 200, 200 by default and 120 x 20, with a button at each end, three items, and a screen that
+/// counts the updates. Rows of a menu are 24 high.
 class ComboBoxTest : public TgxTest {
 protected:
     struct CountingScreen : AScreen {
@@ -42,7 +42,7 @@ protected:
         play("move " + std::to_string(x) + " " + std::to_string(y), "tick", "press left", "tick",
              "release left", "tick");
     }
-    /// Each event in a tick, or a frame, of its own: "key up,key return".
+    /// Plays each event, as in "key up,key return", followed by step.
     void playEach(const char* events, const char* step)
     {
         std::istringstream stream(events);
@@ -60,7 +60,8 @@ protected:
                 << menu()->height();
         return numbers.str();
     }
-    /// Of prev, box and next: n(ormal), p(ressed), h(ot), s(tarting), d(isabled), and - where there is none.
+    /// The states of prev, box and next: n(ormal), p(ressed), h(ot), s(tarting), d(isabled); - if there is
+    /// none.
     std::string states()
     {
         std::string letters;
@@ -74,38 +75,38 @@ protected:
     int updates = 0;
 };
 
-TEST_F(ComboBoxTest, StepsByTheirItemsEndsAndUpdates)
+TEST_F(ComboBoxTest, SteppingThroughTheItems)
 {
     const struct {
         const char* name;
         int wraps, from;
-        const char* events; // the pointer stands on the box if they do not move it
+        const char* events; // the pointer is on the box unless they move it
         const char* text;
         int updates;
         const char* states;
     } rows[] = {
         {"down", 1, 0, "key down", "two", 1, "nnp"},
         {"up", 1, 2, "key up", "two", 1, "pnn"},
-        {"down behind the last one", 1, 2, "key down", "one", 1, "nnp"},
-        {"up in front of the first one", 1, 0, "key up", "three", 1, "pnn"},
-        {"no wrap at the end, and told all the same", 0, 2, "key down", "three", 1, "nnp"},
+        {"down after the last one", 1, 2, "key down", "one", 1, "nnp"},
+        {"up before the first one", 1, 0, "key up", "three", 1, "pnn"},
+        {"no wrap at the end, but still an update", 0, 2, "key down", "three", 1, "nnp"},
         {"no wrap at the start", 0, 0, "key up", "one", 1, "pnn"},
         {"no wrap inside", 0, 1, "key down", "three", 1, "nnp"},
         {"home steps back", 1, 2, "key home", "two", 1, "pnn"},
         {"insert steps back", 1, 2, "key insert", "two", 1, "pnn"},
-        {"end steps on", 1, 0, "key end", "two", 1, "nnp"},
-        {"delete steps on", 1, 0, "key delete", "two", 1, "nnp"},
-        {"the list of the screen leads there from afar", 1, 0, "move 9 9,key end", "two", 1, "nnp"},
-        {"for insert and delete too", 1, 2, "move 9 9,key insert", "two", 1, "pnn"},
-        {"an arrow does not come from afar", 1, 0, "move 9 9,key down", "one", 0, "nnn"},
-        {"back beats on", 1, 1, "hold home,key down", "one", 1, "phn"},
+        {"end steps forward", 1, 0, "key end", "two", 1, "nnp"},
+        {"delete steps forward", 1, 0, "key delete", "two", 1, "nnp"},
+        {"the screen's list sends the key there from elsewhere", 1, 0, "move 9 9,key end", "two", 1, "nnp"},
+        {"also for insert and delete", 1, 2, "move 9 9,key insert", "two", 1, "pnn"},
+        {"an arrow key is not sent there from elsewhere", 1, 0, "move 9 9,key down", "one", 0, "nnn"},
+        {"back takes precedence over forward", 1, 1, "hold home,key down", "one", 1, "phn"},
         {"another key", 1, 1, "key a", "two", 0, "nnn"},
         {"the right button names End but holds no key", 1, 0, "press right,release right", "one", 0, "npn"},
         {"the button prev", 1, 1, "move 205 210,press left,release left", "one", 1, "pnn"},
         {"the button next", 1, 1, "move 315 210,press left,release left", "three", 1, "nnp"},
         {"a button while it is held", 1, 1, "move 315 210,press left", "two", 0, "nnp"},
         {"Return on a button", 1, 1, "move 315 210,key return", "three", 1, "nnp"},
-        {"a held key turns next back", 1, 1, "move 315 210,hold home,key return", "one", 1, "pnn"},
+        {"a held key turns next into prev", 1, 1, "move 315 210,hold home,key return", "one", 1, "pnn"},
         {"the next tick leaves no button pressed", 1, 0, "key down, ", "two", 1, "nhn"},
     };
     for (const auto& row : rows) {
@@ -123,7 +124,7 @@ TEST_F(ComboBoxTest, StepsByTheirItemsEndsAndUpdates)
     }
 }
 
-TEST_F(ComboBoxTest, OneItemLeavesNothingToStepTo)
+TEST_F(ComboBoxTest, WithOneItemThereIsNothingToStepTo)
 {
     startBox(buttons);
     EXPECT_EQ(shown(), "text") << "no item yet";
@@ -149,7 +150,7 @@ TEST_F(ComboBoxTest, OneItemLeavesNothingToStepTo)
     box()->reset();
     EXPECT_EQ(box()->getItemCount(), 0);
     EXPECT_EQ(box()->getSelectedItem(), 0);
-    EXPECT_EQ(shown(), "") << "as it was";
+    EXPECT_EQ(shown(), "") << "unchanged";
 }
 
 TEST_F(ComboBoxTest, TheMenuStaysOnTheScreen)
@@ -165,11 +166,12 @@ TEST_F(ComboBoxTest, TheMenuStaysOnTheScreen)
         {"to the very top", "", "200 73", "200 0 120 73"},
         {"off the top: ten pixels inside", "", "200 72", "200 10 120 73,200 10 120 73"},
         {"to the very bottom", "COMBOBELOW 1\n", "200 407", "200 427 120 73"},
-        {"off the bottom, each time from its last place", "COMBOBELOW 1\n", "200 440",
+        {"off the bottom, each time from its last position", "COMBOBELOW 1\n", "200 440",
          "200 460 120 50,200 460 120 30,200 460 120 30"},
-        {"one of the script", "COMBOMENU 5 3 80 50 \"\"\nBEGIN\nLISTLOOK 16\nBORDER \"edge.bmp\" 4 4\nEND\n",
-         "200 200", "205 143 80 57,205 143 80 57"},
-        {"one of the script, below",
+        {"a menu from the script",
+         "COMBOMENU 5 3 80 50 \"\"\nBEGIN\nLISTLOOK 16\nBORDER \"edge.bmp\" 4 4\nEND\n", "200 200",
+         "205 143 80 57,205 143 80 57"},
+        {"a menu from the script, below",
          "COMBOBELOW 1\nCOMBOMENU 5 3 80 50 \"\"\nBEGIN\nBORDER \"edge.bmp\" 4 4\nEND\n", "200 440",
          "205 460 80 55,205 460 80 38"},
     };
@@ -187,7 +189,7 @@ TEST_F(ComboBoxTest, TheMenuStaysOnTheScreen)
             EXPECT_EQ(menu()->getColumnCount(), 1);
             EXPECT_EQ(menu()->getColumnWidth(0), menu()->width());
             EXPECT_EQ(menu()->getItemCount(), 3);
-            EXPECT_TRUE(!made || made == menu()) << "one menu serves all openings";
+            EXPECT_TRUE(!made || made == menu()) << "the same menu is opened each time";
             made = menu();
             clickAt(630, 5);
             EXPECT_FALSE(isOpen() || menu()->isVisible(0));
@@ -201,15 +203,15 @@ TEST_F(ComboBoxTest, ChoosingInTheMenu)
         const char* name;
         const char* events; // the rows begin at 127, the pointer is on the first
         bool open;
-        int selected, updates; // in the menu while it is open, else in the box
+        int selected, updates; // in the menu while it is open, otherwise in the box
     } rows[] = {
         {"it opens on the item shown", "", true, 1, 0},
         {"the selection follows the pointer", "move 260 190", true, 2, 0},
-        {"and leaves with it", "move 260 190,move 9 9", true, -1, 0},
-        {"and the keys", "key down", true, 2, 0},
+        {"and is lost with it", "move 260 190,move 9 9", true, -1, 0},
+        {"and follows the keys", "key down", true, 2, 0},
         {"a press keeps it open", "move 260 190,press left", true, 2, 0},
         {"a click", "move 260 190,press left,release left", false, 2, 1},
-        {"the item that it has: told too", "move 260 165,press left,release left", false, 1, 1},
+        {"the item already selected: still an update", "move 260 165,press left,release left", false, 1, 1},
         {"keys and Return", "key up,key return", false, 0, 1},
         {"below the rows", "move 260 200,press left,release left", false, 1, 0},
         {"far away", "move 600 400,press left,release left", false, 1, 0},
@@ -225,7 +227,7 @@ TEST_F(ComboBoxTest, ChoosingInTheMenu)
         EXPECT_EQ(win().mouseX, 260);
         EXPECT_EQ(win().mouseY, 139) << "on the first row";
         play("frame");
-        EXPECT_EQ(menu()->getHotItem(), 1) << "and the pointer does not count before it moves";
+        EXPECT_EQ(menu()->getHotItem(), 1) << "and the pointer has no effect until it moves";
         playEach(row.events, "frame");
         EXPECT_EQ(isOpen(), row.open);
         EXPECT_EQ(updatesSince(), row.updates);
@@ -235,7 +237,7 @@ TEST_F(ComboBoxTest, ChoosingInTheMenu)
         EXPECT_EQ(shown(), box()->getItemText(row.selected).str());
         EXPECT_FALSE(menu()->isVisible(0));
         EXPECT_EQ(win().mouseX, 240);
-        EXPECT_EQ(win().mouseY, 210) << "the pointer is back";
+        EXPECT_EQ(win().mouseY, 210) << "the pointer is back where it was";
         EXPECT_EQ(states(), "nnn");
         play("frame");
         EXPECT_EQ(menu()->getParent(), box()) << "it is not deleted";
@@ -253,15 +255,15 @@ TEST_F(ComboBoxTest, WithoutAMenuAClickOnlyResetsTheButtons)
     play("release left", "tick");
     EXPECT_EQ(states(), "nnn");
     EXPECT_EQ(win().getWnd("ComboMenu", 1), nullptr);
-    EXPECT_EQ(updatesSince(), 1) << "of the step alone";
+    EXPECT_EQ(updatesSince(), 1) << "only for the step";
 
     play("move 315 210", "tick");
     box()->setButtonState(AButton::BS_PRESSED);
     play("tick");
-    EXPECT_EQ(states(), "nnh") << "the box does not look pressed while a button has the pointer";
+    EXPECT_EQ(states(), "nnh") << "the box is not drawn pressed while the pointer is on a button";
 }
 
-TEST_F(ComboBoxTest, AMenuThatIsCoveredHides)
+TEST_F(ComboBoxTest, ACoveredMenuIsHidden)
 {
     startBox(std::string(items));
     clickBox();
@@ -292,7 +294,7 @@ TEST_F(ComboBoxTest, Drawing)
     EXPECT_EQ(drawn("BOX"), Trace{label(290, 202)}) << "the opening run hides the button's own text";
     box()->setButtonState(AButton::BS_PRESSED);
     EXPECT_EQ(drawn("BOX"), (Trace{label(285, 203), label(290, 202)}))
-        << "the button's text, moved by the press, and the box's, which begins at the offset";
+        << "the button's text, moved by the press, and the box's own, which begins at the offset";
 
     clickBox();
     play("frame 2");
@@ -326,8 +328,8 @@ TEST_F(ComboBoxTest, StatementsAndTree)
     EXPECT_EQ(box()->getMenuBelow(), 1);
     EXPECT_EQ(box()->getItemCount(), 2);
     EXPECT_STREQ(box()->getItemText(0), "");
-    EXPECT_STREQ(box()->getItemText(1), "ICON3") << "no icon, and one text a line";
-    EXPECT_EQ(shown(), "") << "of the first item";
+    EXPECT_STREQ(box()->getItemText(1), "ICON3") << "no icon, and one text per line";
+    EXPECT_EQ(shown(), "") << "the text of the first item";
 
     for (const char* line : {"12", "14"}) // COMBOBELOW and COMBODROPS
         expectMessage("Encountered an error on line " + std::string(line) +
@@ -336,14 +338,14 @@ TEST_F(ComboBoxTest, StatementsAndTree)
         items, "200 200",
         "BUTTON \"B\" 0 0 9 9 \"\"\nBEGIN\nCOMBOWRAP 0\nCOMBOBELOW 1\nCOMBONEXT 0 0 1 1 \"\"\nCOMBODROPS "
         "0\nEND\n");
-    EXPECT_EQ(wnd("B")->getWindowCount(), 0) << "a step button for another window is passed over";
+    EXPECT_EQ(wnd("B")->getWindowCount(), 0) << "a step button in another kind of window is ignored";
     box()->setSelectedItem(1);
     play("tree t.json");
     EXPECT_NE(readOutput("t.json").find(R"("selectedItem":1,"items":["one","two","three"])"),
               std::string::npos);
 }
 
-TEST_F(ComboBoxTest, WindowsOfItsNamesThatAreNoneOfItsParts)
+TEST_F(ComboBoxTest, WindowsWithThePartsNamesButOfOtherClasses)
 {
     startBox("WINDOW \"ComboPrev\" 0 0 20 20\nWINDOW \"ComboNext\" 100 0 20 20\nWINDOW \"ComboMenu\" 0 0 9 "
              "9\n" +
@@ -357,7 +359,7 @@ TEST_F(ComboBoxTest, WindowsOfItsNamesThatAreNoneOfItsParts)
     startBox("LISTBOX \"ComboMenu\" 0 0 90 90\n" + std::string(items));
     clickBox();
     clickRow(1);
-    EXPECT_EQ(shown(), "two") << "any list serves as a menu";
+    EXPECT_EQ(shown(), "two") << "any list can be the menu";
 }
 
 } // namespace

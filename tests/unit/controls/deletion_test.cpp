@@ -1,5 +1,5 @@
-// Windows that handlers of the game delete while an action is on its way through them. What could go wrong is
-// found by the address sanitizer; the tests say which windows are left.
+// Handlers of the game delete windows while an action is passed through them. The address sanitizer finds
+// wrong accesses; the tests check which windows are left.
 
 #include "tests/unit/support/tgx_test.h"
 #include "tgx/controls/editbox.h"
@@ -84,7 +84,7 @@ END
     bool isThere(const char* id) { return win().getWnd(id, 1) != nullptr; }
 };
 
-TEST_F(DeletionTest, WhatTheActionIsAboutMayDie)
+TEST_F(DeletionTest, TheWindowOfAnActionMayBeDeleted)
 {
     const struct {
         const char* name;
@@ -105,26 +105,26 @@ TEST_F(DeletionTest, WhatTheActionIsAboutMayDie)
          {"move 150 210", "press left", "tick", "release left"},
          {"FATAL"},
          {"TABS", "TAB2"}},
-        {"a radio button that a key has come to", struckByUpdate, "R1", {"key end"}, {"R2", "R3"}, {"R1"}},
-        {"the one that the key selects", struckByUpdate, "R2", {"key end"}, {"R1", "R3"}, {"R2"}},
+        {"a radio button that receives a key", struckByUpdate, "R1", {"key end"}, {"R2", "R3"}, {"R1"}},
+        {"the radio button that the key selects", struckByUpdate, "R2", {"key end"}, {"R1", "R3"}, {"R2"}},
         {"all of the group", struckByUpdate, "BOX", {"release right"}, {"FATAL"}, {"BOX", "R1"}},
-        {"a tab that a key has come to", struckByUpdate, "TAB1", {"key delete"}, {"TAB2"}, {"TAB1"}},
+        {"a tab that receives a key", struckByUpdate, "TAB1", {"key delete"}, {"TAB2"}, {"TAB1"}},
         {"its tab control, by a key", struckByUpdate, "TABS", {"key insert"}, {"FATAL"}, {"TABS"}},
         {"a neighbour earlier in the walk", struckByKiller, "R1", {"key end"}, {"R2", "R3"}, {"R1"}},
-        {"that neighbour itself and its holder", struckByKiller, "BOX", {"key end"}, {"TABS"}, {"BOX"}},
-        {"the focus window, in the search for the button that Esc goes to",
+        {"that neighbour and its parent", struckByKiller, "BOX", {"key end"}, {"TABS"}, {"BOX"}},
+        {"the focus window, while Esc searches for its button",
          struckByKiller,
          "EDIT",
          {"move 10 10", "tick", "key esc"},
          {"TGX_OK"},
          {"EDIT"}},
-        {"an edit box, by the button that its end presses",
+        {"an edit box, by the button pressed at the end of typing",
          struckByKiller,
          "EDIT",
          {"move 10 10", "press left", "tick", "release left", "tick", "key return"},
          {"KILLER"},
          {"EDIT"}},
-        {"the window that has opened the popup, by the report of a click in it",
+        {"the window that opened the popup, when it is notified of a click",
          struckByReport,
          "R3",
          {"call main setPopupWnd \"POPUP\" R3 141 \"script.tgx\"", "move 320 240", "press left", "tick",
@@ -146,12 +146,12 @@ TEST_F(DeletionTest, WhatTheActionIsAboutMayDie)
         for (const char* id : row.gone)
             EXPECT_FALSE(isThere(id)) << id;
         if (std::string(row.events.back()) == "key esc") {
-            EXPECT_EQ(win().mouseY, wnd("TGX_OK")->centreY()) << "the search goes on";
+            EXPECT_EQ(win().mouseY, wnd("TGX_OK")->centreY()) << "the search continues";
         }
     }
 }
 
-TEST_F(DeletionTest, WhatAnEditBoxLeadsToMayDie)
+TEST_F(DeletionTest, TheNextWindowOfAnEditBoxMayBeDeleted)
 {
     open();
     auto* box = static_cast<AEditBox*>(wnd("EDIT"));
@@ -166,7 +166,7 @@ TEST_F(DeletionTest, WhatAnEditBoxLeadsToMayDie)
          "tick");
     EXPECT_STREQ(box->getWindowText(), "a");
     EXPECT_EQ(win().getMouseCaptureWndCount(), 0);
-    EXPECT_EQ(win().mouseX, 10) << "nowhere to go";
+    EXPECT_EQ(win().mouseX, 10) << "the pointer does not move";
 }
 
 } // namespace

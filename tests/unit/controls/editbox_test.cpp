@@ -6,6 +6,14 @@
 
 namespace {
 
+std::string joined(const std::vector<std::string>& ids)
+{
+    std::string all;
+    for (const std::string& id : ids)
+        all += (all.empty() ? "" : " ") + id;
+    return all;
+}
+
 class EditBoxTest : public TgxTest {
 protected:
     void SetUp() override
@@ -22,12 +30,12 @@ protected:
               "  TABORDER \"NAME\" \"PassWord1\" \"OTHER\"\n"
               "END\n");
         play("frame 6");
-        ASSERT_TRUE(isTypedIn("NAME")) << "the first tab stop of a new screen";
+        ASSERT_TRUE(isBeingEdited("NAME")) << "the first tab stop of a new screen";
         play("call main setMouseCaptureWnd null");
         measureFont(0);
     }
     AEditBox* box(const std::string& id) { return static_cast<AEditBox*>(wnd(id)); }
-    bool isTypedIn(const std::string& id) { return win().getMouseCaptureWnd(0) == wnd(id); }
+    bool isBeingEdited(const std::string& id) { return win().getMouseCaptureWnd(0) == wnd(id); }
     void click(int x, int y)
     {
         play("move " + std::to_string(x) + " " + std::to_string(y), "press left", "tick", "release left",
@@ -37,16 +45,16 @@ protected:
     {
         play("type \"" + keys + "\"", "tick " + std::to_string(keys.size()));
     }
-    /// "ab|c": the text with the caret.
+    /// The text with the caret, such as "ab|c".
     std::string state(const std::string& id)
     {
         std::string shown = box(id)->getWindowText();
         return shown.insert(static_cast<std::size_t>(box(id)->getCursorPos()), "|");
     }
-    /// Where the caret is drawn, or "".
+    /// Where the caret is drawn; "" if it is not.
     std::string caret(const std::string& id)
     {
-        box(id)->setBmpInfo(0, 0, 400, 1); // on for long
+        box(id)->setBmpInfo(0, 0, 400, 1); // visible for a long time
         win().runFrame();
         for (const DrawCommand& command : win().getLastFrame().commands())
             if (command.op == DrawOp::Rectangle)
@@ -55,10 +63,10 @@ protected:
     }
 };
 
-TEST_F(EditBoxTest, TypingGoesInAtTheCaret)
+TEST_F(EditBoxTest, TypedCharactersAreInsertedAtTheCaret)
 {
     click(110, 110);
-    ASSERT_TRUE(isTypedIn("NAME"));
+    ASSERT_TRUE(isBeingEdited("NAME"));
     const struct {
         const char* event;
         const char* state;
@@ -74,11 +82,11 @@ TEST_F(EditBoxTest, TypingGoesInAtTheCaret)
     }
 }
 
-TEST_F(EditBoxTest, WhatIsAcceptedAndHowMuch)
+TEST_F(EditBoxTest, AcceptedCharactersAndLengths)
 {
     click(110, 110);
     type("abcdefghijkl");
-    EXPECT_EQ(state("NAME"), "abcdefghij|") << "a box of one line takes what it can show";
+    EXPECT_EQ(state("NAME"), "abcdefghij|") << "a box of one line accepts what it can show";
     box("NAME")->setWindowText(CString("é"));
     type("\\xE9\\xBEz");
     play("tick 4");
@@ -91,71 +99,53 @@ TEST_F(EditBoxTest, WhatIsAcceptedAndHowMuch)
     box("NAME")->setFullWnd(wnd("OTHER"));
     type("c");
     EXPECT_EQ(state("NAME"), "ABC|") << "the whole text";
-    EXPECT_EQ(win().mouseX, 425) << "full: the pointer goes on";
+    EXPECT_EQ(win().mouseX, 425) << "full: the pointer moves on";
     type("d");
     EXPECT_EQ(state("NAME"), "ABC|");
 }
 
-TEST_F(EditBoxTest, HowTypingBeginsAndEnds)
+TEST_F(EditBoxTest, StartAndEndOfTyping)
 {
     play("move 110 110", "tick", "key tab", "tick", "tick");
-    EXPECT_TRUE(isTypedIn("PassWord1")) << "arriving by Tab starts the typing";
+    EXPECT_TRUE(isBeingEdited("PassWord1")) << "moving there with Tab starts the typing";
     type("ab");
     play("key tab", "tick", "tick");
-    EXPECT_EQ(win().getMouseCaptureWndCount(), 0) << "Tab leaves it";
+    EXPECT_EQ(win().getMouseCaptureWndCount(), 0) << "Tab ends the typing";
     EXPECT_EQ(win().getCurFocusWnd(), wnd("OTHER"));
 
     click(110, 110);
-    EXPECT_TRUE(isTypedIn("NAME"));
+    EXPECT_TRUE(isBeingEdited("NAME"));
     click(410, 110);
-    EXPECT_FALSE(isTypedIn("NAME")) << "a click elsewhere, which goes where it fell";
+    EXPECT_FALSE(isBeingEdited("NAME")) << "a click elsewhere ends the typing and is handled there";
     EXPECT_EQ(clicks().back(), "OTHER");
 
     click(110, 110);
     box("NAME")->setOnEnterWnd(wnd("OTHER"));
     play("key return", "tick");
-    EXPECT_FALSE(isTypedIn("NAME"));
+    EXPECT_FALSE(isBeingEdited("NAME"));
     EXPECT_EQ(clicks().back(), "OTHER") << "the end of typing presses the button";
     EXPECT_EQ(win().mouseX, 425);
 }
 
-TEST_F(EditBoxTest, WhatTheEndOfTypingLeadsTo)
+TEST_F(EditBoxTest, WindowsPressedAtTheEndOfTyping)
 {
-    using Ids = std::vector<std::string>;
     const struct {
         const char* name;
         const char *leave, *enter;             // of NAME
         const char *secondLeave, *secondEnter; // of PassWord1
-        Ids clicked, typedIn;                  // behind Return in NAME; the capture, top first
+        const char *clicked, *typedIn; // after Return in NAME; typedIn is the capture stack, top first
         const char* text;
     } rows[] = {
-        {"a box that is its own end empties itself and goes on", "", "NAME", "", "", {"NAME"}, {"NAME"}, ""},
-        {"the next box", "", "PassWord1", "", "", {"PassWord1"}, {"PassWord1"}, "abc"},
-        {"leaving comes first", "OTHER", "PassWord1", "", "", {"OTHER", "PassWord1"}, {"PassWord1"}, "abc"},
-        {"a second click on a box ends its typing too",
-         "PassWord1",
-         "PassWord1",
-         "",
-         "OTHER",
-         {"PassWord1", "PassWord1", "OTHER"},
-         {},
-         "abc"},
-        {"and may come back",
-         "PassWord1",
-         "PassWord1",
-         "OTHER",
-         "NAME",
-         {"PassWord1", "PassWord1", "OTHER", "NAME"},
-         {"NAME"},
-         "abc"},
-        {"one box over another",
-         "PassWord1",
-         "NAME",
-         "",
-         "NAME",
-         {"PassWord1", "NAME"},
-         {"NAME", "PassWord1"},
-         ""},
+        {"a box that is its own enter window is emptied and typed into again", "", "NAME", "", "", "NAME",
+         "NAME", ""},
+        {"the next box", "", "PassWord1", "", "", "PassWord1", "PassWord1", "abc"},
+        {"the leave window comes first", "OTHER", "PassWord1", "", "", "OTHER PassWord1", "PassWord1", "abc"},
+        {"a second click on a box also ends its typing", "PassWord1", "PassWord1", "", "OTHER",
+         "PassWord1 PassWord1 OTHER", "", "abc"},
+        {"and may lead back", "PassWord1", "PassWord1", "OTHER", "NAME", "PassWord1 PassWord1 OTHER NAME",
+         "NAME", "abc"},
+        {"one box captures above another", "PassWord1", "NAME", "", "NAME", "PassWord1 NAME",
+         "NAME PassWord1", ""},
     };
     box("NAME")->getParent()->getButton("OTHER", 1)->setCheckBox(1);
     for (const auto& row : rows) {
@@ -172,22 +162,22 @@ TEST_F(EditBoxTest, WhatTheEndOfTypingLeadsTo)
         click(110, 110);
         clicks();
         play("key return", "tick");
-        const Ids clicked = clicks();
+        const std::string clicked = joined(clicks());
         EXPECT_EQ(clicked, row.clicked);
-        Ids typedIn;
+        std::vector<std::string> typedIn;
         for (int i = 0; i < win().getMouseCaptureWndCount(); ++i)
             typedIn.push_back(win().getMouseCaptureWnd(i)->getID().str());
-        EXPECT_EQ(typedIn, row.typedIn);
+        EXPECT_EQ(joined(typedIn), row.typedIn);
         EXPECT_STREQ(box("NAME")->getWindowText(), row.text);
-        const bool isPressed = std::count(clicked.begin(), clicked.end(), "OTHER") > 0;
+        const bool isPressed = clicked.find("OTHER") != clicked.npos;
         EXPECT_EQ(static_cast<AButton*>(wnd("OTHER"))->isSelected(), isPressed);
     }
     play("key return", "tick");
-    EXPECT_EQ(clicks(), (Ids{"PassWord1", "NAME", "NAME"}));
-    EXPECT_EQ(win().getMouseCaptureWndCount(), 0) << "a second end of NAME within the first leads nowhere";
+    EXPECT_EQ(joined(clicks()), "PassWord1 NAME NAME");
+    EXPECT_EQ(win().getMouseCaptureWndCount(), 0) << "a second end of NAME within the first has no effect";
 }
 
-TEST_F(EditBoxTest, BoxesThatLeadToEachOtherWithoutEndComeToRest)
+TEST_F(EditBoxTest, BoxesThatLeadToEachOtherDoNotLoopForever)
 {
     box("NAME")->setLeaveWnd(box("NAME"));
     box("NAME")->setOnEnterWnd(box("NAME"));
@@ -198,7 +188,7 @@ TEST_F(EditBoxTest, BoxesThatLeadToEachOtherWithoutEndComeToRest)
     click(110, 110);
     clicks();
     play("key return", "tick");
-    EXPECT_EQ(clicks(), (std::vector<std::string>{"NAME", "OTHER"})) << "the next end is whole again";
+    EXPECT_EQ(clicks(), (std::vector<std::string>{"NAME", "OTHER"})) << "the next end of typing works again";
 }
 
 TEST_F(EditBoxTest, APasswordShowsStarsAndKeepsItsText)
@@ -210,7 +200,7 @@ TEST_F(EditBoxTest, APasswordShowsStarsAndKeepsItsText)
     EXPECT_EQ(drawn("PassWord1").operations("adddirtyrect"), (Trace{dirty(100, 150, 300, 170)}));
 }
 
-TEST_F(EditBoxTest, WhereTheCaretStands)
+TEST_F(EditBoxTest, CaretPositions)
 {
     click(110, 110);
     EXPECT_EQ(caret("NAME"), "100 104") << "an empty box";
@@ -224,16 +214,15 @@ TEST_F(EditBoxTest, WhereTheCaretStands)
     box("NAME")->setTextJustify(AWnd::TJ_CENTRE);
     EXPECT_EQ(caret("NAME"), "159 106");
     play("key return", "tick");
-    EXPECT_EQ(caret("NAME"), "") << "only while it is typed in";
+    EXPECT_EQ(caret("NAME"), "") << "only drawn while typing";
 }
 
-TEST_F(EditBoxTest, TheCaretOfSeveralLines)
+TEST_F(EditBoxTest, TheCaretInSeveralLines)
 {
-    // Lines of the text are broken 60 pixels earlier than they could be, and lie 25.6 apart.
+    // Lines of the text are broken 60 pixels before the edge and are spaced by 25.6 pixels.
     click(110, 210);
     type("aaaa bbbb cccc dddd eeee");
-    EXPECT_EQ(caret("NOTES"), "190 225")
-        << "at the end: dddd eeee, of which the last character counts no more";
+    EXPECT_EQ(caret("NOTES"), "190 225") << "at the end of dddd eeee, without its last character";
     play("key home", "tick");
     EXPECT_EQ(caret("NOTES"), "100 200");
     for (int i = 0; i < 4; ++i)

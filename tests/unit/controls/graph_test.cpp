@@ -8,7 +8,8 @@ Drawn line(int x1, int y1, int x2, int y2, const std::string& colour = "#ffff00"
     return fill(x1, y1, x2, y2, colour).setRaw("op", "\"line\"").set("width", 2);
 }
 
-/// Boxes of 200 by 100 pixels: with both ranges at 10, a position is 20.0 wide and a value 10.0 high.
+/// Boxes of 200 x 100 pixels: with both ranges at 10, a position is 20 pixels wide and a value 10 pixels
+/// high.
 class GraphTest : public TgxTest {
 protected:
     void SetUp() override
@@ -21,7 +22,7 @@ protected:
         measureFont(0);
     }
     AGraph* graph(const std::string& id) { return static_cast<AGraph*>(wnd(id)); }
-    /// The n-th call gives the colour n n n.
+    /// Call n has the colour n n n.
     void add(const std::string& id, std::initializer_list<int> values, int series = 0, const char* label = "")
     {
         for (int value : values)
@@ -85,7 +86,7 @@ TEST_F(GraphTest, GrowsOverTheFrames)
     EXPECT_EQ(graph("BARS")->getGrowth().raw, 4096);
     play("call BARS removeAll 1", "call BARS draw 3", "call BARS draw 0", "call BARS setVisible 0",
          "call BARS draw 1");
-    EXPECT_EQ(graph("BARS")->getGrowth().raw, 612) << "by the ticks of the frames that showed it";
+    EXPECT_EQ(graph("BARS")->getGrowth().raw, 612) << "by the ticks of the frames in which it was visible";
 }
 
 TEST_F(GraphTest, BarsAndTheirLabels)
@@ -117,11 +118,11 @@ TEST_F(GraphTest, BarsAndTheirLabels)
 
     play("call BARS removeAll 1");
     add("BARS", {-2});
-    EXPECT_EQ(operations("BARS", "fillrect"), Trace{}) << "a negative value has none while it grows either";
+    EXPECT_EQ(operations("BARS", "fillrect"), Trace{}) << "a negative value has no bar while it grows either";
     play("call BARS draw 30");
 
-    // A position of 20.5 pixels, a value of 0.505: all bars shrink at once, and a bar's right end counts from
-    // its whole left one. The colours of the first calls serve every series.
+    // A position of 20.5 pixels and a value of 0.505: all bars shrink at once, and a bar's right end is
+    // computed from its rounded left one. The colours of the first calls apply to every series.
     play("call BARS removeAll 0", "call BARS setWndPos 100 100 205 101");
     calls = 0;
     add("BARS", {101}, 3);
@@ -142,7 +143,7 @@ TEST_F(GraphTest, ThePlotSlidesWithTheBox)
     }
 }
 
-TEST_F(GraphTest, LinesWithTheirPensAndMarks)
+TEST_F(GraphTest, LinesAreDrawnWithPensAndMarks)
 {
     play("call LINES setXLabelEvery 0", "call LINES setYLabelEvery 0", "call LINES setLineColour 1 0x0000ff");
     play("call LINES draw 30");
@@ -159,12 +160,12 @@ TEST_F(GraphTest, LinesWithTheirPensAndMarks)
 
     HDC context = nullptr;
     ASSERT_EQ(win().getBackBuffer()->GetDC(&context), 0);
-    EXPECT_EQ(operations("LINES", "line"), Trace{}) << "the one device context is taken";
+    EXPECT_EQ(operations("LINES", "line"), Trace{}) << "the only device context is in use";
     EXPECT_EQ(operations("LINES", "fillrect"), marks);
     EXPECT_EQ(win().getBackBuffer()->ReleaseDC(context), 0);
 }
 
-TEST_F(GraphTest, RangesOnlyRise)
+TEST_F(GraphTest, RangesOnlyGrow)
 {
     const struct {
         const char *name, *call, *tree;
@@ -173,8 +174,8 @@ TEST_F(GraphTest, RangesOnlyRise)
         {"above", "addData 200 a 0 3", R"("xRange":10,"yRange":200,"counts":[0,0,1,1])"},
         {"below", "addData -500 a 0 3", R"("xRange":10,"yRange":200,"counts":[0,0,1,2])"},
         {"no such series", "addData 900 a 0 4", R"("xRange":10,"yRange":200,"counts":[0,0,1,2])"},
-        {"nor this", "addData 900 a 0 -1", R"("xRange":10,"yRange":200,"counts":[0,0,1,2])"},
-        {"ends with its 16 bits", "addData 40000 a 0 0", R"("xRange":10,"yRange":32767,"counts":[1,0,1,2])"},
+        {"nor a negative one", "addData 900 a 0 -1", R"("xRange":10,"yRange":200,"counts":[0,0,1,2])"},
+        {"limited to 16 bits", "addData 40000 a 0 0", R"("xRange":10,"yRange":32767,"counts":[1,0,1,2])"},
         {"emptied", "removeAll 0", R"("xRange":10,"yRange":10,"counts":[0,0,0,0])"},
     };
     for (const auto& row : rows) {
@@ -186,11 +187,11 @@ TEST_F(GraphTest, RangesOnlyRise)
     EXPECT_EQ(graph("LINES")->getXRange(), 12);
 }
 
-TEST_F(GraphTest, GraphInfoSetsWhatItsLineReaches)
+TEST_F(GraphTest, GraphInfoSetsOnlyTheArgumentsGiven)
 {
     const struct {
         const char* line;
-        std::vector<int> info; // lengths of the two texts first
+        std::vector<int> info; // begins with the lengths of the two texts
     } rows[] = {
         {"GRAPHINFO", {0, 0, 1, 20, 10, 2, 0}},
         {"GRAPHINFO \"a\" \"bc\"", {1, 2, 1, 20, 10, 2, 0}},

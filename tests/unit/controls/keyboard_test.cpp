@@ -56,16 +56,16 @@ TEST_F(KeyboardTest, TypesByMouse)
     } rows[] = {
         {"the first key replaces the text", "old", 20, {"A"}, "A"},
         {"even a blank", "old", 20, {"Sp"}, " "},
-        {"lower case behind a letter", "old", 20, {"A", "B", "B"}, "Abb"},
-        {"a capital behind a blank", "old", 20, {"A", "Sp", "B", "A"}, "A Ba"},
+        {"lower case after a letter", "old", 20, {"A", "B", "B"}, "Abb"},
+        {"upper case after a blank", "old", 20, {"A", "Sp", "B", "A"}, "A Ba"},
         {"a digit has no case", "old", 20, {"7", "A", "7"}, "7a7"},
         {"several characters", "old", 20, {"XY", ".", "XY", "Sp", "XY"}, "XY.xy XY"},
-        {"several pass the most", "old", 3, {"A", "A", "XY", "A", "Sp"}, "Aaxy"},
-        {"the most", "old", 2, {"A", "B", "C"}, "Ab"},
+        {"several characters may exceed the maximum", "old", 3, {"A", "A", "XY", "A", "Sp"}, "Aaxy"},
+        {"the maximum", "old", 2, {"A", "B", "C"}, "Ab"},
         {"room again", "old", 2, {"A", "B", "C", "<", "C"}, "Ac"},
-        {"no room at all: the flag alone", "old", 0, {"A", "A"}, "old"},
-        {"a removal keeps the rest, and what follows is behind it", "old", 20, {"<", "A"}, "ola"},
-        {"nothing to remove, and a capital behind nothing", "", 20, {"<", "A"}, "A"},
+        {"a maximum of 0: only the flag changes", "old", 0, {"A", "A"}, "old"},
+        {"a removal keeps the rest, and the next key is appended", "old", 20, {"<", "A"}, "ola"},
+        {"nothing to remove, and upper case in an empty text", "", 20, {"<", "A"}, "A"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -78,7 +78,7 @@ TEST_F(KeyboardTest, TypesByMouse)
             press(key);
             EXPECT_EQ(keys()->getSelectedItem(), -1);
             EXPECT_EQ(keys()->getSelectedColumn(), -1);
-            EXPECT_EQ(textOf("ECHO"), textOf("NAME")) << "behind " << key;
+            EXPECT_EQ(textOf("ECHO"), textOf("NAME")) << "after " << key;
         }
         EXPECT_EQ(textOf("NAME"), row.after);
         EXPECT_EQ(keys()->getReplaceText(), 0);
@@ -95,9 +95,9 @@ TEST_F(KeyboardTest, TypesByArrowsAndReturn)
         const char* text;
     } rows[] = {
         {"from OK, the last cell, one up", {"up", "return"}, "ol"},
-        {"the hot cell stays: once more", {"return"}, "o"},
+        {"the hot cell stays: again", {"return"}, "o"},
         {"blank, twice", {"left", "return", "return"}, "o  "},
-        {"to the first cell and no further", {"up", "left", "left", "return"}, "o  A"},
+        {"to the first cell, but no further", {"up", "left", "left", "return"}, "o  A"},
         {"down and right", {"down", "return", "right", "down", "return"}, "o  Axyc"},
     };
     play("tick 2");
@@ -112,15 +112,15 @@ TEST_F(KeyboardTest, TypesByArrowsAndReturn)
     }
     play("key right", "frame", "key return", "tick");
     EXPECT_FALSE(isOpen()) << "OK";
-    EXPECT_EQ(win().getWnd("KEYS", 1), nullptr) << "gone with its popup";
+    EXPECT_EQ(win().getWnd("KEYS", 1), nullptr) << "deleted with its popup";
 }
 
-TEST_F(KeyboardTest, AnEditBoxThatIsTypedInTakesTheCursorToTheEnd)
+TEST_F(KeyboardTest, TheCaretOfAnActiveEditBoxMovesToTheEnd)
 {
     openBox("KEYS initialise EDIT null 20");
     play("call main setMouseCaptureWnd EDIT", "key home", "tick", "key delete", "tick", "key b", "tick");
     ASSERT_EQ(textOf("EDIT") + call("EDIT getCursorPos"), "bld1");
-    // The pointer's actions go to the box while it is typed in; the game hands one on.
+    // Pointer actions are sent to the box while it is typed into; the game passes one on to the keyboard.
     play("call KEYS setHotItem 1", "call KEYS setHotColumn 0", "call KEYS setReplaceText 0",
          "call KEYS handleMouseAction KEYS KEYS 0 0 " + std::to_string(AWnd::MA_LBUTTONUP));
     play("key 7", "tick");
@@ -134,7 +134,7 @@ TEST_F(KeyboardTest, WithoutTargetOrEcho)
         const char* name;
         const char* initialise;
         const char* gone;
-        const char *key, *text, *echo; // "" for a window that is gone
+        const char *key, *text, *echo; // "" for a deleted window
         bool open;
     } rows[] = {
         {"no initialise: no key", "", "", "A", "old", "echo", true},
@@ -144,7 +144,7 @@ TEST_F(KeyboardTest, WithoutTargetOrEcho)
         {"no target", "KEYS initialise null ECHO 20", "", "A", "old", "echo", true},
         {"the target deleted", both, "NAME", "A", "", "old", true},
         {"nothing to remove from", both, "NAME", "<", "", "old", true},
-        {"OK closes all the same", both, "NAME", "OK", "", "", false},
+        {"OK still closes", both, "NAME", "OK", "", "", false},
     };
     const auto textIfThere = [this](const char* id) { return win().getWnd(id, 1) ? textOf(id) : ""; };
     for (const auto& row : rows) {
@@ -158,7 +158,7 @@ TEST_F(KeyboardTest, WithoutTargetOrEcho)
     }
 }
 
-TEST_F(KeyboardTest, WindowsOfTheGame)
+TEST_F(KeyboardTest, TheTargetOrEchoMayBeAWindowOfTheGame)
 {
     struct Heard : AWnd {
         explicit Heard(std::function<void(const CString&)> hearer)
@@ -174,7 +174,7 @@ TEST_F(KeyboardTest, WindowsOfTheGame)
     press("A");
     EXPECT_EQ(std::exchange(heard, ""), "A");
     press("OK");
-    EXPECT_EQ(heard, "A") << "the keyboard lives to the end of the tick";
+    EXPECT_EQ(heard, "A") << "the keyboard exists until the end of the tick";
     EXPECT_FALSE(isOpen());
 
     openBox("");

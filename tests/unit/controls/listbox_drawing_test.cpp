@@ -24,7 +24,7 @@ TEST_F(ListBoxDrawingTest, AFrameFromBackToFront)
     list()->clearDividerColumns();
     list()->setTitleShaded(0);
     list()->removeAllItems(1);
-    EXPECT_EQ(texts(), these(a, b, c)) << "titles show without rows";
+    EXPECT_EQ(texts(), these(a, b, c)) << "titles are drawn without rows";
     list()->setVisible(0);
     EXPECT_EQ(drawn("LIST"), Trace{});
 }
@@ -91,7 +91,7 @@ TEST_F(ListBoxDrawingTest, Icons)
     } rows[] = {
         {"frame 0", "##ICON##0##FRAME##0", over(frame(0, 0))},
         {"frame 2", "##ICON##0##FRAME##2", over(frame(82, 0))},
-        {"the grid goes on in the next row", "##ICON##0##FRAME##3", over(frame(0, 25))},
+        {"the grid continues in the next row", "##ICON##0##FRAME##3", over(frame(0, 25))},
         {"below the bitmap", "##ICON##0##FRAME##7", over(frame(41, 50))},
         {"far below", "##ICON##0##FRAME##2147483647", over(frame(41, 32767))},
         {"below 0", "##ICON##0##FRAME##-2", over(frame(0, 0))},
@@ -102,22 +102,22 @@ TEST_F(ListBoxDrawingTest, Icons)
         {"a row of two", "##ICON##3##FRAME##3", over(icon("wide.bmp", 40, 24).from(41, 25))},
         {"narrower", "##ICON##4##FRAME##0", over(thin)},
         {"too narrow for a grid", "##ICON##4##FRAME##1", over()},
-        {"a file that is missing", "##ICON##5##FRAME##0", over()},
+        {"a missing file", "##ICON##5##FRAME##0", over()},
         {"no kind, no such icon", "##ICON##99", over()},
         {"text over it", "ab##ICON##1##FRAME##0", over(low, text("ab").at(110, 106))},
         {"the later of two", "##ICON##1##FRAME##0a##ICON##0##FRAME##2", over(low)},
-        {"a frame counts before progress", "##ICON##0##PROGRESS##50##FRAME##2", over(frame(82, 0))},
+        {"a frame takes precedence over progress", "##ICON##0##PROGRESS##50##FRAME##2", over(frame(82, 0))},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         setOnlyCell(row.cell);
         EXPECT_EQ(drawn("LIST"), row.drawn);
     }
-    expectMessage("invalid argument in a frame"); // told once
+    expectMessage("invalid argument in a frame"); // reported once
     setOnlyCell("##ICON##6##FRAME##0");
     play("frame 3");
     setOnlyCell("##ICON##4##FRAME##0");
-    EXPECT_EQ(drawn("LIST"), over(thin)) << "frames go on";
+    EXPECT_EQ(drawn("LIST"), over(thin)) << "frames are still drawn";
 }
 
 TEST_F(ListBoxDrawingTest, Progress)
@@ -152,7 +152,7 @@ TEST_F(ListBoxDrawingTest, Progress)
     }
 }
 
-TEST_F(ListBoxDrawingTest, ATitleRunsOnOverColumnsWithoutOne)
+TEST_F(ListBoxDrawingTest, ATitleExtendsOverColumnsWithoutTitles)
 {
     using enum AWnd::E_TEXTJUSTIFY;
     const auto at = [](int x, const char* shown) { return text(shown).at(x, 106); };
@@ -165,11 +165,11 @@ TEST_F(ListBoxDrawingTest, ATitleRunsOnOverColumnsWithoutOne)
         {"over empty titles", TJ_LEFT, {"ABCDEFGH", "", ""}, these(at(110, "ABCDEFGH"))},
         {"over no titles", TJ_LEFT, {"ABCDEFGH"}, these(at(110, "ABCDEFGH"))},
         {"up to the next", TJ_LEFT, {"ABCDEFGH", "", "X"}, these(at(110, "ABCDEFG"), at(190, "X"))},
-        {"which is in its way", TJ_LEFT, {"ABCDEFGH", "X"}, these(at(110, "ABC"), at(150, "X"))},
+        {"directly before another title", TJ_LEFT, {"ABCDEFGH", "X"}, these(at(110, "ABC"), at(150, "X"))},
         {"up to the last column", TJ_LEFT, {"", "ABCDEFGH"}, these(at(150, "ABCDEFG"))},
-        {"centred ones stay", TJ_CENTRE, {"ABCDEFGH"}, these(at(110, "ABC"))},
-        {"to the right end of the room", TJ_RIGHT, {"ABCDEFGH"}, these(at(140, "ABCDEFGH"))},
-        {"no farther than needed", TJ_RIGHT, {"ABCDEF"}, these(at(120, "ABCDEF"))},
+        {"centred titles are not extended", TJ_CENTRE, {"ABCDEFGH"}, these(at(110, "ABC"))},
+        {"up to the right end", TJ_RIGHT, {"ABCDEFGH"}, these(at(140, "ABCDEFGH"))},
+        {"no further than needed", TJ_RIGHT, {"ABCDEF"}, these(at(120, "ABCDEF"))},
     };
     startList("");
     for (const auto& row : rows) {
@@ -200,7 +200,7 @@ TEST_F(ListBoxDrawingTest, FontsOfRowsAndColumns)
     list()->addFontRow2(1);
     list()->addFontRow2(2);
     list()->addFontRow3(2);
-    /// Fonts of the four lines, two columns each.
+    /// Compares the fonts of four lines with two columns each.
     const auto inFonts = [this](std::initializer_list<int> expected) {
         std::vector<int> fontsOfTexts;
         drawn("LIST");
@@ -209,10 +209,11 @@ TEST_F(ListBoxDrawingTest, FontsOfRowsAndColumns)
                 fontsOfTexts.push_back(static_cast<int>(command.subject) - 1);
         return fontsOfTexts == std::vector<int>(expected);
     };
-    EXPECT_TRUE(inFonts({4, 4, 1, 1, 2, 2, 3, 3})) << "the last rule that matches counts";
+    EXPECT_TRUE(inFonts({4, 4, 1, 1, 2, 2, 3, 3})) << "the last rule that matches applies";
     list()->addFontColumn(1);
     list()->setRowFont(3, nullptr);
-    EXPECT_TRUE(inFonts({4, 4, 1, 1, 2, 1, 2, 1})) << "a column counts before its rows, but for the title";
+    EXPECT_TRUE(inFonts({4, 4, 1, 1, 2, 1, 2, 1}))
+        << "a font column takes precedence over font rows, except in the title";
     list()->setRowFont(1, nullptr);
     list()->clearFontRows2();
     list()->setTitleFont(nullptr);
@@ -222,12 +223,12 @@ TEST_F(ListBoxDrawingTest, FontsOfRowsAndColumns)
     list()->removeAllItems(1);
     setOnlyCell("a");
     list()->setItemData(0, 1, CString("b"));
-    EXPECT_TRUE(inFonts({0, 0, 0, 0})) << "emptied, the list knows of no fonts of rows and columns";
+    EXPECT_TRUE(inFonts({0, 0, 0, 0})) << "an emptied list has no fonts of rows and columns";
     list()->setFont(nullptr);
     EXPECT_TRUE(inFonts({})) << "no font, no text";
 }
 
-TEST_F(ListBoxDrawingTest, AZeroShowsAsADash)
+TEST_F(ListBoxDrawingTest, AZeroIsShownAsADash)
 {
     startList("COLUMNS 60\nTITLES \"0\"\nLISTOPTIONS 1");
     const struct {
@@ -244,7 +245,7 @@ TEST_F(ListBoxDrawingTest, AZeroShowsAsADash)
     EXPECT_EQ(texts(), these(text("0").at(110, 106), text("0").at(110, 130)));
 }
 
-TEST_F(ListBoxDrawingTest, HowManyRowsShow)
+TEST_F(ListBoxDrawingTest, NumberOfVisibleRows)
 {
     const auto at = [](int y, const char* shown) { return text(shown).at(110, y); };
     const struct {
@@ -254,13 +255,13 @@ TEST_F(ListBoxDrawingTest, HowManyRowsShow)
         int percentage;
         Trace drawn;
     } rows[] = {
-        {"a row at the edge does not", 72, "", 0, these(at(106, "r0"), at(130, "r1"))},
+        {"a row at the edge is not drawn", 72, "", 0, these(at(106, "r0"), at(130, "r1"))},
         {"one pixel more", 73, "", 0, these(at(106, "r0"), at(130, "r1"), at(154, "r2"))},
         {"scrolled", 73, "", 100, these(at(106, "r7"), at(130, "r8"), at(154, "r9"))},
         {"beyond the end", 73, "", 130, these(at(106, "r9"))},
         {"the title always", 20, "TITLES \"T\"", 0, these(at(106, "T"))},
         {"taller rows", 73, "LISTLOOK 36", 0, these(at(112, "r0"), at(148, "r1"))},
-        {"a border and an offset move all in", 77, "BORDER \"edge.bmp\" 3 6\nTEXTOFFSET 5 7", 100,
+        {"a border and an offset move everything inwards", 77, "BORDER \"edge.bmp\" 3 6\nTEXTOFFSET 5 7", 100,
          these(text("r8").at(118, 116), text("r9").at(118, 140))},
     };
     strip("edge.bmp", 6, 6, 8);
@@ -275,15 +276,15 @@ TEST_F(ListBoxDrawingTest, HowManyRowsShow)
         list()->removeItem(0);
     list()->setFirstVisibleItem(-3);
     list()->setHotItem(0);
-    EXPECT_EQ(texts(), these(text("r9").at(118, 116))) << "from the first row on, and the others are gone";
+    EXPECT_EQ(texts(), these(text("r9").at(118, 116))) << "drawn from the first row, without the others";
     EXPECT_EQ(drawn("LIST").operations("rectangle"), these(outline(103, 110, 281, 134, "#808080")));
 }
 
-TEST_F(ListBoxDrawingTest, RowsComeOneByOne)
+TEST_F(ListBoxDrawingTest, RowsAppearOneByOne)
 {
     startList("COLUMNS 50\nITEM \"a\"\nITEM \"b\"\nITEM \"c\"\nITEM \"d\"\nLISTOPTIONS 0 1");
     list()->startup();
-    EXPECT_EQ(texts(), Trace{}) << "a frame that stands for no time reveals nothing";
+    EXPECT_EQ(texts(), Trace{}) << "a frame of 0 ticks reveals nothing";
     for (int i = 0; i < 3 && list()->getRevealedItems() == 0; ++i)
         play("draw");
     std::string counts;
@@ -297,7 +298,7 @@ TEST_F(ListBoxDrawingTest, RowsComeOneByOne)
     EXPECT_EQ(texts(), these(text("a").at(110, 106)));
     list()->setGradualReveal(0);
     play("draw");
-    EXPECT_EQ(list()->getRevealedItems(), 4) << "or all at once";
+    EXPECT_EQ(list()->getRevealedItems(), 4) << "without gradualReveal all rows appear at once";
     list()->setGradualReveal(1);
     list()->reset(0, 0);
     EXPECT_EQ(list()->getRevealedItems(), 0);
@@ -314,7 +315,7 @@ TEST_F(ListBoxDrawingTest, SlidingRows)
     } rows[] = {
         {"from below", 2 * 4096, {132, 131, 130, 130}},
         {"from above", -2 * 4096, {128, 129, 130, 130}},
-        {"parts of a pixel do not show", -6144, {129, 130, 130, 130}},
+        {"fractions of a pixel are not visible", -6144, {129, 130, 130, 130}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -327,7 +328,7 @@ TEST_F(ListBoxDrawingTest, SlidingRows)
     }
 }
 
-TEST_F(ListBoxDrawingTest, TheHotBorderLiesUnderTheRows)
+TEST_F(ListBoxDrawingTest, TheHotBorderIsDrawnBelowTheRows)
 {
     strip("glow.bmp", 60, 60, 8);
     expectMessage("cannot load none.bmp");
@@ -345,7 +346,7 @@ TEST_F(ListBoxDrawingTest, TheHotBorderLiesUnderTheRows)
     EXPECT_EQ(drawn("LIST"), these(area, a));
 }
 
-TEST_F(ListBoxDrawingTest, TheScrollBarTakesItsPartAndStandsAboveTheRows)
+TEST_F(ListBoxDrawingTest, TheScrollBarNarrowsTheRowsAndIsDrawnAboveThem)
 {
     bitmap("title.bmp", 50, 20);
     startList("COLUMNS 50\nTITLES \"T\"\nLISTLOOK 24 1", "", 76);
@@ -356,7 +357,7 @@ TEST_F(ListBoxDrawingTest, TheScrollBarTakesItsPartAndStandsAboveTheRows)
     };
     const Drawn up = piece(0, 124);
     const Drawn down = piece(2, 150);
-    const Drawn lever = piece(5, 150); // two pieces high, the bar has no room for it
+    const Drawn lever = piece(5, 150); // two pieces high, although the bar has no room for it
     const auto band = [](int height, const char* colour) {
         return fill(100, 100, 300, 100 + height, colour);
     };
@@ -369,13 +370,13 @@ TEST_F(ListBoxDrawingTest, TheScrollBarTakesItsPartAndStandsAboveTheRows)
     EXPECT_EQ(drawn("LIST").operations("fillrect"),
               these(fill(105, 100, 191, 124, "#363636"), fill(105, 100, 191, 106, "#323232"),
                     fill(105, 100, 191, 104, "#282828"), fill(105, 100, 191, 102, "#1e1e1e")))
-        << "the text offset makes the columns' end count";
+        << "with a text offset the rows end with the columns";
     list()->setTitleBmpFile("title.bmp");
     list()->startup();
     list()->setEnabled(0);
     EXPECT_EQ(drawn("LIST").operations("blit"),
               these(up, down, lever, blit("title.bmp").from(0, 0, 49, 19).to(100, 100, 200, 24)))
-        << "a list that is disabled does not draw its bar again";
+        << "a disabled list does not draw its bar again";
 }
 
 } // namespace

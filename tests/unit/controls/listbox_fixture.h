@@ -4,8 +4,8 @@
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/controls/scrollbar.h"
 
-/// A screen with a list called LIST, at 100, 100 and 200 x 121 if not told otherwise: five rows of 24 fit and
-/// show. Characters are 10 pixels wide; the first cell's text lies at 110, 106.
+/// A screen with a list called LIST at 100, 100, by default 200 x 121, in which five rows of 24 fit.
+/// Characters are 10 pixels wide; the first cell's text is at 110, 106.
 class ListBoxTest : public TgxTest {
 protected:
     /// attributes: statement lines for LIST. others: lines for the screen.
@@ -21,7 +21,7 @@ protected:
     AListBox* list(const std::string& id = "LIST") { return static_cast<AListBox*>(wnd(id)); }
     AScrollBar* bar() { return list()->getScrollBar(); }
     std::string callList(const std::string& operation) { return call("LIST " + operation); }
-    /// Rows "r0", "r1" and so on, behind those that are there.
+    /// Appends rows called "r0", "r1" and so on.
     void addRows(int count)
     {
         for (int i = 0; i < count; ++i) {
@@ -30,7 +30,7 @@ protected:
         }
         play("frame 2");
     }
-    /// One row, whose first cell that is.
+    /// Replaces all rows by one with this first cell.
     void setOnlyCell(const std::string& cell)
     {
         list()->removeAllItems(0);
@@ -43,7 +43,7 @@ protected:
              "tick");
     }
     int first() { return list()->getFirstVisibleItem(); }
-    /// Row and column that are selected, and those that are hot: "1,0 -1,0".
+    /// The selected row and column, then the hot ones, as in "1,0 -1,0".
     std::string state()
     {
         const auto pair = [](int row, int column) {
@@ -52,7 +52,7 @@ protected:
         return pair(list()->getSelectedItem(), list()->getSelectedColumn()) + " " +
                pair(list()->getHotItem(), list()->getHotColumn());
     }
-    /// All cells as they are stored: "a b|c d".
+    /// All cells as stored, as in "a b|c d".
     std::string cells()
     {
         std::string texts;
@@ -61,7 +61,7 @@ protected:
                 texts += (column ? " " : row ? "|" : "") + list()->getItemText(row, column).str();
         return texts;
     }
-    /// What LIST draws: its area, then these.
+    /// What LIST draws: its dirty area, then each.
     template<class... Each>
     static Trace over(const Each&... each)
     {

@@ -5,7 +5,7 @@ namespace {
 
 using ListBoxModelTest = ListBoxTest;
 
-TEST_F(ListBoxModelTest, WhatACellHoldsAfterAnotherValueIsSet)
+TEST_F(ListBoxModelTest, SettingACellThatHasAValue)
 {
     startList("COLUMNS 50 50\nITEM \"\" \"\"");
     const struct {
@@ -15,11 +15,11 @@ TEST_F(ListBoxModelTest, WhatACellHoldsAfterAnotherValueIsSet)
         {"a number has no separators", "a", "setItemData 0 1 -12345", "-12345"},
         {"fixed point has two decimals", "a", "setItemData 0 1 1.25", "1.25"},
         {"its zero has blanks", "a", "setItemData 0 1 0.0", "  0.0"},
-        {"an icon goes behind text", "a", "setItemDataWithIconIndex 0 1 2 -1", "a##ICON##2##FRAME##-1"},
+        {"an icon is appended to text", "a", "setItemDataWithIconIndex 0 1 2 -1", "a##ICON##2##FRAME##-1"},
         {"so does progress", "a", "setItemDataWithIconPercentage 0 1 2 25", "a##ICON##2##PROGRESS##25"},
-        {"text goes in front of an icon", "##ICON##2##FRAME##0", "setItemData 0 1 7", "7##ICON##2##FRAME##0"},
-        {"also of other text there", "a##ICON##2", "setItemData 0 1 \"b\"", "ba##ICON##2"},
-        {"an icon goes in front of an icon", "a##ICON##2", "setItemDataWithIconIndex 0 1 3 1",
+        {"text is placed before an icon", "##ICON##2##FRAME##0", "setItemData 0 1 7", "7##ICON##2##FRAME##0"},
+        {"also before existing text", "a##ICON##2", "setItemData 0 1 \"b\"", "ba##ICON##2"},
+        {"an icon is placed before an icon", "a##ICON##2", "setItemDataWithIconIndex 0 1 3 1",
          "##ICON##3##FRAME##1a##ICON##2"},
         {"any text with a mark is an icon", "a", "setItemData 0 1 \"b##ICON##\"", "ab##ICON##"},
         {"a frame alone is text", "##FRAME##1", "setItemData 0 1 \"b\"", "b"},
@@ -34,16 +34,16 @@ TEST_F(ListBoxModelTest, WhatACellHoldsAfterAnotherValueIsSet)
     }
 }
 
-TEST_F(ListBoxModelTest, OutsideTheTable)
+TEST_F(ListBoxModelTest, RowsAndColumnsOutsideTheTable)
 {
     startList("COLUMNS 50 50\nTITLES \"A\"\nITEM \"a\" \"b\"\nITEM \"c\" \"d\"");
     const char* const exception = R"({"error": "invalid argument"})";
     const struct {
         const char *name, *call, *value;
     } rows[] = {
-        {"a column that no list has", "setItemData 0 20 \"x\"", "0"},
+        {"a column beyond the limit", "setItemData 0 20 \"x\"", "0"},
         {"a row", "setItemData 2 0 \"x\"", exception},
-        {"a column that this list has not", "setItemData 0 2 \"x\"", exception},
+        {"a column that this list does not have", "setItemData 0 2 \"x\"", exception},
         {"a column below 0", "setItemData 0 -1 \"x\"", exception},
         {"progress", "setItemDataWithIconPercentage 2 1 0 50", exception},
         {"wrapped text in a row below 0", "setItemDataWithWrap -1 0 \"some more text\"", exception},
@@ -53,7 +53,7 @@ TEST_F(ListBoxModelTest, OutsideTheTable)
         {"a row to remove", "removeItem 2", exception},
         {"the text of a cell", "getItemText 2 0", "\"\""},
         {"the text below 0", "getItemText 0 -1", "\"\""},
-        {"what is fixed", "isNonSelectable 9 9", "0"},
+        {"a cell's selectability", "isNonSelectable 9 9", "0"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -65,19 +65,19 @@ TEST_F(ListBoxModelTest, OutsideTheTable)
 TEST_F(ListBoxModelTest, ColumnsRowsAndTitles)
 {
     startList("");
-    EXPECT_EQ(list()->addItem(), -1) << "no column, no row";
+    EXPECT_EQ(list()->addItem(), -1) << "no row without a column";
     EXPECT_EQ(list()->getItemCount(), 0);
     list()->addColumn("wide", AWnd::TJ_LEFT);
     EXPECT_EQ(list()->getColumnWidth(0), 40) << "as wide as its text";
     for (int i = 1; i <= AListBox::maxColumns; ++i)
         list()->addColumn(i, AWnd::TJ_LEFT);
-    EXPECT_EQ(list()->getColumnCount(), 20) << "more are left out";
+    EXPECT_EQ(list()->getColumnCount(), 20) << "further columns are ignored";
     EXPECT_EQ(list()->addItem(), 0);
     EXPECT_EQ(list()->setItemData(0, 19, CString("last")), 1);
 
     EXPECT_EQ(list()->getItemsPerPage(), 5);
     list()->setTitle(3, "T");
-    EXPECT_EQ(list()->getItemsPerPage(), 4) << "one title makes the row";
+    EXPECT_EQ(list()->getItemsPerPage(), 4) << "one title adds the title row";
     const struct {
         int rowHeight;
         int rowsOfPage;
@@ -89,22 +89,22 @@ TEST_F(ListBoxModelTest, ColumnsRowsAndTitles)
     }
 }
 
-TEST_F(ListBoxModelTest, TextIsBrokenIntoRows)
+TEST_F(ListBoxModelTest, WrappedTextIsSplitIntoRows)
 {
     const struct {
         const char* name;
         int width;
         const char* text;
-        const char* cells; // the text goes to the second row; the others have x in the first column
+        const char* cells; // the text is set in the second row; the others have x in the first column
     } rows[] = {
-        {"what fits stays whole", 70, "one two", "x |x one two|x "},
+        {"a text that fits stays whole", 70, "one two", "x |x one two|x "},
         {"three words, three rows", 50, "one two three", "x |x one|x | two| three"},
         {"as many words as fit", 70, "one two four", "x |x one two|x | four"},
-        {"blanks in a row: the first is the break", 40, "ab  cdef", "x |x ab|x |  cdef"},
+        {"consecutive blanks: the first is the break", 40, "ab  cdef", "x |x ab|x |  cdef"},
         {"a long word loses a letter at the break", 50, "abcdefghij kl", "x |x abcde|x | ghij kl"},
-        {"a last letter alone is lost", 50, "aaaaaa b", "x |x aaaaaa|x "},
-        {"no room at all", 0, "abcd", "x |x |x | | cd"},
-        {"less than none", -5, "abc", "x |x |x | | bc"},
+        {"a single last letter is lost", 50, "aaaaaa b", "x |x aaaaaa|x "},
+        {"a width of 0", 0, "abcd", "x |x |x | | cd"},
+        {"a negative width", -5, "abc", "x |x |x | | bc"},
     };
     startList("");
     for (const auto& row : rows) {
@@ -119,7 +119,7 @@ TEST_F(ListBoxModelTest, TextIsBrokenIntoRows)
     }
 }
 
-TEST_F(ListBoxModelTest, SelectionAndHotPositionComeInPairs)
+TEST_F(ListBoxModelTest, RowAndColumnOfAPositionAreClearedTogether)
 {
     startList("COLUMNS 50 50\nITEM \"a\"\nITEM \"b\"");
     const struct {
@@ -146,7 +146,7 @@ TEST_F(ListBoxModelTest, SelectionAndHotPositionComeInPairs)
     }
 }
 
-TEST_F(ListBoxModelTest, WhatEmptyingTheListKeeps)
+TEST_F(ListBoxModelTest, WhatRemainsAfterEmptyingTheList)
 {
     const struct {
         const char* call;
@@ -176,19 +176,19 @@ TEST_F(ListBoxModelTest, WhatEmptyingTheListKeeps)
         EXPECT_EQ(first(), row.first);
         EXPECT_EQ(bar()->getPercentage().raw, row.percentage);
         EXPECT_EQ(bar()->isVisible(0), 0);
-        EXPECT_EQ(state(), "7,-1 8,0") << "the caller sets them anew";
+        EXPECT_EQ(state(), "7,-1 8,0") << "the caller must set them again";
     }
 }
 
-TEST_F(ListBoxModelTest, RemovingARowMovesThePageOnlyWhereItIsSeen)
+TEST_F(ListBoxModelTest, RemovingARowOnThePageScrollsTheList)
 {
     startList("COLUMNS 50 50");
     const struct {
         const char* name;
         int first, removed, firstAfter;
     } rows[] = {
-        {"at the top", 0, 2, 0},       {"above the page", 3, 2, 3},  {"first of the page", 3, 3, 2},
-        {"last of the page", 3, 7, 2}, {"behind the page", 3, 8, 3},
+        {"at the top", 0, 2, 0},       {"above the page", 3, 2, 3}, {"first of the page", 3, 3, 2},
+        {"last of the page", 3, 7, 2}, {"after the page", 3, 8, 3},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -203,7 +203,7 @@ TEST_F(ListBoxModelTest, RemovingARowMovesThePageOnlyWhereItIsSeen)
     }
 }
 
-TEST_F(ListBoxModelTest, WhatIsFixed)
+TEST_F(ListBoxModelTest, NonSelectableCells)
 {
     startList("VISIBLE 0\nCOLUMNS 50 50\nLISTFIXEDROWS 1 3\nITEM \"a##ICON##\" \"ICON0\"\nITEM \"b\"\nITEM "
               "\"\" \"c\"");
@@ -224,12 +224,12 @@ TEST_F(ListBoxModelTest, WhatIsFixed)
     }
 }
 
-TEST_F(ListBoxModelTest, StartingAgainLoadsWhatIsMissingAndNoIconTwice)
+TEST_F(ListBoxModelTest, ASecondStartupLoadsMissingBitmapsAndNoIconTwice)
 {
     bitmap("one.bmp", 40, 20);
     bitmap("game.bmp", 40, 20);
     bitmap("late.bmp", 40, 20);
-    for (int i = 0; i < 3; ++i) { // at each start
+    for (int i = 0; i < 3; ++i) { // for each startup
         expectMessage("cannot load sel.bmp");
         expectMessage("cannot load hot.bmp");
     }
@@ -237,11 +237,11 @@ TEST_F(ListBoxModelTest, StartingAgainLoadsWhatIsMissingAndNoIconTwice)
     startList("COLUMNS 60\nLISTICONS \"one.bmp\" \"none.bmp\"\nLISTHIGHLIGHT \"sel.bmp\" \"hot.bmp\"\n"
               "TITLEBMP \"title.bmp\"\nITEM \"ICON1\"\nITEM \"ICON0\"");
     surface* icon = win().createsprite("game.bmp", -1, -1, -1);
-    EXPECT_EQ(list()->addIcon(icon), 2) << "a file that is missing keeps its place";
+    EXPECT_EQ(list()->addIcon(icon), 2) << "a missing file keeps its index";
     EXPECT_EQ(list()->addIcon(icon), 3);
     const int row = list()->addItem();
     list()->setItemData(row, 0, icon, 0);
-    EXPECT_EQ(list()->getItemText(row, 0), "##ICON##2##FRAME##0") << "the first entry that is it";
+    EXPECT_EQ(list()->getItemText(row, 0), "##ICON##2##FRAME##0") << "the first entry with this bitmap";
 
     bitmap("title.bmp", 30, 20);
     const int before = win().getSurfaceCount();
@@ -259,10 +259,10 @@ TEST_F(ListBoxModelTest, StartingAgainLoadsWhatIsMissingAndNoIconTwice)
               these(title, at(150, "one.bmp"), at(174, "game.bmp"), at(198, "late.bmp")));
     win().deleteSurface(icon);
     EXPECT_EQ(drawn("LIST").operations("blit"), these(title, at(150, "one.bmp"), at(198, "late.bmp")))
-        << "a bitmap that is gone keeps its place";
+        << "a released bitmap keeps its index";
 }
 
-TEST_F(ListBoxModelTest, MoreRowsThanNumbersForThem)
+TEST_F(ListBoxModelTest, MoreRowsThan16BitsCanCount)
 {
     startList("COLUMNS 50\nTITLES \"A\"");
     addRows(40000);
@@ -283,26 +283,26 @@ TEST_F(ListBoxModelTest, Statements)
     const struct {
         const char *name, *lines, *call, *value;
     } rows[] = {
-        {"a word stands behind its width", "COLUMNS 100 RIGHT 50", "getColumnWidth 1", "50"},
-        {"another word is a column without width", "COLUMNS 70 VISIBLE", "getColumnWidth 1", "0"},
-        {"a word at the start too", "COLUMNS RIGHT 50", "getColumnWidth 0", "0"},
-        {"no columns: one as wide as the list", "ITEM \"a\"", "getColumnWidth 0", "200"},
+        {"a justification follows its width", "COLUMNS 100 RIGHT 50", "getColumnWidth 1", "50"},
+        {"any other word is a column without width", "COLUMNS 70 VISIBLE", "getColumnWidth 1", "0"},
+        {"also a word at the start", "COLUMNS RIGHT 50", "getColumnWidth 0", "0"},
+        {"without columns one as wide as the list is added", "ITEM \"a\"", "getColumnWidth 0", "200"},
         {"a row of texts", "COLUMNS 9 9\nITEM \"a\" \"F2\"", "getItemText 0 1", "\"F2\""},
         {"an empty row", "COLUMNS 9\nITEM\nITEM \"a\"", "getItemText 1 0", "\"a\""},
         {"a number has no text", "ITEM 5", "getItemText 0 0", "\"\""},
         {"an icon", "ITEM \"ICON3\"", "getItemText 0 0", "\"##ICON##3##FRAME##0\""},
         {"an icon with a frame", "ITEM \"ICON3F-1\"", "getItemText 0 0", "\"##ICON##3##FRAME##-1\""},
-        {"the first F counts", "ITEM \"ICON1F2F3\"", "getItemText 0 0", "\"##ICON##1##FRAME##2\""},
-        {"a word that begins like one", "ITEM \"ICONS\"", "getItemText 0 0", "\"##ICON##0##FRAME##0\""},
-        {"it must begin the text, in capitals", "ITEM \"IconICON3\"", "getItemText 0 0", "\"IconICON3\""},
+        {"the first F is used", "ITEM \"ICON1F2F3\"", "getItemText 0 0", "\"##ICON##1##FRAME##2\""},
+        {"a word that begins with ICON", "ITEM \"ICONS\"", "getItemText 0 0", "\"##ICON##0##FRAME##0\""},
+        {"ICON must begin the text, in upper case", "ITEM \"IconICON3\"", "getItemText 0 0", "\"IconICON3\""},
         {"a row height of 0", "LISTLOOK 0", "getRowHeight", "0"},
-        {"a row height below 0 stays out", "LISTLOOK -1 1 1", "getRowHeight", "24"},
-        {"but not its flags: title", "LISTLOOK -1 3 1", "getTitleShaded", "1"},
-        {"but not its flags: cells", "LISTLOOK -1 1 3", "getCellHighlight", "1"},
+        {"a negative row height is ignored", "LISTLOOK -1 1 1", "getRowHeight", "24"},
+        {"but its flags are set: title", "LISTLOOK -1 3 1", "getTitleShaded", "1"},
+        {"but its flags are set: cells", "LISTLOOK -1 1 3", "getCellHighlight", "1"},
         {"a row height alone", "LISTLOOK 30 0 1\nLISTLOOK 31", "getCellHighlight", "1"},
         {"a dash for zero: the lowest bit", "LISTOPTIONS 2 1", "getZeroAsDash", "0"},
         {"gradual", "LISTOPTIONS 2 3", "getGradualReveal", "1"},
-        {"gradual left out", "LISTOPTIONS 1 1\nLISTOPTIONS 0", "getGradualReveal", "1"},
+        {"gradual reveal left out", "LISTOPTIONS 1 1\nLISTOPTIONS 0", "getGradualReveal", "1"},
         {"fixed rows add up", "LISTFIXEDROWS 1 2\nLISTFIXEDROWS 5", "isNonSelectable 2 0", "1"},
         {"fixed columns", "LISTFIXEDCOLUMNS 4 -1", "isNonSelectable 0 -1", "1"},
         {"the keyword alone does nothing",
@@ -321,14 +321,13 @@ TEST_F(ListBoxModelTest, StatementsThatFail)
 {
     const struct {
         const char *name, *lines;
-        int failing; // of these lines, from 1 on
+        int failing; // number of the line that fails, from 1
         const char* cells;
     } rows[] = {
         {"more cells than columns", "COLUMNS 9 9\nITEM \"a\" \"b\"\nITEM \"c\" \"d\" \"e\" \"f\"", 3,
          "a b|c d"},
         {"a font outside the table", "VISIBLE 0\nCOLUMNS 9\nITEM \"a\"\nLISTFONTS 0 1", 4, "a"},
-        {"a column behind a row", "VISIBLE 0\nCOLUMNS 9\nITEM \"a\"\nCOLUMNS 9\nITEM \"b\" \"c\"", 5,
-         "a |b "},
+        {"a column after a row", "VISIBLE 0\nCOLUMNS 9\nITEM \"a\"\nCOLUMNS 9\nITEM \"b\" \"c\"", 5, "a |b "},
         {"no row height", "LISTLOOK\nITEM \"a\"", 1, "a"},
         {"one highlight", "LISTHIGHLIGHT \"x.bmp\"\nITEM \"a\"", 1, "a"},
         {"two title bitmaps", "TITLEBMP \"x.bmp\" \"y.bmp\"\nITEM \"a\"", 1, "a"},
@@ -344,7 +343,7 @@ TEST_F(ListBoxModelTest, StatementsThatFail)
         startList(row.lines);
         EXPECT_EQ(cells(), row.cells);
     }
-    // On another window all fail but the last.
+    // On another window all lines except the last fail.
     const char* const lines =
         "COLUMNS 9\nITEM \"a\"\nLISTOPTIONS 1\nLISTHIGHLIGHT \"x\"\nLISTFONTS 0\nLISTICONS \"x\"\n"
         "LISTLOOK\nLISTFIXEDCOLUMNS 1\nLISTFIXEDROWS 1\nTITLEBMP\nTITLES \"A\"\n"

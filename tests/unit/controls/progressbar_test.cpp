@@ -4,9 +4,9 @@ namespace {
 
 class ProgressBarTest : public TgxTest {};
 
-TEST_F(ProgressBarTest, ShowsItsPercentageAsAPartOfTheBitmapOnTopOfAllElse)
+TEST_F(ProgressBarTest, ThePercentageIsAPartOfTheBitmapAboveEverythingElse)
 {
-    bitmap("two.bmp", 200, 80); // twice the frame's width is enough for two
+    bitmap("two.bmp", 200, 80); // twice the frame's width is enough for two frames
     bitmap("one.bmp", 199, 80);
     start("SCREEN \"S\" 0 0 640 480 \"\"\n"
           "BEGIN\n"
@@ -18,16 +18,16 @@ TEST_F(ProgressBarTest, ShowsItsPercentageAsAPartOfTheBitmapOnTopOfAllElse)
     play("frame 6");
     const struct {
         const char *name, *call, *bmp;
-        int emptyHeight;   // of what frame 1 shows; -1: no frame 1
-        int srcY, y, w, h; // of what frame 0 shows
+        int emptyHeight;   // height drawn of frame 1; -1: no frame 1
+        int srcY, y, w, h; // part drawn of frame 0
     } rows[] = {
-        {"new: three quarters", "H getPercentage", "two.bmp", 80, 0, 20, 75, 80},
-        {"just below a column", "H setPercentage 33.9", "two.bmp", 80, 0, 20, 33, 80},
-        {"held at empty", "H setPercentage -3.0", "two.bmp", 80, 0, 20, 0, 80},
-        {"held at full", "H setPercentage 250.5", "two.bmp", 80, 0, 20, 100, 80},
-        {"upright, from the window's bottom", "V setPercentage 25.0", "two.bmp", 60, 60, 100, 100, 20},
+        {"the default of three quarters", "H getPercentage", "two.bmp", 80, 0, 20, 75, 80},
+        {"fractions of a pixel are cut", "H setPercentage 33.9", "two.bmp", 80, 0, 20, 33, 80},
+        {"limited to empty", "H setPercentage -3.0", "two.bmp", 80, 0, 20, 0, 80},
+        {"limited to full", "H setPercentage 250.5", "two.bmp", 80, 0, 20, 100, 80},
+        {"vertical, from the window's bottom", "V setPercentage 25.0", "two.bmp", 60, 60, 100, 100, 20},
         {"no empty picture", "ONE setPercentage 50.0", "one.bmp", -1, 0, 20, 50, 80},
-        {"upright without it", "ONE setHorizontal 0", "one.bmp", -1, 40, 80, 100, 40},
+        {"vertical without an empty picture", "ONE setHorizontal 0", "one.bmp", -1, 40, 80, 100, 40},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);

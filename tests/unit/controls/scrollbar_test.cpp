@@ -4,7 +4,7 @@
 
 namespace {
 
-/// A bar 200 long of frames 20 long: the lever's centre runs from 30 to 170.
+/// A bar 200 pixels long with frames of 20: the lever's centre runs from 30 to 170.
 class ScrollBarTest : public TgxTest {
 protected:
     void SetUp() override
@@ -28,7 +28,7 @@ protected:
     }
 };
 
-TEST_F(ScrollBarTest, ACancelledPressLetsGoOfTheLever)
+TEST_F(ScrollBarTest, ACancelledPressReleasesTheLever)
 {
     play("move 110 130", "press left", "tick 2");
     EXPECT_EQ(bar("V")->getLeverHeld(), 1);
@@ -39,7 +39,7 @@ TEST_F(ScrollBarTest, ACancelledPressLetsGoOfTheLever)
     EXPECT_EQ(percent("V"), 0);
 }
 
-TEST_F(ScrollBarTest, ADragFollowsThePointerOffTheBarInWholePercent)
+TEST_F(ScrollBarTest, ADragFollowsThePointerOffTheBarInWholePercentages)
 {
     const struct {
         const char* name;
@@ -47,15 +47,15 @@ TEST_F(ScrollBarTest, ADragFollowsThePointerOffTheBarInWholePercent)
         int percent;
         int held;
     } rows[] = {
-        {"on the lever, beyond its middle", "move 110 135", 0, 0},
-        {"taken: where the pointer is counts", "press left", 3, 1},
+        {"on the lever, after its centre", "move 110 135", 0, 0},
+        {"held: the lever moves to the pointer", "press left", 3, 1},
         {"half way", "move 110 200", 50, 1},
         {"off the bar", "move 400 240", 78, 1},
         {"past its end", "move 400 470", 100, 1},
         {"past its start", "move 400 0", 0, 1},
         {"back", "move 110 171", 29, 1},
-        {"the release lets go", "release left", 29, 0},
-        {"and the pointer no longer counts", "move 110 250", 29, 0},
+        {"the release drops the lever", "release left", 29, 0},
+        {"and the pointer no longer moves it", "move 110 250", 29, 0},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -74,24 +74,25 @@ TEST_F(ScrollBarTest, AnEndButtonRepeatsWhileItIsHeld)
     play("tick 28");
     EXPECT_EQ(percent("V"), 6144);
     play("tick");
-    EXPECT_EQ(percent("V"), 2 * 6144) << "from the thirtieth tick on";
+    EXPECT_EQ(percent("V"), 2 * 6144) << "from the thirtieth tick";
     play("tick 10");
-    EXPECT_EQ(percent("V"), 3 * 6144) << "every tenth";
+    EXPECT_EQ(percent("V"), 3 * 6144) << "every tenth tick";
     play("release left", "tick", "move 110 105", "press left", "tick");
     EXPECT_EQ(percent("V"), 2 * 6144);
     play("release left", "tick", "press right", "tick");
     EXPECT_EQ(percent("V"), 2 * 6144) << "other buttons do nothing";
 }
 
-TEST_F(ScrollBarTest, BesideTheLeverNothingHappensOutsideAList)
+TEST_F(ScrollBarTest, OutsideAListAPressBesideTheLeverDoesNothing)
 {
     play("move 110 250", "press left", "tick", "tick 40", "release left", "tick");
     EXPECT_EQ(percent("V"), 0);
     play("move 110 120", "press left", "tick");
-    EXPECT_EQ(bar("V")->getLeverHeld(), 1) << "the lever begins where the first button ends, and comes first";
+    EXPECT_EQ(bar("V")->getLeverHeld(), 1)
+        << "the lever begins where the first button ends and takes precedence";
 }
 
-TEST_F(ScrollBarTest, ABarThatIsHiddenWhileItIsHeldLetsGo)
+TEST_F(ScrollBarTest, ABarHiddenWhileItIsHeldReleasesTheCapture)
 {
     play("move 110 130", "press left", "tick");
     EXPECT_EQ(win().getMouseCaptureWnd(0), wnd("V"));
@@ -100,10 +101,10 @@ TEST_F(ScrollBarTest, ABarThatIsHiddenWhileItIsHeldLetsGo)
     EXPECT_EQ(win().getMouseCaptureWndCount(), 0);
     EXPECT_EQ(bar("V")->getLeverHeld(), 0);
     play("release left", "tick", "move 398 110", "press left", "tick");
-    EXPECT_EQ(percent("H"), 4096) << "the input goes where it belongs";
+    EXPECT_EQ(percent("H"), 4096) << "the input reaches the window under the pointer";
 }
 
-TEST_F(ScrollBarTest, TheValueIsHeld)
+TEST_F(ScrollBarTest, TheValueIsLimited)
 {
     bar("V")->setPercentage(ZnFixed::fromInt(500));
     EXPECT_EQ(percent("V"), 409600);
@@ -116,7 +117,7 @@ TEST_F(ScrollBarTest, TheValueIsHeld)
 TEST_F(ScrollBarTest, TroughButtonsAndLever)
 {
     bar("H")->setPercentage(ZnFixed::fromInt(50));
-    // The base paints the strip's first frame under it all.
+    // The base paints the strip's first frame below everything.
     EXPECT_EQ(drawn("H"),
               (Trace{blit("bar.bmp").from(0, 0, 20, 20).to(200, 100, 210, 20), frame(4, 220, 100, 20, 20),
                      frame(4, 240, 100, 20, 20), frame(4, 260, 100, 20, 20), frame(4, 280, 100, 20, 20),
@@ -127,17 +128,17 @@ TEST_F(ScrollBarTest, TroughButtonsAndLever)
 
 TEST_F(ScrollBarTest, WithoutABitmapTheLeverIsOutlined)
 {
-    // No frame size: the lever is as long as the bar is thick, and its centre runs over the whole bar.
+    // Without a frame size the lever is as long as the bar is thick, and its centre runs over the whole bar.
     bar("BARE")->setPercentage(ZnFixed::fromInt(50));
     EXPECT_EQ(drawn("BARE"), (Trace{outline(297, 200, 313, 216, "#ffffff")}));
     bar("BAREV")->setPercentage(ZnFixed::fromInt(50));
     EXPECT_EQ(drawn("BAREV"), (Trace{outline(500, 188, 516, 212, "#ffffff")})) << "as long as its frames";
 }
 
-TEST_F(ScrollBarTest, FramesWithoutASizeGiveNoTrough)
+TEST_F(ScrollBarTest, WithoutAFrameSizeNoTroughIsDrawn)
 {
     bar("V")->setBmpInfo(0, 0, 1, 1);
-    play("draw"); // comes to an end
+    play("draw"); // must terminate
     const auto drawnNow = drawn("V").operations("blit");
     EXPECT_EQ(drawnNow, (Trace{blit("bar.bmp").from(0, 0, 0, 0).to(100, 100, 20, 200),
                                blit("bar.bmp").from(0, 0).to(100, 100, 0, 0).mode(-1),

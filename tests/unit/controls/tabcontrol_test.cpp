@@ -6,8 +6,8 @@ namespace {
 
 class TabControlTest : public TgxTest {
 protected:
-    /// children: "1" to "3" tabs, "P" and "p" pages that show and do not, "B" a plain button; named by their
-    /// places, from T0 on.
+    /// Makes the children: "1" to "3" are tabs, "P" a visible page, "p" a hidden one, "B" a plain button.
+    /// Their ids are T0, T1 and so on.
     void open(const std::string& children)
     {
         std::string lines = "SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nTABCONTROL \"TABS\" 0 0 640 480\nBEGIN\n";
@@ -40,22 +40,22 @@ protected:
     }
 };
 
-TEST_F(TabControlTest, WhichTabAndPageBelongTogether)
+TEST_F(TabControlTest, TabsAndTheirPages)
 {
     const struct {
         const char* name;
         const char* children;
-        const char* radio; // asked for the selected one of the group
+        const char* radio; // button that is asked for the selected one of the group
         const char *tabAtFirst, *pageAtFirst;
-        int clicked; // place
+        int clicked; // index
         const char *tab, *page;
     } rows[] = {
-        {"tabs in front of the pages", "12PP", "T0", "T0", "T2", 1, "T1", "T3"},
-        {"tabs behind the pages", "PP12", "T2", "T2", "T0", 3, "T3", "T1"},
-        {"the second page alone shows at first", "12pP", "T0", "T1", "T3", 0, "T0", "T2"},
+        {"tabs before the pages", "12PP", "T0", "T0", "T2", 1, "T1", "T3"},
+        {"tabs after the pages", "PP12", "T2", "T2", "T0", 3, "T3", "T1"},
+        {"only the second page is visible at first", "12pP", "T0", "T1", "T3", 0, "T0", "T2"},
         {"all pages hidden", "12pp", "T0", "T0", "", 1, "T1", "T3"},
-        {"the page that shows has no tab", "12ppP", "T0", "T0", "T4", 1, "T1", "T3"},
-        {"a plain button shows a page and is of no group", "12pPB", "T0", "T1", "T3", 4, "T1", "T2"},
+        {"the visible page has no tab", "12ppP", "T0", "T0", "T4", 1, "T1", "T3"},
+        {"a plain button shows a page but belongs to no group", "12pPB", "T0", "T1", "T3", 4, "T1", "T2"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -68,13 +68,13 @@ TEST_F(TabControlTest, WhichTabAndPageBelongTogether)
     }
 }
 
-TEST_F(TabControlTest, TabsKnowTheirPlaceWhenAnotherIsDeleted)
+TEST_F(TabControlTest, TabsKeepTheirPagesWhenAnotherTabIsDeleted)
 {
     open("123PPP");
     delete wnd("T0");
     EXPECT_EQ(wnd("T1")->getWindowIndex(), 0);
     click(1);
-    EXPECT_EQ(page(), "T4") << "T1 is the first child now, and three places on is its page";
+    EXPECT_EQ(page(), "T4") << "T1 is now the first child, and its page is three places after it";
     click(2);
     EXPECT_EQ(page(), "T5");
 }

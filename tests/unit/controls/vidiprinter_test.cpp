@@ -15,20 +15,20 @@ protected:
     }
 };
 
-TEST_F(VidiPrinterTest, PrintsFrameByFrameAndBeginsAnewWithAnotherText)
+TEST_F(VidiPrinterTest, PrintsFrameByFrameAndRestartsWithADifferentText)
 {
     const struct {
         const char *name, *event, *text;
         int progress;
     } rows[] = {
-        {"a tick is no frame", "tick", "abc", 0},
+        {"a tick is not a frame", "tick", "abc", 0},
         {"the first frame", "frame", "abc", 409},
-        {"whatever it stands for", "call V draw 7", "abc", 818},
-        {"not a frame that stands for nothing", "call V draw 0", "abc", 818},
-        {"nearly there", "frame 8", "abc", 4090},
+        {"whatever its ticks", "call V draw 7", "abc", 818},
+        {"except a frame of 0 ticks", "call V draw 0", "abc", 818},
+        {"nearly complete", "frame 8", "abc", 4090},
         {"the same text", "call V setWindowText \"abc\"", "abc", 4090},
-        {"complete, and no further", "frame 3", "abc", 4499},
-        {"other case is another text", "call V setWindowText \"ABC\"", "ABC", 0},
+        {"complete, but no further", "frame 3", "abc", 4499},
+        {"a text in another case is a different one", "call V setWindowText \"ABC\"", "ABC", 0},
         {"printing again", "frame 2", "ABC", 818},
         {"a number", "call V setWindowText 12", "12", 0},
         {"invisible", "call V setVisible 0", "12", 0},
@@ -45,7 +45,7 @@ TEST_F(VidiPrinterTest, PrintsFrameByFrameAndBeginsAnewWithAnotherText)
     }
 }
 
-TEST_F(VidiPrinterTest, TheTextIsPlacedAsAnyWindowsAndComesLast)
+TEST_F(VidiPrinterTest, TheTextIsPlacedAsInAnyWindowAndDrawnLast)
 {
     play("frame 2");
     wnd("V")->addChildWindow(new AWnd(AWnd::WND_PLAIN, "IN", 0, 0, 50, 20))->setWindowText("x");
@@ -54,12 +54,12 @@ TEST_F(VidiPrinterTest, TheTextIsPlacedAsAnyWindowsAndComesLast)
     EXPECT_EQ(drawn("V"), (Trace{child, text("abc").at(260, 116).scale(818).mode(1)}));
     play("call V setTextWrap 1", "call V setTextJustify 0", "call V setWindowText \"abc\\nde\"");
     EXPECT_EQ(drawn("V"), (Trace{child, text("abc").at(110, 104).mode(1), text("de").at(110, 120).mode(1)}))
-        << "wrapped, all of it is there at once";
+        << "a wrapped text is shown at once";
 }
 
-TEST_F(VidiPrinterTest, FinishingBringsTheWholeTextBackAndStopsThere)
+TEST_F(VidiPrinterTest, FinishingShowsTheWholeTextButNotThatOfChildren)
 {
-    struct Shortened : AVidiPrinter { // a game's, that shows less than it prints
+    struct Shortened : AVidiPrinter { // a class of the game that shows less than it prints
         Shortened() : AVidiPrinter("", 0, 0, 50, 20)
         {
             setWindowText("whole");
@@ -70,7 +70,7 @@ TEST_F(VidiPrinterTest, FinishingBringsTheWholeTextBackAndStopsThere)
     AWnd* inner = outer->addChildWindow(new Shortened);
     win().getScreenList()->finishAnims();
     EXPECT_EQ(outer->getText(), "whole");
-    EXPECT_EQ(inner->getText(), "who") << "children are not reached";
+    EXPECT_EQ(inner->getText(), "who") << "children are not finished";
 }
 
 } // namespace

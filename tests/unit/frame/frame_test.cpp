@@ -4,18 +4,18 @@
 
 namespace {
 
-TEST(FrameGovernor, StepsFollowTheRate)
+TEST(FrameGovernor, StepsFollowTheFrameRate)
 {
     const struct {
         const char* name;
-        std::vector<int> milliseconds; // from frame to frame
+        std::vector<int> milliseconds; // between frames
         std::vector<int> steps;
     } rows[] = {
-        {"at 48 frames a second every second one counts", {20, 20, 20, 20}, {0, 1, 0, 1}},
-        {"at 30 each one", {33, 33}, {1, 1}},
+        {"at 48 frames per second every second frame is a step", {20, 20, 20, 20}, {0, 1, 0, 1}},
+        {"at 30 frames per second every frame is a step", {33, 33}, {1, 1}},
         {"no time at all counts as a millisecond", {0}, {0}},
-        {"a short slow spell does not raise the step", {142, 142, 142, 142}, {1, 1, 1, 3}},
-        {"and a fast frame ends it", {142, 142, 142, 33, 142}, {1, 1, 1, 1, 1}},
+        {"a few slow frames do not raise the step", {142, 142, 142, 142}, {1, 1, 1, 3}},
+        {"a fast frame restarts the count of slow ones", {142, 142, 142, 33, 142}, {1, 1, 1, 1, 1}},
         {"more than a second", {200, 200, 200, 1500}, {1, 1, 1, 1}},
         {"exactly the target is slow", {41, 41, 41, 41}, {1, 1, 1, 1}},
     };
@@ -36,7 +36,7 @@ TEST(FrameGovernor, StepsFollowTheRate)
 
 class FrameTest : public TgxTest {};
 
-TEST_F(FrameTest, OneFrameInItsOrder)
+TEST_F(FrameTest, OrderOfDrawingInAFrame)
 {
     bitmap("a.bmp", 10, 10);
     script("WINDOW \"DARKWND\" 0 0 640 480\nBEGIN\nBITMAP \"\" 0 0 1 1 \"a.bmp\"\nEND\n", "common.tgx");
@@ -70,17 +70,17 @@ TEST_F(FrameTest, OneFrameInItsOrder)
     };
     EXPECT_EQ(order(), "backdrop screen shown ");
     play("call main setPopupWnd EASY T 0", "frame");
-    EXPECT_EQ(order(), "backdrop screen easy shown ") << "easy-close popups get no dimming";
+    EXPECT_EQ(order(), "backdrop screen easy shown ") << "easy-close popups do not dim the screen";
     play("call main setPopupWnd BOX EASY 0", "call main setPopupWnd FRONT BOX 0", "frame");
     EXPECT_EQ(order(), "backdrop screen easy dark box front shown ")
-        << "under the deepest that wants it, once";
+        << "once, below the rearmost popup that dims";
     play("call main deletePopupWnd", "frame");
     EXPECT_EQ(order(), "backdrop screen easy dark box shown ");
     play("key f7", "frame");
     EXPECT_EQ(order(), "backdrop screen easy dark box redraw shown ");
     play("draw");
     EXPECT_EQ(order(), "backdrop screen easy dark box redraw shown ")
-        << "in every frame behind the key's tick";
+        << "in every frame after the key's tick";
     play("frame");
     EXPECT_EQ(order(), "backdrop screen easy dark box shown ");
 }
@@ -102,20 +102,20 @@ TEST_F(FrameTest, TheExitWaitsForTheNextFrame)
 {
     start("SCREEN \"S\" 0 0 640 480 \"\"\n");
     play("frame 2");
-    win().onCloseRequest(); // as exitProgram, unless the game has another answer
+    win().onCloseRequest(); // the base calls exitProgram
     EXPECT_NE(win().getScreenList(), nullptr);
     win().runTick();
     win().runFrame();
     EXPECT_EQ(win().getScreenList(), nullptr);
     EXPECT_EQ(win().running, 0);
     EXPECT_TRUE(displayhost::current().closeRequested);
-    win().runTick(); // whatever comes later finds nothing to do
+    win().runTick(); // later ticks and frames do nothing
     win().runFrame();
     EXPECT_EQ(win().changeScreen("S", 0, 141, "script.tgx"), nullptr);
     EXPECT_EQ(win().readScriptFile("script.tgx", nullptr, 141, "S", 0), nullptr);
 }
 
-TEST_F(FrameTest, NoScreenIsNoFault)
+TEST_F(FrameTest, AFrameWithoutAScreenIsNotAFailure)
 {
     expectMessage("no screen in script.tgx");
     start("WINDOW \"W\" 0 0 10 10\n");
@@ -123,7 +123,7 @@ TEST_F(FrameTest, NoScreenIsNoFault)
     EXPECT_EQ(win().getActiveScreen(), nullptr);
 }
 
-TEST_F(FrameTest, ANewListForgetsTheOldOne)
+TEST_F(FrameTest, ANewScreenListForgetsTheOldOne)
 {
     script("WINDOW \"DARKWND\" 0 0 640 480\n", "common.tgx");
     start("SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\nWINDOW \"W\" 0 0 50 50\nEND\nWINDOW \"BOX\" 0 0 9 9\n");
@@ -147,7 +147,7 @@ TEST_F(FrameTest, WaitingForFrames)
     EXPECT_EQ(win().nextDrawDone(), 0) << "nothing to wait for";
     win().waitForNextDraw();
     play("move 5 5", "press left", "tick", "release left", "tick");
-    EXPECT_EQ(clicks(), none) << "no input meanwhile";
+    EXPECT_EQ(clicks(), none) << "no input while waiting";
     EXPECT_EQ(win().nextDrawDone() + win().nextDrawDone() + win().nextDrawDone(), 0);
     EXPECT_EQ(win().nextDrawDone(), 1);
     EXPECT_EQ(win().nextDrawDone(), 0);

@@ -32,7 +32,7 @@ protected:
     }
 };
 
-// What a host does that loses the focus.
+// A host cancels the press when the game loses the focus.
 TEST_F(InputTest, ACancelledPressClicksNothing)
 {
     const auto cancel = [] { displayhost::current().input().cancel(MouseButton::Left); };
@@ -48,10 +48,10 @@ TEST_F(InputTest, ACancelledPressClicksNothing)
     EXPECT_EQ(screen("S")->getButton("A", 0)->getButtonState(), AButton::BS_NORMAL);
     EXPECT_EQ(clicks(), none);
     play("press left", "tick", "release left", "tick");
-    EXPECT_EQ(clicks(), std::vector<std::string>{"B"}) << "the next press is one as any other";
+    EXPECT_EQ(clicks(), std::vector<std::string>{"B"}) << "the next press works as usual";
 }
 
-TEST_F(InputTest, OneActionGoesOutATick)
+TEST_F(InputTest, OneActionIsDispatchedPerTick)
 {
     const struct {
         const char* name;
@@ -59,22 +59,25 @@ TEST_F(InputTest, OneActionGoesOutATick)
         int action;
     } rows[] = {
         {"nothing", [](ddwin&) {}, AWnd::MA_MOVE},
-        {"a held button beats a key", [](ddwin& w) { w.lButtonDown = w.keyCode = VK_TAB; },
+        {"a held button takes precedence over a key", [](ddwin& w) { w.lButtonDown = w.keyCode = VK_TAB; },
          AWnd::MA_LBUTTONDOWN},
         {"right before middle", [](ddwin& w) { w.rButtonDown = w.mButtonDown = 1; }, AWnd::MA_RBUTTONDOWN},
-        {"a held middle one", [](ddwin& w) { w.mButtonDown = w.lButtonUp = 1; }, AWnd::MA_MBUTTONDOWN},
+        {"a held middle button", [](ddwin& w) { w.mButtonDown = w.lButtonUp = 1; }, AWnd::MA_MBUTTONDOWN},
         {"a click", [](ddwin& w) { w.lButtonUp = w.rButtonUp = 1; }, AWnd::MA_LBUTTONUP},
         {"Return", [](ddwin& w) { w.keyCode = VK_RETURN; }, AWnd::MA_LBUTTONUP},
         {"a right release is a key", [](ddwin& w) { w.rButtonUp = w.mButtonUp = 1; }, AWnd::MA_KEY},
         {"a middle release", [](ddwin& w) { w.mButtonUp = w.lButtonDblClk = 1; }, AWnd::MA_MBUTTONUP},
         {"a left double click", [](ddwin& w) { w.lButtonDblClk = w.rButtonDblClk = 1; },
          AWnd::MA_LBUTTONDBLCLK},
-        {"a right one", [](ddwin& w) { w.rButtonDblClk = w.mButtonDblClk = 1; }, AWnd::MA_RBUTTONDBLCLK},
-        {"a middle one", [](ddwin& w) { w.mButtonDblClk = w.wheelDown = 1; }, AWnd::MA_MBUTTONDBLCLK},
+        {"a right double click", [](ddwin& w) { w.rButtonDblClk = w.mButtonDblClk = 1; },
+         AWnd::MA_RBUTTONDBLCLK},
+        {"a middle double click", [](ddwin& w) { w.mButtonDblClk = w.wheelDown = 1; },
+         AWnd::MA_MBUTTONDBLCLK},
         {"the wheel both ways", [](ddwin& w) { w.wheelDown = w.wheelUp = 1; }, AWnd::MA_WHEELDOWN},
-        {"the wheel beats a key", [](ddwin& w) { w.wheelUp = w.keyCode = VK_TAB; }, AWnd::MA_WHEELUP},
+        {"the wheel takes precedence over a key", [](ddwin& w) { w.wheelUp = w.keyCode = VK_TAB; },
+         AWnd::MA_WHEELUP},
         {"a second code alone is a key", [](ddwin& w) { w.keyCode2 = VK_END; }, AWnd::MA_KEY},
-        {"a key that is no navigation", [](ddwin& w) { w.keyCode = VK_UP; }, AWnd::MA_KEY},
+        {"a key that does not navigate", [](ddwin& w) { w.keyCode = VK_UP; }, AWnd::MA_KEY},
         {"a key that has moved the pointer", [](ddwin& w) { w.keyCode = VK_TAB; }, AWnd::MA_MOVE},
     };
     auto* ear = new Listener(AWnd::WND_PLAIN, "EAR", 0, 0, 640, 480);
@@ -89,17 +92,17 @@ TEST_F(InputTest, OneActionGoesOutATick)
         win().OnMouseAction();
         EXPECT_EQ(ear->heard, std::vector<int>{row.action});
         EXPECT_EQ(win().mouseX, row.action == AWnd::MA_MOVE && win().keyCode == VK_TAB ? 50 : 600);
-        EXPECT_TRUE(!win().rButtonUp || !win().keyCode) << "the key that was made up is taken back";
+        EXPECT_TRUE(!win().rButtonUp || !win().keyCode) << "the simulated key is reset";
     }
 
-    // The window that a match is shown in keeps the release of the right button from becoming a key.
+    // A disabled match window keeps the release of the right button from becoming a key.
     wnd("WMatchScreen")->setEnabled(0);
     ear->heard.clear();
     play("press right", "tick", "release right", "tick");
     EXPECT_EQ(ear->heard, (std::vector<int>{AWnd::MA_RBUTTONDOWN, AWnd::MA_MBUTTONDOWN}));
 }
 
-TEST_F(InputTest, AHeldButtonRepeatsBehindADelay)
+TEST_F(InputTest, AHeldButtonRepeatsAfterADelay)
 {
     const struct {
         int interval;
@@ -122,7 +125,7 @@ TEST_F(InputTest, AHeldButtonRepeatsBehindADelay)
         EXPECT_EQ(due[row.interval], row.ticks) << row.interval;
 }
 
-TEST_F(InputTest, TabPassesOverStopsThatCannotBeUsed)
+TEST_F(InputTest, TabSkipsUnusableStops)
 {
     wnd("B")->setEnabled(0);
     wnd("C")->setVisible(0);

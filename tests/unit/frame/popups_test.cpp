@@ -2,22 +2,22 @@
 
 namespace {
 
-/// Sequences through the dispatch. The screen S has a button ASK at its top left, 50 x 50, and a panel P at
-/// its right. The popups B1, B2 and B3 are read when they are asked for, and centred: their corner is 270,
-/// 190. Each has a button TGX_OK as its first tab stop, every one in a place of its own.
+/// Sequences of input through the dispatch. The screen S has a button ASK at its top left, 50 x 50, and a
+/// panel P at its right. The popups B1, B2 and B3 are read when they are opened, and centred: their corner is
+/// 270, 190. Each has a button TGX_OK, its first tab stop, at a different place.
 class PopupsTest : public TgxTest {
 protected:
     using Calls = std::vector<std::string>;
 
-    /// Notes what the toolkit calls on it.
-    struct NotingWnd : AWnd {
-        NotingWnd(const CString& name, int x, int y, int w, int h) : AWnd(WND_PLAIN, name, x, y, w, h) {}
-        ~NotingWnd() override { calls.push_back(id.str() + " deleted"); }
+    /// Records the calls that the toolkit makes.
+    struct RecordingWnd : AWnd {
+        RecordingWnd(const CString& name, int x, int y, int w, int h) : AWnd(WND_PLAIN, name, x, y, w, h) {}
+        ~RecordingWnd() override { calls.push_back(id.str() + " deleted"); }
         void startup() override { calls.push_back(id.str() + " startup"), AWnd::startup(); }
         void close() override { calls.push_back(id.str() + " close"), AWnd::close(); }
         void initialise() override { calls.push_back(id.str() + " initialise"); }
     };
-    /// Asks when it is clicked on ASK, and notes the answers with the id of the box.
+    /// Calls ask on a click on ASK, and records the answers with the id buttons of the box.
     struct AskingScreen : AScreen {
         using AScreen::AScreen;
         void close() override { calls.push_back(id.str() + " close"), AScreen::close(); }
@@ -50,11 +50,11 @@ protected:
         win().classes["S"] = [](const CString& id, int x, int y, int w, int h) {
             return new AskingScreen(id, x, y, w, h);
         };
-        win().classes["NOTING"] = [](const CString& id, int x, int y, int w, int h) {
-            return new NotingWnd(id, x, y, w, h);
+        win().classes["RECORDING"] = [](const CString& id, int x, int y, int w, int h) {
+            return new RecordingWnd(id, x, y, w, h);
         };
         const auto popup = [](const std::string& id, const std::string& okPlace) {
-            return "USERDEF \"" + id + "\" 0 0 100 100 \"NOTING\"\nBEGIN\nTEXTWND \"IN" + id +
+            return "USERDEF \"" + id + "\" 0 0 100 100 \"RECORDING\"\nBEGIN\nTEXTWND \"IN" + id +
                    "\" 0 90 100 10 \"" + id + "\"\nBUTTON \"TGX_OK\" " + okPlace +
                    " 20 20 \"\"\nTABORDER \"TGX_OK\"\nEND\n";
         };
@@ -79,14 +79,14 @@ protected:
         play("frame");
     }
     void click() { play("press left", "tick", "release left", "tick"); }
-    /// What asks in the tick of a click on ASK.
+    /// Clicks on ASK and calls ask in that tick.
     void clickToAsk(std::function<void()> ask)
     {
         static_cast<AskingScreen*>(screen("S"))->ask = std::move(ask);
         click();
         static_cast<AskingScreen*>(screen("S"))->ask = nullptr;
     }
-    /// Front first; - behind one that is hidden.
+    /// The ids of the popups, front first; "-" marks a hidden one.
     std::string popups()
     {
         std::string ids;
@@ -106,10 +106,10 @@ protected:
     static constexpr const char* ofB1 = "290 210";
     static constexpr const char* ofB2 = "330 210";
     static constexpr const char* ofB3 = "350 240";
-    static inline Calls calls; // outlives the windows that note in it
+    static inline Calls calls; // outlives the windows that record in it
 };
 
-TEST_F(PopupsTest, MessagesOfOneHandlerComeOneAfterTheOther)
+TEST_F(PopupsTest, MessagesOfOneHandlerAppearOneAfterTheOther)
 {
     clickToAsk([this] {
         EXPECT_EQ(screen("S")->messageBox("title 1", "text 1", "", "messageBox"), 1);
@@ -130,7 +130,7 @@ TEST_F(PopupsTest, MessagesOfOneHandlerComeOneAfterTheOther)
     for (const char* left : {"messageBox12 messageBox123- OWN-", "messageBox123 OWN-", "OWN"}) {
         click();
         EXPECT_EQ(popups(), left);
-        EXPECT_EQ(pointer(), "250 260") << "each has its button there";
+        EXPECT_EQ(pointer(), "250 260") << "each box has its button there";
         play("frame");
     }
     play("key return", "tick");
@@ -143,7 +143,7 @@ TEST_F(PopupsTest, MessagesOfOneHandlerComeOneAfterTheOther)
     EXPECT_EQ(popups(), "messageBox1") << "the name is free again";
 }
 
-TEST_F(PopupsTest, EachHandsThePointerOnToTheNext)
+TEST_F(PopupsTest, EachPopupPassesThePointerToTheNext)
 {
     for (const char* id : {"B1", "B2", "B3"}) {
         open(id, "S");
@@ -166,20 +166,20 @@ TEST_F(PopupsTest, OpeningByParent)
 {
     const struct {
         const char* name;
-        const char* opened; // popup and parent, in turn; - for no parent
+        const char* opened; // popup and parent alternate; - for no parent
         const char* popups;
         const char* pointer;
     } rows[] = {
-        {"the same parent: behind it", "B1 S B2 S", "B1 B2-", ofB1},
+        {"the same parent: after it, hidden", "B1 S B2 S", "B1 B2-", ofB1},
         {"another parent: in front", "B1 S B2 P", "B2 B1", ofB2},
-        {"the parent of the front one counts", "B1 S B2 P B3 S", "B3 B2 B1", ofB3},
-        {"at the end, behind those covered", "B1 S B2 P B3 P", "B2 B1 B3-", ofB2},
-        {"two without a parent have the same", "B1 - B2 -", "B1 B2-", ofB1},
-        {"none is another one", "B1 S B2 -", "B2 B1", ofB2},
-        {"a popup may open one", "B1 S B2 B1 B3 INB1", "B3 B2 B1", ofB3},
-        {"under itself: no parent", "B1 B1 B2 -", "B1 B2-", ofB1},
+        {"the parent of the front popup decides", "B1 S B2 P B3 S", "B3 B2 B1", ofB3},
+        {"at the end, after the covered ones", "B1 S B2 P B3 P", "B2 B1 B3-", ofB2},
+        {"two without a parent count as having the same", "B1 - B2 -", "B1 B2-", ofB1},
+        {"no parent counts as a different one", "B1 S B2 -", "B2 B1", ofB2},
+        {"a popup may open a popup", "B1 S B2 B1 B3 INB1", "B3 B2 B1", ofB3},
+        {"opened by itself: no parent", "B1 B1 B2 -", "B1 B2-", ofB1},
         {"inside itself: no parent", "B1 S B1 INB1 B2 -", "B1 B2-", ofB1},
-        {"in a ring: no parent", "B1 S B2 B1 B1 B2", "B2 B1", ofB1},
+        {"in a cycle: no parent", "B1 S B2 B1 B1 B2", "B2 B1", ofB1},
         {"the front one again", "B1 S B1 S", "B1", ofB1},
         {"the last one again", "B1 S B2 S B2 S", "B1 B2-", ofB1},
     };
@@ -199,20 +199,20 @@ TEST_F(PopupsTest, OpeningByParent)
     }
 }
 
-TEST_F(PopupsTest, OpenedAgain)
+TEST_F(PopupsTest, APopupThatIsOpenedAgain)
 {
     AWnd* popup = open("B1", "S");
     popup->setMoveAnimation(0, 0, 50, 0, ZnFixed::fromInt(10), ZnFixed(), 0);
     play("move 5 6", "frame 2");
     EXPECT_EQ(popup->posX(0), 290);
     EXPECT_EQ(open("B1", "S"), popup);
-    EXPECT_EQ(popup->posX(0), 270) << "started anew, at rest";
+    EXPECT_EQ(popup->posX(0), 270) << "started again, at rest";
     EXPECT_EQ(pointer(), ofB1);
     popup->setMoveAnimation(0, 0, 50, 0, ZnFixed::fromInt(10), ZnFixed(), 0);
     play("frame 2");
     EXPECT_EQ(win().setPopupWnd(nullptr, nullptr, 0), nullptr);
     EXPECT_EQ(popups(), "");
-    EXPECT_EQ(pointer(), "5 6") << "the way back is that of the last opening";
+    EXPECT_EQ(pointer(), "5 6") << "the pointer returns to where it was at the last opening";
     EXPECT_EQ(popup->posX(0), 270);
     play("frame 2");
     EXPECT_EQ(taken(), (Calls{"B1 startup", "B1 startup", "B1 close"})) << "closed, but not deleted";
@@ -220,14 +220,14 @@ TEST_F(PopupsTest, OpenedAgain)
     win().deletePopupWnd();
     EXPECT_EQ(open("B1", "P"), popup);
     win().deletePopupWnd();
-    EXPECT_NE(open("B1", "P"), popup) << "one that is marked for deletion is read anew";
+    EXPECT_NE(open("B1", "P"), popup) << "a popup marked for deletion is read again";
     play("frame");
     EXPECT_EQ(win().getPopupWnd(0), wnd("B1"));
     EXPECT_EQ(win().setPopupWnd(CString("NONE"), screen("S"), 141, "script.tgx"), nullptr);
-    EXPECT_EQ(popups(), "") << "a popup that is not to be had closes the front one";
+    EXPECT_EQ(popups(), "") << "opening a popup that does not exist closes the front one";
 }
 
-TEST_F(PopupsTest, AScreenChangeTakesThemAllFrontFirst)
+TEST_F(PopupsTest, AScreenChangeClosesAllPopupsFrontFirst)
 {
     open("B1", "S");
     open("B2", "P");
@@ -250,8 +250,8 @@ TEST_F(PopupsTest, APopupThatSlides)
         int deleteWhenDone;
         const char* after;
     } rows[] = {
-        {"away: its opener closes it", "B1", 0, "B2"},
-        {"its movement ends by itself: it stays", "B1", 1, "B1 B2-"},
+        {"away: the opener closes it", "B1", 0, "B2"},
+        {"with the record deleted at the end: it stays", "B1", 1, "B1 B2-"},
         {"hidden ones do not move", "B2", 0, "B1 B2-"},
     };
     for (const auto& row : rows) {
@@ -272,17 +272,17 @@ TEST_F(PopupsTest, AnswersToAQuery)
 {
     const struct {
         const char* name;
-        const char* events; // each in a frame of its own
+        const char* events; // followed by a frame each
         const char* answer;
         bool open;
     } rows[] = {
-        {"Return, on its first stop", "key return", "Q TGX_NO", false},
+        {"Return, on the first stop", "key return", "Q TGX_NO", false},
         {"Tab and Return", ",key tab,key return", "Q TGX_YES", false},
         {"the mouse", "move 240 260,press left,release left", "Q TGX_YES", false},
         {"Esc does not click", "key esc", "", true},
-        {"Esc goes to what it may", "key esc,key return", "Q TGX_YES", false},
+        {"Esc moves to the button it may use", "key esc,key return", "Q TGX_YES", false},
         {"inside, beside the buttons", "move 320 200,press left,release left", "S Q", true},
-        {"outside: nothing below hears", "move 25 26,press left,release left", "S Q", true},
+        {"outside: no window below is clicked", "move 25 26,press left,release left", "S Q", true},
         {"a release elsewhere", "press left,move 25 26,release left", "", true},
         {"the right button", "press right,release right", "", true},
     };
@@ -307,21 +307,22 @@ TEST_F(PopupsTest, AnswersToAQuery)
     taken();
     screen("S")->queryBox("title", "text", "", "Q");
     play("tick 2", "release left", "tick");
-    EXPECT_EQ(taken(), Calls{"Q TGX_NO"}) << "the press is over: its release falls where the pointer is now";
+    EXPECT_EQ(taken(), Calls{"Q TGX_NO"})
+        << "the press is over: its release is a click where the pointer is now";
 }
 
-TEST_F(PopupsTest, WhatTheScriptLacks)
+TEST_F(PopupsTest, BoxesMissingInTheScript)
 {
     const struct {
         const char* name;
         const char* buttons; // of the box
         int yesNo;
-        const char* labels; // as the buttons stand in the box
+        const char* labels; // in the order of the buttons
     } rows[] = {
         {"yes and no", "TGX_YES TGX_NO", 1, "Yes No "},
         {"other buttons", "TGX_OK TGX_CANCEL", 0, "OK Cancel "},
         {"the first of each", "TGX_CANCEL TGX_NO TGX_OK TGX_YES", 1, "- No - Yes "},
-        {"a second one only", "TGX_CANCEL", 1, "No "},
+        {"only a second one", "TGX_CANCEL", 1, "No "},
         {"none", "OTHER", 1, "- "},
     };
     for (const auto& row : rows) {
@@ -364,9 +365,9 @@ TEST_F(PopupsTest, ADeletedParentOrPopupLeavesTheOthersInOrder)
     EXPECT_EQ(wnd("B1")->getParent(), nullptr);
     click();
     EXPECT_EQ(taken(), none);
-    EXPECT_EQ(popups(), "B1") << "nobody hears the answer";
+    EXPECT_EQ(popups(), "B1") << "nothing receives the answer";
     open("B2", "-");
-    EXPECT_EQ(popups(), "B1 B2-") << "as one without a parent";
+    EXPECT_EQ(popups(), "B1 B2-") << "as a popup without a parent";
     open("B3", "S");
     EXPECT_EQ(popups(), "B3 B1 B2-");
     delete wnd("B1");
@@ -374,7 +375,7 @@ TEST_F(PopupsTest, ADeletedParentOrPopupLeavesTheOthersInOrder)
     taken();
     play("key return", "frame");
     EXPECT_EQ(taken(), (Calls{"B3 TGX_OK", "B3 close", "B3 deleted"}));
-    EXPECT_EQ(popups(), "B2") << "it comes up all the same";
+    EXPECT_EQ(popups(), "B2") << "it is still shown";
     delete wnd("B2");
     taken();
     play("move 25 26", "frame");

@@ -3,27 +3,27 @@
 
 namespace {
 
-/// Notes what the toolkit calls on it.
-class NotingScreen : public AScreen {
+/// Records the calls that the toolkit makes.
+class RecordingScreen : public AScreen {
 public:
-    NotingScreen(const CString& name, int x, int y, int w, int h, std::vector<std::string>& calls)
-        : AScreen(name, x, y, w, h), noted(calls)
+    RecordingScreen(const CString& name, int x, int y, int w, int h, std::vector<std::string>& calls)
+        : AScreen(name, x, y, w, h), recorded(calls)
     {}
     static inline std::function<void(const std::string&)> onCall;
-    ~NotingScreen() override { note("deleted"); }
-    void startup() override { note("startup"), AScreen::startup(); }
-    void initialise() override { note("initialise"), AScreen::initialise(); }
-    void close() override { note("close"), AScreen::close(); }
-    void returned() override { note("returned"), AScreen::returned(); }
+    ~RecordingScreen() override { record("deleted"); }
+    void startup() override { record("startup"), AScreen::startup(); }
+    void initialise() override { record("initialise"), AScreen::initialise(); }
+    void close() override { record("close"), AScreen::close(); }
+    void returned() override { record("returned"), AScreen::returned(); }
 
 private:
-    void note(const char* what)
+    void record(const char* what)
     {
-        noted.push_back(id.str() + " " + what);
+        recorded.push_back(id.str() + " " + what);
         if (onCall)
-            onCall(noted.back());
+            onCall(recorded.back());
     }
-    std::vector<std::string>& noted;
+    std::vector<std::string>& recorded;
 };
 
 class ScreensTest : public TgxTest {
@@ -35,7 +35,7 @@ protected:
         start("SCREEN \"FIRST\" 0 0 640 480 \"\"\n", width);
         for (const char* name : {"A", "B", "C"})
             win().classes[name] = [](const CString& id, int x, int y, int w, int h) {
-                return new NotingScreen(id, x, y, w, h, calls);
+                return new RecordingScreen(id, x, y, w, h, calls);
             };
         script("WINDOW \"OLDER\" 0 0 10 10\nSCREEN \"A\" 0 0 640 480 \"a.bmp\"\nBEGIN\nWINDOW \"W\" 0 0 100 "
                "100\nEND\n"
@@ -49,7 +49,7 @@ protected:
     }
     void TearDown() override
     {
-        NotingScreen::onCall = nullptr;
+        RecordingScreen::onCall = nullptr;
         calls.clear();
     }
     Calls taken() { return std::exchange(calls, {}); }
@@ -60,7 +60,7 @@ protected:
              "frame");
     }
 
-    static inline Calls calls; // outlives the windows that note in it
+    static inline Calls calls; // outlives the windows that record in it
 };
 
 TEST_F(ScreensTest, FiveFramesAreShownBeforeTheChange)
@@ -90,7 +90,7 @@ TEST_F(ScreensTest, GoingBackReturnsToTheSuspendedScreenAndItsPointer)
     EXPECT_EQ(win().mouseY, 123);
     play("frame");
     EXPECT_EQ(taken(), (Calls{"B deleted"})) << "at the next dispatched tick";
-    EXPECT_EQ(screen("A")->getCaller(), "") << "as before";
+    EXPECT_EQ(screen("A")->getCaller(), "") << "unchanged";
 }
 
 TEST_F(ScreensTest, AScreenReachedByClosingHasNoWayBack)
@@ -115,10 +115,10 @@ TEST_F(ScreensTest, ADisabledCloseButtonForbidsLeavingForGood)
     EXPECT_EQ(active(), "B");
 }
 
-TEST_F(ScreensTest, ADyingScreenIsReadAnew)
+TEST_F(ScreensTest, AScreenMarkedForDeletionIsReadAgain)
 {
     begin();
-    play("change B close", "draw 5"); // no tick: A is still dying
+    play("change B close", "draw 5"); // no tick: A is still marked for deletion
     AWnd* dying = win().getWnd("A", 1);
     ASSERT_NE(dying, nullptr);
     taken();
@@ -128,7 +128,7 @@ TEST_F(ScreensTest, ADyingScreenIsReadAnew)
     EXPECT_NE(static_cast<AWnd*>(win().getActiveScreen()), dying);
     play("frame");
     EXPECT_EQ(taken(), (Calls{"B close", "A startup", "A initialise", "A deleted"}))
-        << "the old one, by pointer";
+        << "the old screen is deleted, not the new one";
     EXPECT_EQ(active(), "A");
 }
 
@@ -156,14 +156,14 @@ TEST_F(ScreensTest, WindowsOfTheWrongKindAreRefused)
     }
 }
 
-// A game's factory gives plain windows types that only the toolkit's own classes should have.
-TEST_F(ScreensTest, NoWindowIsTakenForAClassByItsTypeAlone)
+// A game's factory makes plain windows with the types of the toolkit's own classes.
+TEST_F(ScreensTest, TheWindowTypeAloneDoesNotDecideTheClass)
 {
     begin();
     const std::pair<const char*, AWnd::E_WNDTYPE> types[] = {
         {"list", AWnd::WND_LISTBOX},    {"button", AWnd::WND_BUTTON}, {"radio", AWnd::WND_RADIOBUTTON},
         {"tabs", AWnd::WND_TABCONTROL}, {"edit", AWnd::WND_EDITBOX},  {"combo", AWnd::WND_COMBOBOX}};
-    std::string text = "SCREEN \"LIES\" 0 0 640 480 \"\"\nBEGIN\n";
+    std::string text = "SCREEN \"MISTYPED\" 0 0 640 480 \"\"\nBEGIN\n";
     for (const auto& [name, type] : types) {
         win().classes[name] = [type = type](const CString& id, int x, int y, int w, int h) {
             return new AWnd(type, id, x, y, w, h);
@@ -182,8 +182,8 @@ TEST_F(ScreensTest, NoWindowIsTakenForAClassByItsTypeAlone)
     for (int line : {11, 12})
         expectMessage("Encountered an error on line " + std::to_string(line) +
                       " in script.tgx\nThe line is :\n\t");
-    play("change LIES close", "frame 6");
-    EXPECT_EQ(active(), "LIES");
+    play("change MISTYPED close", "frame 6");
+    EXPECT_EQ(active(), "MISTYPED");
     for (int x : {45, 110, 210, 320, 345, 310}) {
         play("move " + std::to_string(x) + " 45", "press left", "frame 2", "release left", "frame");
         play("doubleclick left", "frame 2", "release left", "frame", "wheel up", "frame");
@@ -191,10 +191,10 @@ TEST_F(ScreensTest, NoWindowIsTakenForAClassByItsTypeAlone)
     for (const char* key : {"tab", "down", "end", "delete", "left", "return", "esc", "x"})
         for (int i = 0; i < 7; ++i)
             play(std::string("key ") + key, "frame");
-    EXPECT_EQ(active(), "LIES") << "and nothing has crashed";
+    EXPECT_EQ(active(), "MISTYPED") << "nothing has crashed";
 }
 
-TEST_F(ScreensTest, ToTheActiveScreenItself)
+TEST_F(ScreensTest, AChangeToTheActiveScreenItself)
 {
     begin();
     play("change A", "frame 5");
@@ -202,22 +202,22 @@ TEST_F(ScreensTest, ToTheActiveScreenItself)
     EXPECT_EQ(screen("A")->getCaller(), "A");
     play("change A close", "frame 6");
     EXPECT_EQ(taken(), (Calls{"A close", "A startup", "A initialise", "A deleted"}))
-        << "a new one takes its place";
+        << "a new one replaces it";
     EXPECT_TRUE(screen("A")->isOpen());
 }
 
-TEST_F(ScreensTest, TheFirstOfTwoRequestsWinsAndIsCarriedOutAtOnce)
+TEST_F(ScreensTest, ASecondRequestCarriesOutTheFirstOneAtOnce)
 {
     begin();
     play("change B", "frame 2", "change C");
     EXPECT_EQ(active(), "B");
     EXPECT_EQ(taken(), (Calls{"A close", "B startup", "B initialise"}));
     play("move 20 20", "frame");
-    EXPECT_EQ(win().getCurFocusWnd(), wnd("TGX_BACK")) << "input goes on";
+    EXPECT_EQ(win().getCurFocusWnd(), wnd("TGX_BACK")) << "input is dispatched again";
     EXPECT_EQ(win().getPendingScreen(), "");
 }
 
-TEST_F(ScreensTest, AScreenThatIsNotToBeHadChangesNothing)
+TEST_F(ScreensTest, AMissingScreenChangesNothing)
 {
     begin();
     play("call main setPopupWnd W A 0", "frame");
@@ -258,13 +258,13 @@ TEST_F(ScreensTest, ClosingAllButTheCurrent)
     EXPECT_EQ(taken(), (Calls{"C close", "B startup", "B initialise"}));
 }
 
-TEST_F(ScreensTest, ClosingAllButTheCurrentMissesNoneWhenAHandlerDeletesAnOlderWindow)
+TEST_F(ScreensTest, ClosingAllButTheCurrentMissesNoneIfAHandlerDeletesAnOlderWindow)
 {
     begin();
     win().readScriptFile("script.tgx", nullptr, mainScriptResource, "OLDER", 0);
     play("change B", "frame 6", "change C", "frame 6", "change A", "frame 6");
     taken();
-    NotingScreen::onCall = [this](const std::string& call) {
+    RecordingScreen::onCall = [this](const std::string& call) {
         if (call == "B close")
             delete wnd("OLDER");
     };
@@ -272,7 +272,7 @@ TEST_F(ScreensTest, ClosingAllButTheCurrentMissesNoneWhenAHandlerDeletesAnOlderW
     EXPECT_EQ(taken(), (Calls{"B close", "C close"}));
 }
 
-TEST_F(ScreensTest, WhatAPersonDoesOnTheWayToAScreenIsNotForIt)
+TEST_F(ScreensTest, InputMadeDuringAChangeDoesNotReachTheNewScreen)
 {
     const struct {
         const char* name;
@@ -280,8 +280,8 @@ TEST_F(ScreensTest, WhatAPersonDoesOnTheWayToAScreenIsNotForIt)
         bool whileLoading;
         const char* active;
     } rows[] = {
-        {"a played run hands everything out", false, false, "A"},
-        {"pressed before the change, let go of after it", true, false, "B"},
+        {"a host that keeps all input", false, false, "A"},
+        {"pressed before the change, released after it", true, false, "B"},
         {"pressed during the load", true, true, "B"},
     };
     for (const auto& row : rows) {
@@ -289,9 +289,9 @@ TEST_F(ScreensTest, WhatAPersonDoesOnTheWayToAScreenIsNotForIt)
         begin();
         HeadlessHost& host = getPlayer().getHost();
         host.dropsInput = row.dropsInput;
-        play("move 10 10", "frame", "change B", "frame 2"); // over TGX_BACK of B
+        play("move 10 10", "frame", "change B", "frame 2"); // where TGX_BACK of B will be
         if (row.whileLoading)
-            NotingScreen::onCall = [&host](const std::string& call) {
+            RecordingScreen::onCall = [&host](const std::string& call) {
                 if (call == "B startup")
                     host.input().press(MouseButton::Left, InputQueue::Place{10, 10});
             };
@@ -301,11 +301,11 @@ TEST_F(ScreensTest, WhatAPersonDoesOnTheWayToAScreenIsNotForIt)
         EXPECT_EQ(active(), "B");
         play("move 10 10", "release left", "frame 8");
         EXPECT_EQ(active(), row.active);
-        NotingScreen::onCall = nullptr;
+        RecordingScreen::onCall = nullptr;
     }
 }
 
-/// "14: backdrop b.bmp" and so on, for each frame of a wipe that did more than draw the backdrop.
+/// Lists the swaps and dirty widths of each frame of a wipe.
 class WipeTest : public ScreensTest {
 protected:
     std::string wipe(int frames)
@@ -319,7 +319,7 @@ protected:
                     step += "swap ";
                 if (command.op == DrawOp::AddDirtyRect)
                     step += std::to_string(command.w) + " ";
-                EXPECT_NE(command.op, DrawOp::DrawScreen) << "a wipe frame is shown all the same";
+                EXPECT_NE(command.op, DrawOp::DrawScreen) << "a wipe frame is shown without drawscreen";
             }
             steps += step + "| ";
         }
@@ -328,7 +328,7 @@ protected:
     std::uint32_t pixel(int x) { return win().getScreenImage().row(0)[x] & 0xFFFFFF; }
 };
 
-TEST_F(WipeTest, TheNewBackdropSpreadsFromTheLeft)
+TEST_F(WipeTest, TheNewBackdropIsUncoveredFromTheLeft)
 {
     begin();
     win().setWipeEnabled(1);
@@ -348,13 +348,13 @@ TEST_F(WipeTest, TheNewBackdropSpreadsFromTheLeft)
     wipe(15);
     EXPECT_EQ(taken(), none);
     wipe(1);
-    EXPECT_EQ(taken(), (Calls{"A returned"})) << "a suspended one at the last frame";
+    EXPECT_EQ(taken(), (Calls{"A returned"})) << "a suspended screen returns at the last frame";
     play("frame");
     EXPECT_EQ(pixel(0), 0u) << "with the background that it kept";
     EXPECT_EQ(pixel(1), 0x445566u) << "of the backdrop at that time";
 }
 
-TEST_F(WipeTest, AClickCutsItShortAndTheBackdropStillComes)
+TEST_F(WipeTest, AClickShortensTheWipeAndTheBackdropStillChanges)
 {
     begin();
     win().setWipeEnabled(1);
@@ -365,7 +365,7 @@ TEST_F(WipeTest, AClickCutsItShortAndTheBackdropStillComes)
     EXPECT_EQ(pixel(639), 0x445566u);
 }
 
-TEST_F(WipeTest, NarrowScreens)
+TEST_F(WipeTest, NarrowScreensDoNotWipe)
 {
     const struct {
         int width, frames;
@@ -386,7 +386,7 @@ TEST_F(WipeTest, NarrowScreens)
     EXPECT_EQ(win().getLastFrame().commands().back().op, DrawOp::DrawScreen) << "no wipe at all";
 }
 
-TEST_F(ScreensTest, TenThousandVisitsLeaveAsManyPixelsAsOne)
+TEST_F(ScreensTest, TenThousandVisitsUseNoMorePixelsThanOne)
 {
     for (const char* name : {"pic.bmp", "other.bmp", "edge.bmp", "icon.bmp", "row.bmp"})
         bitmap(name, 48, 24);

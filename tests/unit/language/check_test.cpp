@@ -9,10 +9,9 @@
 #include <set>
 
 using namespace std::string_literals;
+using script_check::CheckReport;
 
 namespace {
-
-using script_check::CheckReport;
 
 /// Returns count subroutines, "S0" and so on, each of which calls the next one that many times.
 std::string chain(int count, int calls)
@@ -240,9 +239,9 @@ const CheckRow rows[] = {
      "a.tgs:1:8: warning: the game makes windows of the class \"Ship\", and would be asked for that class "
      "when this screen opens [class-name]\n"},
     {"screens and boxes that cannot be left",
-     "SCREEN \"\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"GO\" 0 0 90 24 \"\"\n  TABORDER \"GO\"\nEND\nSCREEN "
-     "\"B\" 0 0 "
-     "640 480 \"\"\nBEGIN\n  TEXTWND \"T\" 0 0 90 24 \"b\"\nEND\nWINDOW \"QUERYBOX\" 0 0 200 100\nBEGIN\n  "
+     "SCREEN \"\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"GO\" 0 0 90 24 \"\"\n  TABORDER \"GO\"\nEND\n"
+     "SCREEN \"B\" 0 0 640 480 \"\"\nBEGIN\n  TEXTWND \"T\" 0 0 90 24 \"b\"\nEND\nWINDOW \"QUERYBOX\" 0 0 "
+     "200 100\nBEGIN\n  "
      "TEXTWND "
      "\"MESSAGEBOXTITEL\" 0 0 90 24 \"\"\n  TEXTWND \"MESSAGEBOXTEXT\" 0 24 90 24 \"\"\n  BUTTON \"OK\" 0 60 "
      "90 24 "

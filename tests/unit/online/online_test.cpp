@@ -4,7 +4,7 @@
 
 namespace {
 
-/// The program's connection, fresh, with a game and a challenge in hand.
+/// The program's connection in its initial state, with a game and a challenge.
 class OnlineTest : public TgxTest {
 protected:
     OnlineTest()
@@ -15,7 +15,7 @@ protected:
     }
     ~OnlineTest() override { g_Connection.networkSide() = {}; }
 
-    /// Users with these team ids, in this order.
+    /// Adds users with these team ids.
     static void setUsers(std::initializer_list<int> ids)
     {
         for (int id : ids) {
@@ -29,7 +29,7 @@ protected:
     CNetChallenge challenge{&g_Connection};
 };
 
-/// RAISE: how it is raised, by the network side or by the interface itself.
+/// RAISE sets the request, from the network side or from the interface itself.
 #define REQUEST_OF(RECORD, NAME, RAISE, DONE, IDLE)                                                          \
     {                                                                                                        \
 #RECORD "." #NAME, IDLE,                                                                             \
@@ -39,7 +39,7 @@ protected:
     }
 #define REQUEST(RECORD, NAME, IDLE) REQUEST_OF(RECORD, NAME, networkSide().NAME = 1, Done##NAME, IDLE)
 
-TEST_F(OnlineTest, ARequestIsReadUntilItsDoneCallAndNoOther)
+TEST_F(OnlineTest, ARequestIsSetUntilItsOwnDoneCall)
 {
     CClientConnection& connection = g_Connection;
     const struct {
@@ -87,11 +87,11 @@ TEST_F(OnlineTest, ARequestIsReadUntilItsDoneCallAndNoOther)
         REQUEST_OF(challenge, LostConnection, SetLostConnection(), DoneLostConnection, 0),
     };
     for (const auto& row : rows)
-        EXPECT_EQ(row.read(), row.idle) << row.name << " to begin with";
+        EXPECT_EQ(row.read(), row.idle) << row.name << " at first";
     for (const auto& row : rows)
         row.raise();
     for (const auto& row : rows) {
-        EXPECT_EQ(row.read(), 1) << row.name << " when raised, and those before it done";
+        EXPECT_EQ(row.read(), 1) << row.name << " when set, after those before it were done";
         row.done();
         EXPECT_EQ(row.read(), row.idle) << row.name << " when done";
     }
@@ -151,16 +151,16 @@ TEST_F(OnlineTest, BitsAndBytesInsideAWord)
         int value, expected;
     } rows[] = {
         {"game type: a bit of the mask", team.MatchGameType(6), 1},
-        {"game type: none of the mask", team.MatchGameType(0x0A), 0},
+        {"game type: no bit of the mask", team.MatchGameType(0x0A), 0},
         {"result type: a bit of the mask", team.MatchResultType(2), 1},
-        {"result type: none of the mask", team.MatchResultType(0x105), 0},
+        {"result type: no bit of the mask", team.MatchResultType(0x105), 0},
         {"highlights are a number", team.MatchHighlights(3), 1},
         {"highlights: a bit is not enough", team.MatchHighlights(1), 0},
         {"the time limit has no sign", team.MatchTimeLimit(0xF0), 1},
-        {"and is nothing but its byte", team.MatchTimeLimit(-16), 0},
+        {"and is compared as a byte", team.MatchTimeLimit(-16), 0},
         {"heads or tails", game.HeadsOrTails(), 1},
         {"bat or bowl", game.BatOrBowl(), 2},
-        {"ready for what was not in the mask", game.Ready(), 0b010},
+        {"ready keeps the bits outside the mask", game.Ready(), 0b010},
     };
     for (const auto& row : rows)
         EXPECT_EQ(row.value, row.expected) << row.name;
@@ -172,8 +172,8 @@ TEST_F(OnlineTest, HomeAndAway)
 {
     const struct {
         const char* name;
-        int self, opponent; // team ids; the users are 30, 10, 20
-        int home, away;     // team ids by place in the list
+        int self, opponent; // team ids; those of the users are 30, 10, 20
+        int home, away;     // team ids, by place in the list
         bool isHome, isAway;
     } rows[] = {
         {"first in the list, but the higher id", 30, 10, 30, 10, false, true},
@@ -195,12 +195,12 @@ TEST_F(OnlineTest, HomeAndAway)
 
         game.networkSide().Id = row.self;
         game.networkSide().OpponentId = row.opponent;
-        EXPECT_EQ(game.HomeTeam(), row.isHome) << "a game goes by its ids";
+        EXPECT_EQ(game.HomeTeam(), row.isHome) << "a game compares its ids";
         EXPECT_EQ(game.AwayTeam(), row.isAway);
     }
 }
 
-TEST_F(OnlineTest, WithoutAnOwnRecord)
+TEST_F(OnlineTest, WithoutARecordOfOurOwn)
 {
     setUsers({30, 10});
     g_Connection.FindSelf(11);
@@ -208,7 +208,7 @@ TEST_F(OnlineTest, WithoutAnOwnRecord)
     g_Connection.Status(0x230);
     EXPECT_EQ(g_Connection.Status(), 0);
     EXPECT_EQ(g_Connection.PlayingOnline(), 0);
-    EXPECT_EQ(g_Connection.TeamDetails(0).Status(), 0) << "nobody else's either";
+    EXPECT_EQ(g_Connection.TeamDetails(0).Status(), 0) << "nor does another team's";
     EXPECT_THROW(g_Connection.Self(), CInvalidArgException);
     EXPECT_THROW(g_Connection.TeamDetails(2), CInvalidArgException);
     EXPECT_THROW(g_Connection.isHomeTeam(), CInvalidArgException);
@@ -216,7 +216,7 @@ TEST_F(OnlineTest, WithoutAnOwnRecord)
     EXPECT_THROW(g_Connection.TeamDetails(0).Ratings(CELORating(), -1), CInvalidArgException);
 }
 
-TEST_F(OnlineTest, WhatCountsDownEndsAtNothing)
+TEST_F(OnlineTest, CountersStopAtZero)
 {
     challenge.networkSide().Updated = 2;
     for (int expected : {1, 0, 0}) {
@@ -232,7 +232,7 @@ TEST_F(OnlineTest, WhatCountsDownEndsAtNothing)
     EXPECT_EQ(game.OpponentChessClock(), 13);
 }
 
-TEST_F(OnlineTest, TextsAndListsThatWait)
+TEST_F(OnlineTest, WaitingTextsAndLists)
 {
     EXPECT_FALSE(g_Connection.Messages() || g_Connection.Alerts() || game.Messages());
     g_Connection.AlertText()->AddTail("server closes at ten");
@@ -260,7 +260,7 @@ TEST_F(OnlineTest, TextsAndListsThatWait)
     EXPECT_EQ(g_Connection.NetGame()->Connection(), &g_Connection);
 }
 
-TEST_F(OnlineTest, ARatingKeepsItsFractionsAndCopiesWhole)
+TEST_F(OnlineTest, ARatingKeepsItsFractionsAndIsCopiedCompletely)
 {
     CELORating rating;
     rating.networkSide() = {1500.9, 3, 4, 5.5, 1510.2, -0.9, -7.9};
@@ -269,7 +269,7 @@ TEST_F(OnlineTest, ARatingKeepsItsFractionsAndCopiesWhole)
     CTeamDetails copy = team;
     const ELORatingFields& fields = copy.Ratings(1).networkSide();
     EXPECT_EQ(copy.Ratings(1).Rating(), 1500);
-    EXPECT_EQ(copy.Ratings(1).Draw(), 0) << "towards zero";
+    EXPECT_EQ(copy.Ratings(1).Draw(), 0) << "truncated towards zero";
     EXPECT_EQ(copy.Ratings(1).Lose(), -7);
     EXPECT_EQ(fields.Rating, 1500.9);
     EXPECT_EQ(fields.OwnInt, 4);

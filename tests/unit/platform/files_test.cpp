@@ -120,7 +120,7 @@ TEST_F(Files, byDefaultTheWorkingFolderIsSearchedBeforeTheExecutables)
     fs::current_path(before);
 }
 
-TEST_F(Files, whatIsMissingIsNamedWithTheFolderItWasLookedForIn)
+TEST_F(Files, aMissingFileIsReportedWithTheSearchedFolder)
 {
     const std::string folder = fs::canonical(base / "data").string();
     setMemoryFile("ram\\x.tgx", std::make_shared<const std::string>());
@@ -130,13 +130,13 @@ TEST_F(Files, whatIsMissingIsNamedWithTheFolderItWasLookedForIn)
         std::string whyNoFile;
     } rows[] = {
         {"a file", "uig\\none.tgx", "no file none.tgx in " + folder + "/uig"},
-        {"a file of no folder", "none.bmp", "no file none.bmp in " + folder},
+        {"a file without a folder", "none.bmp", "no file none.bmp in " + folder},
         {"its folder", "art\\none.bmp", "no folder art in " + folder},
-        {"a folder in one that is there", "UIG/old/none.tgx", "no folder UIG/old in " + folder},
+        {"a folder in an existing one", "UIG/old/none.tgx", "no folder UIG/old in " + folder},
         {"a file used as a folder", "both.txt\\x", "no folder both.txt in " + folder},
-        {"one that is there", "uig\\menu.tgx", ""},
-        {"one in memory, of no folder", "ram\\x.tgx", ""},
-        {"one that is refused", "..\\secret.txt", ""},
+        {"an existing file", "uig\\menu.tgx", ""},
+        {"a memory file without a folder", "ram\\x.tgx", ""},
+        {"a refused name", "..\\secret.txt", ""},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);

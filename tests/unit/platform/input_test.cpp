@@ -301,7 +301,7 @@ TEST_F(Input, droppingEventsLeavesNoHalfClicks)
     queue().release(MouseButton::Left);
     EXPECT_EQ(run(1), (Seen{"down1"}));
     queue().dropAll(*wnd);
-    EXPECT_EQ(run(1), (Seen{"-"})) << "also when the press was taken before";
+    EXPECT_EQ(run(1), (Seen{"-"})) << "even if the press was taken before";
     queue().doubleClick(MouseButton::Left);
     EXPECT_EQ(run(1), (Seen{"double"}));
     queue().dropAll(*wnd);

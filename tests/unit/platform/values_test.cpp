@@ -150,7 +150,7 @@ TEST(Messages, arePrintedOnOneLine)
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "message: a\\n\\tb\\\\u000d\\u007f\\u00e9\\u0000z\n");
 }
 
-TEST(Messages, aCauseIsToldAfterTheFirstOfThem)
+TEST(Messages, aCauseIsPrintedOnlyAfterTheFirstMessage)
 {
     testing::internal::CaptureStderr();
     HeadlessHost host;

@@ -16,7 +16,7 @@ protected:
     }
 };
 
-TEST_F(ButtonStatements, FormsAndTheirCounts)
+TEST_F(ButtonStatements, FormsAndTokenCounts)
 {
     const auto button4 = [](auto... more) {
         return line("BUTTON", "B", 0, 0, 50, 20, "", 0, 0, "b.bmp", more...);
@@ -27,11 +27,11 @@ TEST_F(ButtonStatements, FormsAndTheirCounts)
         int width, height, delay, frames;
     } rows[] = {
         {"the shortest form takes the window's size", line("BUTTON", "B", 0, 0, 50, 20, ""), 50, 20, 1, 1},
-        {"so does one without frame sizes", button4(), 50, 20, 1, 1},
+        {"as does a form without frame sizes", button4(), 50, 20, 1, 1},
         {"-1 is the window's size and a delay of 1", button4(-1, -1, -1), 50, 20, 1, 1},
         {"sizes, and a delay of 0", button4(7, 8, 0), 7, 8, 0, 1},
         {"the opening run comes first", button4(7, 8, 3, 4, 2, 1, 1), 7, 8, 3, 4},
-        {"without one the normal run", button4(7, 8, 3, 0, 2, 1, 1, 1), 7, 8, 3, 2},
+        {"without an opening run the normal one", button4(7, 8, 3, 0, 2, 1, 1, 1), 7, 8, 3, 2},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -59,17 +59,17 @@ TEST_F(ButtonStatements, FormsAndTheirCounts)
         line("HSCROLLBAR", "X", 0, 0, 9, 9, "", 1),
         line("VSCROLLBAR", "X", 0, 0, 9, 9, "", 1, 1, 1)};
     std::string lines;
-    Messages said;
+    Messages reported;
     for (std::size_t i = 0; i < wrong.size(); ++i) {
         lines += wrong[i];
-        said.push_back(lineError(static_cast<int>(i) + 1, "t.tgx"));
+        reported.push_back(lineError(static_cast<int>(i) + 1, "t.tgx"));
     }
     runScript(lines);
-    EXPECT_EQ(messages, said);
+    EXPECT_EQ(messages, reported);
     EXPECT_EQ(tree(), "");
 }
 
-TEST_F(ButtonStatements, StateButtonsHaveOneKindOfTarget)
+TEST_F(ButtonStatements, StateButtonsAcceptOneKindOfTarget)
 {
     const std::string tick = line("CHECKBOXSTATE", 1, 2, 3, 4, "t.bmp");
     const std::string dot = line("RADIOSTATE", 1, 2, 3, 4, "t.bmp", 5, 6, 7, 1, 2, 3, 4);
@@ -78,10 +78,10 @@ TEST_F(ButtonStatements, StateButtonsHaveOneKindOfTarget)
     const struct {
         const char* name;
         std::string lines, tree;
-        Messages said;
+        Messages reported;
     } rows[] = {
         {"a check box", check + block(tick), "C(CheckboxState)", {}},
-        {"a button that is none", line("BUTTON", "B", 0, 0, 9, 9, "") + block(tick), "B(CheckboxState)", {}},
+        {"a plain button", line("BUTTON", "B", 0, 0, 9, 9, "") + block(tick), "B(CheckboxState)", {}},
         {"a radio button", radio + block(dot), "R(RadioState)", {}},
         {"a tick in a radio button", radio + block(tick + block(wnd("A"))), "R A", {}},
         {"a dot in a check box", check + block(dot), "C", {}},
@@ -96,7 +96,7 @@ TEST_F(ButtonStatements, StateButtonsHaveOneKindOfTarget)
         newWindow();
         runScript(row.lines);
         EXPECT_EQ(tree(), row.tree);
-        EXPECT_EQ(messages, row.said);
+        EXPECT_EQ(messages, row.reported);
     }
 }
 
@@ -112,16 +112,17 @@ TEST_F(ButtonStatements, ADisabledRunMayBeLeftOut)
         button("B")->setButtonState(AButton::BS_PRESSED);
         EXPECT_EQ(button("B")->getFirstFrame(), 6);
         button("B")->setButtonState(AButton::BS_DISABLED);
-        EXPECT_EQ(button("B")->getFirstFrame(), isGiven ? 10 : 6) << "without frames it shows what it showed";
+        EXPECT_EQ(button("B")->getFirstFrame(), isGiven ? 10 : 6)
+            << "without frames the picture does not change";
         EXPECT_EQ(button("B")->getFrameCount(), isGiven ? 5 : 4);
     }
     newWindow();
     runScript(wnd("A") + block(line("BUTTONFRAMES", 1, 2, 3, 4)) + line("BUTTONFPS", 1, 2, 3));
     EXPECT_EQ(messages, (Messages{lineError(3, "t.tgx"), lineError(5, "t.tgx")}))
-        << "no button, and a wrong count";
+        << "not a button, and a wrong count";
 }
 
-TEST_F(ButtonStatements, AThousandRadioButtonsKnowOneAnother)
+TEST_F(ButtonStatements, AThousandRadioButtonsAreLinkedWithOneAnother)
 {
     runScript(radios("R", 1001) + wnd("A") + radios("S", 1));
     EXPECT_EQ(messages, Messages{lineError(1001, "t.tgx")});
@@ -140,7 +141,7 @@ TEST_F(ButtonStatements, AThousandRadioButtonsKnowOneAnother)
     newWindow();
     window->scriptWork = 1'000'000;
     runScript(repeat(10, radios("R", 50) + wnd("A")));
-    EXPECT_EQ(messages, Messages{"t.tgx runs too long"}) << "knowing one another is work";
+    EXPECT_EQ(messages, Messages{"t.tgx runs too long"}) << "linking buttons counts as work";
 }
 
 } // namespace

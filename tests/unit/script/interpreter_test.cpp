@@ -13,7 +13,7 @@ TEST_F(ScriptTest, BlocksBelongToTheWindowBeforeThem)
     const struct {
         const char* name;
         std::string script, tree;
-        Messages said;
+        Messages reported;
     } rows[] = {
         {"a block opens the window before it", wnd("A") + block(wnd("B")) + wnd("C"), "A(B) C", {}},
         {"so does a second block", wnd("A") + block(wnd("B")) + block(wnd("C")), "A(B C)", {}},
@@ -27,27 +27,27 @@ TEST_F(ScriptTest, BlocksBelongToTheWindowBeforeThem)
          "A(B)",
          {"cannot load "}},
         {"a block without a window is the root's", block(wnd("A") + block(wnd("B"))), "A(B)", {}},
-        {"an END too many does nothing",
+        {"a surplus END does nothing",
          line("END") + wnd("A") + line("END") + line("END") + block(wnd("B")),
          "A(B)",
          {}},
-        {"an open block is no error", wnd("A") + line("BEGIN") + wnd("B"), "A(B)", {}},
+        {"an open block is not an error", wnd("A") + line("BEGIN") + wnd("B"), "A(B)", {}},
         {"a screen goes to the root and opens its block",
          wnd("A") + block(line("SCREEN", "S", 0, 0, 9, 9, "") + block(wnd("B"))),
          "A S(B)",
          {}},
-        {"the id static is none", wnd("static") + block(wnd("B")), "(B)", {}},
-        {"keywords that are no statements",
+        {"the id static means no id", wnd("static") + block(wnd("B")), "(B)", {}},
+        {"keywords that are not statements",
          "\x41\7\x30\7\x60\4N\0\7\0\7\xFF\7"s + wnd("A"),
          "A",
          {lineError(1, "t.tgx"), lineError(2, "t.tgx"), lineError(3, "t.tgx"), lineError(4, "t.tgx"),
           lineError(5, "t.tgx")}},
-        {"the message quotes a text at the start, %s and all",
+        {"the message quotes a text at the start, including %s",
          "\4say %s %d\0\7"s,
          "",
          {lineError(1, "t.tgx", "say %s %d")}},
         {"more than 30 tokens", tooMany + wnd("A"), "A", {lineError(1, "t.tgx")}},
-        {"BEGIN and END count with any number of tokens",
+        {"BEGIN and END are valid with any number of tokens",
          wnd("A") + "\x0E" + repeat(40, "\x0E") + "\7" + wnd("B") + "\x0F\x0F\7" + wnd("C"),
          "A(B) C",
          {}},
@@ -65,7 +65,7 @@ TEST_F(ScriptTest, BlocksBelongToTheWindowBeforeThem)
         newWindow();
         runScript(row.script);
         EXPECT_EQ(tree(), row.tree);
-        EXPECT_EQ(messages, row.said);
+        EXPECT_EQ(messages, row.reported);
     }
 }
 
@@ -80,7 +80,7 @@ TEST_F(ScriptTest, AttributesSetTheirFields)
         {"2 clears a flag", line("BMPSTRETCH", 2), [](AWnd& w) { return w.getBmpStretch(); }, 0},
         {"3 sets it", line("BMPTILE", 3), [](AWnd& w) { return w.getBmpTile(); }, 1},
         {"-1 sets it", line("TEXTWRAP", -1), [](AWnd& w) { return w.getTextWrap(); }, 1},
-        {"visible asks for above 0", line("VISIBLE", -1), [](AWnd& w) { return w.isVisible(0); }, 0},
+        {"visible tests for above 0", line("VISIBLE", -1), [](AWnd& w) { return w.isVisible(0); }, 0},
         {"a text for a number is 0", line("ENABLED", "1"), [](AWnd& w) { return w.getEnabled(); }, 0},
         {"the blit mode has 8 bits", line("BMPBLITMODE", 258), [](AWnd& w) { return w.getBmpBlitMode(); }, 2},
         {"the word RIGHT", line("JUSTIFY", Word{"RIGHT"}), [](AWnd& w) { return int{w.getTextJustify()}; },
@@ -89,7 +89,7 @@ TEST_F(ScriptTest, AttributesSetTheirFields)
          1},
         {"another word changes nothing", line("JUSTIFY", 2), [](AWnd& w) { return int{w.getTextJustify()}; },
          0},
-        {"a negative width stays", line("WNDPOS", 5, 6, -1, 8),
+        {"a negative width keeps the old one", line("WNDPOS", 5, 6, -1, 8),
          [](AWnd& w) { return w.getWndWidth() * 100 + w.getWndHeight(); }, 3008},
         {"text offset", line("TEXTOFFSET", 7, -3),
          [](AWnd& w) { return w.getTextOffsetX() * 10 + w.getTextOffsetY(); }, 67},
@@ -132,7 +132,7 @@ TEST_F(ScriptTest, WindowStatementsTakeTheirArguments)
     EXPECT_EQ(screen->getExtraString(), "more");
 }
 
-TEST_F(ScriptTest, WhatCannotBeFoundFailsItsLine)
+TEST_F(ScriptTest, AMissingFontOrWindowFailsItsLine)
 {
     runScript(wnd("A") + block(wnd("B") + wnd("C") + line("TABORDER", "b", "C", "LATER", "B") +
                                line("TABLIST1", "B", "B") + line("FONT", 99) + line("FONT", -1) +
@@ -140,7 +140,7 @@ TEST_F(ScriptTest, WhatCannotBeFoundFailsItsLine)
     EXPECT_EQ(messages, (Messages{lineError(5, "t.tgx"), lineError(7, "t.tgx"), lineError(8, "t.tgx")}));
     const ATabStopInfo* stops = get("A")->getTabStopInfo(0);
     ASSERT_NE(stops, nullptr);
-    EXPECT_EQ(stops->tabOrderWnds.GetSize(), 2) << "those before the missing one stay";
+    EXPECT_EQ(stops->tabOrderWnds.GetSize(), 2) << "the windows before the missing one stay";
     EXPECT_EQ(stops->insertDeleteWnds.GetSize(), 2) << "a list may name a window twice";
     EXPECT_EQ(get("A")->getFont(), window->getFont(0));
 }
@@ -160,7 +160,7 @@ TEST_F(ScriptTest, WindowsThatTheGameDeletesDuringTheReadAreForgotten)
     window->onCreate = [this] { delete get("A"); };
     runScript(wnd("A") + block(wnd("B") + line("USERDEF", "U", 1, 2, 3, 4, "GAME") + wnd("C")) +
               block(wnd("D")));
-    EXPECT_EQ(tree(), "C D") << "lines of a block whose window is gone act on the root";
+    EXPECT_EQ(tree(), "C D") << "lines of a block whose window is deleted act on the root";
     EXPECT_EQ(messages, (Messages{lineError(4, "t.tgx")}));
 }
 

@@ -8,7 +8,7 @@ using namespace std::string_literals;
 
 namespace {
 
-/// What is said of a call on line 1 whose subroutine is nowhere.
+/// The messages for a call on line 1 whose subroutine does not exist.
 Messages missing(const char* name)
 {
     return {"Could not find SUBROUTINE", std::string("Could not find SUBROUTINE ") + name,
@@ -23,7 +23,7 @@ std::string sub(const std::string& name, const std::string& body)
     return line("SUBROUTINE", name) + body;
 }
 
-TEST_F(ScriptTest, OneWindowIsReadOutOfAScript)
+TEST_F(ScriptTest, OneWindowIsReadFromAScript)
 {
     const std::string bad = line("WINDOW", "X");
     const struct {
@@ -32,7 +32,7 @@ TEST_F(ScriptTest, OneWindowIsReadOutOfAScript)
         const char* toWindow;
         std::string tree;
         const char* result;
-        Messages said;
+        Messages reported;
     } rows[] = {
         {"its line and its block",
          wnd("A") + block(wnd("Z")) + wnd("B") + block(wnd("C")) + wnd("D"),
@@ -47,8 +47,8 @@ TEST_F(ScriptTest, OneWindowIsReadOutOfAScript)
          "B C",
          "B",
          {}},
-        {"case counts in the script", wnd("b") + wnd("C"), "B", "", nullptr, {}},
-        {"the first line of that name counts",
+        {"in the script the case must match", wnd("b") + wnd("C"), "B", "", nullptr, {}},
+        {"the first line of that name is used",
          wnd("A") + line("TEXT", "B") + wnd("C") + wnd("B"),
          "B",
          "C",
@@ -60,7 +60,7 @@ TEST_F(ScriptTest, OneWindowIsReadOutOfAScript)
          "B(C)",
          "B",
          {}},
-        {"skipped lines count in messages",
+        {"skipped lines are counted in messages",
          wnd("A") + "\7" + bad + wnd("B") + block(bad),
          "B",
          "B",
@@ -76,7 +76,7 @@ TEST_F(ScriptTest, OneWindowIsReadOutOfAScript)
         AWnd* found = read("t.tgx", row.toWindow);
         EXPECT_EQ(tree(), row.tree);
         EXPECT_STREQ(found ? static_cast<const char*>(found->getID()) : nullptr, row.result);
-        EXPECT_EQ(messages, row.said);
+        EXPECT_EQ(messages, row.reported);
     }
 }
 
@@ -87,7 +87,7 @@ TEST_F(ScriptTest, AFileComesBeforeTheResource)
                                     resource.size());
     const HINSTANCE program = GetModuleHandleA(nullptr);
     window->readScriptFile("none.tgx", program, 0x10000 + 300, "", 0);
-    EXPECT_EQ(tree(), "R") << "16 bits of the number count";
+    EXPECT_EQ(tree(), "R") << "16 bits of the number are used";
     file("F.TGX", wnd("F") + line("WINDOW", "X"));
     window->readScriptFile("sub\\..\\f.tgx", program, 300, "", 0);
     window->readScriptFile("none.tgx", program, 301, "", 0);
@@ -131,19 +131,16 @@ TEST_F(ScriptTest, SubroutinesActOnTheCallersWindow)
     const struct {
         const char* name;
         std::string script, tree;
-        Messages said;
+        Messages reported;
     } rows[] = {
         {"a block", wnd("A") + block(line("GOTO", "ADD", "lib.tgx") + wnd("B")), "A(L B)", {}},
         {"a body of one statement", wnd("A") + block(line("GOTO", "ONE", "lib.tgx")), "A(O)", {}},
-        {"a call in a body goes on behind it",
-         wnd("A") + block(line("GOTO", "NEST", "lib.tgx")),
-         "A(N(L) M)",
-         {}},
+        {"a body continues after a call", wnd("A") + block(line("GOTO", "NEST", "lib.tgx")), "A(N(L) M)", {}},
         {"a name in another case is the same file",
          wnd("A") + block(line("GOTO", "ADD", "LIB.tgx") + line("GOTO", "ADD", "lib.TGX")),
          "A(L L)",
          {}},
-        {"the block behind a call is still the window's",
+        {"the block after a call is still the window's",
          wnd("A") + line("GOTO", "ONE", "lib.tgx") + block(wnd("B")),
          "A(B) O",
          {}},
@@ -151,14 +148,14 @@ TEST_F(ScriptTest, SubroutinesActOnTheCallersWindow)
          line("GOTO", "S") + wnd("B") + line("BEGIN") + line("END") + sub("S", wnd("C")) + wnd("D"),
          "C B C D",
          {lineError(5, "t.tgx")}},
-        {"the first of two with one name",
+        {"the first of two with the same name",
          line("GOTO", "S") + "\7"s + sub("S", wnd("C")) + sub("S", wnd("D")),
          "C C D",
          {lineError(3, "t.tgx"), lineError(5, "t.tgx")}},
         {"the start of another does not end a body", line("GOTO", "S", "s2.tgx"), "C D", {}},
-        {"a failed line ends it in silence", line("GOTO", "F", "s2.tgx") + wnd("B"), "E B", {}},
-        {"a subroutine that is missing", line("GOTO", "NO", "lib.tgx") + wnd("B"), "B", missing("NO")},
-        {"a script that is missing", line("GOTO", "%s", "no.tgx"), "", missing("%s")},
+        {"a failed line ends it without a message", line("GOTO", "F", "s2.tgx") + wnd("B"), "E B", {}},
+        {"a missing subroutine", line("GOTO", "NO", "lib.tgx") + wnd("B"), "B", missing("NO")},
+        {"a missing script", line("GOTO", "%s", "no.tgx"), "", missing("%s")},
     };
     file("s2.tgx", sub("S", line("BEGIN") + wnd("C") + line("SUBROUTINE", "INNER") + wnd("D") + line("END")) +
                        sub("F", block(wnd("E") + line("FONT", 99) + wnd("G"))));
@@ -167,7 +164,7 @@ TEST_F(ScriptTest, SubroutinesActOnTheCallersWindow)
         newWindow();
         runScript(row.script);
         EXPECT_EQ(tree(), row.tree);
-        EXPECT_EQ(messages, row.said);
+        EXPECT_EQ(messages, row.reported);
     }
 }
 
@@ -175,7 +172,7 @@ TEST_F(ScriptTest, APointerShowsAWindowInASecondPlace)
 {
     file("script.tgx", wnd("X") + wnd("SHARED") + block(wnd("S")));
     runScript(wnd("A") + block(line("POINTER", "shared", "script.tgx")));
-    EXPECT_EQ(tree(), "A") << "in the script case counts";
+    EXPECT_EQ(tree(), "A") << "in the script the case must match";
     EXPECT_EQ(messages, (Messages{lineError(3, "t.tgx")}));
     newWindow();
     runScript(wnd("A") + block(line("POINTER", "SHARED", "script.tgx")) + wnd("B") +
@@ -193,12 +190,12 @@ TEST_F(ScriptTest, APointerNeverMakesACycle)
     runScript(wnd("A") +
               block(line("POINTER", "A") + wnd("B") + block(line("POINTER", "A") + line("POINTER", "B"))) +
               wnd("C") + block(line("POINTER", "B")) + line("POINTER", "B") + block(line("POINTER", "C")));
-    EXPECT_EQ(tree(), "A(B) C(B) B") << "C holds B in its second place";
+    EXPECT_EQ(tree(), "A(B) C(B) B") << "C contains B in its second place";
     EXPECT_EQ(messages, (Messages{lineError(3, "t.tgx"), lineError(6, "t.tgx"), lineError(7, "t.tgx"),
                                   lineError(16, "t.tgx")}));
 }
 
-TEST_F(ScriptTest, APointerLeavesTheSubroutineItStandsIn)
+TEST_F(ScriptTest, APointerEndsItsSubroutine)
 {
     file("p.tgx", wnd("P"));
     file("lib.tgx", sub("S", block(line("POINTER", "P", "p.tgx") + wnd("B") + line("GOTO", "T") +
@@ -209,26 +206,25 @@ TEST_F(ScriptTest, APointerLeavesTheSubroutineItStandsIn)
     EXPECT_EQ(messages, Messages{});
 }
 
-TEST_F(ScriptTest, CallsAndReadsNestOnlySoDeep)
+TEST_F(ScriptTest, CallsAndReadsHaveADepthLimit)
 {
     file("deep.tgx", sub("S", block(wnd("N") + line("GOTO", "S"))));
     runScript(line("GOTO", "S", "deep.tgx"));
     EXPECT_EQ(window->getScreenList()->getWindowCount(), limits::subroutineDepth);
-    // Each definition reads the one before it. (The first line that bears a name counts, so they stand in
-    // this order.)
+    // Each definition reads the one before it. (The first line with a name is used, hence this order.)
     std::string chain;
     for (int i = 100; i > 0; --i)
         chain += wnd(numbered("W", i)) + block(line("POINTER", numbered("W", i + 1), "chain.tgx"));
     file("chain.tgx", chain);
     newWindow();
     read("chain.tgx", "W1");
-    const int deepest = 1 + limits::readDepth; // the outermost read is in none
+    const int deepest = 1 + limits::readDepth; // the outermost read is not nested
     EXPECT_NE(get(numbered("W", deepest).c_str()), nullptr);
     EXPECT_EQ(get(numbered("W", deepest + 1).c_str()), nullptr);
     EXPECT_EQ(messages.size(), 1u) << "the line whose window could not be read";
 }
 
-TEST_F(ScriptTest, AnEmptyScriptNameIsTheFirstStreamWithoutAName)
+TEST_F(ScriptTest, AnEmptyScriptNameMeansTheFirstStreamWithoutAName)
 {
     const std::string resource = sub("S", wnd("R"));
     const EmbeddedResource embedded("TGXScript", 300, reinterpret_cast<const unsigned char*>(resource.data()),
@@ -241,24 +237,24 @@ TEST_F(ScriptTest, AnEmptyScriptNameIsTheFirstStreamWithoutAName)
     newWindow();
     runScript(line("GOTO", "S", "") + call + unnamed + call);
     EXPECT_EQ(tree(), "R R");
-    EXPECT_EQ(messages.size(), 6u) << "no resource 0 is an empty stream, and it stays the first";
+    EXPECT_EQ(messages.size(), 6u) << "a missing resource 0 is an empty stream, which stays the first";
 }
 
-TEST_F(ScriptTest, AReadExecutesSoManyLinesAndNoMore)
+TEST_F(ScriptTest, AReadHasALineLimit)
 {
     const std::string lines = repeat(limits::scriptLines - 1, "\7") + wnd("LAST");
     runScript(lines);
     EXPECT_EQ(tree(), "LAST");
     EXPECT_EQ(messages, Messages{});
     newWindow();
-    runScript(lines + wnd("BEHIND"));
+    runScript(lines + wnd("AFTER"));
     EXPECT_EQ(tree(), "LAST");
     EXPECT_EQ(messages, Messages{"t.tgx runs too long"});
-    read("t.tgx", "BEHIND");
-    EXPECT_EQ(tree(), "LAST BEHIND") << "the next read starts afresh";
+    read("t.tgx", "AFTER");
+    EXPECT_EQ(tree(), "LAST AFTER") << "the next read has a new limit";
 }
 
-TEST_F(ScriptTest, LargeScriptsRunWholeAndEndlessOnesEnd)
+TEST_F(ScriptTest, LargeScriptsRunCompletelyAndEndlessOnesEnd)
 {
     const std::string resource = sub("S", wnd("R"));
     const EmbeddedResource embedded("TGXScript", 300, reinterpret_cast<const unsigned char*>(resource.data()),
@@ -275,27 +271,27 @@ TEST_F(ScriptTest, LargeScriptsRunWholeAndEndlessOnesEnd)
     const struct {
         const char* name;
         std::string script;
-        Messages said;
+        Messages reported;
     } rows[] = {
         {"ten thousand windows that share a panel of eighty",
          repeat(10'000, wnd("W") + block(line("POINTER", "PANEL", "panel.tgx"))),
          {}},
         {"thirty thousand calls into a resource", repeat(30'000, line("GOTO", "S", "300")), {}},
         {"ten thousand calls that set a long text", repeat(10'000, longCall), {}},
-        {"calls without a use that read the long text until the work is used up", repeat(50'000, longCall),
+        {"useless calls that read the long text until the work is used up", repeat(50'000, longCall),
          tooLong},
         {"calls that double at each step", line("GOTO", "S60", "doubling.tgx"), tooLong},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         newWindow();
-        runScript(row.script + wnd("BEHIND"));
-        EXPECT_EQ(messages, row.said);
-        EXPECT_EQ(get("BEHIND") != nullptr, row.said.empty());
+        runScript(row.script + wnd("AFTER"));
+        EXPECT_EQ(messages, row.reported);
+        EXPECT_EQ(get("AFTER") != nullptr, row.reported.empty());
     }
 }
 
-TEST_F(ScriptTest, TenThousandWindowsStandInThreeTabLists)
+TEST_F(ScriptTest, TenThousandWindowsInThreeTabLists)
 {
     constexpr int count = 10'000;
     std::string windows;
@@ -310,7 +306,7 @@ TEST_F(ScriptTest, TenThousandWindowsStandInThreeTabLists)
                 append(names, numbered("w", i));
             lists += line(keyword).insert(1, names);
         }
-    // A window that is made between two such lines is found, and the first of a name is the one.
+    // A window made between two such lines is found, and of several with one name the first.
     runScript(wnd("A") +
               block(windows + lists + wnd("LATE") + block(wnd("W5")) + line("TABORDER", "LATE", "W5")));
     EXPECT_EQ(messages, Messages{});
@@ -325,7 +321,7 @@ TEST_F(ScriptTest, TenThousandWindowsStandInThreeTabLists)
     EXPECT_EQ(stops->tabOrderWnds[count + 1], stops->tabOrderWnds[5]);
 }
 
-/// Windows that a drawing of the tree would visit.
+/// Returns the number of windows that drawing the tree visits.
 long placesBelow(AWnd& wnd)
 {
     static const CString here;
@@ -335,7 +331,7 @@ long placesBelow(AWnd& wnd)
     return places;
 }
 
-TEST_F(ScriptTest, WindowsThatAreShownTwiceInEachOtherStayDrawable)
+TEST_F(ScriptTest, WindowsShownTwiceInEachOtherCanStillBeDrawn)
 {
     std::string inside = wnd("W0");
     std::string windows = wnd("W0");
@@ -357,20 +353,20 @@ TEST_F(ScriptTest, WindowsThatAreShownTwiceInEachOtherStayDrawable)
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         newWindow();
-        runScript(row.script + wnd("BEHIND"));
-        EXPECT_NE(get("BEHIND"), nullptr) << "only the lines that would show too much fail";
+        runScript(row.script + wnd("AFTER"));
+        EXPECT_NE(get("AFTER"), nullptr) << "only the lines that would exceed the limit fail";
         EXPECT_FALSE(messages.empty());
-        for (const std::string& said : messages)
-            EXPECT_TRUE(said.starts_with("Encountered an error on line")) << said;
+        for (const std::string& reported : messages)
+            EXPECT_TRUE(reported.starts_with("Encountered an error on line")) << reported;
         const long places = placesBelow(*window->getScreenList());
         EXPECT_LE(places, limits::sharedPlaces + 32);
         EXPECT_GT(places, limits::sharedPlaces / 2);
     }
 }
 
-TEST_F(ScriptTest, AWindowInsideASharedOneCountsInEachOfItsPlaces)
+TEST_F(ScriptTest, AWindowInsideASharedOneCountsInEachPlace)
 {
-    constexpr long times = 2000; // the window itself is one of them
+    constexpr long times = 2000; // including the window itself
     constexpr long fit = (limits::sharedPlaces - (times - 1)) / times;
     runScript(
         wnd("P") + repeat(times - 2, wnd("W") + block(line("POINTER", "P"))) + wnd("Q") +
@@ -378,12 +374,12 @@ TEST_F(ScriptTest, AWindowInsideASharedOneCountsInEachOfItsPlaces)
                                            line("TEXT", "still here"))));
     EXPECT_EQ(get("P")->getPointerCount(), times - 1);
     EXPECT_EQ(get("P")->getWindowCount(), fit);
-    EXPECT_EQ(messages.size(), 1u) << "the one window too many";
-    EXPECT_NE(get("S"), nullptr) << "a screen is the root's child wherever its line stands";
+    EXPECT_EQ(messages.size(), 1u) << "the one window beyond the limit";
+    EXPECT_NE(get("S"), nullptr) << "a screen is the root's child wherever its line is";
     EXPECT_EQ(get("P")->getText(), "still here");
 }
 
-TEST_F(ScriptTest, TheCountOfPlacesHoldsAtItsEnd)
+TEST_F(ScriptTest, TheLimitOfPlacesIsExact)
 {
     runScript(wnd("P"));
     for (int i = 0; i < 40'000; ++i)

@@ -8,7 +8,7 @@ using namespace std::string_literals;
 
 namespace {
 
-/// Reads one line and tells its tokens: "113 'PANEL' 10", a keyword by its id; "end" at the end of the
+/// Reads one line and returns its tokens, such as "113 'PANEL' 10", keywords by id; "end" at the end of the
 /// stream.
 std::string readTokens(CFile& stream)
 {
@@ -31,7 +31,7 @@ void attach(CMemFile& file, const std::string& bytes)
     file.Attach(reinterpret_cast<const unsigned char*>(bytes.data()), static_cast<unsigned>(bytes.size()));
 }
 
-TEST(ScriptReader, CutsLinesIntoTokens)
+TEST(ScriptReader, SplitsLinesIntoTokens)
 {
     const struct {
         const char* name;
@@ -43,8 +43,8 @@ TEST(ScriptReader, CutsLinesIntoTokens)
         {"the ends of the number range", "\3\xFF\x7F\3\0\x80\3\xFF\xFF\7"s, "32767 -32768 -1", "end"},
         {"texts of bytes that begin tokens", "\4\3\4\7\0\7\x0E\7"s, "'\3\4\7'", "14"},
         {"an empty text is a token", "\x69\4\0\4\0\7"s, "105 '' ''", "end"},
-        {"a keyword alone", "\x0E\7\x0F\7"s, "14", "15"},
-        {"an end of line alone is a line", "\7\x0F\7"s, "", "15"},
+        {"a single keyword", "\x0E\7\x0F\7"s, "14", "15"},
+        {"a single end of line is a line", "\7\x0F\7"s, "", "15"},
         {"a keyword byte of 0", "\0\x0E\7"s, "0 14", "end"},
         {"nothing", "", "end", "end"},
         {"a line without its end", "\x0E\7\x71\4P\0"s, "14", "end"},
@@ -60,7 +60,7 @@ TEST(ScriptReader, CutsLinesIntoTokens)
     }
 }
 
-TEST(ScriptReader, LinesOfAnyLengthComeOutWholeAndEndAtTheirEnd)
+TEST(ScriptReader, LinesOfAnyLengthAreReadCompletely)
 {
     for (int length = 85; length < 310; ++length) {
         SCOPED_TRACE(length);
@@ -75,7 +75,7 @@ TEST(ScriptReader, LinesOfAnyLengthComeOutWholeAndEndAtTheirEnd)
     }
 }
 
-TEST(ScriptReader, EntriesBehindTheLineReadAsNothing)
+TEST(ScriptReader, EntriesAfterTheLineAreEmpty)
 {
     TOKEN_INFO tokens[maxLineTokens];
     for (TOKEN_INFO& token : tokens)
@@ -95,7 +95,7 @@ TEST(ScriptReader, EntriesBehindTheLineReadAsNothing)
     }
 }
 
-TEST(ScriptReader, ALineOfTooManyTokensIsCountedButNotStored)
+TEST(ScriptReader, TokensBeyondTheLimitAreCountedButNotStored)
 {
     TOKEN_INFO tokens[4];
     tokens[3] = {77, "untouched", 7};

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-/// A keyword as an argument.
+/// A keyword used as an argument.
 struct Word {
     const char* keyword;
 };
@@ -30,7 +30,7 @@ inline void append(std::string& bytes, Word word)
     bytes += static_cast<char>(statementByKeyword(word.keyword)->id);
 }
 
-/// A compiled line.
+/// Returns a compiled line.
 template<class... Argument>
 std::string line(const char* keyword, const Argument&... arguments)
 {
@@ -64,7 +64,7 @@ inline std::string lineError(int number, const std::string& script, const std::s
            "\nThe line is :\n\t" + text;
 }
 
-/// A main window whose scripts lie in a folder of their own, and who writes down what the user would be told.
+/// A main window whose scripts are in a temporary folder. Records the messages to the user.
 class ScriptTest : public testing::Test {
 protected:
     /// Makes the game's own windows, for the class name "GAME".
@@ -106,7 +106,7 @@ protected:
     void newWindow()
     {
         window.reset();
-        app->mainWin = nullptr; // windows ask for it while they are made
+        app->mainWin = nullptr; // windows use it while they are constructed
         window = std::make_unique<GameWin>();
         app->mainWin = window.get();
         messages.clear();
@@ -125,7 +125,7 @@ protected:
         file("t.tgx", bytes);
         return read("t.tgx");
     }
-    /// The ids below from, as "A(B C) D"; the root's without an argument.
+    /// Returns the ids below from, or below the root, as in "A(B C) D".
     std::string tree(AWnd* from = nullptr)
     {
         AWnd* top = from ? from : window->getScreenList();

@@ -11,7 +11,7 @@ protected:
     {
         bitmap("tile.bmp", 128, 64);
         bitmap("border.bmp", 71, 8);
-        strip("strip.bmp", 40, 20, 2); // 81 wide: wider than two frames, so it runs on in rows
+        strip("strip.bmp", 40, 20, 2); // 81 wide: wider than two frames, so it continues in rows
         strip("row.bmp", 39, 20, 2);
         start("SCREEN \"S\" 0 0 640 480 \"\"\n"
               "BEGIN\n"
@@ -23,7 +23,7 @@ protected:
     Drawn tileAt(int x, int y, int w, int h) { return blit("tile.bmp").from(0, 0).to(x, y, w, h); }
 };
 
-TEST_F(DrawingTest, TheFirstOfTilingAndStretchingThatIsSetHolds)
+TEST_F(DrawingTest, TilingTakesPrecedenceOverStretching)
 {
     EXPECT_EQ(drawn("PIC"), (Trace{blit("tile.bmp").from(0, 0, 128, 64).to(10, 20, 300, 100)}));
 
@@ -41,12 +41,11 @@ TEST_F(DrawingTest, TheFirstOfTilingAndStretchingThatIsSetHolds)
     EXPECT_EQ(drawn("PIC"), (Trace{blit("tile.bmp").from(5, 6).to(13, 24, 128, 64)}));
 }
 
-TEST_F(DrawingTest, TilesOffTheScreenAreLeftOut)
+TEST_F(DrawingTest, TilesOffTheScreenAreNotDrawn)
 {
     pic()->setBmpTile(1);
-    pic()->setWndPos(
-        -32000, 450, 32767,
-        32767); // tiles lie every 128 pixels from -32000: at 0, 128, ...; the last one ends at 767
+    // Tiles are every 128 pixels from -32000: at 0, 128, ...; the last one ends at 767.
+    pic()->setWndPos(-32000, 450, 32767, 32767);
     EXPECT_EQ(drawn("PIC"),
               (Trace{tileAt(0, 450, 128, 64), tileAt(128, 450, 128, 64), tileAt(256, 450, 128, 64),
                      tileAt(384, 450, 128, 64), tileAt(512, 450, 128, 64)}));
@@ -56,12 +55,12 @@ TEST_F(DrawingTest, TilesOffTheScreenAreLeftOut)
     }
 }
 
-TEST_F(DrawingTest, ABorderInsetsTheBitmapAndKeepsItAPixelWide)
+TEST_F(DrawingTest, ABorderInsetsTheBitmapButLeavesItAtLeastAPixel)
 {
     pic()->setBorder("border.bmp", 8, 8);
     pic()->setWndPos(0, 0, 10, 6);
     pic()->setBmpInfo(128, 64, 0, 0); // no frames: no bitmap
-    // Smaller than two pieces: each corner shows the part that lies towards the window's own corner.
+    // Smaller than two pieces: each corner piece shows only the part at the window's corner.
     const auto corner = [](int sx, int sy, int x, int y) {
         return blit("border.bmp").from(sx, sy).to(x, y, 5, 3).mode(-1);
     };
@@ -74,7 +73,7 @@ TEST_F(DrawingTest, ABorderInsetsTheBitmapAndKeepsItAPixelWide)
                      corner(21, 0, 5, 0), corner(54, 5, 0, 3), corner(39, 5, 5, 3)}));
 }
 
-TEST_F(DrawingTest, TheEdgesOfABorderAreTiledUnderItsCorners)
+TEST_F(DrawingTest, BorderEdgesAreTiledBelowTheCorners)
 {
     pic()->setBmpInfo(128, 64, 0, 0);
     pic()->setBorder("border.bmp", 8, 8);
@@ -93,7 +92,7 @@ TEST_F(DrawingTest, TheEdgesOfABorderAreTiledUnderItsCorners)
     EXPECT_EQ(drawn("PIC"), Trace{});
 }
 
-TEST_F(DrawingTest, FramesRunThroughTheSequenceTickByTick)
+TEST_F(DrawingTest, FramesAdvanceTickByTick)
 {
     const struct {
         const char* name;
@@ -102,14 +101,14 @@ TEST_F(DrawingTest, FramesRunThroughTheSequenceTickByTick)
     } rows[] = {
         {"looping", 2, 4, 1, 1, 1, {3, 4, 5, 2, 3}},
         {"once", 2, 4, 1, 1, 0, {3, 4, 5, 5}},
-        {"a delay shows each frame that long", 0, 3, 3, 1, 1, {0, 0, 1, 1, 1, 2}},
-        {"a step past the end goes to the first, whatever the surplus", 0, 4, 1, 3, 1, {3, 0, 3}},
+        {"a delay shows each frame for that many ticks", 0, 3, 3, 1, 1, {0, 0, 1, 1, 1, 2}},
+        {"a step past the end goes to the first frame, whatever the surplus", 0, 4, 1, 3, 1, {3, 0, 3}},
         {"no delay, no animation", 0, 4, 0, 1, 1, {0, 0}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         pic()->setFrameCount(1);
-        pic()->setCurrentFrame(row.first); // with one frame it becomes the first one too
+        pic()->setCurrentFrame(row.first); // with one frame it also becomes the first one
         pic()->setBmpInfo(8, 8, row.delay, row.count);
         pic()->setLoop(row.loops);
         std::vector<int> seen;
@@ -121,22 +120,22 @@ TEST_F(DrawingTest, FramesRunThroughTheSequenceTickByTick)
     }
     const int frame = pic()->getCurrentFrame();
     win().getScreenList()->draw(0);
-    EXPECT_EQ(pic()->getCurrentFrame(), frame) << "a step of 0 paints and moves nothing";
+    EXPECT_EQ(pic()->getCurrentFrame(), frame) << "a step of 0 only paints";
 }
 
-TEST_F(DrawingTest, WhereAFrameLiesInItsStrip)
+TEST_F(DrawingTest, FramePositionsInAStrip)
 {
     const struct {
         const char* name;
         const char* strip;
         int frameWidth, frame, srcX, srcY;
     } rows[] = {
-        {"a strip of two frames is one row, and the source offset counts", "row.bmp", 40, 1, 41 + 7, 9},
-        {"a wider one runs on in rows, without the offset", "strip.bmp", 40, 1, 0, 21},
+        {"a strip of two frames is one row, and the source offset is added", "row.bmp", 40, 1, 41 + 7, 9},
+        {"a wider strip continues in rows, without the offset", "strip.bmp", 40, 1, 0, 21},
         {"two rows down", "strip.bmp", 40, 2, 0, 42},
-        {"frame -1 lies left of the bitmap", "row.bmp", 40, -1, -41 + 7, 9},
+        {"frame -1 is left of the bitmap", "row.bmp", 40, -1, -41 + 7, 9},
         {"frames without a width have no rows", "strip.bmp", -1, 3, 0, 0},
-        {"nor has a strip that is narrower than its frames", "row.bmp", 300, 2, 602 + 7, 9},
+        {"a strip narrower than its frames has no rows", "row.bmp", 300, 2, 602 + 7, 9},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -157,7 +156,7 @@ TEST_F(DrawingTest, WhereAFrameLiesInItsStrip)
     }
 }
 
-TEST_F(DrawingTest, BitmapsAreLoadedOnceAndReportedEachTime)
+TEST_F(DrawingTest, BitmapsAreLoadedOnceAndFailuresReportedEachTime)
 {
     AWnd* wnd = pic();
     surface* loaded = wnd->getBmp();
@@ -167,7 +166,7 @@ TEST_F(DrawingTest, BitmapsAreLoadedOnceAndReportedEachTime)
     expectMessage("cannot load gone.bmp");
     wnd->setBmp(CString("gone.bmp"));
     EXPECT_EQ(wnd->getBmp(), nullptr);
-    EXPECT_EQ(wnd->getBmpFilename(), "gone.bmp") << "the name stays, so each startup tries again";
+    EXPECT_EQ(wnd->getBmpFilename(), "gone.bmp") << "the name is kept, so each startup tries again";
     expectMessage("cannot load gone.bmp");
     wnd->startup();
 
@@ -177,10 +176,10 @@ TEST_F(DrawingTest, BitmapsAreLoadedOnceAndReportedEachTime)
     }());
     wnd->setBmp(CString("Thing.PAK"));
     EXPECT_NE(wnd->getBmp(), nullptr);
-    EXPECT_EQ(wnd->getBmpFilename(), "") << "a bitmap out of a pack is not loaded by name again";
+    EXPECT_EQ(wnd->getBmpFilename(), "") << "a bitmap from a pack is not loaded by name again";
 }
 
-TEST_F(DrawingTest, ABackgroundIsTakenFromTheBackdropAndTakenAnew)
+TEST_F(DrawingTest, ABackgroundIsCopiedFromTheBackdropAndCanBeRenewed)
 {
     bitmap("backdrop.bmp", 640, 480, 0x203040);
     win().setbackdrop("backdrop.bmp", -1);
@@ -197,16 +196,16 @@ TEST_F(DrawingTest, ABackgroundIsTakenFromTheBackdropAndTakenAnew)
     pic()->startup();
     play("frame");
     EXPECT_EQ(pixel(0, 0), 0x203040u);
-    EXPECT_EQ(win().getSurfaceCount(), surfaces) << "opening again loses no surface";
+    EXPECT_EQ(win().getSurfaceCount(), surfaces) << "opening again leaks no surface";
     pic()->deleteBkgnd();
     play("frame");
     EXPECT_EQ(pic()->hasBkgnd(), 0);
     EXPECT_EQ(win().getSurfaceCount(), surfaces - 1);
 }
 
-TEST_F(DrawingTest, PositionsHoldWhenADrawMovesWhatLiesAbove)
+TEST_F(DrawingTest, PositionsFollowWhenADrawMovesTheParent)
 {
-    // A window that moves its holder while it is drawn: its later siblings must follow at once.
+    // A window that moves its parent while it is drawn: its later siblings must follow at once.
     struct Mover : AWnd {
         using AWnd::AWnd;
         void draw(int step) override

@@ -21,7 +21,7 @@ protected:
     }
 };
 
-TEST_F(GeometryTest, AnOffsetMovesTheWindowAndAllBelowItButNotItsRestingPlace)
+TEST_F(GeometryTest, AnOffsetMovesTheWindowAndItsChildrenButNotItsRestingPlace)
 {
     wnd("PANEL")->setMoveAnimation(5, -7, 5, -7, {}, {}, 0);
     AWnd* leaf = wnd("LEAF");
@@ -31,7 +31,7 @@ TEST_F(GeometryTest, AnOffsetMovesTheWindowAndAllBelowItButNotItsRestingPlace)
     EXPECT_EQ(leaf->posY(1), 160);
     EXPECT_EQ(leaf->wndX(), 10);
     EXPECT_EQ(leaf->getWndX(leaf->left()), 0);
-    EXPECT_EQ(leaf->getWndY(INT_MIN), INT_MAX - leaf->top() + 1) << "wraps round";
+    EXPECT_EQ(leaf->getWndY(INT_MIN), INT_MAX - leaf->top() + 1) << "wraps around";
     EXPECT_EQ(leaf->getWndY(200), 47);
     EXPECT_EQ(leaf->right(), 185);
     EXPECT_EQ(leaf->centreY(), 163);
@@ -46,16 +46,16 @@ TEST_F(GeometryTest, TheDeepestUsableWindowUnderThePointIsHit)
         const char* hidden;
         const char* hit;
     } rows[] = {
-        {"a later window lies on top", 170, 170, nullptr, nullptr, "LEAF"},
-        {"a disabled one lets the point through to its holder", 170, 170, "LEAF", nullptr, "TOP"},
-        {"and that one to what lies below", 170, 170, "TOP", nullptr, "UNDER"},
-        {"a hidden one is not there", 170, 170, nullptr, "TOP", "UNDER"},
+        {"a later window is on top", 170, 170, nullptr, nullptr, "LEAF"},
+        {"the point passes through a disabled window to its parent", 170, 170, "LEAF", nullptr, "TOP"},
+        {"and through that one to the window below", 170, 170, "TOP", nullptr, "UNDER"},
+        {"a hidden window is not hit", 170, 170, nullptr, "TOP", "UNDER"},
         {"the far edges are inside", 250, 250, nullptr, nullptr, "TOP"},
-        {"one pixel past them is outside", 251, 250, nullptr, nullptr, "PANEL"},
-        {"what sticks out of its holder cannot be hit there", 255, 155, nullptr, nullptr, "PANEL"},
-        {"inside it can", 245, 155, nullptr, nullptr, "STICKSOUT"},
-        {"nothing below a hidden holder", 170, 170, nullptr, "PANEL", nullptr},
-        {"nothing beside all windows", 50, 50, nullptr, nullptr, nullptr},
+        {"one pixel past the edges is outside", 251, 250, nullptr, nullptr, "PANEL"},
+        {"the part of a window outside its parent cannot be hit", 255, 155, nullptr, nullptr, "PANEL"},
+        {"the part inside can", 245, 155, nullptr, nullptr, "STICKSOUT"},
+        {"nothing below a hidden parent", 170, 170, nullptr, "PANEL", nullptr},
+        {"nothing outside all windows", 50, 50, nullptr, nullptr, nullptr},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -72,7 +72,7 @@ TEST_F(GeometryTest, TheDeepestUsableWindowUnderThePointIsHit)
     EXPECT_STREQ(screen("S")->getWndAtPos(170, 170, 0)->getID(), "PANEL") << "direct children only";
 }
 
-TEST_F(GeometryTest, EnablementNeedsEveryLevelVisibleAndEnabled)
+TEST_F(GeometryTest, AWindowIsEnabledIfEveryLevelIsVisibleAndEnabled)
 {
     wnd("PANEL")->setVisible(0);
     EXPECT_FALSE(wnd("LEAF")->isEnabled());
@@ -86,16 +86,17 @@ TEST_F(GeometryTest, EnablementNeedsEveryLevelVisibleAndEnabled)
 
 TEST_F(GeometryTest, Centring)
 {
-    AWnd* leaf = wnd("LEAF"); // 20 x 20 in TOP, whose corner is 150, 150 and size 100 x 100
+    AWnd* leaf = wnd("LEAF"); // 20 x 20, in TOP, which is 100 x 100 at 150, 150
     const struct {
         const char* name;
         int width, horizontal, vertical, inParent;
         int x, y;
     } rows[] = {
-        {"on the screen, wherever the parent stands", 20, 1, 1, 0, 160, 80},
-        {"one axis leaves the other alone", 20, 1, 0, 0, 160, 10},
+        {"on the screen, wherever the parent is", 20, 1, 1, 0, 160, 80},
+        {"one axis does not change the other", 20, 1, 0, 0, 160, 10},
         {"in the parent", 20, 1, 1, 1, 40, 40},
-        {"wider than the parent goes negative, truncated towards zero", 121, 1, 0, 1, -10, 10},
+        {"a window wider than the parent gets a negative position, truncated towards zero", 121, 1, 0, 1, -10,
+         10},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -106,20 +107,20 @@ TEST_F(GeometryTest, Centring)
     }
     screen("S")->setWndPos(3, 4, -1, -1);
     screen("S")->setWndPosCentred(1, 1, 1);
-    EXPECT_EQ(screen("S")->wndX(), 3) << "a screen stays";
+    EXPECT_EQ(screen("S")->wndX(), 3) << "a screen does not move";
 }
 
-// start, end, increment (raw) on x; then the offsets, frame by frame.
-TEST_F(GeometryTest, AMovementWalksWhileItIsDrawn)
+// A row has start, end and increment (raw) on x, then the offsets, frame by frame.
+TEST_F(GeometryTest, AMovementAdvancesWhileItIsDrawn)
 {
     const struct {
         const char* name;
         int from, to, increment, step, whenDone;
-        std::vector<int> offsets; // of the frames behind the start
+        std::vector<int> offsets; // of the frames after the start
         bool recordStays;
     } rows[] = {
-        {"whole steps, and the record goes", -30, 0, 40960, 1, 1, {-20, -10, 0}, false},
-        {"a large step lands on the end", -50, 0, 40960, 3, 1, {-20, 0}, false},
+        {"whole steps, and the record is deleted", -30, 0, 40960, 1, 1, {-20, -10, 0}, false},
+        {"a large step stops at the end", -50, 0, 40960, 3, 1, {-20, 0}, false},
         {"half a pixel moves nothing", -30, 0, 2048, 1, 1, {-30, -30}, true},
         {"a wrong direction jumps to the end", 10, 0, 40960, 1, 1, {0}, false},
         {"without deletion it stays at the end", 0, 25, 40960, 1, 0, {10, 20, 25, 25}, true},
@@ -134,13 +135,13 @@ TEST_F(GeometryTest, AMovementWalksWhileItIsDrawn)
         }
         EXPECT_EQ(panel->hasWndAnimData(), row.recordStays);
         panel->startup();
-        EXPECT_EQ(panel->left(), 100) << "startup puts it to rest";
+        EXPECT_EQ(panel->left(), 100) << "startup resets the movement";
         win().getScreenList()->draw(1);
         EXPECT_FALSE(panel->hasWndAnimData());
     }
 }
 
-TEST_F(GeometryTest, AFinishedMovementThatStaysChangesNoLayout)
+TEST_F(GeometryTest, AFinishedMovementThatIsKeptDoesNotChangeTheLayout)
 {
     APhysicalAnim movement;
     movement.setMoveAnimation(0, 0, 8, 0, ZnFixed::fromInt(5), ZnFixed(), 0);
@@ -158,7 +159,7 @@ TEST_F(GeometryTest, GrowAndShrinkSlideByHalfTheSize)
     win().getScreenList()->draw(1);
     EXPECT_EQ(under->left(), 125);
     win().getScreenList()->draw(2);
-    EXPECT_EQ(under->left(), 110) << "at the end the record goes, and the window is at rest";
+    EXPECT_EQ(under->left(), 110) << "at the end the record is deleted, and the window is at rest";
     under->setGrowAnimation(ZnFixed::fromInt(15));
     EXPECT_EQ(under->left(), 150);
     win().getScreenList()->draw(1);
@@ -167,7 +168,7 @@ TEST_F(GeometryTest, GrowAndShrinkSlideByHalfTheSize)
     EXPECT_EQ(under->left(), 110);
 }
 
-TEST_F(GeometryTest, AHiddenHolderStopsWhatMovesBelow)
+TEST_F(GeometryTest, AHiddenParentStopsMovementsOfItsChildren)
 {
     wnd("LEAF")->setMoveAnimation(-30, 0, 0, 0, ZnFixed::fromInt(10), {}, 1);
     wnd("TOP")->setVisible(0);

@@ -2,7 +2,7 @@
 
 namespace {
 
-/// Texts in a font of 10 pixels a character, lines of 16, characters 12 high.
+/// Texts in a font with characters 10 pixels wide and 12 high, and lines 16 high.
 class TextTest : public TgxTest {
 protected:
     void SetUp() override
@@ -34,10 +34,11 @@ TEST_F(TextTest, OneLineIsCutToTheBoxAndJustified)
         {"cut on the right", 35, 12, AWnd::TJ_LEFT, 1, 0, 0, "abc", 100, 50},
         {"the cut text is centred", 35, 12, AWnd::TJ_CENTRE, 1, 0, 0, "abc", 102, 50},
         {"the cut text ends at the right edge", 35, 12, AWnd::TJ_RIGHT, 1, 0, 0, "abc", 105, 50},
-        {"centred in the height", 100, 40, AWnd::TJ_LEFT, 1, 0, 0, "abcdef", 100, 64},
-        {"at the top of it", 100, 40, AWnd::TJ_LEFT, 0, 0, 0, "abcdef", 100, 50},
+        {"centred vertically", 100, 40, AWnd::TJ_LEFT, 1, 0, 0, "abcdef", 100, 64},
+        {"at the top", 100, 40, AWnd::TJ_LEFT, 0, 0, 0, "abcdef", 100, 50},
         {"an offset narrows the box", 50, 12, AWnd::TJ_LEFT, 1, 10, 6, "abcd", 110, 53},
-        {"to the right it ends that far from the edge", 50, 12, AWnd::TJ_RIGHT, 1, 10, 0, "abcd", 100, 50},
+        {"justified to the right, the offset is the distance from the edge", 50, 12, AWnd::TJ_RIGHT, 1, 10, 0,
+         "abcd", 100, 50},
         {"no width, no text", 0, 12, AWnd::TJ_LEFT, 1, 0, 0, "", 100, 50},
     };
     for (const auto& row : rows) {
@@ -50,7 +51,7 @@ TEST_F(TextTest, OneLineIsCutToTheBoxAndJustified)
     }
 }
 
-TEST_F(TextTest, ARawTextIsHandedOverWhole)
+TEST_F(TextTest, ARawTextIsDrawnUncut)
 {
     show("far wider than the box", 20, 12);
     t()->setTextRaw(1);
@@ -63,15 +64,15 @@ TEST_F(TextTest, WrappedLines)
         const char* name;
         const char* text;
         int width, height;
-        std::vector<std::pair<const char*, int>> lines; // and their tops, from the box's
+        std::vector<std::pair<const char*, int>> lines; // and their tops, relative to the box
     } rows[] = {
         {"at blanks", "aaa bbb cccc", 55, 100, {{"aaa", 0}, {"bbb", 16}, {"cccc", 32}}},
-        {"past 20 characters the lines spread",
+        {"lines of more than 20 characters are spread",
          "aaa bbb ccc ddd eee fff ggg",
          55,
          100,
          {{"aaa", 0}, {"bbb", 25}, {"ccc", 51}, {"ddd", 76}, {"eee", 102}, {"fff ggg", 127}}},
-        {"the last character ends the text, over the box",
+        {"the last character ends the text, beyond the box",
          "aaa bbb ccc",
          55,
          100,
@@ -83,13 +84,13 @@ TEST_F(TextTest, WrappedLines)
          35,
          100,
          {{"aaa", 0}, {"bbb", 16}, {"ccc", 32}}},
-        {"a word too long is cut, and a character lost",
+        {"a word that is too long is cut, and a character is dropped",
          "aaa bbbbbbbbbbbb ccc",
          55,
          100,
          {{"aaa", 0}, {"bbbbb", 16}, {"bbbbbb", 32}, {"ccc", 48}}},
         {"on the first line too", "aaaaaaaaaaaa bbb", 55, 100, {{"aaaaa", 0}, {"aaaaaa", 16}, {"bbb", 32}}},
-        {"of two blanks the second opens the next line", "aa  bb cc", 45, 100, {{"aa", 0}, {" bb cc", 16}}},
+        {"the second of two blanks begins the next line", "aa  bb cc", 45, 100, {{"aa", 0}, {" bb cc", 16}}},
         {"one line fits", "aaa bbb cccc", 55, 31, {{"aaa", 0}}},
         {"two lines fit", "aaa bbb cccc", 55, 32, {{"aaa", 0}, {"bbb", 16}}},
         {"a box without a width still ends",
@@ -117,7 +118,7 @@ TEST_F(TextTest, WrappedLines)
     }
 }
 
-TEST_F(TextTest, AMegabyteIsOnePass)
+TEST_F(TextTest, AMegabyteOfTextIsWrappedInOnePass)
 {
     // Quadratic work here would take minutes; the drawing itself is tested by the result.
     const std::string words(1 << 20, 'x');
@@ -127,7 +128,7 @@ TEST_F(TextTest, AMegabyteIsOnePass)
     EXPECT_EQ(drawn("T"), (Trace{wrapped("xxxxxxxxxx", 0)}));
 }
 
-TEST_F(TextTest, NumbersGoThroughTheTextForm)
+TEST_F(TextTest, NumbersAreSetThroughTheTextForm)
 {
     struct Shouting : AWnd {
         using AWnd::AWnd;

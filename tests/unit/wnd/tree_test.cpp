@@ -34,7 +34,7 @@ protected:
         expectMessage("cannot load none.ttf");
         start(twoScreens);
     }
-    /// Deletes it as a game would that owns the window's fate.
+    /// Deletes the window directly, as a game may do.
     void destroy(const std::string& id)
     {
         delete wnd(id);
@@ -42,18 +42,18 @@ protected:
     }
 };
 
-TEST_F(TreeTest, LookingUp)
+TEST_F(TreeTest, LookUpById)
 {
     AWnd* a = wnd("A");
     EXPECT_EQ(a->getWnd("OKBUTTON", 0), wnd("OkButton")) << "ignoring case";
     EXPECT_EQ(a->getWnd("DEEP", 0), nullptr) << "direct children only";
     EXPECT_NE(a->getWnd("twice", 1), a->getWnd("twice", 0))
-        << "depth first: the deep one in an earlier child comes first";
+        << "depth first: a deeper window in an earlier child comes first";
     EXPECT_EQ(a->getWnd("", 1)->getID(), "") << "an empty id finds the first nameless window";
     EXPECT_FALSE(a->hasChildCalled("OKBUTTON"));
     EXPECT_TRUE(a->hasChildCalled("TWICE"));
     EXPECT_FALSE(a->hasChildCalled("static"));
-    EXPECT_TRUE(wnd("TWICE")->hasParentCalled("ScreenList")) << "up to the top, that one included";
+    EXPECT_TRUE(wnd("TWICE")->hasParentCalled("ScreenList")) << "up to and including the root";
     EXPECT_FALSE(wnd("TWICE")->hasParentCalled("TWICE"));
     EXPECT_EQ(a->getWndFromIndex(2, "")->getID(), "twice");
     EXPECT_EQ(a->getWndFromIndex(6, ""), nullptr);
@@ -61,7 +61,7 @@ TEST_F(TreeTest, LookingUp)
     EXPECT_THROW(a->getWndFromIndex(-1, ""), CInvalidArgException);
 }
 
-TEST_F(TreeTest, OfType)
+TEST_F(TreeTest, LookUpByType)
 {
     AWnd holder(AWnd::WND_PLAIN, "H", 0, 0, 1, 1);
     for (AWnd::E_WNDTYPE type : {AWnd::WND_PLAIN, AWnd::WND_BUTTON, AWnd::WND_PLAIN, AWnd::WND_PLAIN})
@@ -73,14 +73,14 @@ TEST_F(TreeTest, OfType)
     EXPECT_FALSE(holder.getWndFromIndex(2, "")->isVisible(0));
 }
 
-TEST_F(TreeTest, FontsComeFromTheHolderOfTheMoment)
+TEST_F(TreeTest, AChildTakesTheFontItsParentHasWhenItIsAdded)
 {
     bmpfont* own = win().getFont(1);
     AWnd* holder = wnd("A")->addChildWindow(new AWnd(AWnd::WND_PLAIN, "H", 0, 0, 1, 1));
     EXPECT_EQ(holder->getFont(), win().getFont(0));
     AWnd* before = holder->addChildWindow(new AWnd(AWnd::WND_PLAIN, "X", 0, 0, 1, 1));
     holder->setFont(own);
-    EXPECT_EQ(before->getFont(), win().getFont(0)) << "nothing spreads afterwards";
+    EXPECT_EQ(before->getFont(), win().getFont(0)) << "a later change does not reach the children";
     EXPECT_EQ(holder->addChildWindow(new AWnd(AWnd::WND_PLAIN, "Y", 0, 0, 1, 1))->getFont(), own);
 }
 
@@ -90,17 +90,17 @@ TEST_F(TreeTest, AWindowInTwoPlacesOutlivesTheScreenThatShowsIt)
     EXPECT_EQ(deep->getParent(), wnd("B"));
     EXPECT_TRUE(deep->isPointer());
     destroy("B");
-    EXPECT_EQ(win().getWnd("DEEP", 1), deep) << "its first holder still lists it";
+    EXPECT_EQ(win().getWnd("DEEP", 1), deep) << "its first parent still lists it";
     EXPECT_EQ(deep->getParent(), nullptr);
     destroy("DEEP");
     EXPECT_EQ(win().getWnd("DEEP", 1), nullptr);
     play("frame 3");
 }
 
-TEST_F(TreeTest, AWindowInTwoPlacesOutlivesItsFirstHolderToo)
+TEST_F(TreeTest, AWindowInTwoPlacesOutlivesItsFirstParentToo)
 {
     destroy("A");
-    EXPECT_NE(win().getWnd("DEEP", 1), nullptr) << "B shows it still, and the root owns it";
+    EXPECT_NE(win().getWnd("DEEP", 1), nullptr) << "B still shows it, and the root owns it";
 }
 
 TEST_F(TreeTest, TabStops)
@@ -119,9 +119,9 @@ TEST_F(TreeTest, TabStops)
         {"backwards, wrapping", "P", 1, "", "", "R"},
         {"past a disabled stop", "P", 0, "Q", "", "R"},
         {"past a hidden stop, back to itself", "P", 0, "Q", "R", "P"},
-        {"from nowhere the first usable one, whatever the direction", "", 1, "P", "", "Q"},
-        {"from a window that is no stop", "OkButton", 0, "", "", "P"},
-        {"none under a hidden holder", "P", 0, "", "A", nullptr},
+        {"from null the first usable one, whatever the direction", "", 1, "P", "", "Q"},
+        {"from a window that is not a stop", "OkButton", 0, "", "", "P"},
+        {"none below a hidden parent", "P", 0, "", "A", nullptr},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -138,12 +138,12 @@ TEST_F(TreeTest, TabStops)
             wnd(row.hidden)->setVisible(1);
     }
     EXPECT_EQ(wnd("B")->getNextTabStop(nullptr, 0, nullptr), nullptr);
-    EXPECT_EQ(wnd("B")->getTabStopInfo(0), nullptr) << "asking makes no record";
+    EXPECT_EQ(wnd("B")->getTabStopInfo(0), nullptr) << "a query creates no record";
     destroy("Q");
-    EXPECT_EQ(a->getNextTabStop(wnd("P"), 0, nullptr), wnd("R")) << "a deleted stop has dropped out";
+    EXPECT_EQ(a->getNextTabStop(wnd("P"), 0, nullptr), wnd("R")) << "a deleted stop has been removed";
 }
 
-TEST_F(TreeTest, AReleasedChildIsTheCallers)
+TEST_F(TreeTest, AReleasedChildBelongsToTheCaller)
 {
     EXPECT_EQ(wnd("B")->releaseChildWindow(wnd("P")), nullptr) << "not a child of B";
     std::unique_ptr<AWnd> released(wnd("A")->releaseChildWindow(wnd("P")));
@@ -156,12 +156,12 @@ TEST_F(TreeTest, AReleasedChildIsTheCallers)
     EXPECT_EQ(wnd("P")->getParent(), wnd("B"));
 
     AWnd* deep = wnd("B")->releaseChildWindow(wnd("DEEP"));
-    EXPECT_EQ(win().getWnd("DEEP", 1), deep) << "its first holder lists it still";
+    EXPECT_EQ(win().getWnd("DEEP", 1), deep) << "its first parent lists it still";
     destroy("DEEP");
     play("frame 3");
 }
 
-TEST_F(TreeTest, NoWindowComesToBeInsideItself)
+TEST_F(TreeTest, NoWindowCanBePutInsideItself)
 {
     const struct {
         const char* name;
@@ -170,7 +170,7 @@ TEST_F(TreeTest, NoWindowComesToBeInsideItself)
     } rows[] = {
         {"itself", "P", "P"},
         {"its parent", "TWICE", "A"},
-        {"the other holder of a window shown in two places", "DEEP", "A"},
+        {"the other parent of a window shown in two places", "DEEP", "A"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -182,7 +182,7 @@ TEST_F(TreeTest, NoWindowComesToBeInsideItself)
     wnd("A")->setParentAndIndex(wnd("P"), 7);
     EXPECT_EQ(wnd("A")->getParent(), win().getScreenList());
     wnd("DEEP")->setParentAndIndex(wnd("DEEP"), 5);
-    EXPECT_EQ(wnd("DEEP")->getParent(), nullptr) << "its own parent: it counts as one without";
+    EXPECT_EQ(wnd("DEEP")->getParent(), nullptr) << "a window that is its own parent has no parent";
     EXPECT_EQ(wnd("DEEP")->getWindowIndex(), 5);
     EXPECT_EQ(wnd("P")->addChildWindow(nullptr), nullptr);
     EXPECT_EQ(checkInvariants(win()), "");
@@ -190,7 +190,7 @@ TEST_F(TreeTest, NoWindowComesToBeInsideItself)
     EXPECT_EQ(wnd("Q")->addChildWindow(wnd("R")), wnd("R")) << "a sibling may move below another";
 }
 
-TEST_F(TreeTest, APopupThatLosesItsParentOrDiesLeavesNoPointer)
+TEST_F(TreeTest, ADeletedPopupOrParentLeavesNoPointer)
 {
     AWnd* popup = wnd("B");
     win().setPopupWnd(popup, wnd("P"), 1);
@@ -205,7 +205,7 @@ TEST_F(TreeTest, APopupThatLosesItsParentOrDiesLeavesNoPointer)
     play("move 5 5", "frame 3");
 }
 
-// B's handlers delete a window of the walk that calls them; what else is there hears of it all the same.
+// B's handlers delete a window of the walk that calls them; the walk must still reach all the others.
 TEST_F(TreeTest, AWalkVisitsEveryChildWhateverIsDeleted)
 {
     struct Visited : AWnd {
@@ -257,16 +257,16 @@ TEST_F(TreeTest, AWalkVisitsEveryChildWhateverIsDeleted)
                 holder->addChildWindow(new Visited(id, visits));
             static_cast<Visited*>(wnd("B1"))->victim = wnd(row.victim);
             walk.walk(*holder);
-            // A typed key goes on to the window's own action, and from there to the children again.
+            // A typed key is passed to the window's own action, and from there to the children again.
             EXPECT_EQ(visits.substr(0, std::string(row.visits).size()), row.visits);
             delete holder.get();
         }
     }
 }
 
-// Every window of both screens, at each step of a sequence that has focus, press, capture, popup, pending
-// list and change.
-TEST_F(TreeTest, AnyWindowMayDieAtAnyMoment)
+// Deletes every window of both screens at each step of a sequence with focus, press, capture, popup, pending
+// deletions and a change of screen.
+TEST_F(TreeTest, AnyWindowMayBeDeletedAtAnyTime)
 {
     const std::vector<std::string> sequence = {
         "frame 6",
@@ -292,7 +292,7 @@ TEST_F(TreeTest, AnyWindowMayDieAtAnyMoment)
     const std::vector<std::string> ids = {"OkButton", "DEEP", "TWICE", "P", "Q", "R", "TGX_BACK", "A", "B"};
     for (const std::string& victim : ids) {
         for (std::size_t at = 0; at < sequence.size(); ++at) {
-            SCOPED_TRACE(victim + " dies before " + sequence[at]);
+            SCOPED_TRACE(victim + " is deleted before " + sequence[at]);
             expectMessage("cannot load none.ttf");
             start();
             for (std::size_t i = 0; i < sequence.size(); ++i) {
@@ -300,7 +300,7 @@ TEST_F(TreeTest, AnyWindowMayDieAtAnyMoment)
                     if (AWnd* wnd = win().getWnd(CString(victim), 1))
                         delete wnd;
                 ASSERT_EQ(checkInvariants(win()), "");
-                // A call about a window that is gone is refused; everything else must go on.
+                // A call that names a deleted window is refused; everything else must still work.
                 if (sequence[i].starts_with("call"))
                     playWrong(sequence[i]);
                 else

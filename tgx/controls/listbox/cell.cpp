@@ -4,8 +4,8 @@
 
 namespace {
 
-/// The number behind the mark at that place; it ends at the first character that is no digit.
-int numberBehind(std::string_view mark, std::string_view stored, std::size_t place)
+/// Returns the number after the mark at place; it ends at the first character that is not a digit.
+int numberAfter(std::string_view mark, std::string_view stored, std::size_t place)
 {
     return static_cast<int>(std::strtol(stored.data() + place + mark.size(), nullptr, 10));
 }
@@ -23,12 +23,12 @@ ListCell ListCell::decode(std::string_view stored)
 
     if (const std::size_t frame = stored.find(frameMark); frame != nowhere) {
         cell.picture = Frame;
-        cell.number = numberBehind(frameMark, stored, frame);
+        cell.number = numberAfter(frameMark, stored, frame);
     } else if (const std::size_t progress = stored.find(progressMark); progress != nowhere) {
         cell.picture = Progress;
-        cell.number = numberBehind(progressMark, stored, progress);
+        cell.number = numberAfter(progressMark, stored, progress);
     }
-    cell.icon = numberBehind(iconMark, stored, mark);
+    cell.icon = numberAfter(iconMark, stored, mark);
     return cell;
 }
 

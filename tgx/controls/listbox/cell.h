@@ -5,20 +5,20 @@
 #include <string>
 #include <string_view>
 
-/// What the string of a list cell says. Icons stand in it as marks behind the text.
+/// The contents of a list cell, decoded from its string. An icon is a mark after the text.
 struct ListCell {
     enum Picture {
         None,
         Frame,    // a frame of the icon; frame -1: the whole icon
-        Progress, // a part of the icon, number percent of it; -1: frame 0
+        Progress, // number percent of the icon; -1: frame 0
     };
 
-    std::string_view text; // what is printed
+    std::string_view text; // text that is drawn
     Picture picture = None;
-    int icon = 0; // place in the list's icon table
-    int number = 0;
+    int icon = 0;   // index in the list's icon table
+    int number = 0; // frame or percentage
 
-    /// stored ends in a 0, as that of a CString does. The parts point into it.
+    /// Decodes stored, which must end in a 0 as a CString does. The result's text points into it.
     static TGX_API ListCell decode(std::string_view stored);
 
     static std::string withFrame(int icon, int frame);

@@ -12,13 +12,13 @@
 
 namespace {
 
-// As getcol takes them.
+// Colours in the format of getcol.
 constexpr unsigned long selectedColour = 0x800000;
 constexpr unsigned long hotColour = 0x808080;
 constexpr unsigned long dividerColour = 0x363636;
 
-/// Of the title row without a bitmap: the later ones lie over the ones before, from its top down to height;
-/// 0 is the whole row.
+/// Colours of a title row without a bitmap. Each band is drawn over the previous one, from the row's top down
+/// to height; 0 is the whole row.
 constexpr struct {
     int height;
     unsigned long colour;
@@ -28,7 +28,7 @@ constexpr ZnFixed full = ZnFixed::fromInt(100);
 constexpr ZnFixed atFullSize = ZnFixed::fromInt(1);
 constexpr int wholeIconHeight = 3276; // raw fixed point, 0.8 of the row
 
-int revealTick = 0; // frames since rows last came, of all lists together
+int revealTick = 0; // frames since rows last appeared, shared by all lists
 
 void fill(int x1, int y1, int x2, int y2, unsigned long colour)
 {
@@ -38,13 +38,13 @@ void fill(int x1, int y1, int x2, int y2, unsigned long colour)
 
 } // namespace
 
-/// What stays the same over the rows of one drawing.
+/// Values shared by the rows of one drawing, in pixels.
 struct AListBox::Page {
     int top;    // of the first row or the title row
     int left;   // of the first column
-    int bottom; // a row begins above it
+    int bottom; // rows begin above it
     bool titled;
-    int slide; // pixels that the contents of rows are off
+    int slide; // vertical offset of the rows' contents
 };
 
 void AListBox::draw(int frameStep)
@@ -78,12 +78,12 @@ void AListBox::draw(int frameStep)
     for (; y < page.bottom && item < revealedItems; ++item, y += step)
         drawRow(page, item, y);
 
-    // The bar stands above the rows; its second drawing moves nothing on.
+    // The bar is drawn again above the rows, without advancing anything.
     if (scrollBar && scrollBar->isVisible(1) && isEnabled())
         scrollBar->draw(0);
 }
 
-/// Row by row, in every third frame, or all at once.
+/// Reveals rows one by one, in every third frame, or all at once.
 void AListBox::reveal(int frameStep)
 {
     constexpr int framesBetween = 2;
@@ -112,7 +112,7 @@ void AListBox::drawDividers()
     }
 }
 
-// The band runs on over the scroll bar's column.
+// The background extends over the scroll bar's column.
 void AListBox::drawTitleBackground(int y)
 {
     if (titleSurface) {
@@ -171,7 +171,7 @@ void AListBox::drawRowHighlights(int item, int y)
     }
 }
 
-// Without a bitmap the selected cell ends in front of the gaps, the hot one takes them in.
+// Without a bitmap the selected highlight excludes the gaps beside the cell and the hot one includes them.
 void AListBox::drawCellHighlights(int item, int column, int x, int y)
 {
     const int cellWidth = columnWidths[column];
@@ -192,7 +192,7 @@ void AListBox::drawCellHighlights(int item, int column, int x, int y)
     }
 }
 
-/// The last of the rules that match counts.
+/// Returns the font of a row. If several font rows match, the last applies.
 bmpfont* AListBox::fontOfRow(int item) const
 {
     if (item == titleRow)
@@ -209,7 +209,7 @@ void AListBox::drawCell(const Page& page, int item, int column, int x, int y, bm
 {
     static const CString noText;
     static const CString dash("-");
-    static CString shortened; // kept, so that a frame allocates nothing
+    static CString shortened; // static, so that a frame allocates nothing
 
     const bool isTitle = item == titleRow;
     if (cellHighlight && !isTitle)
@@ -242,7 +242,8 @@ void AListBox::drawCell(const Page& page, int item, int column, int x, int y, bm
     textOut(x, textY, std::abs(room), rowStep(), *shown, columnJustify[column], 0, atFullSize, 0, nullptr);
 }
 
-/// Pixels for a title of that length: it may run on over columns to its right that have none.
+/// Returns the pixels available to a title of that length, which may extend over columns to its right without
+/// a title.
 int AListBox::titleRoom(int column, int length) const
 {
     int room = columnWidths[column];
@@ -257,7 +258,7 @@ int AListBox::titleRoom(int column, int length) const
 void AListBox::drawIcon(const ListCell& cell, int column, int x, int y)
 {
     surface* icon = icons[cell.icon];
-    if (!icon) // released, or its file was missing
+    if (!icon) // released, or its file is missing
         return;
     if (cell.picture == ListCell::Frame && cell.number == -1)
         icon->blit(x, y, 0, 0, columnWidths[column], rowStep() * wholeIconHeight / ZnFixed::one, icon->width,
@@ -268,8 +269,8 @@ void AListBox::drawIcon(const ListCell& cell, int column, int x, int y)
         drawProgress(*icon, column, cell.number, x, y);
 }
 
-/// The bitmap holds two panels of the column's width, 1 pixel between them: done and not done. In a column
-/// justified to the right the bar grows from there.
+/// Draws a progress bar from a bitmap that contains two panels of the column's width, done and not done, with
+/// a gap of 1 pixel. In a column justified to the right the bar grows from the right.
 void AListBox::drawProgress(surface& icon, int column, int percent, int x, int y)
 {
     const int panel = columnWidths[column];
@@ -285,8 +286,8 @@ void AListBox::drawProgress(surface& icon, int column, int percent, int x, int y
         icon.blit(x + split, y, rightPanel * (panel + 1) + split, 0, panel - split, h, -1, -1, nullptr, -1);
 }
 
-/// The bitmap is a grid of frames, read like a page. A frame above 0 of one that is too narrow for any draws
-/// nothing.
+/// Draws a frame of a bitmap that is a grid of frames, counted from left to right and top to bottom. If the
+/// bitmap is narrower than one frame, only frame 0 is drawn.
 void AListBox::drawFrame(surface& icon, int column, int frame, int x, int y)
 {
     const int panel = columnWidths[column];
@@ -301,7 +302,7 @@ void AListBox::drawFrame(surface& icon, int column, int frame, int x, int y)
         const long long along = static_cast<long long>(gridX) * frame;
         const long long down = along / rowWidth * gridY;
         sourceX = static_cast<int>(along % rowWidth);
-        sourceY = static_cast<int>(std::min<long long>(down, SHRT_MAX)); // no bitmap reaches down there
+        sourceY = static_cast<int>(std::min<long long>(down, SHRT_MAX)); // no bitmap is that high
     }
     const int h = std::min<int>(rowStep(), icon.height);
     icon.blit(x, y + (rowStep() - h) / 2, sourceX, sourceY, std::min<int>(icon.width, panel), h, -1, -1,

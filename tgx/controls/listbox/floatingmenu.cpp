@@ -4,8 +4,8 @@
 
 namespace {
 
-// As getcol takes them.
-constexpr unsigned long groundColour = 0x808080; // and of the edges towards the light
+// Colours in the format of getcol.
+constexpr unsigned long groundColour = 0x808080; // also of the top and left edges
 constexpr unsigned long shadowColour = 0x202020;
 
 } // namespace
@@ -18,7 +18,7 @@ AFloatingMenu::AFloatingMenu(const CString& name, int x, int y, int width, int h
 
 int AFloatingMenu::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action)
 {
-    const WndRef self = this; // what the children do may delete the menu
+    const WndRef self = this; // a child's handler may delete the menu
     AListBox::handleMouseAction(about, wnd, x, y, action);
     if (self)
         selectedItem = hotItem;

@@ -2,7 +2,8 @@
 
 #include "tgx/controls/listbox/listbox.h"
 
-/// The menu of an AComboBox: a list box on a plain ground whose selection follows the pointer and the keys.
+/// The menu of an AComboBox: a list box with a plain background whose selection follows the pointer and the
+/// keys.
 class TGX_API AFloatingMenu : public AListBox {
 public:
     AFloatingMenu(const CString& id, int x, int y, int width, int height);

@@ -10,18 +10,18 @@ int AListBox::handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E
     const ActionRefs handling(this, wnd);
     AWnd::handleMouseAction(about, wnd, x, y, action);
 
-    if (!handling.mayGoOn() || !isVisible(1) || (scrollBar && scrollBar->pointInside(x, y)))
+    if (!handling.canContinue() || !isVisible(1) || (scrollBar && scrollBar->pointInside(x, y)))
         return 0;
-    // Keys go to all windows: only the list that is meant takes them.
+    // Keys are sent to all windows; only the list that is named handles them.
     if (wnd && wnd->getID() != id)
         return 0;
     switch (action) {
     case MA_LBUTTONDOWN:
     case MA_RBUTTONDOWN:
-        takeHotFromPointer(x, y);
+        setHotFromPointer(x, y);
         select();
         break;
-    case MA_LBUTTONUP: // also the key Return, which selects what the arrows have made hot
+    case MA_LBUTTONUP: // also the key Return, which selects the hot row or cell
         select();
         break;
     case MA_LBUTTONDBLCLK:
@@ -62,7 +62,7 @@ int AListBox::handleLostFocus()
     return 1;
 }
 
-void AListBox::takeHotFromPointer(int x, int y)
+void AListBox::setHotFromPointer(int x, int y)
 {
     hotItem = to16(getItemAtPos(getWndY(y)));
     hotColumn = to16(getColumnAtPos(x));
@@ -88,13 +88,13 @@ void AListBox::followWheel(int direction)
     scrollTo(getScrollBar()->getPercentageAfter(direction));
 }
 
-/// A hot row that keys have set stays until the pointer really moves.
+/// Updates the hot position if the pointer has moved; one set by keys stays until then.
 void AListBox::followPointer(int x, int y)
 {
     const tgx::Stage* stage = tgx::stage();
     if (stage->mouseX == stage->prevMouseX && stage->mouseY == stage->prevMouseY)
         return;
-    holdPointer();
+    clearPointerMove();
 
     if (!isEnabled() || x < getItemsStartPosX(1) || x > getItemsEndPosX(1) || y < getItemsStartPosY(1) ||
         y > getItemsEndPosY() + rowStep()) {
@@ -102,7 +102,7 @@ void AListBox::followPointer(int x, int y)
         hotColumn = 0;
         return;
     }
-    takeHotFromPointer(x, y);
+    setHotFromPointer(x, y);
     if (isNonSelectable(hotItem, hotColumn)) {
         hotItem = -1;
         hotColumn = 0;
@@ -115,8 +115,8 @@ void AListBox::followPointer(int x, int y)
     savedHotItem = savedHotColumn = -1;
 }
 
-/// The next idle tick sees no movement.
-void AListBox::holdPointer()
+/// Makes the next idle tick see no movement of the pointer.
+void AListBox::clearPointerMove()
 {
     tgx::Stage* stage = tgx::stage();
     stage->prevMouseX = stage->mouseX;
@@ -132,18 +132,18 @@ void AListBox::followKey(int key)
         if (column < 0 || column >= getColumnCount())
             return;
         hotColumn = to16(column);
-        holdPointer();
+        clearPointerMove();
         break;
     }
     case VK_UP:
     case VK_DOWN: {
-        holdPointer();
+        clearPointerMove();
         const int item = nextSelectableItem(key == VK_UP ? -1 : 1);
         if (item < 0 || item >= getItemCount())
             return;
         const int distance = std::abs(item - hotItem);
         hotItem = to16(item);
-        // The hot row scrolls the list as it reaches the first or last row of the page.
+        // The list scrolls when the hot row reaches the first or last row of the page.
         if (item <= firstVisibleItem)
             for (int i = 0; i < distance; ++i)
                 scrollStep(-1);
@@ -163,8 +163,8 @@ void AListBox::scrollStep(int direction)
         scrollTo(getScrollBar()->getPercentageAfter(direction));
 }
 
-/// From place one by one in direction, to the first that is selectable; from an end, with wrap, round to the
-/// other one. Outside the count when there is none.
+/// Returns the next selectable place after place in direction; with wrap the search from an end continues at
+/// the other one. Returns a value outside 0 to count - 1 if there is none.
 template<class Selectable>
 static int nextSelectable(int place, int count, int direction, bool wrap, Selectable isSelectable)
 {

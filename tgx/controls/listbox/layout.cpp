@@ -1,4 +1,4 @@
-// Where rows and columns lie.
+// Positions of rows and columns.
 
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/controls/scrollbar.h"

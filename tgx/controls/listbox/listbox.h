@@ -7,16 +7,16 @@
 class AScrollBar;
 struct ListCell;
 
-/// A table: rows of cells in up to 20 columns, under titles if there are any, with a selected row and column,
-/// a hot one under the pointer or the arrow keys, icons, progress cells and a scroll bar that comes when the
-/// rows no longer fit. Columns are added before rows.
+/// A table: rows of cells in up to 20 columns, with optional titles, a selected row and column, a hot row and
+/// column that follow the pointer or the arrow keys, icons, progress cells, and a scroll bar that appears
+/// when the rows no longer fit. Columns must be added before rows.
 ///
-/// A cell is a string. An icon stands in it as a mark behind the text: "##ICON##" index "##FRAME##" frame, or
-/// "##ICON##" index "##PROGRESS##" percent. Any text that holds such a mark is an icon cell.
+/// A cell is a string. An icon is a mark after the text: "##ICON##" index "##FRAME##" frame, or "##ICON##"
+/// index "##PROGRESS##" percent. Any text that contains such a mark makes an icon cell.
 ///
-/// The list calls nothing in the game: a click reaches the screen under the list's id, which then asks for
-/// getSelectedItem(). Rows and columns are counted from 0, -1 is none. A row or column that does not exist
-/// raises the invalid-argument exception where an operation does not say otherwise.
+/// The list does not call the game: the screen receives a click with the list's id and reads
+/// getSelectedItem(). Rows and columns are counted from 0; -1 means none. A row or column that does not exist
+/// raises the invalid-argument exception unless an operation states otherwise.
 class TGX_API AListBox : public AWnd {
 public:
     static constexpr int maxColumns = 20;
@@ -25,98 +25,106 @@ public:
     ~AListBox() override;
 
     void draw(int frameStep) override;
-    /// Loads the bitmaps of highlights, title and icons that are not there yet, and begins the reveal anew.
+    /// Loads the bitmaps of highlights, title and icons that are not loaded yet, and restarts the reveal.
     void startup() override;
     void close() override;
-    /// Also starts the list up again.
+    /// Also calls startup().
     void returned() override;
-    /// 0.
+    /// Always returns 0.
     int handleMouseAction(const CString& id, AWnd* wnd, int x, int y, E_MOUSEACTION action) override;
     int handleKeyInput(char key) override;
-    /// Puts the hot position aside for the pointer's return. 1.
+    /// Saves the hot position for when the pointer comes back. Returns 1.
     int handleLostFocus() override;
 
     // Columns and titles (model.cpp).
 
-    /// A column behind the others; one beyond 20 is ignored. width in pixels, or as wide as text in the
-    /// window's font.
+    /// Appends a column; does nothing if there are already 20. Its width is given in pixels, or is that of
+    /// text in the window's font.
     void addColumn(int width, E_TEXTJUSTIFY justify);
     void addColumn(const CString& text, E_TEXTJUSTIFY justify);
     int getColumnCount() const { return columnWidths.GetSize(); }
     int getColumnWidth(int column) const { return columnWidths[column]; }
-    /// The first title gives the list its title row. 1.
+    /// Sets a column's title. The first title adds the title row. Returns 1.
     int setTitle(int column, const CString& text);
 
     // Rows and cells (model.cpp).
 
-    /// An empty row behind the others. Its index; -1 when there is no column.
+    /// Appends an empty row and returns its index, or -1 if there is no column.
     int addItem();
-    /// Selection and hot position stay at their numbers. 1.
+    /// Removes a row. The numbers of the selected and the hot row do not change. Returns 1.
     int removeItem(int item);
-    /// With all, what is told of single rows and columns goes too: fixed rows, row fonts, font columns. 1.
+    /// Removes all rows. all also clears the settings of single rows and columns: fixed rows, row fonts and
+    /// font columns. Returns 1.
     int removeAllItems(int all);
-    /// removeAllItems(1); columnsToo: columns and titles; scrollToo: back to the top. 1.
+    /// Calls removeAllItems(1). columnsToo also removes columns and titles; scrollToo scrolls to the top.
+    /// Returns 1.
     int reset(int columnsToo, int scrollToo);
     int getItemCount() const { return cells[0].GetSize(); }
-    /// As stored, marks included; "" outside the table.
+    /// Returns the cell's string including marks; "" outside the table.
     CString getItemText(int item, int column) const;
-    /// Text set on an icon cell goes in front of the icon. 1, or 0 for a column of 20 or more.
+    /// Stores a cell's text or number. In an icon cell the text is placed before the icon. Returns 1, or 0
+    /// for a column of 20 or more.
     int setItemData(int item, int column, const CString& text);
     int setItemData(int item, int column, int value);
     int setItemData(int item, int column, ZnFixed value);
-    /// An icon behind the cell's text; entered in the icon table if it is not there. frame: -1 the whole
-    /// bitmap, stretched; 0 or more one of a grid of frames that are 1 pixel larger than column and row. icon
-    /// is not owned.
+    /// Appends an icon to the cell's text and adds it to the icon table if it is not there. frame -1 is the
+    /// whole bitmap, stretched; 0 or more is one of a grid of frames that are spaced by the size of column
+    /// and row plus 1 pixel. icon is not owned.
     int setItemData(int item, int column, surface* icon, int frame);
+    /// Appends an icon of the icon table to the cell's text; frame as above.
     int setItemDataWithIconIndex(int item, int column, int icon, int frame);
-    /// The bitmap's left half covers percentage of the column, its right half the rest. -1: frame 0.
+    /// Appends a progress bar to the cell's text: the bitmap's left half covers percentage of the column, its
+    /// right half the rest. -1 shows frame 0.
     int setItemDataWithIconPercentage(int item, int column, int icon, int percentage);
-    /// Text broken at blanks into pieces that fit the column. The first goes to item, the others to rows
-    /// added at the end. 1.
+    /// Breaks text at blanks into pieces that fit the column. The first is stored in item, the others in rows
+    /// added at the end. Returns 1.
     int setItemDataWithWrap(int item, int column, const CString& text);
-    /// Index in the icon table; the same bitmap may stand there twice. Not owned.
+    /// Adds icon to the icon table, even if it is already there, and returns its index. Not owned.
     int addIcon(surface* icon);
-    /// Also asks whether the cell is blank, with blankCellsNonSelectable; outside the table all are.
+    /// Returns 1 if the row or the column is not selectable or, with blankCellsNonSelectable, if the cell is
+    /// blank; cells outside the table count as blank.
     int isNonSelectable(int item, int column) const;
 
-    // Selection and hot position (model.cpp). A setter ignores a row or column behind the last; -1 as one of
-    // a pair clears the other.
+    // Selection and hot position (model.cpp). A setter ignores a row or column after the last; setting one of
+    // a pair to -1 clears the other.
 
     int getSelectedItem() const { return selectedItem; }
     int getSelectedColumn() const { return selectedColumn; }
     int getHotItem() const { return hotItem; }
     int getHotColumn() const { return hotColumn; }
     void setSelectedItem(int item);
-    /// Clears the selection of wnd if that is a list box.
+    /// Clears the selection of wnd if it is a list box.
     static void deselect(AWnd& wnd);
     void setSelectedColumn(int column);
     void setHotItem(int item);
     void setHotColumn(int column);
-    /// Of the two lists only one has a selection: the one that gains it clears the other. Not owned.
+    /// Pairs two lists of which only one may have a selection: a selection in one clears that of the other.
+    /// Not owned.
     void setSingleSelectWith(AListBox* other);
 
-    // Looks. Flags count by their lowest bit.
+    // Looks. Flags are read from the lowest bit.
 
-    /// Pixels, of the title row too. 0 or less works as 1.
+    /// Returns the height of rows, including the title row, in pixels. 0 or less counts as 1.
     int getRowHeight() const { return rowHeight; }
     void setRowHeight(int height);
-    /// Pixels between columns, and in front of the first.
+    /// Returns the pixels between columns and before the first.
     int getColumnGap() const { return columnGap; }
     void setColumnGap(int gap);
-    /// Offset of what stands in the rows; a frame brings it nearer to 0 by a pixel.
+    /// Returns the vertical offset of the rows' contents in pixels; each frame moves it by one pixel towards
+    /// 0.
     ZnFixed getRowSlide() const { return rowSlide; }
     void setRowSlide(ZnFixed offset) { rowSlide = offset; }
     int getBlankCellsNonSelectable() const { return blankCellsNonSelectable; }
     void setBlankCellsNonSelectable(int set) { blankCellsNonSelectable = set & 1; }
     int getTitleShaded() const { return titleShaded; }
     void setTitleShaded(int set) { titleShaded = set & 1; }
-    /// Whether selected and hot are a cell instead of a row.
+    /// Returns 1 if a cell is highlighted as selected or hot, 0 if a row is.
     int getCellHighlight() const { return cellHighlight; }
     void setCellHighlight(int set) { cellHighlight = set & 1; }
-    /// Whether rows come one by one behind startup.
+    /// Returns 1 if rows appear one by one after startup.
     int getGradualReveal() const { return gradualReveal; }
     void setGradualReveal(int set) { gradualReveal = set & 1; }
-    /// Whether "0" and "0.0" show as "-".
+    /// Returns 1 if "0" and "0.0" are shown as "-".
     int getZeroAsDash() const { return zeroAsDash; }
     void setZeroAsDash(int set) { zeroAsDash = set & 1; }
     /// Files that the next startup loads.
@@ -126,16 +134,17 @@ public:
     void setHotRowBmpFile(const CString& file) { hotRowBmpFile = file; }
     const CString& getSelectedRowBmpFile() const { return selectedRowBmpFile; }
     void setSelectedRowBmpFile(const CString& file) { selectedRowBmpFile = file; }
-    /// An entry of the icon table that the next startup loads.
+    /// Adds the file of an icon, which the next startup loads into the icon table.
     void addIconFile(const CString& file) { iconFiles.Add(file); }
-    /// Not owned; null: the window's font. which: 1 to 3, others are null and set nothing.
+    /// Returns row font 1 to 3, or null for the window's font and for any other number. Not owned.
     bmpfont* getRowFont(int which) const;
+    /// Sets row font 1 to 3; null means the window's font. Does nothing for any other number. Not owned.
     void setRowFont(int which, bmpfont* newFont);
     bmpfont* getTitleFont() const { return titleFont; }
     void setTitleFont(bmpfont* newFont) { titleFont = newFont; }
     void addDividerColumn(int column) { dividerColumns.Add(column); }
     void clearDividerColumns() { dividerColumns.RemoveAll(); }
-    /// Columns and rows in row font 1, and rows in 2 and 3.
+    /// Draws a column in row font 1; the next three operations draw a row in row font 1, 2 or 3.
     void addFontColumn(int column);
     void clearFontColumns() { fontColumns.RemoveAll(); }
     void addFontRow1(int item);
@@ -148,45 +157,51 @@ public:
     void clearNonSelectableRows() { nonSelectableRows.RemoveAll(); }
     void addNonSelectableColumn(int column);
     void clearNonSelectableColumns() { nonSelectableColumns.RemoveAll(); }
-    /// Kept, and read by nothing.
+    /// Stores file and width, which are not used.
     void setScrollBarInfo(const CString& file, int width);
-    /// A border that shows while the pointer is over the list, as AWnd::setBorder. Owned by this list.
+    /// Sets a border that is drawn while the pointer is over the list, as AWnd::setBorder does. Owned by this
+    /// list.
     ABorder* setHotBorder(const CString& file, int borderWidth, int pieceSize);
-    /// Null when there is none. Owned by this list.
+    /// Returns the hot border, or null if there is none. Owned by this list.
     ABorder* getHotBorder() const { return hotBorder.get(); }
 
-    // Places, screen pixels (layout.cpp).
+    // Positions in screen pixels (layout.cpp).
 
     int getItemsStartPosX(int withOffset) const;
     int getItemsStartPosY(int withOffset) const;
-    /// In front of a scroll bar that shows. withOffset: where the columns end, if the list has a text offset.
+    /// Returns the right end of the rows, before a visible scroll bar. withOffset: not beyond the last column
+    /// if the list has a text offset.
     int getItemsEndPosX(int withOffset) const;
     int getItemsEndPosY() const;
-    /// Whole rows that fit below the title.
+    /// Returns the number of whole rows that fit below the title.
     int getItemsPerPage() const;
-    /// 0 for a point that is in no column.
+    /// Returns the column at x, or 0 if x is after the last column.
     int getColumnAtPos(int x) const;
 
     // Scrolling (scrolling.cpp). Percentages run from 0 at the first row to 100.0.
 
-    /// A step of the bar, or a page of steps. 0 when there is no bar or all rows show, else 1.
+    /// Scrolls by a step of the bar, or by a page of steps. Returns 0 if there is no bar or all rows are
+    /// visible, otherwise 1.
     int scroll(int up, int page);
     int scrollDown(int page) { return scroll(0, page); }
     int scrollUp(int page) { return scroll(1, page); }
-    /// 0 when all rows fit on a page, else 1.
+    /// Scrolls to percentage. Returns 0 if there are fewer rows than fit on a page, otherwise 1.
     int scrollTo(ZnFixed percentage);
     int scrollToLastItem();
     int getFirstVisibleItem() const { return firstVisibleItem; }
-    /// Near the end a whole page less. The row becomes the hot one.
+    /// Scrolls to item and makes it the hot row. If less than a page of rows is left from item on, uses the
+    /// row one page above it instead.
     void setFirstVisibleItem(int item);
-    /// Of "uig\scroll1.bmp", along the right edge. 0 if there is one, else 1.
+    /// Adds a scroll bar with the bitmap "uig\scroll1.bmp" along the right edge. Returns 0 if there is one
+    /// already, otherwise 1.
     int createScrollBar();
-    /// Fits the bar to the list's height.
+    /// Adjusts the bar to the list's height.
     void updateScrollBarHeight();
-    /// Null while there is none. A child of this window.
+    /// Returns the scroll bar, a child of this window, or null if there is none.
     AScrollBar* getScrollBar() const;
 
-    /// Pointer position of the first row on the page that can be selected. 0 if there is none.
+    /// Stores in x and y the pointer position of the first selectable row on the page. Returns 0 if there is
+    /// none.
     int getMousePosOfFirstSelectableItem(int& x, int& y) const;
     int getRevealedItems() const { return revealedItems; }
 
@@ -194,10 +209,11 @@ protected:
     int getColumnStartPos(int column) const;
     int hasTitleRow() const { return titles.GetSize() > 0; }
     int titleRoom(int column, int length) const;
-    /// y from the window's top. The title row counts as the row above the page, -1 behind the last row.
+    /// Returns the row at y, in pixels from the window's top, or -1 after the last row. The title row counts
+    /// as the row above the page.
     int getItemAtPos(int y) const;
 
-    CArray<short> columnWidths; // pixels; as many as there are columns
+    CArray<short> columnWidths; // pixels, one per column
     short rowHeight = 24;
     short columnGap = 10;
     CArray<E_TEXTJUSTIFY> columnJustify;
@@ -205,7 +221,7 @@ protected:
     short hotItem = -1;
     short selectedColumn = -1;
     short hotColumn = 0;
-    short savedHotItem = -1; // from when the pointer left
+    short savedHotItem = -1; // hotItem when the pointer left
     short savedHotColumn = -1;
     CArray<CString> cells[maxColumns]; // [column][row]
     CArray<CString> titles;
@@ -241,7 +257,7 @@ protected:
     std::unique_ptr<ABorder> hotBorder;
 
 private:
-    struct Page;                        // what stays the same over the rows of one drawing (drawing.cpp)
+    struct Page;                        // values shared by the rows of one drawing (drawing.cpp)
     static constexpr int titleRow = -1; // in place of a row's number
 
     int rowStep() const { return rowHeight > 0 ? rowHeight : 1; }
@@ -264,15 +280,15 @@ private:
     void drawFrame(surface& icon, int column, int frame, int x, int y);
     bmpfont* fontOfRow(int item) const;
 
-    void takeHotFromPointer(int x, int y);
+    void setHotFromPointer(int x, int y);
     void select();
     void followPointer(int x, int y);
     void followWheel(int direction);
     void followKey(int key);
     int nextSelectableColumn(int direction) const;
     int nextSelectableItem(int direction) const;
-    void holdPointer();
+    void clearPointerMove();
     void scrollStep(int direction);
 
-    int loadedIconFiles = 0; // of iconFiles, already in icons
+    int loadedIconFiles = 0; // number of iconFiles already in icons
 };

@@ -12,8 +12,8 @@
 
 namespace {
 
-/// Cuts a text at blanks into pieces no wider than width. The character at a break is in no piece, be it a
-/// blank or, in a word that is too long, one of its letters.
+/// Breaks a text at blanks into pieces no wider than width. The character at a break is dropped: a blank or,
+/// in a word that is too long, one of its letters.
 class Pieces {
 public:
     Pieces(std::string_view whole, const bmpfont* itsFont, int itsWidth)
@@ -36,9 +36,9 @@ public:
             pos = text.size();
             return true;
         }
-        if (lastBreak + 1 == start) // no blank in this stretch
+        if (lastBreak + 1 == start) // no blank in this piece
             lastBreak = pos - 1;
-        // A width below 0 breaks in front of the first character.
+        // A negative width breaks before the first character.
         piece = lastBreak + 1 > start ? text.substr(start, lastBreak - start) : std::string_view();
         start = lastBreak + 1;
         pos = start + 1;
@@ -57,8 +57,8 @@ private:
     int width;
     std::size_t start = 0;
     std::size_t pos = 0;
-    std::size_t lastBreak = std::string_view::npos; // one in front of start while there is none
-    long long pieceWidth = 0;                       // from start to pos
+    std::size_t lastBreak = std::string_view::npos; // start - 1 while there is none
+    long long pieceWidth = 0;                       // width from start to pos in pixels
 };
 
 } // namespace
@@ -286,7 +286,7 @@ void AListBox::setSelectedItem(int item)
 void AListBox::deselect(AWnd& wnd)
 {
     if (wnd.getWindowType() != WND_LISTBOX)
-        return; // asked of every window of a screen at each click
+        return; // a cheap test, because every window of a screen is tested at each click
     if (auto* list = windowAs<AListBox>(&wnd))
         list->setSelectedItem(-1);
 }

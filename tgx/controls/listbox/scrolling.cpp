@@ -9,7 +9,7 @@ namespace {
 
 constexpr ZnFixed full = ZnFixed::fromInt(100);
 
-constexpr const char* barBitmap = "uig\\scroll1.bmp"; // the one that a list makes for itself
+constexpr const char* barBitmap = "uig\\scroll1.bmp"; // of the bar that a list creates
 constexpr int barThickness = 16;
 constexpr int barFrameHeight = 26;
 
@@ -38,7 +38,8 @@ int AListBox::scrollTo(ZnFixed percentage)
     if (getItemCount() < page)
         return 0;
 
-    // From 4056 of 4096 on the next row: percentages of whole rows come out a little low.
+    // A fraction of at least 4056 of 4096 counts as the next row, because the percentage of a whole row is
+    // rounded down.
     constexpr int almostOne = 4055;
     const ZnFixed rows = percentage / full * ZnFixed::fromInt(getItemCount() - page);
     const int whole = rows.toInt();
