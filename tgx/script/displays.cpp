@@ -1,8 +1,6 @@
-// Statements that make progress bars, vidiprinters and graphs, and the one that sets a graph's attributes.
+// Statements that make line graphs, and the one that sets the attributes of graphs.
 
 #include "tgx/controls/graph.h"
-#include "tgx/controls/progressbar.h"
-#include "tgx/controls/vidiprinter.h"
 #include "tgx/script/statements.h"
 
 AWnd* lineGraph(AWnd& target, const ScriptLine& line)
@@ -29,26 +27,4 @@ void graphInfo(AGraph& target, const ScriptLine& line)
         target.setXGridEvery(line.number(6));
     if (line.count > 7)
         target.setShowEmptyBars(line.number(7));
-}
-
-AWnd* progressBar(AWnd& target, const ScriptLine& line)
-{
-    auto* made = addControl<AProgressBar>(target, line);
-    applyBarForm(*made, line);
-    return made;
-}
-
-AWnd* vProgressBar(AWnd& target, const ScriptLine& line)
-{
-    auto* made = addControl<AProgressBar>(target, line);
-    made->setHorizontal(0);
-    applyBarForm(*made, line);
-    return made;
-}
-
-AWnd* vidiPrinter(AWnd& target, const ScriptLine& line)
-{
-    auto* made = addControl<AVidiPrinter>(target, line);
-    applyTextForm(*made, line);
-    return made;
 }

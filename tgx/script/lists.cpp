@@ -1,4 +1,4 @@
-// Statements that make list boxes and set their attributes, and the one that fills list and combo boxes.
+// Statements that set attributes of list boxes, and the one that fills list and combo boxes.
 
 #include "tgx/controls/combobox.h"
 #include "tgx/script/statements.h"
