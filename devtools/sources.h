@@ -69,5 +69,5 @@ private:
     std::vector<std::string> faults;
     std::vector<std::string> reports;
     std::vector<std::string> knownFiles; // text and compiled files at the last build
-    std::optional<script_text::WatchedFiles> watched;
+    std::optional<tgx::script_text::WatchedFiles> watched;
 };

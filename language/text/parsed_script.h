@@ -20,7 +20,7 @@ struct Statement;
 ///             script.diagnostics.push_back({Diagnostic::Error, line.placeOf(1), "..."});
 ///     for (const Diagnostic& each : script.diagnostics)
 ///         std::cerr << describe(each);
-namespace script_text {
+namespace tgx::script_text {
 
 /// One token of the compiled script.
 struct Token {
@@ -77,4 +77,4 @@ constexpr std::string_view unfinishedMark = "#! unfinished:";
 /// On its own before a line: the line is built unchecked. Followed by a decimal number: a keyword's id.
 constexpr char verbatimMark = '@';
 
-} // namespace script_text
+} // namespace tgx::script_text

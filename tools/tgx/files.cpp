@@ -40,7 +40,7 @@ bool writeThrough(const Output& output)
 std::optional<std::string> readInput(const std::string& name)
 {
     std::string reason;
-    std::optional<std::string> text = readFile(name, reason);
+    std::optional<std::string> text = tgx::readFile(name, reason);
     if (!text)
         std::cerr << (name == "-" ? "stdin" : name) << ": error: cannot read: " << reason << '\n';
     return text;

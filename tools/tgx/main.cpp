@@ -33,7 +33,7 @@ std::string unknownCommandText(const CLI::App& app, const std::string& name)
         if (!each->get_group().empty()) // hidden
             names.push_back(each->get_name());
     }
-    std::string text = "no command " + script_text::shown(name) + "; the commands are";
+    std::string text = "no command " + tgx::script_text::shown(name) + "; the commands are";
     for (std::size_t i = 0; i < names.size(); ++i)
         text += (i == 0 ? " " : i + 1 == names.size() ? " and " : ", ") + names[i];
     return text;

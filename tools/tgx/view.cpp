@@ -118,10 +118,10 @@ std::string scriptName(const std::string& given)
 bool scriptExists(const ViewOptions& options)
 {
     std::vector<std::string> folders = options.devTools.sources;
-    folders.push_back(script_text::scriptFolder());
+    folders.push_back(tgx::script_text::scriptFolder());
     for (const std::string& folder : folders)
-        for (const std::string& file : script_text::filesIn(folder, ".tgs"))
-            if (tgx::lowercased(script_text::compiledName(file)) == tgx::lowercased(options.script))
+        for (const std::string& file : tgx::script_text::filesIn(folder, ".tgs"))
+            if (tgx::lowercased(tgx::script_text::compiledName(file)) == tgx::lowercased(options.script))
                 return true;
     return findDataFile("UIG\\" + options.script).has_value();
 }
