@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+namespace tgx {
+
 namespace {
 
 constexpr std::size_t mostFailures = 50; // shown; more are likely to have the same cause
@@ -69,3 +71,5 @@ void Origins::clear()
     made.clear();
     failures.clear();
 }
+
+} // namespace tgx

@@ -16,6 +16,8 @@
 
 namespace fs = std::filesystem;
 
+namespace tgx {
+
 namespace {
 
 constexpr std::string_view scriptFolder = "UIG\\";
@@ -211,3 +213,5 @@ std::string Sources::placeOf(const std::string& script, unsigned offset) const
     const std::string place = found.placeOf(offset);
     return place.empty() ? script + ", byte " + std::to_string(offset) : place;
 }
+
+} // namespace tgx

@@ -93,7 +93,7 @@ int main()
     displayhost::use(std::make_unique<HeadlessHost>());
     AControlsApp app;
     AMainWin window(320, 200, 32);
-    DevTools devTools(window);
+    tgx::DevTools devTools(window);
     app.mainWin = &window;
     window.startup();
     window.runTick();

@@ -17,6 +17,8 @@
 #include <memory>
 #include <thread>
 
+namespace tgx {
+
 namespace {
 
 constexpr int usageError = 2;
@@ -172,3 +174,5 @@ void addBuild(CLI::App& app)
             throw CLI::RuntimeError(status);
     });
 }
+
+} // namespace tgx

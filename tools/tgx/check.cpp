@@ -15,6 +15,8 @@
 #include <memory>
 #include <optional>
 
+namespace tgx {
+
 namespace {
 
 using tgx::script_text::Diagnostic;
@@ -175,3 +177,5 @@ void addCheck(CLI::App& app)
             throw CLI::RuntimeError(status);
     });
 }
+
+} // namespace tgx

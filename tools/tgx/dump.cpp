@@ -7,6 +7,8 @@
 #include <iostream>
 #include <memory>
 
+namespace tgx {
+
 void addDump(CLI::App& app)
 {
     struct DumpOptions {
@@ -36,3 +38,5 @@ void addDump(CLI::App& app)
             throw CLI::RuntimeError(1);
     });
 }
+
+} // namespace tgx

@@ -10,6 +10,8 @@
 
 namespace fs = std::filesystem;
 
+namespace tgx {
+
 namespace {
 
 bool failed(const std::string& name, const std::string& reason)
@@ -74,3 +76,5 @@ bool isSameFile(const std::string& a, const std::string& b)
            (a == b || fs::equivalent(a, b, none) ||
             fs::weakly_canonical(a, none) == fs::weakly_canonical(b, none));
 }
+
+} // namespace tgx

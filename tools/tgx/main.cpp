@@ -8,6 +8,8 @@
 #include <iostream>
 #include <new>
 
+namespace tgx {
+
 namespace {
 
 constexpr int inputError = 1;
@@ -84,10 +86,18 @@ int run(int argc, char** argv)
 
 } // namespace
 
-int main(int argc, char** argv)
+/// Returns the exit status, also when memory is used up.
+int runGuarded(int argc, char** argv)
 try {
     return run(argc, argv);
 } catch (const std::bad_alloc&) {
     std::cerr << "tgx: out of memory\n";
     return usageError;
+}
+
+} // namespace tgx
+
+int main(int argc, char** argv)
+{
+    return tgx::runGuarded(argc, argv);
 }

@@ -7,6 +7,8 @@
 
 #include <memory>
 
+namespace tgx {
+
 void addReference(CLI::App& app)
 {
     struct ReferenceOptions {
@@ -31,3 +33,5 @@ void addReference(CLI::App& app)
             throw CLI::RuntimeError(1);
     });
 }
+
+} // namespace tgx

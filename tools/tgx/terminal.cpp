@@ -4,6 +4,8 @@
 #include <string_view>
 #include <unistd.h>
 
+namespace tgx {
+
 tgx::script_text::Colour colourFor(std::FILE* stream)
 {
     const char* noColour = std::getenv("NO_COLOR");
@@ -17,3 +19,5 @@ std::string counted(std::ptrdiff_t count, const char* what)
 {
     return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
 }
+
+} // namespace tgx

@@ -18,6 +18,8 @@
 
 namespace fs = std::filesystem;
 
+namespace tgx {
+
 namespace {
 
 constexpr int usageError = 2;
@@ -189,3 +191,5 @@ void addView(CLI::App& app)
             throw CLI::RuntimeError(status);
     });
 }
+
+} // namespace tgx
