@@ -211,6 +211,9 @@ private:
     void completeExit();
     void loseFocus();
     void dropLostInput();
+    void endTypingByClick();
+    bool activeScreenTakesInput() const;
+    void followUp(AWnd::E_MOUSEACTION action, const WndRef& target, const WndRef& screen);
     AWnd* inputTarget() const;
     AWnd* aliveOrNull(AWnd* wnd) const;
     AWnd::E_MOUSEACTION chooseAction(AWnd* target);
