@@ -2,7 +2,9 @@
 
 #include <string>
 
+namespace tgx {
 struct Statement;
+}
 
 /// Documents that are generated from the vocabulary.
 namespace tgx::script_text {

@@ -9,7 +9,9 @@
 #include <string_view>
 #include <vector>
 
+namespace tgx {
 struct Statement;
+}
 
 /// A parsed script in text form: its statements in the order in which they are compiled, each with its place.
 /// INCLUDE and DEFINE are resolved; comments and blank lines are removed.

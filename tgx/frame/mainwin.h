@@ -14,9 +14,11 @@
 #include <optional>
 #include <vector>
 
+namespace tgx {
 class ScriptObserver;
 struct ScriptPlace;
 class ScriptRun;
+} // namespace tgx
 
 /// The game's main window: root of the window tree, frame loop, screens and popups, input, and the interface
 /// script. The game derives from it and overrides startup (to read its main script), drawscreen,
@@ -159,12 +161,12 @@ public:
     void deleteAllGotoFiles(CArray<CFile*, CFile*>& gotoFiles) override;
     /// Calls observer for each line that is carried out from now on. Not owned: remove it before it is
     /// deleted.
-    void addScriptObserver(ScriptObserver& observer);
-    void removeScriptObserver(ScriptObserver& observer);
-    const std::vector<ScriptObserver*>& getScriptObservers() const override { return scriptObservers; }
+    void addScriptObserver(tgx::ScriptObserver& observer);
+    void removeScriptObserver(tgx::ScriptObserver& observer);
+    const std::vector<tgx::ScriptObserver*>& getScriptObservers() const override { return scriptObservers; }
     /// Returns the line that is being carried out, in the innermost read if reads are nested; nothing between
     /// reads.
-    std::optional<ScriptPlace> getScriptPlace() const;
+    std::optional<tgx::ScriptPlace> getScriptPlace() const;
 
 protected:
     /// Draws one frame of the wipe.
@@ -230,6 +232,6 @@ private:
     bool exitRequested = false;
     bool wipeSwapsBackdrop = false; // the running wipe has not shown the new backdrop yet
     bool wipeReturns = false; // the running wipe leads to a suspended screen; its last frame calls returned
-    std::vector<ScriptObserver*> scriptObservers;
-    std::unique_ptr<ScriptRun> scriptRun; // belongs to the outermost read; null between reads
+    std::vector<tgx::ScriptObserver*> scriptObservers;
+    std::unique_ptr<tgx::ScriptRun> scriptRun; // belongs to the outermost read; null between reads
 };

@@ -5,6 +5,8 @@
 #include "tgx/script/statements.h"
 #include "tgx/wnd/tabstops.h"
 
+namespace tgx {
+
 bool appendWnds(AWnd& target, const ScriptLine& line, WndList ATabStopInfo::*list)
 {
     for (int i = 1; i < line.count; ++i) {
@@ -67,3 +69,5 @@ void text(AWnd& target, const ScriptLine& line)
 {
     target.setWindowText(line.text(1));
 }
+
+} // namespace tgx

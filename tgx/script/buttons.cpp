@@ -7,6 +7,8 @@
 #include "tgx/script/statements.h"
 #include "tgx/wnd/reserved.h"
 
+namespace tgx {
+
 namespace {
 
 /// Returns the number of radio buttons at the end of target's children, up to limit.
@@ -101,3 +103,5 @@ AWnd* comboMenu(AWnd& target, const ScriptLine& line)
     menu->setVisible(0);
     return menu;
 }
+
+} // namespace tgx

@@ -3,6 +3,8 @@
 #include "tgx/controls/graph.h"
 #include "tgx/script/statements.h"
 
+namespace tgx {
+
 AWnd* lineGraph(AWnd& target, const ScriptLine& line)
 {
     auto* made = addControl<AGraph>(target, line);
@@ -28,3 +30,5 @@ void graphInfo(AGraph& target, const ScriptLine& line)
     if (line.count > 7)
         target.setShowEmptyBars(line.number(7));
 }
+
+} // namespace tgx

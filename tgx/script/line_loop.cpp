@@ -7,9 +7,9 @@
 
 #include <algorithm>
 
-ScriptObserver::~ScriptObserver() = default;
-
 namespace tgx {
+
+ScriptObserver::~ScriptObserver() = default;
 
 namespace {
 

@@ -5,6 +5,8 @@
 
 #include <cstdlib>
 
+namespace tgx {
+
 namespace {
 
 /// Sets a cell of an ITEM line that consists of "ICON", a number and, optionally, "F" and the number of a
@@ -125,3 +127,5 @@ void listFixedRows(AListBox& list, const ScriptLine& line)
     for (int i = 1; i < line.count; ++i)
         list.addNonSelectableRow(line.number(i));
 }
+
+} // namespace tgx

@@ -19,6 +19,8 @@
 
 class AWnd;
 
+namespace tgx {
+
 /// Returns an explanation for a script that cannot be found: if there is neither the file below UIG nor the
 /// resource, the file and the folder in which it was looked for; otherwise "".
 std::string whyNoScript(const CString& file, HINSTANCE instance, unsigned resource);
@@ -204,3 +206,5 @@ private:
     std::map<std::string, std::shared_ptr<const std::string>, std::less<>> files; // null: no such file
     std::map<std::pair<const char*, std::size_t>, std::unique_ptr<ScriptIndex>> indexes;
 };
+
+} // namespace tgx

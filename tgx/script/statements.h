@@ -10,6 +10,8 @@
 #include <type_traits>
 #include <utility>
 
+namespace tgx {
+
 class ScriptRun;
 
 /// A line and its context, as passed to a handler.
@@ -190,3 +192,5 @@ void listIcons(AListBox& list, const ScriptLine& line);
 void listLook(AListBox& list, const ScriptLine& line);
 void listOptions(AListBox& list, const ScriptLine& line);
 void titles(AListBox& list, const ScriptLine& line);
+
+} // namespace tgx

@@ -14,6 +14,8 @@
 #include <array>
 #include <cctype>
 
+namespace tgx {
+
 namespace {
 
 using enum StatementKind;
@@ -196,3 +198,5 @@ ArgumentKind argumentKind(const Statement& statement, int token)
         return ArgumentKind::Word;
     return argument.find('|') == std::string_view::npos ? ArgumentKind::Number : ArgumentKind::NumberOrWord;
 }
+
+} // namespace tgx

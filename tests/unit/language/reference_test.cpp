@@ -13,6 +13,8 @@
 #include <sstream>
 #include <string>
 
+using namespace tgx;
+
 namespace {
 
 TEST(Reference, DescribesEveryStatementOnce)
