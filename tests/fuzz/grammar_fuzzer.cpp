@@ -12,6 +12,8 @@
 #include <iterator>
 #include <string_view>
 
+using namespace tgx;
+
 namespace {
 
 /// Writes a script in text form until the bytes are used up.
