@@ -8,7 +8,7 @@
 
 include(CMakePackageConfigHelpers)
 
-set(tgx_include_dir ${CMAKE_INSTALL_INCLUDEDIR}/tgx-${PROJECT_VERSION_MAJOR})
+set(tgx_include_dir ${CMAKE_INSTALL_INCLUDEDIR}/tgx-1) # of the interface that version 1 will have
 set(tgx_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/tgx)
 
 # The package exports the same names after tgx:: as this build.
@@ -52,7 +52,7 @@ endforeach()
 
 configure_package_config_file(cmake/tgxConfig.cmake.in ${PROJECT_BINARY_DIR}/tgxConfig.cmake
   INSTALL_DESTINATION ${tgx_cmake_dir} NO_SET_AND_CHECK_MACRO)
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/tgxConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/tgxConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/tgxConfig.cmake ${PROJECT_BINARY_DIR}/tgxConfigVersion.cmake
   cmake/tgx_embed_scripts.cmake cmake/bytes_to_cpp.cmake DESTINATION ${tgx_cmake_dir})
 

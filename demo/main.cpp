@@ -21,9 +21,9 @@ int main(int argc, char** argv)
     useDemoData(argc, argv);
     AControlsApp app("Harbour", "TGX", "1.0");
     HarbourGame game;
-    std::optional<DevTools> devTools;
+    std::optional<tgx::DevTools> devTools;
     if (hasDevTools)
-        devTools.emplace(game, DevToolsOptions{.sources = {DEMO_SCRIPT_DIR}});
+        devTools.emplace(game, tgx::DevToolsOptions{.sources = {DEMO_SCRIPT_DIR}});
     app.mainWin = &game;
     return app.Run();
 }

@@ -6,7 +6,7 @@
 // Plays the demo like `tgx play`, with the demo's own window classes.
 int main(int argc, char** argv)
 {
-    return playMain(argc, argv, [](int width, int height, int depth) {
+    return tgx::playMain(argc, argv, [](int width, int height, int depth) {
         return std::make_unique<HarbourWindow>(width, height, depth);
     });
 }

@@ -8,6 +8,9 @@
 #include <vector>
 
 class AMainWin;
+
+namespace tgx {
+
 class Workbench;
 
 struct DevToolsOptions {
@@ -54,3 +57,5 @@ public:
 private:
     std::unique_ptr<Workbench> workbench;
 };
+
+} // namespace tgx

@@ -5,6 +5,8 @@
 
 #include <utility>
 
+namespace tgx {
+
 WatchingHost::WatchingHost(std::unique_ptr<displayhost> watched, HostWatcher& watchedBy)
     : inner(std::move(watched)), watcher(watchedBy)
 {}
@@ -94,3 +96,5 @@ void WatchingHost::frameBegins(ddwin& window)
     watcher.frameBegins();
     inner->frameBegins(window);
 }
+
+} // namespace tgx

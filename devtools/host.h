@@ -2,6 +2,8 @@
 
 #include "platform/display/host.h"
 
+namespace tgx {
+
 /// Receives what passes through a WatchingHost.
 class HostWatcher {
 public:
@@ -46,3 +48,5 @@ private:
     HostWatcher& watcher;
     const Image* shown = nullptr; // picture of the last frame; compared, never dereferenced
 };
+
+} // namespace tgx

@@ -12,6 +12,8 @@
 #include <unordered_map>
 #include <unordered_set>
 
+namespace tgx {
+
 namespace {
 
 constexpr std::size_t maxTextLength = 80;  // characters
@@ -385,3 +387,5 @@ std::uint32_t outlineColour(WindowKind kind)
                                                         0xD8C000, 0xFF9840, 0xC890FF};
     return colours[static_cast<int>(kind)];
 }
+
+} // namespace tgx

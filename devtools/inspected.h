@@ -8,6 +8,8 @@
 class AMainWin;
 class AWnd;
 
+namespace tgx {
+
 // Collects what the inspector shows about the visible windows, as texts and lists. Nothing here paints.
 
 /// Returns the window that is visible at that point: the last one drawn there, in the open popups or else in
@@ -50,3 +52,5 @@ std::vector<PanelLine> describeCensus(const Census& census);
 std::uint32_t outlineColour(WindowKind kind);
 constexpr std::uint32_t duplicateColour = 0xFF4060;
 constexpr std::uint32_t hoveredColour = 0xFFE040;
+
+} // namespace tgx

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cstdio>
 
+namespace tgx {
+
 namespace {
 
 constexpr std::uint32_t costColour = 0xC0FFC8;
@@ -172,3 +174,5 @@ void Inspector::paintHovered(Overlay& overlay, const AWnd& wnd) const
     overlay.fill(tag, shadeColour, tagShare);
     overlay.text(tag.x0 + padding, tag.y0 + padding / 2, name, hoveredColour);
 }
+
+} // namespace tgx

@@ -8,6 +8,9 @@
 
 class AMainWin;
 class AWnd;
+
+namespace tgx {
+
 class Origins;
 
 /// The cost of the last frame.
@@ -42,3 +45,5 @@ private:
     std::string keyHelp;
     Setting setting = Off;
 };
+
+} // namespace tgx

@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <functional>
 
+namespace tgx {
+
 namespace {
 
 /// A change of screens takes a few frames, and a game may take longer, but not indefinitely.
@@ -259,3 +261,5 @@ void InterfaceState::continueRestoring()
     restoring = false;
     game.setMousePos(pointerX, pointerY, 0); // opening a screen has moved it to the first tab stop
 }
+
+} // namespace tgx

@@ -11,6 +11,9 @@
 
 class AMainWin;
 class AWnd;
+
+namespace tgx {
+
 class Origins;
 
 /// The values of a window that the user can change. Only values that were changed are kept, so that the
@@ -78,3 +81,5 @@ private:
     int framesLeft = 0;             // until waiting for the next one is given up
     std::vector<std::string> lost;
 };
+
+} // namespace tgx

@@ -2,6 +2,8 @@
 
 #include "platform/system/clock.h"
 
+namespace tgx {
+
 namespace {
 
 constexpr std::uint32_t noticeMillis = 6000;
@@ -51,3 +53,5 @@ void Notices::paint(Overlay& overlay) const
         lines.push_back({each.text, noticeColour});
     paintPanel(overlay, lines, Corner::TopLeft);
 }
+
+} // namespace tgx

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+namespace tgx {
+
 /// The messages of the devtools over the game's picture: faults, which stay until they are fixed, and
 /// notices, which disappear by themselves.
 class Notices {
@@ -34,3 +36,5 @@ private:
     std::deque<Notice> notices;
     std::string status;
 };
+
+} // namespace tgx

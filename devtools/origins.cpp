@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+namespace tgx {
+
 namespace {
 
 constexpr std::size_t mostFailures = 50; // shown; more are likely to have the same cause
@@ -19,7 +21,7 @@ std::string whyFailed(const ExecutedLine& line, const Statement* statement)
         return line.count > 0 ? "there is no keyword " + std::to_string(line.tokens[0].id)
                               : "the line failed";
     if (!statement->counts.allow(line.count))
-        return "expected: " + script_text::expectedForm(*statement);
+        return "expected: " + tgx::script_text::expectedForm(*statement);
     if (line.current && !statement->target.fits(line.current->getWindowType()))
         return std::string(statement->keyword) + " does not go with a " + classNameOf(*line.current);
     return std::string(statement->keyword) + " failed";
@@ -69,3 +71,5 @@ void Origins::clear()
     made.clear();
     failures.clear();
 }
+
+} // namespace tgx

@@ -7,6 +7,8 @@
 #include <unordered_map>
 #include <vector>
 
+namespace tgx {
+
 class Sources;
 
 /// Records which line of a script made each window, and which lines failed. Observes the scripts that a main
@@ -43,3 +45,5 @@ private:
     std::unordered_map<const AWnd*, Made> made;
     std::vector<std::string> failures;
 };
+
+} // namespace tgx

@@ -1,5 +1,7 @@
 #include "devtools/overlay.h"
 
+namespace tgx {
+
 namespace {
 
 constexpr int largeScreen = 1280; // width in pixels from which text is drawn at double size, and so on
@@ -169,3 +171,5 @@ Box paintPanel(Overlay& overlay, const std::vector<PanelLine>& lines, Corner cor
     }
     return box;
 }
+
+} // namespace tgx

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+namespace tgx {
+
 /// Paints over a copy of the screen, with the built-in font, so the game's display list and pixels do not
 /// change. Positions are pixels of the screen; parts outside it are cut off. Colours are 0xRRGGBB. begin must
 /// be called first.
@@ -52,3 +54,5 @@ enum class Corner { TopLeft, TopRight, BottomLeft, BottomRight };
 Box paintPanel(Overlay& overlay, const std::vector<PanelLine>& lines, Corner corner, const Box& room);
 /// Paints it in a corner of the screen.
 Box paintPanel(Overlay& overlay, const std::vector<PanelLine>& lines, Corner corner);
+
+} // namespace tgx

@@ -7,6 +7,8 @@
 
 namespace fs = std::filesystem;
 
+namespace tgx {
+
 namespace {
 
 fs::file_time_type timeOf(const std::string& name)
@@ -30,3 +32,5 @@ bool WatchedPictures::haveChanged(const AMainWin& game)
     }
     return isChanged;
 }
+
+} // namespace tgx

@@ -6,6 +6,8 @@
 
 class AMainWin;
 
+namespace tgx {
+
 /// Notices when a picture that the game has requested is written, created or deleted.
 class WatchedPictures {
 public:
@@ -16,3 +18,5 @@ public:
 private:
     std::map<std::string, std::filesystem::file_time_type> known; // by name; min() if there is no file
 };
+
+} // namespace tgx

@@ -8,6 +8,8 @@
 
 #include <utility>
 
+namespace tgx {
+
 namespace {
 
 using Kind = RecordedStep::Kind;
@@ -419,3 +421,5 @@ void Recorder::giveUpClick()
     playbackPointer = pressed->playbackIfNoClick;
     pressed.reset();
 }
+
+} // namespace tgx

@@ -12,6 +12,8 @@
 
 class AMainWin;
 
+namespace tgx {
+
 /// Records input as an events file for tgx play: by the id of the target window if that has the same effect,
 /// else as moves and transitions. It keeps track of where the pointer will be during playback, which is the
 /// middle of a window when the user pointed anywhere on it.
@@ -92,3 +94,5 @@ private:
     std::string shownPopup;
     bool isRestoring = false; // after a reload, until the next input
 };
+
+} // namespace tgx

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <utility>
 
+namespace tgx {
+
 namespace {
 
 using Step = RecordedStep;
@@ -296,3 +298,5 @@ std::vector<std::string> writeEvents(std::span<const RecordedStep> steps, long e
 {
     return EventsWriter(steps).write(endTick);
 }
+
+} // namespace tgx

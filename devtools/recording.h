@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace tgx {
+
 /// One step of a recording. Ticks are counted from 0, the first recorded one.
 struct RecordedStep {
     enum class Kind : std::uint8_t {
@@ -46,3 +48,5 @@ bool isModifier(std::uint8_t code);
 ///     a key held during other input, or long           hold NAME, lift NAME
 ///     a change of the active screen or front popup     wait until active NAME, wait until popup ID
 std::vector<std::string> writeEvents(std::span<const RecordedStep> steps, long endTick);
+
+} // namespace tgx

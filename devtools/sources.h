@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+namespace tgx {
+
 /// The text form of scripts, from the data directory and the other folders of sources. It is compiled in
 /// memory and replaces the compiled file. For compiled files without text it reads their maps.
 class Sources {
@@ -69,5 +71,7 @@ private:
     std::vector<std::string> faults;
     std::vector<std::string> reports;
     std::vector<std::string> knownFiles; // text and compiled files at the last build
-    std::optional<script_text::WatchedFiles> watched;
+    std::optional<tgx::script_text::WatchedFiles> watched;
 };
+
+} // namespace tgx

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <typeinfo>
 
+namespace tgx {
+
 namespace {
 
 /// How much of the pointer's position matters to a window.
@@ -131,3 +133,5 @@ PointingLine pointLineFor(AMainWin& win, const Spot& spot, bool mayHover)
                 spot.point};
     return {"move " + std::to_string(x) + ' ' + std::to_string(y), spot.point};
 }
+
+} // namespace tgx

@@ -7,6 +7,8 @@
 #include <optional>
 #include <string>
 
+namespace tgx {
+
 /// What input reaches at a point of the screen, as far as it matters for an events line.
 struct Spot {
     ScreenPoint point;
@@ -40,3 +42,5 @@ PointingLine pointLineFor(AMainWin& win, const Spot& spot, bool mayHover);
 
 /// Returns an id or name as one word of an events line, in quotes if needed.
 std::string wordFor(std::string_view name);
+
+} // namespace tgx

@@ -18,6 +18,8 @@
 
 namespace fs = std::filesystem;
 
+namespace tgx {
+
 namespace {
 
 // Changes appear within a second, and checking for them is cheap compared with a frame.
@@ -329,3 +331,5 @@ void Workbench::readAnew()
     state.restore();
     notices.tell("read again");
 }
+
+} // namespace tgx

@@ -17,6 +17,8 @@
 #include <map>
 #include <optional>
 
+namespace tgx {
+
 /// The implementation of DevTools: sits between game and host, and carries out the keys.
 class Workbench : public HostWatcher {
 public:
@@ -79,3 +81,5 @@ private:
     WatchedPictures pictures;
     ImageRef heldPicture; // shown while screens are restored, so that they do not flash up
 };
+
+} // namespace tgx

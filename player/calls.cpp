@@ -2,6 +2,8 @@
 
 #include "platform/framework/exceptions.h"
 
+namespace tgx {
+
 namespace {
 
 std::vector<std::span<const Operation>>& gameOperations()
@@ -137,3 +139,5 @@ std::string callOperation(AMainWin& win, std::span<const Word> words)
         return invalidArgumentValue;
     }
 }
+
+} // namespace tgx

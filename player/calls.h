@@ -2,6 +2,8 @@
 
 #include "player/operation.h"
 
+namespace tgx {
+
 // The table of callable operations, with one file for each family of classes. A name in a class hides that
 // name in its bases, so calls.cpp lists the family of a class before those of its bases.
 
@@ -24,3 +26,5 @@ std::string callOperation(AMainWin& win, std::span<const Word> words);
 AWnd* findWindow(AMainWin& win, const std::string& id);
 /// Returns the message for an unknown id: "no window "OKAY"; the screen "MENU" has OK and CANCEL".
 std::string describeMissingWindow(AMainWin& win, const std::string& id);
+
+} // namespace tgx

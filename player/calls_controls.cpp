@@ -4,6 +4,8 @@
 #include "tgx/controls/scrollbar.h"
 #include "tgx/controls/tabcontrol.h"
 
+namespace tgx {
+
 namespace {
 
 constexpr Operation rows[] = {
@@ -60,3 +62,5 @@ constexpr Operation rows[] = {
 } // namespace
 
 const std::span<const Operation> controlOperations = rows;
+
+} // namespace tgx

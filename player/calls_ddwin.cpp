@@ -1,5 +1,7 @@
 #include "player/calls.h"
 
+namespace tgx {
+
 namespace {
 
 constexpr Operation rows[] = {
@@ -30,3 +32,5 @@ constexpr Operation rows[] = {
 } // namespace
 
 const std::span<const Operation> ddwinOperations = rows;
+
+} // namespace tgx

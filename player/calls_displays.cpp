@@ -3,6 +3,8 @@
 #include "tgx/controls/progressbar.h"
 #include "tgx/controls/vidiprinter.h"
 
+namespace tgx {
+
 namespace {
 
 constexpr Operation rows[] = {
@@ -51,3 +53,5 @@ constexpr Operation rows[] = {
 } // namespace
 
 const std::span<const Operation> displayOperations = rows;
+
+} // namespace tgx

@@ -3,6 +3,8 @@
 #include "tgx/controls/keyboard.h"
 #include "tgx/controls/scrollbar.h"
 
+namespace tgx {
+
 namespace {
 
 using Justify = AWnd::E_TEXTJUSTIFY;
@@ -117,3 +119,5 @@ constexpr Operation rows[] = {
 } // namespace
 
 const std::span<const Operation> listOperations = rows;
+
+} // namespace tgx

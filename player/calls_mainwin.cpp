@@ -1,5 +1,7 @@
 #include "player/calls.h"
 
+namespace tgx {
+
 namespace {
 
 using Popup = AWnd* (AMainWin::*)(AWnd*, AWnd*, int);
@@ -58,3 +60,5 @@ constexpr Operation rows[] = {
 } // namespace
 
 const std::span<const Operation> mainWinOperations = rows;
+
+} // namespace tgx

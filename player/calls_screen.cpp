@@ -1,5 +1,7 @@
 #include "player/calls.h"
 
+namespace tgx {
+
 namespace {
 
 constexpr Operation rows[] = {
@@ -27,3 +29,5 @@ constexpr Operation rows[] = {
 } // namespace
 
 const std::span<const Operation> screenOperations = rows;
+
+} // namespace tgx

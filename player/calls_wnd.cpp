@@ -1,5 +1,7 @@
 #include "player/calls.h"
 
+namespace tgx {
+
 namespace {
 
 constexpr Operation rows[] = {
@@ -148,3 +150,5 @@ constexpr Operation rows[] = {
 } // namespace
 
 const std::span<const Operation> wndOperations = rows;
+
+} // namespace tgx

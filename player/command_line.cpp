@@ -8,6 +8,8 @@
 #include <iostream>
 #include <new>
 
+namespace tgx {
+
 namespace {
 
 /// Splits "640x480" into width and height. Returns what is wrong with it, or "".
@@ -147,3 +149,5 @@ try {
     std::cerr << "play: out of memory\n";
     return static_cast<int>(PlayStatus::WrongCall);
 }
+
+} // namespace tgx

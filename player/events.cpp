@@ -14,6 +14,8 @@
 #include <limits>
 #include <ostream>
 
+namespace tgx {
+
 namespace {
 
 /// Returns the optional count [N] of an event, 1 by default.
@@ -253,3 +255,5 @@ void runEvent(Player& player, std::span<const Word> words, int line)
     throw WrongLine("no event " + quote(name) +
                     (suggestion.empty() ? "; events are " + listNames(names, names.size()) : suggestion));
 }
+
+} // namespace tgx

@@ -5,6 +5,9 @@
 #include <span>
 
 class AMainWin;
+
+namespace tgx {
+
 class PlayedInput;
 class Player;
 
@@ -32,3 +35,5 @@ struct Event {
 /// Carries out one event, whose name is the first word. line is its number, which a call prints before its
 /// value. Raises WrongLine.
 void runEvent(Player& player, std::span<const Word> words, int line);
+
+} // namespace tgx

@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <limits>
 
+namespace tgx {
+
 namespace {
 
 constexpr int defaultWaitFrames = 240;
@@ -278,3 +280,5 @@ void waitUntil(const Event& event)
         event.player.fail("waited " + std::to_string(waited) + " frames for " + joined(inner.words) +
                           ", found " + *found);
 }
+
+} // namespace tgx

@@ -7,6 +7,8 @@
 
 namespace fs = std::filesystem;
 
+namespace tgx {
+
 bool staysBelow(const std::string& name)
 {
     const fs::path relative = fs::path(name).lexically_normal();
@@ -36,3 +38,5 @@ void makeFoldersOf(const std::string& path)
     if (!folder.empty())
         fs::create_directories(folder, ignored);
 }
+
+} // namespace tgx

@@ -2,6 +2,8 @@
 
 #include "platform/framework/text.h"
 
+namespace tgx {
+
 std::string jsonString(std::string_view bytes)
 {
     std::string text = "\"";
@@ -62,3 +64,5 @@ JsonWriter& JsonWriter::item(std::string_view text)
     needsComma = true;
     return *this;
 }
+
+} // namespace tgx

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace tgx {
+
 /// Returns bytes as a JSON string. Bytes outside 0x20 to 0x7E become \u00NN.
 TGX_PLAYER_API std::string jsonString(std::string_view bytes);
 
@@ -31,3 +33,5 @@ private:
     std::string written;
     bool needsComma = false;
 };
+
+} // namespace tgx

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdio>
 
+namespace tgx {
+
 namespace {
 
 /// Escapes text for an attribute or an element. Bytes that are not ASCII or not allowed in XML become ?.
@@ -57,3 +59,5 @@ std::string junitReport(const std::string& suite, const std::vector<TestResult>&
     }
     return xml + "</testsuite>\n";
 }
+
+} // namespace tgx

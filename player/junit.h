@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+namespace tgx {
+
 /// The result of one events file.
 struct TestResult {
     std::string name; // relative to the folder that was tested
@@ -14,3 +16,5 @@ struct TestResult {
 
 /// Returns the results as JUnit XML: one suite with a case for each file.
 std::string junitReport(const std::string& suite, const std::vector<TestResult>& results);
+
+} // namespace tgx

@@ -2,6 +2,8 @@
 
 #include "platform/display/keys.h"
 
+namespace tgx {
+
 namespace {
 
 const struct {
@@ -95,3 +97,5 @@ const char* buttonName(MouseButton button)
     }
     return "middle";
 }
+
+} // namespace tgx

@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+namespace tgx {
+
 /// Returns the virtual key code of a key that an events line names. Raises WrongLine for an unknown key.
 std::uint8_t parseKey(const Word& word);
 /// Returns the name that parseKey accepts for this key: "a", "tab", or its code in two digits or more.
@@ -18,3 +20,5 @@ TGX_PLAYER_INTERNAL char characterOf(std::uint8_t code, bool shift);
 TGX_PLAYER_INTERNAL std::uint8_t keyThatTypes(char character);
 /// Returns the name of a mouse button in an events line.
 TGX_PLAYER_INTERNAL const char* buttonName(MouseButton button);
+
+} // namespace tgx

@@ -3,6 +3,8 @@
 #include "platform/framework/text.h"
 #include "tgx/frame/mainwin.h"
 
+namespace tgx {
+
 namespace {
 
 constexpr std::string_view notLoaded = "cannot load ";
@@ -41,3 +43,5 @@ bool isAboutALine(std::string_view message)
 {
     return message.starts_with("Encountered an error on line ");
 }
+
+} // namespace tgx

@@ -10,6 +10,8 @@
 
 class AMainWin;
 
+namespace tgx {
+
 /// Finds the line of a script that a message of the toolkit is about. Listens to the reads of a main window,
 /// as long as it lives.
 class TGX_PLAYER_INTERNAL MessagePlaces : public ScriptObserver {
@@ -35,3 +37,5 @@ private:
 
 /// Whether a message gives the number of a script's line.
 TGX_PLAYER_INTERNAL bool isAboutALine(std::string_view message);
+
+} // namespace tgx

@@ -14,6 +14,8 @@
 #include <type_traits>
 #include <utility>
 
+namespace tgx {
+
 /// The object that a call is made on: the main window or a window of the tree. The other pointer is null.
 struct CallTarget {
     AMainWin* main = nullptr;
@@ -317,3 +319,5 @@ constexpr Operation overload(const char* name)
 {
     return operation<method>(name);
 }
+
+} // namespace tgx

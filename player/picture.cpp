@@ -8,6 +8,8 @@
 
 namespace fs = std::filesystem;
 
+namespace tgx {
+
 namespace {
 
 constexpr std::uint32_t opaque = 0xFF000000;
@@ -67,3 +69,5 @@ ImageRef showDifference(const Image& expected, const Image& found)
     }
     return picture;
 }
+
+} // namespace tgx

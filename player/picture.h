@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+namespace tgx {
+
 /// Reads a picture from any path. Null if it is missing or cannot be read.
 ImageRef readPicture(const std::string& path);
 
@@ -19,3 +21,5 @@ struct PictureDifference {
 std::optional<PictureDifference> findDifference(const Image& expected, const Image& found);
 /// Returns the expected picture in dark grey, with the pixels that differ in red.
 ImageRef showDifference(const Image& expected, const Image& found);
+
+} // namespace tgx

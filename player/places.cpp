@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace tgx {
+
 namespace {
 
 int rowStep(const AListBox& list)
@@ -44,3 +46,5 @@ ScreenPoint middleOfCell(const AListBox& list, const CellPlace& cell)
     return {x + list.getColumnWidth(cell.column) / 2,
             pageTop(list) + row * rowStep(list) + rowStep(list) / 2};
 }
+
+} // namespace tgx

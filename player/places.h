@@ -5,6 +5,8 @@
 class AListBox;
 class AWnd;
 
+namespace tgx {
+
 // Positions of windows and of the cells of list boxes on the screen.
 
 /// A position in screen pixels.
@@ -26,3 +28,5 @@ TGX_PLAYER_INTERNAL ScreenPoint middleOf(const AWnd& wnd);
 TGX_PLAYER_INTERNAL CellPlace cellAt(const AListBox& list, const ScreenPoint& point);
 /// Returns the middle of a cell, whose row must be on the list's page.
 TGX_PLAYER_INTERNAL ScreenPoint middleOfCell(const AListBox& list, const CellPlace& cell);
+
+} // namespace tgx

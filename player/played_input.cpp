@@ -4,6 +4,8 @@
 
 #include <cstdio>
 
+namespace tgx {
+
 namespace {
 
 /// Returns a key code with at least two digits, as events lines write it.
@@ -75,3 +77,5 @@ const PlayedInput::Next& PlayedInput::handTo(InputQueue& queue)
     }
     return next;
 }
+
+} // namespace tgx

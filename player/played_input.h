@@ -7,6 +7,8 @@
 #include <optional>
 #include <string>
 
+namespace tgx {
+
 /// Input that events have queued. Before each tick the moves at the head and one transition are passed to the
 /// host's queue. It never holds more than that, because it does not report what a tick took.
 class PlayedInput {
@@ -48,3 +50,5 @@ private:
     Next next;
     std::string place;
 };
+
+} // namespace tgx

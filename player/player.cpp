@@ -18,6 +18,8 @@
 
 namespace fs = std::filesystem;
 
+namespace tgx {
+
 namespace {
 
 constexpr int bitDepth = 32;
@@ -220,3 +222,5 @@ void Player::writeFile(const std::string& name, std::string_view contents)
     if (!writeWhole(outputPath(name), contents))
         throw WrongLine("cannot write " + quoteName(name));
 }
+
+} // namespace tgx

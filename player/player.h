@@ -16,11 +16,14 @@ class AControlsApp;
 class AMainWin;
 class CString;
 class HeadlessHost;
-class MessagePlaces;
-class ScriptLinesOnDisk;
 namespace CLI {
 class App;
 }
+
+namespace tgx {
+
+class MessagePlaces;
+class ScriptLinesOnDisk;
 
 /// What a run plays, and how.
 struct PlayOptions {
@@ -170,3 +173,5 @@ TGX_PLAYER_API int play(const PlayOptions& options, const MainWinFactory& factor
 ///
 ///     int main(int argc, char** argv) { return playMain(argc, argv, makeMyMainWin); }
 TGX_PLAYER_API int playMain(int argc, char** argv, const MainWinFactory& factory);
+
+} // namespace tgx

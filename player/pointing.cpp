@@ -10,6 +10,8 @@
 
 #include <limits>
 
+namespace tgx {
+
 namespace {
 
 constexpr int frameLimit = 240; // per transition: a tick whose handler never ends takes no further input
@@ -150,3 +152,5 @@ void clickRow(const Event& event)
     if (pointAt(event, aimAtCell, PointerAct::Click))
         clickOn(event);
 }
+
+} // namespace tgx

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace tgx {
+
 struct Event;
 
 // Events that point at a window by its id.
@@ -15,3 +17,5 @@ void click(const Event& event);
 /// Double-clicks the window whose id is words[1]. The caller handles the form with a button's name.
 void doubleClickOn(const Event& event);
 void clickRow(const Event& event);
+
+} // namespace tgx

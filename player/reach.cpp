@@ -4,6 +4,8 @@
 #include "player/words.h"
 #include "tgx/frame/mainwin.h"
 
+namespace tgx {
+
 namespace {
 
 bool hasChild(AWnd& holder, const AWnd& wnd)
@@ -255,3 +257,5 @@ std::string describeKeyReach(AMainWin& win, const std::string& name, int x, int 
     return name + " went to " + nameOf(*reach.target) + ", the pointer" + at(x, y) + " on " +
            nameOf(*reach.wnd);
 }
+
+} // namespace tgx

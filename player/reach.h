@@ -8,6 +8,8 @@
 class AMainWin;
 class AWnd;
 
+namespace tgx {
+
 // Finds where the pointer's input goes, and why it does not go elsewhere. Follows the rules of AMainWin's
 // tick, using its public operations.
 
@@ -45,3 +47,5 @@ std::string describeReach(AMainWin& win, const std::string& name, int x, int y, 
 std::string describeKeyReach(AMainWin& win, const std::string& name, int x, int y);
 /// Returns wnd or the nearest window around it that is still moving. Null if there is none.
 TGX_PLAYER_INTERNAL const AWnd* movingFrom(const AWnd& wnd);
+
+} // namespace tgx

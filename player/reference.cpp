@@ -12,6 +12,8 @@
 
 namespace fs = std::filesystem;
 
+namespace tgx {
+
 namespace {
 
 /// Inserts variant before the extension: "a/menu.png" and "actual" give "a/menu.actual.png".
@@ -162,3 +164,5 @@ std::optional<std::string> compareWithPicture(Player& player, const std::string&
     const std::string shown = write(*showDifference(*expected, found), "difference");
     return describe(*difference) + "; see " + actual + " and " + shown;
 }
+
+} // namespace tgx

@@ -3,8 +3,11 @@
 #include <optional>
 #include <string>
 
-class Player;
 struct Image;
+
+namespace tgx {
+
+class Player;
 
 // Comparison with an expected file, whose name is relative to the events file. A result that differs is
 // written below the output directory as NAME.actual.EXT; with --update it replaces the expected file instead,
@@ -15,3 +18,5 @@ std::optional<std::string> compareWithFile(Player& player, const std::string& na
 /// Compares pixel by pixel, otherwise like compareWithFile. A difference is also shown in
 /// NAME.difference.png.
 std::optional<std::string> compareWithPicture(Player& player, const std::string& name, const Image& found);
+
+} // namespace tgx

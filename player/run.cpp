@@ -17,6 +17,8 @@
 
 namespace fs = std::filesystem;
 
+namespace tgx {
+
 namespace {
 
 constexpr int framesWithoutEvents = 60;
@@ -239,3 +241,5 @@ try {
     std::cerr << "play: out of memory\n";
     return static_cast<int>(PlayStatus::WrongCall);
 }
+
+} // namespace tgx

@@ -10,6 +10,8 @@
 
 namespace fs = std::filesystem;
 
+namespace tgx {
+
 namespace {
 
 /// "" without one, and for one that is older than the script.
@@ -55,3 +57,5 @@ const ScriptLines& ScriptLinesOnDisk::of(const std::string& file)
     return found != known.end() ? found->second
                                 : known.emplace(file, ScriptLines(readMap(file))).first->second;
 }
+
+} // namespace tgx

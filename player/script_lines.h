@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+namespace tgx {
+
 /// Where the lines of a compiled script come from.
 class TGX_PLAYER_INTERNAL ScriptLines {
 public:
@@ -38,3 +40,5 @@ public:
 private:
     std::map<std::string, ScriptLines> known;
 };
+
+} // namespace tgx

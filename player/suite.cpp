@@ -24,6 +24,8 @@
 
 namespace fs = std::filesystem;
 
+namespace tgx {
+
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -237,3 +239,5 @@ int runTests(const TestOptions& options, const MainWinFactory& factory, std::ost
         return 2;
     }
 }
+
+} // namespace tgx

@@ -2,6 +2,8 @@
 
 #include "player/player.h"
 
+namespace tgx {
+
 /// How to run all events files below a folder.
 struct TestOptions {
     std::string directory;
@@ -24,3 +26,5 @@ TGX_PLAYER_API void addTestArguments(CLI::App& app, TestOptions& options);
 /// folder. Returns what is wrong with it, or "".
 std::string readPlayWords(const std::vector<std::string>& words, const std::string& folder,
                           PlayOptions& options);
+
+} // namespace tgx

@@ -4,6 +4,8 @@
 
 #include <cstdio>
 
+namespace tgx {
+
 namespace {
 
 std::string hexColour(std::uint32_t colour)
@@ -148,3 +150,5 @@ std::string fontsReport(AMainWin& win)
     }
     return json.close(']').text() + '\n';
 }
+
+} // namespace tgx

@@ -16,6 +16,8 @@
 #include <memory>
 #include <typeinfo>
 
+namespace tgx {
+
 namespace {
 
 /// The fields that a class adds to those of every window. All rows whose class a window is an instance of are
@@ -211,3 +213,5 @@ std::string treeReport(AMainWin& win)
     json.close('}');
     return json.text() + '\n';
 }
+
+} // namespace tgx

@@ -7,6 +7,8 @@
 #include <charconv>
 #include <limits>
 
+namespace tgx {
+
 namespace {
 
 bool isBlank(char c)
@@ -245,3 +247,5 @@ std::string suggest(std::string_view written, const std::vector<std::string>& na
     }
     return best ? "; did you mean " + *best + "?" : "";
 }
+
+} // namespace tgx

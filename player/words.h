@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+namespace tgx {
+
 /// Reports why a line of an events file is wrong or could not be carried out, without file and line number.
 struct WrongLine : std::runtime_error {
     using std::runtime_error::runtime_error;
@@ -49,3 +51,5 @@ std::string listNames(const std::vector<std::string>& names, std::size_t limit =
 /// Returns "; did you mean NAME?" for the nearest name that differs in at most two letters, or "" if there is
 /// none.
 std::string suggest(std::string_view written, const std::vector<std::string>& names);
+
+} // namespace tgx

@@ -4,5 +4,5 @@
 // itself.
 int main(int argc, char** argv)
 {
-    return playMain(argc, argv, nullptr);
+    return tgx::playMain(argc, argv, nullptr);
 }

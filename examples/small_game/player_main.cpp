@@ -5,16 +5,16 @@
 #include "player/player.h"
 
 // The operations that events files may call in addition to the toolkit's.
-constexpr Operation ownOperations[] = {
-    operation<&BayMap::getPots>("getPots"),
-    operation<&BayScreen::getSortColumn>("getSortColumn"),
-    operation<&LobsterWindow::getBestPence>("getBestPence"),
+constexpr tgx::Operation ownOperations[] = {
+    tgx::operation<&BayMap::getPots>("getPots"),
+    tgx::operation<&BayScreen::getSortColumn>("getSortColumn"),
+    tgx::operation<&LobsterWindow::getBestPence>("getBestPence"),
 };
 
 int main(int argc, char** argv)
 {
-    addOperations(ownOperations);
-    return playMain(argc, argv, [](int width, int height, int depth) {
+    tgx::addOperations(ownOperations);
+    return tgx::playMain(argc, argv, [](int width, int height, int depth) {
         return std::make_unique<LobsterWindow>(width, height, depth);
     });
 }

@@ -10,7 +10,7 @@
 #include <tuple>
 #include <vector>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -227,4 +227,4 @@ void applyAllowances(const std::deque<Script>& scripts, const CheckOptions& opti
     }
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

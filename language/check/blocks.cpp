@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -375,4 +375,4 @@ void checkTopNames(const Script& script, Findings& findings)
     }
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

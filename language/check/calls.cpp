@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cctype>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -212,4 +212,4 @@ void checkCalls(std::vector<Script*>& scripts, const ScriptSet& set, Findings& f
             checkSubroutines(*script, findings);
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

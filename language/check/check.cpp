@@ -12,7 +12,7 @@
 
 namespace fs = std::filesystem;
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -156,4 +156,4 @@ CheckReport check(std::vector<ScriptFile> files, const script_text::ReadFile& re
     return report;
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

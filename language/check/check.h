@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace script_check {
+namespace tgx::script_check {
 
 /// A script file to check.
 struct ScriptFile {
@@ -43,4 +43,4 @@ struct CheckReport {
 CheckReport check(std::vector<ScriptFile> files, const script_text::ReadFile& read,
                   const CheckOptions& options);
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -2,7 +2,7 @@
 
 #include "language/check/codes.h"
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -352,4 +352,4 @@ std::span<const Code> codes()
     return rows;
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
-using script_text::Diagnostic;
+using tgx::script_text::Diagnostic;
 
 constexpr const char* head = R"(# Findings of `tgx check`
 
@@ -101,4 +101,4 @@ std::string referenceDocument()
     return out;
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace script_check {
+namespace tgx::script_check {
 
 /// Describes a kind of finding. Codes are stable, because allowances in scripts name them.
 struct Code {
@@ -30,4 +30,4 @@ std::string explainAll();
 /// Returns the contents of docs/check-reference.md.
 std::string referenceDocument();
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -13,7 +13,7 @@
 
 namespace fs = std::filesystem;
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -353,4 +353,4 @@ std::vector<ScriptFolder> collect(const std::vector<std::string>& arguments, con
     return folders;
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace script_check {
+namespace tgx::script_check {
 
 /// Scripts that belong together and may use each other.
 struct ScriptFolder {
@@ -23,4 +23,4 @@ struct ScriptFolder {
 std::vector<ScriptFolder> collect(const std::vector<std::string>& arguments, const std::string& dataDirectory,
                                   const script_text::ReadFile& read, std::vector<std::string>& problems);
 
-} // namespace script_check
+} // namespace tgx::script_check

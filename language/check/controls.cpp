@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -229,4 +229,4 @@ void checkControls(TreeCheck& check, AWnd& root)
             TopRules(check, *top).run();
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -69,4 +69,4 @@ std::string didYouMean(std::string_view near)
     return near.empty() ? "" : "; did you mean " + inQuotes(near) + "?";
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

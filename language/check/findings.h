@@ -9,7 +9,7 @@
 #include <tuple>
 #include <vector>
 
-namespace script_check {
+namespace tgx::script_check {
 
 /// Collects findings. Reports each code once per place, even if a subroutine runs more often.
 class Findings {
@@ -45,4 +45,4 @@ private:
 /// Returns "; did you mean X?", or an empty text if near is empty.
 std::string didYouMean(std::string_view near);
 
-} // namespace script_check
+} // namespace tgx::script_check

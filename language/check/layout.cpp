@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -262,4 +262,4 @@ void checkLayout(TreeCheck& check, AWnd& root)
     LayoutRules(check).run(root);
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <set>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -193,4 +193,4 @@ void checkArguments(const Script& script, Findings& findings)
     }
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -181,4 +181,4 @@ void checkLists(TreeCheck& check, AWnd& root)
     });
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -2,12 +2,12 @@
 
 #include <nlohmann/json.hpp>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
 using nlohmann::ordered_json;
-using script_text::Diagnostic;
+using tgx::script_text::Diagnostic;
 
 ordered_json objectOf(const Diagnostic& finding)
 {
@@ -44,4 +44,4 @@ std::string asJson(const std::vector<const Diagnostic*>& findings)
     return out.dump(2, ' ', false, ordered_json::error_handler_t::replace) + '\n';
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace script_check {
+namespace tgx::script_check {
 
 /// Returns the finding as `tgx build` prints it, followed by its code.
 std::string asText(const script_text::Diagnostic& finding, script_text::Colour colour);
@@ -13,4 +13,4 @@ std::string asText(const script_text::Diagnostic& finding, script_text::Colour c
 /// severity, code, message, and includedFrom (the INCLUDE lines that led there).
 std::string asJson(const std::vector<const script_text::Diagnostic*>& findings);
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -10,7 +10,7 @@
 
 namespace fs = std::filesystem;
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -138,4 +138,4 @@ void checkUnusedFiles(const std::string& dataDirectory, const std::vector<Script
                                 "unused-file"});
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

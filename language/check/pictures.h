@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-namespace script_check {
+namespace tgx::script_check {
 
 class Reading;
 
@@ -47,4 +47,4 @@ void checkUnusedFiles(const std::string& dataDirectory, const std::vector<Script
 /// folder, or an explanation of \x in names. May be empty.
 std::string fileHint(const std::string& name, Findings& findings);
 
-} // namespace script_check
+} // namespace tgx::script_check

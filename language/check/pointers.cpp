@@ -3,7 +3,7 @@
 #include "language/check/rules.h"
 #include "platform/framework/text.h"
 
-namespace script_check {
+namespace tgx::script_check {
 
 PointerTargets::PointerTargets(const std::vector<Script*>& scripts, const ScriptSet& set)
 {
@@ -27,4 +27,4 @@ bool PointerTargets::contains(const Script& script, std::string_view window) con
     return anywhere.contains(wanted) || (found != named.end() && found->second.contains(wanted));
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

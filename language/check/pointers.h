@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace script_check {
+namespace tgx::script_check {
 
 /// The top-level windows that a POINTER in any of the scripts shows inside another window.
 class PointerTargets {
@@ -22,4 +22,4 @@ private:
     std::set<std::string> anywhere;                       // where it does not, or names an embedded script
 };
 
-} // namespace script_check
+} // namespace tgx::script_check

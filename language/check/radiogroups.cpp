@@ -4,7 +4,7 @@
 #include "language/check/tree.h"
 #include "language/check/words.h"
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -133,4 +133,4 @@ void checkRadioGroups(TreeCheck& check, AWnd& parent)
     GroupRules(check, parent).run();
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

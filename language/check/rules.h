@@ -3,7 +3,7 @@
 #include "language/check/findings.h"
 #include "language/check/script.h"
 
-namespace script_check {
+namespace tgx::script_check {
 
 class PointerTargets;
 
@@ -42,4 +42,4 @@ bool makesControl(const Statement& statement);
 /// Returns whether the second argument of a GOTO is the number of an embedded script.
 bool isResourceNumber(const std::string& script);
 
-} // namespace script_check
+} // namespace tgx::script_check

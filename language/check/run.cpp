@@ -15,7 +15,7 @@
 
 #include <algorithm>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -479,4 +479,4 @@ bool Reading::containsGameWindow(AWnd& wnd) const
     return false;
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -12,7 +12,7 @@
 
 class displayhost;
 
-namespace script_check {
+namespace tgx::script_check {
 
 /// The script lines that made and changed a window.
 struct WndLines {
@@ -110,4 +110,4 @@ private:
     bool endedEarly = false;
 };
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -206,4 +206,4 @@ bool makesPart(const Statement& statement)
     return statement.kind == StatementKind::Window && !namesItsWindow(statement);
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

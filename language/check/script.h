@@ -12,7 +12,7 @@
 #include <vector>
 
 /// Static checks of interface scripts.
-namespace script_check {
+namespace tgx::script_check {
 
 /// The position of a line in the block structure of its script.
 struct LinePlace {
@@ -165,4 +165,4 @@ inline bool makesWindow(const Statement& statement)
     return statement.kind == StatementKind::Window || statement.kind == StatementKind::Screen;
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <numeric>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -140,4 +140,4 @@ void checkStrips(TreeCheck& check, AWnd& root)
     forEachBelow(root, [&](AWnd& wnd) { rules.checkWindow(wnd); });
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -190,4 +190,4 @@ void checkTexts(TreeCheck& check, AWnd& root)
     });
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

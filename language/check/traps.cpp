@@ -14,7 +14,7 @@
 #include <cstdlib>
 #include <utility>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -238,4 +238,4 @@ void checkTraps(TreeCheck& check, AWnd& root)
     }
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace script_check {
+namespace tgx::script_check {
 
 struct Box {
     int x = 0, y = 0, w = 0, h = 0; // pixels
@@ -128,4 +128,4 @@ void forEachBelow(AWnd& root, Visit visit)
     }
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -56,4 +56,4 @@ void checkUnread(const Script& script, Findings& findings)
     }
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -2,7 +2,7 @@
 
 #include "language/check/script.h"
 
-namespace script_check {
+namespace tgx::script_check {
 
 namespace {
 
@@ -75,4 +75,4 @@ std::string size(long long width, long long height)
     return std::to_string(width) + " x " + std::to_string(height);
 }
 
-} // namespace script_check
+} // namespace tgx::script_check

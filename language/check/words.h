@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace script_check {
+namespace tgx::script_check {
 
 // Descriptions of windows and values for messages.
 
@@ -20,4 +20,4 @@ std::string noFont(int number, AMainWin& window);
 /// Returns a size such as "120 x 40".
 std::string size(long long width, long long height);
 
-} // namespace script_check
+} // namespace tgx::script_check

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace script_text {
+namespace tgx::script_text {
 
 namespace {
 
@@ -125,4 +125,4 @@ std::string textMateGrammar()
     return out;
 }
 
-} // namespace script_text
+} // namespace tgx::script_text

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace script_text {
+namespace tgx::script_text {
 
 namespace {
 
@@ -223,4 +223,4 @@ const char* titleOf(Family family)
     }
 }
 
-} // namespace script_text
+} // namespace tgx::script_text

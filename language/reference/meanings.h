@@ -4,7 +4,7 @@
 
 /// Short descriptions of the statements. They are kept out of the vocabulary, which is linked into every
 /// game.
-namespace script_text {
+namespace tgx::script_text {
 
 enum class Family { Blocks, Windows, AnyWindow, TabStops, Buttons, Lists, Displays, Words };
 
@@ -25,4 +25,4 @@ const Meaning* meaningOf(int id);
 /// Returns the family's heading in the reference.
 const char* titleOf(Family family);
 
-} // namespace script_text
+} // namespace tgx::script_text

@@ -9,7 +9,7 @@
 #include <cctype>
 #include <cstdio>
 
-namespace script_text {
+namespace tgx::script_text {
 
 namespace {
 
@@ -149,4 +149,4 @@ std::string referenceDocument()
     return out;
 }
 
-} // namespace script_text
+} // namespace tgx::script_text

@@ -2,10 +2,12 @@
 
 #include <string>
 
+namespace tgx {
 struct Statement;
+}
 
 /// Documents that are generated from the vocabulary.
-namespace script_text {
+namespace tgx::script_text {
 
 /// Returns whether the statement makes or shows a window. The reference shows a picture for each of these.
 bool makesWindow(const Statement& statement);
@@ -16,4 +18,4 @@ std::string vimSyntax();
 /// Returns the contents of editors/textmate/tgs.tmLanguage.json.
 std::string textMateGrammar();
 
-} // namespace script_text
+} // namespace tgx::script_text

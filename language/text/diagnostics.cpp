@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace script_text {
+namespace tgx::script_text {
 
 namespace {
 
@@ -138,4 +138,4 @@ std::string shown(std::string_view word)
     return word.empty() ? out : out + "...";
 }
 
-} // namespace script_text
+} // namespace tgx::script_text

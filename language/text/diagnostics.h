@@ -5,7 +5,7 @@
 #include <vector>
 
 /// The text form of interface scripts: reading, compiling, printing, and the messages about it.
-namespace script_text {
+namespace tgx::script_text {
 
 /// A source file and its text.
 struct SourceFile {
@@ -64,4 +64,4 @@ std::string describe(const Diagnostic& diagnostic, Colour colour = Colour::No);
 /// Returns a word as a message shows it: shortened if it is long, and without control characters.
 std::string shown(std::string_view word);
 
-} // namespace script_text
+} // namespace tgx::script_text

@@ -4,7 +4,7 @@
 
 #include "tgx/script/reader.h"
 
-namespace script_text {
+namespace tgx::script_text {
 
 namespace {
 
@@ -66,4 +66,4 @@ std::string dependencies(const std::string& output, const std::string& input, co
     return out + '\n';
 }
 
-} // namespace script_text
+} // namespace tgx::script_text

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace script_text {
+namespace tgx::script_text {
 
 struct Emitted {
     std::string bytes;
@@ -22,4 +22,4 @@ std::string sideMap(const ParsedScript& script, const Emitted& emitted);
 /// Returns a make rule that says that output depends on input and on the files that the script includes.
 std::string dependencies(const std::string& output, const std::string& input, const ParsedScript& script);
 
-} // namespace script_text
+} // namespace tgx::script_text

@@ -10,7 +10,7 @@
 #include <cstdio>
 #include <optional>
 
-namespace script_text {
+namespace tgx::script_text {
 
 namespace {
 
@@ -256,4 +256,4 @@ std::string lexBytes(std::string_view line, std::size_t offset, std::vector<Faul
     return bytes;
 }
 
-} // namespace script_text
+} // namespace tgx::script_text

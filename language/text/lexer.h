@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace script_text {
+namespace tgx::script_text {
 
 /// A piece of a line, recognised without knowing any keyword.
 struct Lexeme {
@@ -36,4 +36,4 @@ LexedLine lex(std::string_view line);
 /// faults.
 std::string lexBytes(std::string_view line, std::size_t offset, std::vector<Fault>& faults);
 
-} // namespace script_text
+} // namespace tgx::script_text

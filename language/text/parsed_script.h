@@ -9,7 +9,9 @@
 #include <string_view>
 #include <vector>
 
+namespace tgx {
 struct Statement;
+}
 
 /// A parsed script in text form: its statements in the order in which they are compiled, each with its place.
 /// INCLUDE and DEFINE are resolved; comments and blank lines are removed.
@@ -20,7 +22,7 @@ struct Statement;
 ///             script.diagnostics.push_back({Diagnostic::Error, line.placeOf(1), "..."});
 ///     for (const Diagnostic& each : script.diagnostics)
 ///         std::cerr << describe(each);
-namespace script_text {
+namespace tgx::script_text {
 
 /// One token of the compiled script.
 struct Token {
@@ -77,4 +79,4 @@ constexpr std::string_view unfinishedMark = "#! unfinished:";
 /// On its own before a line: the line is built unchecked. Followed by a decimal number: a keyword's id.
 constexpr char verbatimMark = '@';
 
-} // namespace script_text
+} // namespace tgx::script_text

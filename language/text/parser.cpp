@@ -16,7 +16,7 @@
 #include <unordered_set>
 #include <utility>
 
-namespace script_text {
+namespace tgx::script_text {
 
 namespace {
 
@@ -421,4 +421,4 @@ ParsedScript parse(const std::string& path, std::string text, const ReadFile& re
     return script;
 }
 
-} // namespace script_text
+} // namespace tgx::script_text

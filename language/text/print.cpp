@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-namespace script_text {
+namespace tgx::script_text {
 
 namespace {
 
@@ -135,4 +135,4 @@ Used only in dumps of unusual scripts:
   EMPTY        a line without a token
   #! unfinished: 71 04   the bytes of an incomplete last line, at the end of the file)";
 
-} // namespace script_text
+} // namespace tgx::script_text

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace script_text {
+namespace tgx::script_text {
 
 /// Returns the text form of a compiled script. Works for any bytes: parse and emit reproduce them, without a
 /// message.
@@ -12,4 +12,4 @@ std::string print(std::string_view bytes);
 /// Describes the text form, for --help.
 extern const char* const notation;
 
-} // namespace script_text
+} // namespace tgx::script_text

@@ -7,12 +7,12 @@
 
 namespace fs = std::filesystem;
 
-std::optional<std::string> readFile(const std::string& name, std::string& reason)
+std::optional<std::string> tgx::readFile(const std::string& name, std::string& reason)
 {
     return tgx::readWholeFile(name, limits::scriptBytes, reason);
 }
 
-std::optional<std::string> readIncluded(const std::string& name, std::string& reason)
+std::optional<std::string> tgx::readIncluded(const std::string& name, std::string& reason)
 {
     std::error_code ignored;
     const fs::file_status status = fs::status(name, ignored);

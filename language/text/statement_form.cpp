@@ -8,7 +8,7 @@
 #include <numeric>
 #include <utility>
 
-namespace script_text {
+namespace tgx::script_text {
 
 namespace {
 
@@ -173,4 +173,4 @@ std::string_view nearest(std::string_view word, const std::vector<std::string_vi
     return best;
 }
 
-} // namespace script_text
+} // namespace tgx::script_text

@@ -8,7 +8,7 @@
 #include <vector>
 
 /// Messages about a line, made from the vocabulary.
-namespace script_text {
+namespace tgx::script_text {
 
 /// Returns the keyword and its arguments, with optional ones in brackets: POINTER "window" ["script"].
 std::string expectedForm(const Statement& statement);
@@ -27,4 +27,4 @@ std::vector<LineFault> lineFaults(const std::vector<Token>& tokens);
 /// Returns the name that word was probably meant to be, or an empty text if none is similar. Ignores case.
 std::string_view nearest(std::string_view word, const std::vector<std::string_view>& names);
 
-} // namespace script_text
+} // namespace tgx::script_text

@@ -8,7 +8,7 @@
 
 namespace fs = std::filesystem;
 
-namespace script_text {
+namespace tgx::script_text {
 
 namespace {
 
@@ -48,4 +48,4 @@ std::string compiledName(const std::string& textFile)
     return fs::path(textFile).stem().string() + ".tgx";
 }
 
-} // namespace script_text
+} // namespace tgx::script_text

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-namespace script_text {
+namespace tgx::script_text {
 
 /// Returns the files of a folder with that ending (lower case, with the dot), sorted by name; none if the
 /// folder cannot be read. Paths are relative to the working directory where they are below it.
@@ -14,4 +14,4 @@ std::string compiledName(const std::string& textFile);
 /// Returns the path of the data directory's folder UIG, whatever its case; empty if there is none.
 std::string scriptFolder();
 
-} // namespace script_text
+} // namespace tgx::script_text

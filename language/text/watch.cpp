@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace script_text {
+namespace tgx::script_text {
 
 WatchedFiles::WatchedFiles(const std::vector<std::string>& paths)
 {
@@ -31,4 +31,4 @@ WatchedFiles::State WatchedFiles::stateOf(const std::string& path)
     return {time, size};
 }
 
-} // namespace script_text
+} // namespace tgx::script_text

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace script_text {
+namespace tgx::script_text {
 
 /// Detects files that have been written, replaced, removed or created since they were added.
 class WatchedFiles {
@@ -28,4 +28,4 @@ private:
     std::vector<std::pair<std::string, State>> files;
 };
 
-} // namespace script_text
+} // namespace tgx::script_text

@@ -164,34 +164,18 @@ void surface::setPixel(int x, int y, unsigned long colour)
     image->version++;
 }
 
-void SurfaceRef::attach(surface* to)
+template<>
+void tgx::WeakRef<surface>::attach(surface* to)
 {
-    target = to;
-    if (!to)
-        return;
-    next = to->refs;
-    if (next)
-        next->link = &next;
-    link = &to->refs;
-    to->refs = this;
+    if (to)
+        link(to, to->refs);
 }
 
-void SurfaceRef::detach()
+template<>
+void tgx::WeakRef<surface>::detach()
 {
     surface* const former = target;
     unlink();
     if (former && !former->refs && former->owner)
         former->owner->letGo(former);
-}
-
-void SurfaceRef::unlink()
-{
-    if (!target)
-        return;
-    *link = next;
-    if (next)
-        next->link = link;
-    target = nullptr;
-    next = nullptr;
-    link = nullptr;
 }

@@ -65,7 +65,7 @@ protected:
 
 private:
     friend class ddwin;
-    friend class SurfaceRef;
+    friend SurfaceRef;
     friend class SurfaceStore;
     DrawCommand& record(DrawOp op);
 

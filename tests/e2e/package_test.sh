@@ -38,7 +38,7 @@ expect() {
 is_png() { [[ $(head -c 8 "$1" | od -An -tx1 | tr -d ' \n') == 89504e470d0a1a0a ]]; }
 # A picture with only one colour would be much smaller than this.
 is_drawn() { is_png "$1" && (($(stat -c %s "$1") > 2000)); }
-linked_into() { [[ $(LD_LIBRARY_PATH= ldd "$2") == *"libtgx.so.1 => $1/"* ]]; }
+linked_into() { [[ $(LD_LIBRARY_PATH= ldd "$2") == *libtgx.so.+([0-9.])" => $1/"* ]]; }
 
 prefix=$work/prefix
 install_here() { run "install" cmake --install "$build" --prefix "$prefix"; }
@@ -93,7 +93,7 @@ int main()
     displayhost::use(std::make_unique<HeadlessHost>());
     AControlsApp app;
     AMainWin window(320, 200, 32);
-    DevTools devTools(window);
+    tgx::DevTools devTools(window);
     app.mainWin = &window;
     window.startup();
     window.runTick();

@@ -12,7 +12,7 @@
 
 namespace {
 
-using namespace script_check;
+using namespace tgx::script_check;
 
 void checkTexts(std::string_view text, const CheckOptions& options)
 {

@@ -12,6 +12,8 @@
 #include <iterator>
 #include <string_view>
 
+using namespace tgx;
+
 namespace {
 
 /// Writes a script in text form until the bytes are used up.
@@ -193,14 +195,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string text = ScriptWriter(bytes).write();
 
     const auto noFile = [](const std::string&, std::string&) { return std::nullopt; };
-    const script_text::ParsedScript parsed = script_text::parse("script.tgs", text, noFile);
+    const tgx::script_text::ParsedScript parsed = tgx::script_text::parse("script.tgs", text, noFile);
     if (parsed.hasErrors())
-        fail("a generated script does not build", script_text::describe(parsed.diagnostics[0]) + text);
+        fail("a generated script does not build", tgx::script_text::describe(parsed.diagnostics[0]) + text);
     // A script with another name is not a main script, where subroutines would be an error.
     const char* const name = size % 2 == 0 ? "script.tgs" : "panels.tgs";
-    requireUsefulFindings(script_check::check({{name, text, false}}, noFile, optionsFor(directory)));
+    requireUsefulFindings(tgx::script_check::check({{name, text, false}}, noFile, optionsFor(directory)));
     setDataDirectory(directory.path.string());
-    const std::string compiled = script_text::emit(parsed).bytes;
+    const std::string compiled = tgx::script_text::emit(parsed).bytes;
     playScript({reinterpret_cast<const std::uint8_t*>(compiled.data()), compiled.size()}, events);
     return 0;
 }

@@ -17,7 +17,7 @@
 
 namespace {
 
-using namespace script_text;
+using namespace tgx::script_text;
 
 /// Prints the fault and aborts, so that libFuzzer keeps the input.
 [[noreturn]] void fail(const char* what, const std::string& text)

@@ -37,33 +37,50 @@ void AMainWin::OnMouseAction()
     if (std::exchange(pressCancelled, 0))
         mouseDownWnd = nullptr; // the pressed window returns to rest with the moves that now reach it
     if (nextDrawCount > 0 || !pendingScreen.IsEmpty()) {
-        flushMessages();
+        flushMessages(); // once more, because nothing else looks at the window while a change is pending
         dropLostInput();
         ddwin::OnMouseAction();
         return;
     }
-    if (lButtonUp && mouseCaptureWnds.GetSize() > 0) {
-        // A click outside the edit box ends the typing.
-        const AWnd* top = aliveOrNull(mouseCaptureWnds[0]);
-        if (isOfType(top, AWnd::WND_EDITBOX) && !top->pointInside(mouseX, mouseY))
-            setMouseCaptureWnd(nullptr);
-    }
+    endTypingByClick();
     const WndRef screen = getActiveScreen();
     const WndRef target = inputTarget();
     if (screenList->isWndToBeDeleted(target))
-        return;
-    if (!screen || !screen->isVisible(1) || !getActiveScreen()->isOpen() ||
-        screenList->isWndToBeDeleted(screen)) {
+        return; // without the base: the next tick has the same input
+    if (!activeScreenTakesInput()) {
         ddwin::OnMouseAction();
         return;
     }
-
     const AWnd::E_MOUSEACTION action = chooseAction(target);
     if (target)
         moveFocus(target);
     if (target)
         dispatch(target, action);
+    followUp(action, target, screen);
+    ddwin::OnMouseAction();
+}
 
+/// A click outside the edit box that is being typed into ends the typing.
+void AMainWin::endTypingByClick()
+{
+    if (!lButtonUp || mouseCaptureWnds.GetSize() == 0)
+        return;
+    const AWnd* top = aliveOrNull(mouseCaptureWnds[0]);
+    if (isOfType(top, AWnd::WND_EDITBOX) && !top->pointInside(mouseX, mouseY))
+        setMouseCaptureWnd(nullptr);
+}
+
+/// Returns whether the active screen is open, visible and not marked for deletion.
+bool AMainWin::activeScreenTakesInput() const
+{
+    AScreen* screen = getActiveScreen();
+    return screen && screen->isVisible(1) && screen->isOpen() && !screenList->isWndToBeDeleted(screen);
+}
+
+/// Does what follows the dispatch of an action: focus, press and selections that end with it, windows to
+/// delete.
+void AMainWin::followUp(AWnd::E_MOUSEACTION action, const WndRef& target, const WndRef& screen)
+{
     if (screenList && curFocusWnd && screenList->isWndToBeDeleted(curFocusWnd))
         loseFocus();
     else
@@ -79,7 +96,6 @@ void AMainWin::OnMouseAction()
         keyCode = 0;
         keyCode2 = 0;
     }
-    ddwin::OnMouseAction();
 }
 
 /// Drops input that arrived before a change or during a load: the user meant it for the screen that was shown
@@ -125,6 +141,7 @@ AWnd::E_MOUSEACTION AMainWin::chooseAction(AWnd* target)
     if (lButtonUp || keyCode == VK_RETURN)
         return AWnd::MA_LBUTTONUP;
     if (rButtonUp) {
+        // A game's own screen: while it is disabled, the right button does not count as a key.
         const AWnd* match = screenList->getWnd("WMatchScreen", 1);
         if (match && !match->isEnabled())
             return AWnd::MA_MBUTTONDOWN; // no control reacts to it

@@ -27,7 +27,7 @@ void writeSetting(const char* name, int field)
 
 } // namespace
 
-AMainWin::AMainWin(int width, int height, int depth) : screenList(std::make_unique<AScreenList>())
+AMainWin::AMainWin(int width, int height, int depth)
 {
     if (pApp)
         setSettingsOwner(pApp->getCompanyName(), pApp->getProgramName());

@@ -14,9 +14,11 @@
 #include <optional>
 #include <vector>
 
+namespace tgx {
 class ScriptObserver;
 struct ScriptPlace;
 class ScriptRun;
+} // namespace tgx
 
 /// The game's main window: root of the window tree, frame loop, screens and popups, input, and the interface
 /// script. The game derives from it and overrides startup (to read its main script), drawscreen,
@@ -70,7 +72,6 @@ public:
     void waitForNextDraw() { nextDrawCount = 1; }
     /// Returns 1 on the fourth call after waitForNextDraw, otherwise 0.
     int nextDrawDone();
-    AScreenList* getScreenList() const override { return screenList.get(); }
     AScreen* getActiveScreen() const override { return screenList ? screenList->getActiveScreen() : nullptr; }
     /// Returns the front popup, or the active screen if there is none.
     AWnd* getActiveWnd() const override;
@@ -131,7 +132,6 @@ public:
     /// Returns the popup at index, 0 being the front, or null after the last. A negative index raises the
     /// invalid-argument exception.
     AWnd* getPopupWnd(int index) const override;
-    int getPopupWndCount() const override { return popupWnds.GetSize(); }
     /// Returns 1 if a popup with exactly this id is open.
     int isInPopupList(const CString& id) const;
     /// Opens the box "MESSAGEBOX" of "common.tgx". The id "messageBox" is made unique. Returns 1, or 0 if the
@@ -161,25 +161,23 @@ public:
     void deleteAllGotoFiles(CArray<CFile*, CFile*>& gotoFiles) override;
     /// Calls observer for each line that is carried out from now on. Not owned: remove it before it is
     /// deleted.
-    void addScriptObserver(ScriptObserver& observer);
-    void removeScriptObserver(ScriptObserver& observer);
-    const std::vector<ScriptObserver*>& getScriptObservers() const override { return scriptObservers; }
+    void addScriptObserver(tgx::ScriptObserver& observer);
+    void removeScriptObserver(tgx::ScriptObserver& observer);
+    const std::vector<tgx::ScriptObserver*>& getScriptObservers() const override { return scriptObservers; }
     /// Returns the line that is being carried out, in the innermost read if reads are nested; nothing between
     /// reads.
-    std::optional<ScriptPlace> getScriptPlace() const;
+    std::optional<tgx::ScriptPlace> getScriptPlace() const;
 
 protected:
     /// Draws one frame of the wipe.
     void screenWipe();
 
-    std::unique_ptr<AScreenList> screenList; // null once the exit has completed
-    WndRef darkWnd;                          // dims the screen below the popups; a child of screenList
-    WndList popupWnds;                       // index 0 is the front
-    WndList mouseCaptureWnds;                // index 0 is the top
-    WndRef prevFocusWnd;                     // curFocusWnd of the previous tick
-    WndRef curFocusWnd;                      // window under the pointer inside the input target
-    int focusWndHotTime = 0;                 // ticks
-    WndRef mouseDownWnd;                     // window on which the left button went down
+    WndRef darkWnd;           // dims the screen below the popups; a child of screenList
+    WndList mouseCaptureWnds; // index 0 is the top
+    WndRef prevFocusWnd;      // curFocusWnd of the previous tick
+    WndRef curFocusWnd;       // window under the pointer inside the input target
+    int focusWndHotTime = 0;  // ticks
+    WndRef mouseDownWnd;      // window on which the left button went down
     FrameGovernor governor;
     int targetFPS = 24;     // frames per second that animations are designed for; a subclass may change it
     int wipeFramesLeft = 0; // frames
@@ -215,6 +213,9 @@ private:
     void completeExit();
     void loseFocus();
     void dropLostInput();
+    void endTypingByClick();
+    bool activeScreenTakesInput() const;
+    void followUp(AWnd::E_MOUSEACTION action, const WndRef& target, const WndRef& screen);
     AWnd* inputTarget() const;
     AWnd* aliveOrNull(AWnd* wnd) const;
     AWnd::E_MOUSEACTION chooseAction(AWnd* target);
@@ -231,6 +232,6 @@ private:
     bool exitRequested = false;
     bool wipeSwapsBackdrop = false; // the running wipe has not shown the new backdrop yet
     bool wipeReturns = false; // the running wipe leads to a suspended screen; its last frame calls returned
-    std::vector<ScriptObserver*> scriptObservers;
-    std::unique_ptr<ScriptRun> scriptRun; // belongs to the outermost read; null between reads
+    std::vector<tgx::ScriptObserver*> scriptObservers;
+    std::unique_ptr<tgx::ScriptRun> scriptRun; // belongs to the outermost read; null between reads
 };

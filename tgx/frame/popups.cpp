@@ -129,7 +129,7 @@ AWnd* AMainWin::openBox(const CString& name, const CString& id, const CString& t
     if (!found) {
         displayhost::current().showFailure(
             CString(std::string("cannot load ") + static_cast<const char*>(name)),
-            whyNoScript(commonScriptFile, GetModuleHandleA(nullptr), noResource));
+            tgx::whyNoScript(commonScriptFile, GetModuleHandleA(nullptr), noResource));
         return nullptr;
     }
     AWnd* box = setPopupWnd(found, parent, 1);

@@ -154,7 +154,7 @@ void AMainWin::reportMissingScreen(const ScreenRequest& request)
 {
     const std::string text = std::string("cannot find screen ") + static_cast<const char*>(request.name);
     displayhost::current().showFailure(
-        CString(text), whyNoScript(request.file, GetModuleHandleA(nullptr), request.resource));
+        CString(text), tgx::whyNoScript(request.file, GetModuleHandleA(nullptr), request.resource));
     setCursor(normalCursor);
 }
 

@@ -27,17 +27,17 @@ struct PositionRestorer {
 
 } // namespace
 
-void AMainWin::addScriptObserver(ScriptObserver& observer)
+void AMainWin::addScriptObserver(tgx::ScriptObserver& observer)
 {
     scriptObservers.push_back(&observer);
 }
 
-void AMainWin::removeScriptObserver(ScriptObserver& observer)
+void AMainWin::removeScriptObserver(tgx::ScriptObserver& observer)
 {
     std::erase(scriptObservers, &observer);
 }
 
-std::optional<ScriptPlace> AMainWin::getScriptPlace() const
+std::optional<tgx::ScriptPlace> AMainWin::getScriptPlace() const
 {
     return scriptRun ? scriptRun->place() : std::nullopt;
 }
@@ -70,10 +70,10 @@ void AMainWin::deleteAllGotoFiles(CArray<CFile*, CFile*>& gotoFiles)
 int AMainWin::processLine(CFile* stream, TOKEN_INFO* tokens, int count, AWnd* current, AWnd** wndStack,
                           int depth, CArray<CFile*, CFile*>& gotoFiles)
 {
-    const ScriptRun::Scope scope(scriptRun, stream ? stream->GetFileName() : CString(), scriptLines,
-                                 scriptWork);
-    const LineResult result =
-        executeLine({*this, scope.run(), stream, tokens, count, current, depth, gotoFiles});
+    const tgx::ScriptRun::Scope scope(scriptRun, stream ? stream->GetFileName() : CString(), scriptLines,
+                                      scriptWork);
+    const tgx::LineResult result =
+        tgx::executeLine({*this, scope.run(), stream, tokens, count, current, depth, gotoFiles});
     if (result.stores)
         wndStack[depth] = result.made;
     return result.depthChange;
@@ -84,15 +84,15 @@ int AMainWin::doSubroutine(CFile* stream, const CString& name, AWnd* parent,
 {
     if (!stream)
         return 0;
-    const ScriptRun::Scope scope(scriptRun, stream->GetFileName(), scriptLines, scriptWork);
-    ScriptRun& run = scope.run();
+    const tgx::ScriptRun::Scope scope(scriptRun, stream->GetFileName(), scriptLines, scriptWork);
+    tgx::ScriptRun& run = scope.run();
     const auto body = run.indexOf(*stream).subroutine(name.view());
     if (!body || !run.canCallDeeper())
         return 0;
     if (parent && parent->isPointer())
         run.noteShared();
 
-    const ScriptRun::Subroutine keptStream(run, stream);
+    const tgx::ScriptRun::Subroutine keptStream(run, stream);
     const PositionRestorer restorer{stream, stream->GetPosition()};
     stream->Seek(static_cast<long>(body->position));
     tgx::LineLoop loop{*this, run, stream, gotoFiles, parent};
@@ -108,16 +108,16 @@ AWnd* AMainWin::readScriptFile(const CString& name, HINSTANCE instance, unsigned
         return nullptr;
     const CString shortName(tgx::withoutDirectory(name.view()));
     {
-        const ScriptRun::Scope scope(scriptRun, shortName, scriptLines, scriptWork);
-        ScriptRun& run = scope.run();
+        const tgx::ScriptRun::Scope scope(scriptRun, shortName, scriptLines, scriptWork);
+        tgx::ScriptRun& run = scope.run();
         if (!run.canReadDeeper())
             return nullptr;
-        const ScriptRun::Read read(run);
+        const tgx::ScriptRun::Read read(run);
 
         CMemFile resource(1024);
         const std::unique_ptr<CFile> file = run.open(name);
         if (!file)
-            convertResourceToFile(instance, resourceId, &resource, scriptResourceType);
+            convertResourceToFile(instance, resourceId, &resource, tgx::scriptResourceType);
         GotoCache cache{*this, {}};
         tgx::LineLoop loop{*this, run, file ? file.get() : &resource, cache.files, nullptr};
         tgx::readLines(loop, toWindow, shortName);
@@ -125,7 +125,7 @@ AWnd* AMainWin::readScriptFile(const CString& name, HINSTANCE instance, unsigned
     if (finalRead && !openFirstScreen())
         displayhost::current().showFailure(
             CString("no screen in " + std::string(static_cast<const char*>(shortName))),
-            whyNoScript(name, instance, resourceId));
+            tgx::whyNoScript(name, instance, resourceId));
     return toWindow.IsEmpty() ? nullptr : lastTopLevelWnd(toWindow);
 }
 

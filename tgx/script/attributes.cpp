@@ -1,14 +1,12 @@
-// Statements that set an attribute of any window. The setters use only the lowest bit of a flag.
+// Statements that set an attribute of any window and need more than one of its setters.
 
 #include "tgx/controls/listbox/listbox.h"
 #include "tgx/script/run.h"
 #include "tgx/script/statements.h"
 #include "tgx/wnd/tabstops.h"
 
-namespace {
+namespace tgx {
 
-/// Appends the windows below target that the tokens from 1 on name. Returns false at the first name that is
-/// not found; the windows before it stay in the list.
 bool appendWnds(AWnd& target, const ScriptLine& line, WndList ATabStopInfo::*list)
 {
     for (int i = 1; i < line.count; ++i) {
@@ -19,8 +17,6 @@ bool appendWnds(AWnd& target, const ScriptLine& line, WndList ATabStopInfo::*lis
     }
     return true;
 }
-
-} // namespace
 
 bool justificationOf(const TOKEN_INFO& token, AWnd::E_TEXTJUSTIFY& justify)
 {
@@ -69,22 +65,9 @@ void justify(AWnd& target, const ScriptLine& line)
         target.setTextJustify(chosen);
 }
 
-bool tabList1(AWnd& target, const ScriptLine& line)
-{
-    return appendWnds(target, line, &ATabStopInfo::insertDeleteWnds);
-}
-
-bool tabList2(AWnd& target, const ScriptLine& line)
-{
-    return appendWnds(target, line, &ATabStopInfo::homeEndWnds);
-}
-
-bool tabOrder(AWnd& target, const ScriptLine& line)
-{
-    return appendWnds(target, line, &ATabStopInfo::tabOrderWnds);
-}
-
 void text(AWnd& target, const ScriptLine& line)
 {
     target.setWindowText(line.text(1));
 }
+
+} // namespace tgx

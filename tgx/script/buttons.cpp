@@ -1,15 +1,28 @@
-// Statements that make buttons, combo boxes, tab controls, edit boxes and scroll bars, and those that set
-// attributes of buttons and combo boxes. The forms shared by several statements come first.
+// Statements that make check boxes, radio buttons and the parts of controls, and forms that several
+// statements share.
 
 #include "tgx/controls/combobox.h"
-#include "tgx/controls/editbox.h"
 #include "tgx/controls/radiobutton.h"
-#include "tgx/controls/scrollbar.h"
 #include "tgx/script/run.h"
 #include "tgx/script/statements.h"
 #include "tgx/wnd/reserved.h"
 
+namespace tgx {
+
 namespace {
+
+/// Returns the number of radio buttons at the end of target's children, up to limit.
+int lastRadioButtons(AWnd& target, int limit)
+{
+    int count = 0;
+    for (int i = target.getWindowCount() - 1; i >= 0 && count < limit; --i, ++count) {
+        if (!windowAs<ARadioButton>(target.getWndFromIndex(i, "")))
+            break;
+    }
+    return count;
+}
+
+} // namespace
 
 /// Applies text, text offset and bitmap, frame size and delay, and frames of the states; groups may be left
 /// out from the end.
@@ -34,27 +47,6 @@ void applyButtonForm(AButton& button, const ScriptLine& line)
                                    line.number(17));
 }
 
-/// Returns the number of radio buttons at the end of target's children, up to limit.
-int lastRadioButtons(AWnd& target, int limit)
-{
-    int count = 0;
-    for (int i = target.getWindowCount() - 1; i >= 0 && count < limit; --i, ++count) {
-        if (!windowAs<ARadioButton>(target.getWndFromIndex(i, "")))
-            break;
-    }
-    return count;
-}
-
-AWnd* scrollBar(bool horizontal, AWnd& target, const ScriptLine& line)
-{
-    auto* bar = addControl<AScrollBar>(target, line);
-    bar->setHorizontal(horizontal);
-    applyBarForm(*bar, line);
-    return bar;
-}
-
-} // namespace
-
 AWnd* addStateButton(const char* name, AWnd& target, const ScriptLine& line)
 {
     auto* button = new AButton(name, line.number(1), line.number(2), line.number(3), line.number(4));
@@ -73,17 +65,10 @@ void applyBarForm(AWnd& bar, const ScriptLine& line)
     bar.setBmpInfo(line.number(7), line.number(8), 1, 1);
 }
 
-AWnd* button(AWnd& target, const ScriptLine& line)
-{
-    auto* made = addControl<AButton>(target, line);
-    applyButtonForm(*made, line);
-    return made;
-}
-
 AWnd* checkBox(AWnd& target, const ScriptLine& line)
 {
-    AWnd* made = button(target, line);
-    static_cast<AButton*>(made)->setCheckBox(1);
+    AButton* made = addButton<AButton>(target, line);
+    made->setCheckBox(1);
     return made;
 }
 
@@ -95,8 +80,7 @@ AWnd* radioButton(AWnd& target, const ScriptLine& line)
     if (others >= ARadioButton::maxScriptMembers)
         return nullptr;
     const int place = target.getWindowCount();
-    auto* made = addControl<ARadioButton>(target, line);
-    applyButtonForm(*made, line);
+    auto* made = addButton<ARadioButton>(target, line);
     made->linkNewMember(*made);
     for (int i = place - 1; i >= place - others; --i) {
         auto* member = static_cast<ARadioButton*>(target.getWndFromIndex(i, ""));
@@ -110,30 +94,6 @@ AWnd* radioButton(AWnd& target, const ScriptLine& line)
     return made;
 }
 
-AWnd* editBox(AWnd& target, const ScriptLine& line)
-{
-    AWnd* made = addControl<AEditBox>(target, line);
-    applyTextForm(*made, line);
-    return made;
-}
-
-AWnd* hScrollBar(AWnd& target, const ScriptLine& line)
-{
-    return scrollBar(true, target, line);
-}
-
-AWnd* vScrollBar(AWnd& target, const ScriptLine& line)
-{
-    return scrollBar(false, target, line);
-}
-
-AWnd* comboBox(AWnd& target, const ScriptLine& line)
-{
-    auto* made = addControl<AComboBox>(target, line);
-    applyButtonForm(*made, line);
-    return made;
-}
-
 AWnd* comboMenu(AWnd& target, const ScriptLine& line)
 {
     auto* menu = new AFloatingMenu(tgx::part::comboMenu, line.number(1), line.number(2), line.number(3),
@@ -143,3 +103,5 @@ AWnd* comboMenu(AWnd& target, const ScriptLine& line)
     menu->setVisible(0);
     return menu;
 }
+
+} // namespace tgx

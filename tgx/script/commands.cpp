@@ -6,6 +6,8 @@
 
 #include <cstdlib>
 
+namespace tgx {
+
 namespace {
 
 /// Opens a script file, or the resource whose number script is, or an empty stream if there is neither. Adds
@@ -63,3 +65,5 @@ bool goTo(const ScriptLine& line)
     line.run.explainFailure(cause);
     return false;
 }
+
+} // namespace tgx

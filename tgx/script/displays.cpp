@@ -1,9 +1,9 @@
-// Statements that make progress bars, vidiprinters and graphs, and the one that sets a graph's attributes.
+// Statements that make line graphs, and the one that sets the attributes of graphs.
 
 #include "tgx/controls/graph.h"
-#include "tgx/controls/progressbar.h"
-#include "tgx/controls/vidiprinter.h"
 #include "tgx/script/statements.h"
+
+namespace tgx {
 
 AWnd* lineGraph(AWnd& target, const ScriptLine& line)
 {
@@ -31,24 +31,4 @@ void graphInfo(AGraph& target, const ScriptLine& line)
         target.setShowEmptyBars(line.number(7));
 }
 
-AWnd* progressBar(AWnd& target, const ScriptLine& line)
-{
-    auto* made = addControl<AProgressBar>(target, line);
-    applyBarForm(*made, line);
-    return made;
-}
-
-AWnd* vProgressBar(AWnd& target, const ScriptLine& line)
-{
-    auto* made = addControl<AProgressBar>(target, line);
-    made->setHorizontal(0);
-    applyBarForm(*made, line);
-    return made;
-}
-
-AWnd* vidiPrinter(AWnd& target, const ScriptLine& line)
-{
-    auto* made = addControl<AVidiPrinter>(target, line);
-    applyTextForm(*made, line);
-    return made;
-}
+} // namespace tgx

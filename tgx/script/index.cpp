@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace tgx {
+
 namespace {
 
 /// Receives the tokens of a line and keeps the first two.
@@ -87,3 +89,5 @@ std::optional<ScriptIndex::Place> ScriptIndex::find(Names& names, std::string_vi
         return std::nullopt;
     return found->place;
 }
+
+} // namespace tgx

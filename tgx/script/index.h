@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+namespace tgx {
+
 /// Finds lines of one stream by name, without reading everything before them each time.
 class ScriptIndex {
 public:
@@ -44,3 +46,5 @@ private:
     Names subroutines{true};
     Names windows{false};
 };
+
+} // namespace tgx

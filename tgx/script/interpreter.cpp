@@ -3,6 +3,8 @@
 #include "tgx/script/run.h"
 #include "tgx/wnd/screenlist.h"
 
+namespace tgx {
+
 LineResult executeLine(const ScriptLine& line)
 {
     constexpr LineResult failed{lineFailed};
@@ -38,3 +40,5 @@ LineResult executeLine(const ScriptLine& line)
         return failed;
     return {0, true, made};
 }
+
+} // namespace tgx

@@ -2,6 +2,8 @@
 
 #include "tgx/script/statements.h"
 
+namespace tgx {
+
 /// The result of a line.
 struct LineResult {
     int depthChange = 0;  // 1 for BEGIN, -1 for END, lineFailed, otherwise 0
@@ -11,3 +13,5 @@ struct LineResult {
 
 /// Executes one line.
 LineResult executeLine(const ScriptLine& line);
+
+} // namespace tgx

@@ -7,9 +7,9 @@
 
 #include <algorithm>
 
-ScriptObserver::~ScriptObserver() = default;
-
 namespace tgx {
+
+ScriptObserver::~ScriptObserver() = default;
 
 namespace {
 
@@ -56,7 +56,7 @@ int LineLoop::execute()
     if (result.stores)
         open[depth] = result.made;
     if (!run.isOver())
-        for (ScriptObserver* observer : window.getScriptObservers())
+        for (ScriptObserver* observer : observers)
             observer->lineExecuted({stream->GetFileName(), stream->GetFilePath(), start, tokens, count, depth,
                                     current(), result.depthChange, result.made});
     return result.depthChange;
@@ -72,13 +72,13 @@ void readLines(LineLoop& loop, const CString& toWindow, const CString& name)
         const bool hasName =
             !wholeScript && loop.tokens[1].id == stringToken && loop.tokens[1].text == toWindow;
         const int change = loop.execute();
-        const std::string cause = loop.run.takeFailureCause();
         if (change > lineFailed)
             loop.depth = std::max(loop.depth + change, 0);
         else if (loop.run.isOver())
             break; // a line refused because the run is over is not faulty
         else
-            reportLine(lineNumber, name, loop.tokens[0].text, cause);
+            reportLine(lineNumber, name, loop.tokens[0].text, loop.run.takeFailureCause());
+        loop.run.forgetFailureCause();
         if (!wholeScript && !hasName && loop.depth == 0)
             break;
     }

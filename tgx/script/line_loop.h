@@ -19,6 +19,7 @@ struct LineLoop {
     TOKEN_INFO tokens[maxLineTokens] = {};
     WndRef open[wndStackSize] = {}; // entries become null if the game's code deletes a window during the read
     const ScriptRun::Loop registered{run, stream, start};
+    const std::vector<ScriptObserver*>& observers = window.getScriptObservers();
 
     /// Reads the next line. Returns false at the end of the stream.
     bool next();

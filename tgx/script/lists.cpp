@@ -1,9 +1,11 @@
-// Statements that make list boxes and set their attributes, and the one that fills list and combo boxes.
+// Statements that set attributes of list boxes, and the one that fills list and combo boxes.
 
 #include "tgx/controls/combobox.h"
 #include "tgx/script/statements.h"
 
 #include <cstdlib>
+
+namespace tgx {
 
 namespace {
 
@@ -125,3 +127,5 @@ void listFixedRows(AListBox& list, const ScriptLine& line)
     for (int i = 1; i < line.count; ++i)
         list.addNonSelectableRow(line.number(i));
 }
+
+} // namespace tgx

@@ -8,6 +8,8 @@
 class AWnd;
 class CString;
 
+namespace tgx {
+
 /// The place of a line in a script.
 struct ScriptPlace {
     /// Path below UIG as it was opened, such as "parts\menu.tgx"; empty for an embedded script.
@@ -38,3 +40,5 @@ public:
     virtual ~ScriptObserver();
     virtual void lineExecuted(const ExecutedLine& line) = 0;
 };
+
+} // namespace tgx

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace tgx {
+
 namespace {
 
 /// Stores tokens in the available entries and counts all of them.
@@ -55,3 +57,5 @@ int readScriptLine(CFile* stream, TOKEN_INFO* tokens, int maxTokens, int* count)
     stream->Seek(next ? next - bytes.data() : static_cast<long>(bytes.size()));
     return next != nullptr;
 }
+
+} // namespace tgx

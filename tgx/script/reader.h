@@ -7,6 +7,8 @@
 #include <cstring>
 #include <string_view>
 
+namespace tgx {
+
 /// First bytes of tokens that are not keywords.
 constexpr unsigned char numberToken = 3;    // followed by the low and the high byte
 constexpr unsigned char stringToken = 4;    // followed by the characters and a 0
@@ -47,3 +49,5 @@ const char* scanLine(const char* pos, const char* end, Sink& sink)
     }
     return nullptr;
 }
+
+} // namespace tgx

@@ -9,6 +9,8 @@
 #include <limits>
 #include <utility>
 
+namespace tgx {
+
 namespace {
 
 const std::string scriptFolder = "UIG\\";
@@ -272,3 +274,5 @@ bool ScriptRun::mayGrowShared(AWnd& root, AWnd& target)
     const Places places = placesOf(root, target);
     return places.deepest < limits::windowDepth && takePlaces(places.times);
 }
+
+} // namespace tgx

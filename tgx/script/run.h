@@ -19,6 +19,8 @@
 
 class AWnd;
 
+namespace tgx {
+
 /// Returns an explanation for a script that cannot be found: if there is neither the file below UIG nor the
 /// resource, the file and the folder in which it was looked for; otherwise "".
 std::string whyNoScript(const CString& file, HINSTANCE instance, unsigned resource);
@@ -134,6 +136,11 @@ public:
     /// Stores why the current line is about to fail, for the message about it.
     void explainFailure(std::string cause) { failureCause = std::move(cause); }
     std::string takeFailureCause() { return std::exchange(failureCause, {}); }
+    void forgetFailureCause()
+    {
+        if (!failureCause.empty())
+            failureCause.clear();
+    }
 
     // Windows by name. Both operations return the same as getWnd(id, 1) of below.
 
@@ -199,3 +206,5 @@ private:
     std::map<std::string, std::shared_ptr<const std::string>, std::less<>> files; // null: no such file
     std::map<std::pair<const char*, std::size_t>, std::unique_ptr<ScriptIndex>> indexes;
 };
+
+} // namespace tgx

@@ -7,9 +7,9 @@
 
 #include <vector>
 
-class ScriptObserver;
-
 namespace tgx {
+
+class ScriptObserver;
 
 /// What running scripts need from the main window, in addition to what windows need. AMainWin implements it
 /// and documents the operations.

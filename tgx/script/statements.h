@@ -4,10 +4,13 @@
 #include "tgx/controls/graph.h"
 #include "tgx/script/script_stage.h"
 #include "tgx/script/vocabulary.h"
+#include "tgx/wnd/tabstops.h"
 #include "tgx/wnd/window_cast.h"
 
 #include <type_traits>
 #include <utility>
+
+namespace tgx {
 
 class ScriptRun;
 
@@ -115,12 +118,17 @@ void bmpFile(AWnd& target, const ScriptLine& line);
 void border(AWnd& target, const ScriptLine& line);
 bool font(AWnd& target, const ScriptLine& line);
 void justify(AWnd& target, const ScriptLine& line);
-bool tabList1(AWnd& target, const ScriptLine& line);
-bool tabList2(AWnd& target, const ScriptLine& line);
-bool tabOrder(AWnd& target, const ScriptLine& line);
 void text(AWnd& target, const ScriptLine& line);
+/// Appends the windows below target that the tokens from 1 on name. Returns false at the first name that is
+/// not found; the windows before it stay in the list.
+bool appendWnds(AWnd& target, const ScriptLine& line, WndList ATabStopInfo::*list);
+template<WndList ATabStopInfo::*list>
+bool tabStops(AWnd& target, const ScriptLine& line)
+{
+    return appendWnds(target, line, list);
+}
 
-// Forms shared by statements of several families: the tokens after id and box.
+// Makers of controls. A form is the tokens after id and box, which several statements share.
 /// Adds a control with the line's id and box to target and returns it.
 template<class Control>
 Control* addControl(AWnd& target, const ScriptLine& line)
@@ -130,7 +138,30 @@ Control* addControl(AWnd& target, const ScriptLine& line)
     return made;
 }
 void applyTextForm(AWnd& wnd, const ScriptLine& line);
+template<class Control>
+Control* addTextControl(AWnd& target, const ScriptLine& line)
+{
+    auto* made = addControl<Control>(target, line);
+    applyTextForm(*made, line);
+    return made;
+}
+void applyButtonForm(AButton& button, const ScriptLine& line);
+template<class Button>
+Button* addButton(AWnd& target, const ScriptLine& line)
+{
+    auto* made = addControl<Button>(target, line);
+    applyButtonForm(*made, line);
+    return made;
+}
 void applyBarForm(AWnd& bar, const ScriptLine& line);
+template<class Bar, bool isHorizontal>
+Bar* addBar(AWnd& target, const ScriptLine& line)
+{
+    auto* made = addControl<Bar>(target, line);
+    made->setHorizontal(isHorizontal);
+    applyBarForm(*made, line);
+    return made;
+}
 AWnd* addStateButton(const char* name, AWnd& target, const ScriptLine& line);
 /// Makes a part that its control finds by the id.
 template<const char* id>
@@ -141,24 +172,16 @@ AWnd* stateButton(AWnd& target, const ScriptLine& line)
 /// Stores the justification that token names. Returns false if it names none.
 bool justificationOf(const TOKEN_INFO& token, AWnd::E_TEXTJUSTIFY& justify);
 
-// Buttons, combo boxes, tabs, edit boxes and scroll bars (buttons.cpp).
-AWnd* button(AWnd& target, const ScriptLine& line);
+// Buttons and their parts (buttons.cpp).
 AWnd* checkBox(AWnd& target, const ScriptLine& line);
-AWnd* editBox(AWnd& target, const ScriptLine& line);
-AWnd* hScrollBar(AWnd& target, const ScriptLine& line);
 AWnd* radioButton(AWnd& target, const ScriptLine& line);
-AWnd* vScrollBar(AWnd& target, const ScriptLine& line);
-AWnd* comboBox(AWnd& target, const ScriptLine& line);
 AWnd* comboMenu(AWnd& target, const ScriptLine& line);
 
-// Progress bars, vidiprinters and graphs (displays.cpp).
+// Graphs (displays.cpp).
 AWnd* lineGraph(AWnd& target, const ScriptLine& line);
-AWnd* progressBar(AWnd& target, const ScriptLine& line);
-AWnd* vidiPrinter(AWnd& target, const ScriptLine& line);
-AWnd* vProgressBar(AWnd& target, const ScriptLine& line);
 void graphInfo(AGraph& target, const ScriptLine& line);
 
-// List boxes, keyboards, and the items of combo boxes (lists.cpp).
+// List boxes, and the items of combo boxes (lists.cpp).
 bool item(AWnd& target, const ScriptLine& line);
 void columns(AListBox& list, const ScriptLine& line);
 void listFixedColumns(AListBox& list, const ScriptLine& line);
@@ -169,3 +192,5 @@ void listIcons(AListBox& list, const ScriptLine& line);
 void listLook(AListBox& list, const ScriptLine& line);
 void listOptions(AListBox& list, const ScriptLine& line);
 void titles(AListBox& list, const ScriptLine& line);
+
+} // namespace tgx

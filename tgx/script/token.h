@@ -10,6 +10,8 @@ struct TOKEN_INFO {
     short value = 0; // of a number
 };
 
+namespace tgx {
+
 /// Maximum number of tokens in a line, including the keyword.
 constexpr int maxLineTokens = 30;
 /// Number of entries of a window stack: a statement may be inside 19 blocks.
@@ -18,3 +20,5 @@ constexpr int wndStackSize = 20;
 constexpr int lineFailed = -9999;
 /// The type of resources that are scripts.
 constexpr const char* scriptResourceType = "TGXScript";
+
+} // namespace tgx

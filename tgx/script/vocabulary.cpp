@@ -1,14 +1,20 @@
 #include "tgx/script/vocabulary.h"
 
+#include "tgx/controls/editbox.h"
 #include "tgx/controls/keyboard.h"
 #include "tgx/controls/listbox/listbox.h"
+#include "tgx/controls/progressbar.h"
+#include "tgx/controls/scrollbar.h"
 #include "tgx/controls/tabcontrol.h"
+#include "tgx/controls/vidiprinter.h"
 #include "tgx/script/statements.h"
 #include "tgx/wnd/reserved.h"
 
 #include <algorithm>
 #include <array>
 #include <cctype>
+
+namespace tgx {
 
 namespace {
 
@@ -64,13 +70,13 @@ constexpr Statement rows[] = {
     {44, "BUTTONFPS", Attribute, counts(5, 6), fiveStates, anyButton, on<&AButton::setButtonAnimFPS>},
     {45, "BUTTONFRAMES", Attribute, counts(5, 6), fiveStates, anyButton, on<&AButton::setButtonAnimFrames>},
     {46, "BUTTONLOOP", Attribute, counts(5, 6), fiveStates, anyButton, on<&AButton::setButtonAnimLoop>},
-    {47, "BUTTON", Window, buttonCounts, buttonForm, any, on<button>},
+    {47, "BUTTON", Window, buttonCounts, buttonForm, any, on<addButton<AButton>>},
     {48, "CENTRE", ArgumentWord, noLine, ""},
     {49, "CHECKBOX", Window, buttonCounts, buttonForm, any, on<checkBox>},
     {50, "CHECKBOXSTATE", Window, stateCounts, stateForm, buttonOrElseNothing,
      on<stateButton<tgx::part::checkboxState>>},
     {51, "COLUMNS", Attribute, atLeast(1), "width|LEFT|CENTRE|RIGHT ...", list, on<columns>},
-    {52, "COMBOBOX", Window, buttonCounts, buttonForm, any, on<comboBox>},
+    {52, "COMBOBOX", Window, buttonCounts, buttonForm, any, on<addButton<AComboBox>>},
     {53, "COMBOMENU", Window, counts(6), R"(x y width height "bitmap")", any, on<comboMenu>},
     {54, "COMBONEXT", Window, stateCounts, stateForm, comboOrElseNothing,
      on<stateButton<tgx::part::comboNext>>},
@@ -79,7 +85,7 @@ constexpr Statement rows[] = {
     {56, "COMBOWRAP", Attribute, counts(2), "flag", comboOrElseNothing, on<&AComboBox::setWrapItems>},
     {57, "ITEM", Attribute, atLeast(1), R"("text" ...)", listOrCombo, on<item>},
     {58, "EASYCLOSE", Attribute, counts(2), "flag", any, on<&AWnd::setEasyClose>},
-    {59, "EDITBOX", Window, textCounts, textForm, any, on<editBox>},
+    {59, "EDITBOX", Window, textCounts, textForm, any, on<addTextControl<AEditBox>>},
     {60, "ENABLED", Attribute, counts(2), "flag", any, on<&AWnd::setEnabled>},
     {61, "FONT", Attribute, counts(2), "font", any, on<font>},
     {62, "ADDFONT", Command, counts(4, 5), R"("file" "style" size spacing)", any, on<addFont>},
@@ -88,7 +94,7 @@ constexpr Statement rows[] = {
     {66, "GRAPHINFO", Attribute, atLeast(1),
      R"("text1" "text2" xLabelEvery yLabelEvery yGridEvery xGridEvery showEmptyBars)", graph, on<graphInfo>},
     {68, "COMBODROPS", Attribute, counts(2), "flag", combo, on<&AComboBox::setMenuAllowed>},
-    {69, "HSCROLLBAR", Window, barCounts, barForm, any, on<hScrollBar>},
+    {69, "HSCROLLBAR", Window, barCounts, barForm, any, on<addBar<AScrollBar, true>>},
     {71, "JUSTIFY", Attribute, counts(2), justification, any, on<justify>},
     {72, "KEYBOARD", Window, boxCounts, boxForm, any, on<addControl<AKeyboard>>},
     {73, "LEFT", ArgumentWord, noLine, ""},
@@ -104,7 +110,7 @@ constexpr Statement rows[] = {
     {83, "POINTER", Reference, counts(2, 3), R"("window" "script")", any, on<pointer>},
     {84, "COMBOBELOW", Attribute, counts(2), "flag", combo, on<&AComboBox::setMenuBelow>},
     {85, "BUTTONTEXTSHIFT", Attribute, counts(2), "flag", anyButton, on<&AButton::setTextShift>},
-    {86, "PROGRESSBAR", Window, barCounts, barForm, any, on<progressBar>},
+    {86, "PROGRESSBAR", Window, barCounts, barForm, any, on<addBar<AProgressBar, true>>},
     {87, "RADIOBUTTON", Window, buttonCounts, buttonForm, any, on<radioButton>},
     {88, "RADIOSTATE", Window, stateCounts, stateForm, radioOrElseNothing,
      on<stateButton<tgx::part::radioState>>},
@@ -113,13 +119,15 @@ constexpr Statement rows[] = {
      on<screen>},
     {91, "SCROLLBARINFO", Attribute, counts(3), R"("bitmap" width)", listOrElseNothing,
      on<&AListBox::setScrollBarInfo>},
-    {92, "TABLIST1", Attribute, atLeast(2), R"("window" ...)", any, on<tabList1>},
-    {93, "TABLIST2", Attribute, atLeast(2), R"("window" ...)", any, on<tabList2>},
+    {92, "TABLIST1", Attribute, atLeast(2), R"("window" ...)", any,
+     on<tabStops<&ATabStopInfo::insertDeleteWnds>>},
+    {93, "TABLIST2", Attribute, atLeast(2), R"("window" ...)", any, on<tabStops<&ATabStopInfo::homeEndWnds>>},
     {94, "BUTTONCHECK", Attribute, counts(2), "flag", anyButton, on<&AButton::setCheckBox>},
     {95, "BMPSTRETCH", Attribute, counts(2), "flag", any, on<&AWnd::setBmpStretch>},
     {96, "SUBROUTINE", Definition, counts(2), R"("name")"},
     {97, "TABCONTROL", Window, boxCounts, boxForm, any, on<addControl<ATabControl>>},
-    {98, "TABORDER", Attribute, atLeast(2), R"("window" ...)", any, on<tabOrder>},
+    {98, "TABORDER", Attribute, atLeast(2), R"("window" ...)", any,
+     on<tabStops<&ATabStopInfo::tabOrderWnds>>},
     {99, "TEXTWND", Window, textCounts, textForm, any, on<textWnd>},
     {100, "BMPTILE", Attribute, counts(2), "flag", any, on<&AWnd::setBmpTile>},
     {101, "TITLEBMP", Attribute, counts(2), R"("bitmap")", list, on<&AListBox::setTitleBmpFile>},
@@ -130,10 +138,10 @@ constexpr Statement rows[] = {
     {106, "USERDEF", Window, counts(6, 7), R"("name" x y width height "class")", any, on<userDef>},
     {107, "TEXTCENTREV", Attribute, counts(2), "flag", any, on<&AWnd::setTextCentreV>},
     {108, "TEXTRAW", Attribute, counts(2), "flag", any, on<&AWnd::setTextRaw>},
-    {109, "VIDIPRINTER", Window, textCounts, textForm, any, on<vidiPrinter>},
+    {109, "VIDIPRINTER", Window, textCounts, textForm, any, on<addTextControl<AVidiPrinter>>},
     {110, "VISIBLE", Attribute, counts(2), "flag", any, on<&AWnd::setVisible>},
-    {111, "VPROGRESSBAR", Window, barCounts, barForm, any, on<vProgressBar>},
-    {112, "VSCROLLBAR", Window, barCounts, barForm, any, on<vScrollBar>},
+    {111, "VPROGRESSBAR", Window, barCounts, barForm, any, on<addBar<AProgressBar, false>>},
+    {112, "VSCROLLBAR", Window, barCounts, barForm, any, on<addBar<AScrollBar, false>>},
     {113, "WINDOW", Window, boxCounts, boxForm, any, on<window>},
     {114, "WNDPOS", Attribute, counts(5), "x y width height", any, on<&AWnd::setWndPos>},
     {115, "TEXTWRAP", Attribute, counts(2), "flag", any, on<&AWnd::setTextWrap>},
@@ -190,3 +198,5 @@ ArgumentKind argumentKind(const Statement& statement, int token)
         return ArgumentKind::Word;
     return argument.find('|') == std::string_view::npos ? ArgumentKind::Number : ArgumentKind::NumberOrWord;
 }
+
+} // namespace tgx

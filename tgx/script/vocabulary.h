@@ -8,6 +8,8 @@
 #include <span>
 #include <string_view>
 
+namespace tgx {
+
 struct ScriptLine;
 
 /// The ids that code uses by name. All others are only in the table.
@@ -100,3 +102,5 @@ TGX_API std::string_view argumentName(const Statement& statement, int token);
 /// form count as that one. The interpreter does not check kinds: a string where a number is expected counts
 /// as 0.
 TGX_API ArgumentKind argumentKind(const Statement& statement, int token);
+
+} // namespace tgx

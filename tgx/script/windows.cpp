@@ -5,6 +5,8 @@
 #include "tgx/script/statements.h"
 #include "tgx/wnd/screenlist.h"
 
+namespace tgx {
+
 namespace {
 
 /// Makes a plain window with the line's id and box. The caller owns it.
@@ -100,3 +102,5 @@ AWnd* pointer(AWnd& target, const ScriptLine& line)
     wnd->setOwner(root); // it outlives the screen that shows it
     return wnd;
 }
+
+} // namespace tgx

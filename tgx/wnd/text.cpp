@@ -4,9 +4,23 @@
 #include "tgx/wnd/textline.h"
 #include "tgx/wnd/wrap.h"
 
+#include <vector>
+
 namespace {
 
 constexpr ZnFixed atFullSize = ZnFixed::fromInt(1);
+
+/// Returns a copy of line that ends in 0, as the display library needs it, valid until the next call. Its
+/// storage is kept, so that a frame allocates nothing.
+const char* endedByZero(std::string_view line)
+{
+    static std::vector<char> characters;
+    if (characters.size() <= line.size())
+        characters.resize(2 * line.size() + 1);
+    line.copy(characters.data(), line.size());
+    characters[line.size()] = 0;
+    return characters.data();
+}
 
 } // namespace
 
@@ -37,8 +51,6 @@ void AWnd::textOut(int x, int y, int width, int height, const CString& text, E_T
         return;
     }
 
-    // The display library needs text that ends in 0. Static, so that a frame allocates nothing.
-    static std::string line;
     if (!wrap) {
         int length = 0;
         const std::string_view fits = cutToWidth(font, text.view(), width, length);
@@ -47,15 +59,14 @@ void AWnd::textOut(int x, int y, int width, int height, const CString& text, E_T
         if (fits.size() == text.view().size()) {
             stage->textout(leftEdge(justify, x, width, length), at, text, font, dest, 0, scale, mode);
         } else {
-            line = fits;
-            stage->textout(leftEdge(justify, x, width, length), at, line.c_str(), font, dest, 0, scale, mode);
+            stage->textout(leftEdge(justify, x, width, length), at, endedByZero(fits), font, dest, 0, scale,
+                           mode);
         }
         return;
     }
 
     for (TextWrap wrapped(text.view(), font, width, height); wrapped.next();) {
-        line = wrapped.line();
-        stage->textout(leftEdge(justify, x, width, wrapped.length()), wrapped.topFrom(y), line.c_str(), font,
-                       dest, 0, atFullSize, 1);
+        stage->textout(leftEdge(justify, x, width, wrapped.length()), wrapped.topFrom(y),
+                       endedByZero(wrapped.line()), font, dest, 0, atFullSize, 1);
     }
 }

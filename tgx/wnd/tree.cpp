@@ -2,6 +2,7 @@
 #include "tgx/base/fixed.h"
 #include "tgx/wnd/border.h"
 #include "tgx/wnd/child_walk.h"
+#include "tgx/wnd/inside.h"
 #include "tgx/wnd/links.h"
 #include "tgx/wnd/screenlist.h"
 #include "tgx/wnd/stage.h"
@@ -16,15 +17,6 @@ bmpfont* defaultFont()
 {
     tgx::Stage* stage = tgx::stage();
     return stage ? stage->getFont(0) : nullptr;
-}
-
-/// Returns true if wnd is holder or holder is one of its parents.
-bool isInside(const AWnd* wnd, const AWnd* holder)
-{
-    for (; wnd; wnd = wnd->getParent())
-        if (wnd == holder)
-            return true;
-    return false;
 }
 
 /// Returns true if wnd is holder or is listed below it. A window shown in two places may be listed below
@@ -131,7 +123,7 @@ void AWnd::inheritFont()
 
 AWnd* AWnd::addChildWindow(AWnd* added)
 {
-    if (!added || isInside(this, added) || isListedBelow(this, added))
+    if (!added || tgx::isInside(this, added) || isListedBelow(this, added))
         return nullptr;
     if (added->owner == this || (added->links && added->links->holders.contains(this)))
         added->getLinks().listedTwice = true;
@@ -171,7 +163,7 @@ AWnd* AWnd::releaseChildWindow(AWnd* released)
 void AWnd::setParentAndIndex(AWnd* newParent, int index)
 {
     // A window that is its own parent counts as having no parent.
-    if (newParent != this && isInside(newParent, this))
+    if (newParent != this && tgx::isInside(newParent, this))
         return;
     parent = newParent;
     windowIndex = to16(index);

@@ -428,7 +428,7 @@ protected:
     short savedMouseY = 0;
 
 private:
-    friend class WndRef;
+    friend WndRef;
     friend class WndList;
     struct Links; // needed by few windows: lists that contain it, further holders, windows owned elsewhere
 
@@ -453,32 +453,9 @@ private:
     std::unique_ptr<Links> links;
 };
 
-inline void WndRef::attach(AWnd* target)
+template<>
+inline void tgx::WeakRef<AWnd>::attach(AWnd* to)
 {
-    wnd = target;
-    if (!target)
-        return;
-    next = target->refs;
-    if (next)
-        next->link = &next;
-    link = &target->refs;
-// A ref on the stack removes itself before its lifetime ends, but GCC cannot see that.
-#if defined(__GNUC__) && !defined(__clang__) && __GNUC__ >= 12
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wdangling-pointer"
-#endif
-    target->refs = this;
-#if defined(__GNUC__) && !defined(__clang__) && __GNUC__ >= 12
-#pragma GCC diagnostic pop
-#endif
-}
-
-inline void WndRef::detach()
-{
-    if (!wnd)
-        return;
-    *link = next;
-    if (next)
-        next->link = link;
-    wnd = nullptr;
+    if (to)
+        link(to, to->refs);
 }

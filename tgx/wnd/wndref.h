@@ -1,42 +1,18 @@
 #pragma once
 
+#include "platform/framework/weak_ref.h"
 #include "tgx/export.h"
 
 #include <vector>
 
 class AWnd;
 
-/// A non-owning pointer to a window that becomes null when the window is deleted. Takes three words and no
-/// allocation: the refs to one window form a linked list.
-class WndRef {
-public:
-    WndRef() = default;
-    WndRef(AWnd* target) { attach(target); }
-    WndRef(const WndRef& other) { attach(other.wnd); }
-    WndRef& operator=(const WndRef& other) { return *this = other.wnd; }
-    WndRef& operator=(AWnd* other)
-    {
-        if (wnd != other) {
-            detach();
-            attach(other);
-        }
-        return *this;
-    }
-    ~WndRef() { detach(); }
+/// A non-owning pointer to a window that becomes null when the window is deleted.
+using WndRef = tgx::WeakRef<AWnd>;
 
-    operator AWnd*() const { return wnd; }
-    AWnd* operator->() const { return wnd; }
-    AWnd* get() const { return wnd; }
-
-private:
-    friend class AWnd;
-    inline void attach(AWnd* target);
-    inline void detach();
-
-    AWnd* wnd = nullptr;
-    WndRef* next = nullptr;
-    WndRef** link = nullptr; // the pointer that points to this ref
-};
+/// Defined in wnd.h.
+template<>
+inline void tgx::WeakRef<AWnd>::attach(AWnd* to);
 
 /// Holds the window that handles an action and the window that the action is about across calls that may
 /// delete either:

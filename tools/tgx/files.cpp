@@ -10,6 +10,8 @@
 
 namespace fs = std::filesystem;
 
+namespace tgx {
+
 namespace {
 
 bool failed(const std::string& name, const std::string& reason)
@@ -40,7 +42,7 @@ bool writeThrough(const Output& output)
 std::optional<std::string> readInput(const std::string& name)
 {
     std::string reason;
-    std::optional<std::string> text = readFile(name, reason);
+    std::optional<std::string> text = tgx::readFile(name, reason);
     if (!text)
         std::cerr << (name == "-" ? "stdin" : name) << ": error: cannot read: " << reason << '\n';
     return text;
@@ -74,3 +76,5 @@ bool isSameFile(const std::string& a, const std::string& b)
            (a == b || fs::equivalent(a, b, none) ||
             fs::weakly_canonical(a, none) == fs::weakly_canonical(b, none));
 }
+
+} // namespace tgx

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace tgx {
+
 // Files named on the command line; "-" is stdin or stdout. Errors are reported on stderr.
 
 /// Returns the contents of the file, or nothing if it cannot be read.
@@ -20,3 +22,5 @@ bool writeOutputs(const std::vector<Output>& outputs);
 /// Returns whether two names refer to the same file, even if it does not exist yet. Empty names refer to no
 /// file.
 bool isSameFile(const std::string& a, const std::string& b);
+
+} // namespace tgx

@@ -8,6 +8,8 @@
 #include <iostream>
 #include <new>
 
+namespace tgx {
+
 namespace {
 
 constexpr int inputError = 1;
@@ -33,7 +35,7 @@ std::string unknownCommandText(const CLI::App& app, const std::string& name)
         if (!each->get_group().empty()) // hidden
             names.push_back(each->get_name());
     }
-    std::string text = "no command " + script_text::shown(name) + "; the commands are";
+    std::string text = "no command " + tgx::script_text::shown(name) + "; the commands are";
     for (std::size_t i = 0; i < names.size(); ++i)
         text += (i == 0 ? " " : i + 1 == names.size() ? " and " : ", ") + names[i];
     return text;
@@ -84,10 +86,18 @@ int run(int argc, char** argv)
 
 } // namespace
 
-int main(int argc, char** argv)
+/// Returns the exit status, also when memory is used up.
+int runGuarded(int argc, char** argv)
 try {
     return run(argc, argv);
 } catch (const std::bad_alloc&) {
     std::cerr << "tgx: out of memory\n";
     return usageError;
+}
+
+} // namespace tgx
+
+int main(int argc, char** argv)
+{
+    return tgx::runGuarded(argc, argv);
 }

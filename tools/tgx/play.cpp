@@ -5,6 +5,8 @@
 
 #include <memory>
 
+namespace tgx {
+
 void addPlay(CLI::App& app)
 {
     CLI::App* command = app.add_subcommand(
@@ -16,3 +18,5 @@ void addPlay(CLI::App& app)
             throw CLI::RuntimeError(status);
     });
 }
+
+} // namespace tgx

@@ -6,6 +6,8 @@
 #include <iostream>
 #include <memory>
 
+namespace tgx {
+
 void addTest(CLI::App& app)
 {
     CLI::App* command = app.add_subcommand("test", "Play all events files below a folder, in parallel");
@@ -16,3 +18,5 @@ void addTest(CLI::App& app)
             throw CLI::RuntimeError(status);
     });
 }
+
+} // namespace tgx

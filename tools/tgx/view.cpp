@@ -18,6 +18,8 @@
 
 namespace fs = std::filesystem;
 
+namespace tgx {
+
 namespace {
 
 constexpr int usageError = 2;
@@ -118,10 +120,10 @@ std::string scriptName(const std::string& given)
 bool scriptExists(const ViewOptions& options)
 {
     std::vector<std::string> folders = options.devTools.sources;
-    folders.push_back(script_text::scriptFolder());
+    folders.push_back(tgx::script_text::scriptFolder());
     for (const std::string& folder : folders)
-        for (const std::string& file : script_text::filesIn(folder, ".tgs"))
-            if (tgx::lowercased(script_text::compiledName(file)) == tgx::lowercased(options.script))
+        for (const std::string& file : tgx::script_text::filesIn(folder, ".tgs"))
+            if (tgx::lowercased(tgx::script_text::compiledName(file)) == tgx::lowercased(options.script))
                 return true;
     return findDataFile("UIG\\" + options.script).has_value();
 }
@@ -189,3 +191,5 @@ void addView(CLI::App& app)
             throw CLI::RuntimeError(status);
     });
 }
+
+} // namespace tgx

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace tgx;
+
 namespace {
 
 constexpr std::uint32_t ground = 0xFF204060;

@@ -5,7 +5,7 @@
 #include <span>
 
 using namespace std::string_literals;
-using script_text::ParsedScript;
+using tgx::script_text::ParsedScript;
 
 namespace {
 
@@ -196,7 +196,7 @@ TEST(Build, ShowsTheLineWithAMark)
         << "the part around the place";
     const ParsedScript script = parse("LEFT");
     EXPECT_EQ(
-        describe(script.diagnostics.at(0), script_text::Colour::Yes),
+        describe(script.diagnostics.at(0), tgx::script_text::Colour::Yes),
         "\x1B[1ma.tgs:1:1: \x1B[0m\x1B[1;31merror: \x1B[0mno statement begins like this; expected a keyword\n"
         " 1 | LEFT\n   | \x1B[1;32m^~~~\x1B[0m\n");
 }
@@ -212,11 +212,11 @@ TEST(Build, IncludesFilesRelativeToTheIncludingFile)
     }};
     const ParsedScript script = sources.parse("ui/menu.tgs");
     EXPECT_EQ(headlines(script), "");
-    const script_text::Emitted emitted = emit(script);
+    const tgx::script_text::Emitted emitted = emit(script);
     EXPECT_EQ(emitted.bytes, "\x27\3\2\0\7\x3D\3\2\0\7\x27\3\2\0\7\x0F\7"s);
     EXPECT_EQ(sideMap(script, emitted),
               "0 3 ui/lib/frame.tgs\n5 3 ui/menu.tgs\n10 3 ui/lib/frame.tgs\n15 2 top.tgs\n");
-    EXPECT_EQ(script_text::dependencies("out dir/a.tgx", "ui/menu.tgs", script),
+    EXPECT_EQ(tgx::script_text::dependencies("out dir/a.tgx", "ui/menu.tgs", script),
               "out\\ dir/a.tgx: ui/menu.tgs \\\n  ui/lib/sizes.tgs \\\n  ui/lib/frame.tgs \\\n  top.tgs\n");
     ASSERT_EQ(script.lines.size(), 4u);
     EXPECT_EQ(script.lines[2].in->line, 4);

@@ -24,7 +24,7 @@ TEST_F(Check, CollectsScripts)
         std::vector<std::string> problems;
         for (std::string& each : arguments)
             each = (data / each).string();
-        for (const auto& folder : script_check::collect(arguments, "", readFile, problems)) {
+        for (const auto& folder : tgx::script_check::collect(arguments, "", tgx::readFile, problems)) {
             list +=
                 relative(folder.path, data).string() + (folder.dataDirectory.empty() ? "" : " (data)") + ':';
             for (const auto& file : folder.files) {

@@ -42,9 +42,9 @@ protected:
         options.dataDirectory = data.string();
     }
 
-    script_check::CheckReport run(const Sources& sources)
+    tgx::script_check::CheckReport run(const Sources& sources)
     {
-        std::vector<script_check::ScriptFile> files;
+        std::vector<tgx::script_check::ScriptFile> files;
         for (const auto& [name, text] : sources.files) {
             const bool isReported = !name.starts_with('[');
             const std::string path = isReported ? name : name.substr(1, name.size() - 2);
@@ -53,7 +53,7 @@ protected:
             if (!path.ends_with(".inc"))
                 files.push_back({path, text, path.ends_with(".tgx"), isReported, runtimeName});
         }
-        return script_check::check(
+        return tgx::script_check::check(
             files,
             [&](const std::string& path, std::string& reason) {
                 const auto found = sources.files.find(path);
@@ -64,14 +64,14 @@ protected:
     }
     std::string found(const std::string& text, const std::string& firstName = "a.tgs")
     {
-        const script_check::CheckReport report = run(divided(text, firstName));
+        const tgx::script_check::CheckReport report = run(divided(text, firstName));
         std::string headlines;
         for (const auto& each : report.findings)
             headlines += headline(each) + " [" + each.code + "]\n";
         return headlines;
     }
 
-    script_check::CheckOptions options;
+    tgx::script_check::CheckOptions options;
 };
 
 /// A table row: scripts, and the headlines of their findings, each with its code in brackets.

@@ -126,8 +126,8 @@ TEST_F(Check, AcceptsUnusedAllowancesIfRulesHaveNotRun)
     EXPECT_EQ(found(text), "");
 }
 
-/// In the text of another script, and in a block whose window is told of by its own line.
-TEST_F(Check, TellsOfACauseBeforeWhatFollowsFromIt)
+/// In the text of another script, and in a block whose window is reported at its own line.
+TEST_F(Check, ReportsACauseBeforeItsConsequences)
 {
     EXPECT_EQ(
         found("SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  GOTO \"S\" \"b.tgx\"\n  TABORDER \"OK\"\nEND\n"
@@ -136,10 +136,10 @@ TEST_F(Check, TellsOfACauseBeforeWhatFollowsFromIt)
               "BEGIN\n  BUTTONLOOP 1 1 1 1\n  BUTTON \"OK\" 0 0 90 24 \"\"\nEND"),
         "a.tgs:8:12: error: no script \"c.tgx\"; did you mean \"a.tgx\"? [missing-script]\n"
         "a.tgs:6:1: warning: no button of \"QUERYBOX\" closes it; TGX_OK, TGX_CANCEL, TGX_YES, TGX_NO and "
-        "TGX_CLOSE do [stuck-box]\n"
-        "a.tgs:6:1: warning: \"QUERYBOX\" has no window \"MESSAGEBOXTITLE\", so that text does not show "
-        "[box-part]\n"
-        "b.tgs:3:3: error: BUTTONLOOP acts on a button, a combo box or a radio button, and \"A\" is a screen "
+        "TGX_CLOSE do [no-close-button]\n"
+        "a.tgs:6:1: warning: \"QUERYBOX\" has no window \"MESSAGEBOXTITLE\", so that text is not shown "
+        "[missing-box-part]\n"
+        "b.tgs:3:3: error: BUTTONLOOP acts on a button, a combo box or a radio button, but \"A\" is a screen "
         "[wrong-window]\n"
         "a.tgs:4:12: error: no window \"OK\" in \"A\" at this point [missing-window]\n");
 }

@@ -9,7 +9,7 @@
 #include <set>
 
 using namespace std::string_literals;
-using script_check::CheckReport;
+using tgx::script_check::CheckReport;
 
 namespace {
 
@@ -453,7 +453,7 @@ TEST_F(Check, HasARowForEveryCode)
     for (const CheckRow& row : rows)
         all += row.findings;
     // "unfinished" and "unused-file" have their own tests; "line-fails" is for failures that no rule expects.
-    for (const script_check::Code& code : script_check::codes())
+    for (const tgx::script_check::Code& code : tgx::script_check::codes())
         if (const std::string name = code.name;
             name != "unfinished" && name != "unused-file" && name != "line-fails") {
             EXPECT_NE(all.find('[' + name + ']'), std::string::npos) << name << " has no row above";
@@ -475,7 +475,7 @@ TEST_F(Check, ExamplesOfEachCodeHaveAndAvoidTheFinding)
     const std::string others = "\n== parts.tgs\nSUBROUTINE \"PANEL\"\nBEGIN\nEND\nWINDOW \"X\" 0 0 9 "
                                "9\nBEGIN\n  GOTO \"PANEL\"\nEND\n== panels.tgs\nWINDOW \"MAP\" 0 0 9 "
                                "9\nBEGIN\nEND\n== buttons.tgs\nFONT 0";
-    for (const script_check::Code& code : script_check::codes()) {
+    for (const tgx::script_check::Code& code : tgx::script_check::codes()) {
         SCOPED_TRACE(code.name);
         const bool isOfMain = std::string(code.wrong).starts_with("# script.tgs");
         if (*code.wrong) {
@@ -556,15 +556,15 @@ TEST_F(Check, PrintsJsonForEditors)
 {
     const CheckReport report =
         run({{{"menu.tgs", "# é\n\n  INCLUDE \"b.inc\""}, {"b.inc", "TEXT \"é\" FONT"}}});
-    std::vector<const script_text::Diagnostic*> findings;
+    std::vector<const tgx::script_text::Diagnostic*> findings;
     for (const auto& each : report.findings)
         findings.push_back(&each);
-    EXPECT_EQ(nlohmann::json::parse(script_check::asJson(findings)), nlohmann::json::parse(R"([{
+    EXPECT_EQ(nlohmann::json::parse(tgx::script_check::asJson(findings)), nlohmann::json::parse(R"([{
         "file": "b.inc", "line": 1, "column": 1, "endColumn": 5, "severity": "error", "code": "argument-count",
         "message": "TEXT takes 1 argument, this line has 2; expected: TEXT \"text\"",
         "includedFrom": [{"file": "menu.tgs", "line": 3, "column": 11}]
     }])"));
-    EXPECT_EQ(script_check::asJson({}), "[]\n");
+    EXPECT_EQ(tgx::script_check::asJson({}), "[]\n");
 }
 
 } // namespace

@@ -6,7 +6,7 @@
 #include <random>
 
 using namespace std::string_literals;
-using script_text::print;
+using tgx::script_text::print;
 
 namespace {
 
@@ -78,7 +78,7 @@ TEST(Dump, EveryStreamSurvivesDumpAndBuild)
                 bytes += '\7';
             }
         const std::string text = print(bytes);
-        const script_text::ParsedScript script = parse(text);
+        const tgx::script_text::ParsedScript script = parse(text);
         ASSERT_EQ(headlines(script), "") << text;
         ASSERT_EQ(emit(script).bytes, bytes) << text;
     }

@@ -37,8 +37,8 @@ class GoldenTest : public TgxTest {
 protected:
     void SetUp() override
     {
-        parsed = script_text::parse("all_statements.tgs", readFile(folder + "all_statements.tgs"),
-                                    [](const std::string&, std::string&) { return std::nullopt; });
+        parsed = tgx::script_text::parse("all_statements.tgs", readFile(folder + "all_statements.tgs"),
+                                         [](const std::string&, std::string&) { return std::nullopt; });
         ASSERT_EQ(headlines(parsed), "");
         bytes = emit(parsed).bytes;
     }
@@ -92,7 +92,7 @@ protected:
         frames("tank.png", 16, 56, 2, 0x40A0C0);
     }
 
-    script_text::ParsedScript parsed;
+    tgx::script_text::ParsedScript parsed;
     std::string bytes;
 };
 
@@ -108,9 +108,9 @@ TEST_F(GoldenTest, TheScriptUsesEveryStatement)
 
 TEST_F(GoldenTest, DumpAndBuildReproduceTheBytes)
 {
-    const std::string dump = script_text::print(bytes);
+    const std::string dump = tgx::script_text::print(bytes);
     EXPECT_EQ(build(parse(dump)), bytes);
-    EXPECT_EQ(script_text::print(build(parse(dump))), dump);
+    EXPECT_EQ(tgx::script_text::print(build(parse(dump))), dump);
 }
 
 TEST_F(GoldenTest, IsASeedOfTheFuzzTarget)

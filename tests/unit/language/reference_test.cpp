@@ -13,17 +13,19 @@
 #include <sstream>
 #include <string>
 
+using namespace tgx;
+
 namespace {
 
 TEST(Reference, DescribesEveryStatementOnce)
 {
     for (const Statement& row : vocabulary()) {
-        const script_text::Meaning* meaning = script_text::meaningOf(row.id);
+        const tgx::script_text::Meaning* meaning = tgx::script_text::meaningOf(row.id);
         EXPECT_TRUE(meaning && *meaning->text)
             << row.keyword << " has no line in language/reference/meanings.cpp";
     }
     std::set<int> described;
-    for (const script_text::Meaning& row : script_text::meanings()) {
+    for (const tgx::script_text::Meaning& row : tgx::script_text::meanings()) {
         EXPECT_TRUE(statementById(row.id)) << row.id << " is not a statement: " << row.text;
         EXPECT_TRUE(described.insert(row.id).second) << row.id << " has a second line: " << row.text;
     }
@@ -45,9 +47,9 @@ bool hasWord(const std::string& text, const std::string& word)
 TEST(Reference, ExamplesUseTheirStatement)
 {
     for (const Statement& row : vocabulary()) {
-        const script_text::Meaning* meaning = script_text::meaningOf(row.id);
+        const tgx::script_text::Meaning* meaning = tgx::script_text::meaningOf(row.id);
         if (!meaning || !meaning->example) {
-            EXPECT_FALSE(script_text::makesWindow(row))
+            EXPECT_FALSE(tgx::script_text::makesWindow(row))
                 << row.keyword << " makes a window and has no example";
             continue;
         }
@@ -67,10 +69,10 @@ TEST(Reference, DocumentsAreUpToDate)
         const char* file;
         std::string text;
     } rows[] = {
-        {"docs/script-reference.md", script_text::referenceDocument()},
-        {"docs/check-reference.md", script_check::referenceDocument()},
-        {"editors/vim/syntax/tgs.vim", script_text::vimSyntax()},
-        {"editors/textmate/tgs.tmLanguage.json", script_text::textMateGrammar()},
+        {"docs/script-reference.md", tgx::script_text::referenceDocument()},
+        {"docs/check-reference.md", tgx::script_check::referenceDocument()},
+        {"editors/vim/syntax/tgs.vim", tgx::script_text::vimSyntax()},
+        {"editors/textmate/tgs.tmLanguage.json", tgx::script_text::textMateGrammar()},
     };
     for (const auto& row : rows) {
         const std::string kept = readFile(row.file);

@@ -38,7 +38,7 @@ TEST(Watch, DetectsFilesThatAreWrittenReplacedRemovedOrCreated)
         write("menu", "a");
         touch("menu", 1000);
         fs::remove(folder / "gone");
-        script_text::WatchedFiles watched({(folder / "menu").string()});
+        tgx::script_text::WatchedFiles watched({(folder / "menu").string()});
         watched.add((folder / "gone").string());
         row.change();
         EXPECT_EQ(watched.haveChanged(), row.isSeen);

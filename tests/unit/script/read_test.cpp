@@ -4,6 +4,8 @@
 #include "platform/system/module.h"
 #include "tgx/wnd/tabstops.h"
 
+using namespace tgx;
+
 using namespace std::string_literals;
 
 namespace {

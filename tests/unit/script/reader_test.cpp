@@ -4,6 +4,8 @@
 
 #include <string>
 
+using namespace tgx;
+
 using namespace std::string_literals;
 
 namespace {

@@ -27,7 +27,7 @@ inline void append(std::string& bytes, const std::string& text)
 }
 inline void append(std::string& bytes, Word word)
 {
-    bytes += static_cast<char>(statementByKeyword(word.keyword)->id);
+    bytes += static_cast<char>(tgx::statementByKeyword(word.keyword)->id);
 }
 
 /// Returns a compiled line.

@@ -9,6 +9,8 @@
 #include <map>
 #include <sstream>
 
+using namespace tgx; // in the tests alone
+
 /// Makes a window for createNewWindow.
 using WndMaker = std::function<AWnd*(const CString& id, int x, int y, int w, int h)>;
 

@@ -6,6 +6,8 @@
 #include <ostream>
 #include <sstream>
 
+using namespace tgx;
+
 namespace {
 
 Drawn operationCalled(const std::string& op)
