@@ -20,6 +20,13 @@ class Fatal : public AScreen {
 public:
     using AScreen::AScreen;
     void update() override { strike(struckByUpdate); }
+    int handleMouseAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action) override
+    {
+        AScreen::handleMouseAction(about, wnd, x, y, action);
+        if (action == MA_LBUTTONUP)
+            strike(struckByReport);
+        return 0;
+    }
     int handlePopupAction(const CString& about, AWnd* wnd, int x, int y, E_MOUSEACTION action) override
     {
         if (action == MA_LBUTTONUP)
@@ -46,12 +53,8 @@ protected:
     void open()
     {
         start("SCREEN 'S' 0 0 640 480 ''");
-        win().classes["FATAL"] = [](const CString& id, int x, int y, int w, int h) {
-            return new Fatal(id, x, y, w, h);
-        };
-        win().classes["KILLER"] = [](const CString& id, int x, int y, int w, int h) {
-            return new Killer(id, x, y, w, h);
-        };
+        win().makes<Fatal>("FATAL");
+        win().makes<Killer>("KILLER");
         script(R"(SCREEN 'FATAL' 0 0 640 480 '' {
               WINDOW 'BOX' 400 0 200 200 {
                 USERDEF 'KILLER' 10 10 50 50; RADIOBUTTON 'R1' 0 100 50 20 'one'
@@ -80,6 +83,8 @@ TEST_F(DeletionTest, TheWindowOfAnActionMayBeDeleted)
          "TAB2"},
         {"its tab control", struckByUpdate, "TABS", "move 150 210,press left,tick,release left", "FATAL",
          "TABS TAB2"},
+        {"a clicked button, by its screen", struckByReport, "TGX_OK",
+         "move 50 60,press left,tick,release left", "EDIT", "TGX_OK"},
         {"a radio button that receives a key", struckByUpdate, "R1", "key end", "R2 R3", "R1"},
         {"the radio button that the key selects", struckByUpdate, "R2", "key end", "R1 R3", "R2"},
         {"all of the group", struckByUpdate, "BOX", "release right", "FATAL", "BOX R1"},

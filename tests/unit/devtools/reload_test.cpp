@@ -278,8 +278,7 @@ TEST_F(ReloadTest, SelectionsAndTypedTextAreRestored)
     EXPECT_EQ(control<ATabControl>("PAGES").getActiveWnd(), wnd("PAGE2"));
     EXPECT_TRUE(win().isInPopupList("ASK"));
     EXPECT_EQ(textOf("ANSWER"), "yes");
-    EXPECT_EQ(win().mouseX, 77);
-    EXPECT_EQ(win().mouseY, 88);
+    EXPECT_EQ(pointer(), "77 88");
 }
 
 TEST_F(ReloadTest, SuspendedScreensKeepTypedTextToo)
@@ -331,8 +330,7 @@ TEST_F(ReloadTest, TheKeysOfTheDevtoolsDoNotReachTheGame)
         for (int x = 0; x < picture->width; ++x)
             ASSERT_EQ(picture->row(y)[x], screen->row(y)[x])
                 << "the inspector is not in the picture: " << x << ", " << y;
-    std::ifstream recording(data / "recording-1.events");
-    const std::string events{std::istreambuf_iterator<char>(recording), {}};
+    const std::string events = fileContents(data / "recording-1.events");
     EXPECT_NE(events.find("\nkey a\n"), std::string::npos) << events;
     EXPECT_EQ(win().fullScreen, 0) << "it began in full screen";
     tools.reset();

@@ -45,12 +45,8 @@ protected:
                "BUTTON \"TGX_NO\" 150 60 40 20 \"\"\nTABORDER \"TGX_NO\" \"TGX_YES\"\nEND\n",
                "common.tgx");
         start("SCREEN 'FIRST' 0 0 640 480 ''");
-        win().classes["S"] = [](const CString& id, int x, int y, int w, int h) {
-            return new AskingScreen(id, x, y, w, h);
-        };
-        win().classes["RECORDING"] = [](const CString& id, int x, int y, int w, int h) {
-            return new RecordingWnd(id, x, y, w, h);
-        };
+        win().makes<AskingScreen>("S");
+        win().makes<RecordingWnd>("RECORDING");
         const auto popup = [](const std::string& id, const std::string& okPlace) {
             return "USERDEF \"" + id + "\" 0 0 100 100 \"RECORDING\"\nBEGIN\nTEXTWND \"IN" + id +
                    "\" 0 90 100 10 \"" + id + "\"\nBUTTON \"TGX_OK\" " + okPlace +

@@ -26,18 +26,11 @@ bool isUpdate()
     return std::getenv("TGX_UPDATE_GOLDEN") != nullptr;
 }
 
-std::string readFile(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    EXPECT_TRUE(file) << "cannot read " << path;
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 class GoldenTest : public TgxTest {
 protected:
     void SetUp() override
     {
-        parsed = tgx::script_text::parse("all_statements.tgs", readFile(folder + "all_statements.tgs"),
+        parsed = tgx::script_text::parse("all_statements.tgs", fileContents(folder + "all_statements.tgs"),
                                          [](const std::string&, std::string&) { return std::nullopt; });
         ASSERT_EQ(headlines(parsed), "");
         bytes = emit(parsed).bytes;
@@ -118,7 +111,7 @@ TEST_F(GoldenTest, IsASeedOfTheFuzzTarget)
     const std::string seed = TGX_SOURCE_DIR "/tests/fuzz/corpus/all_statements.tgx";
     if (isUpdate())
         std::ofstream(seed, std::ios::binary) << bytes;
-    EXPECT_TRUE(readFile(seed) == bytes) << seed << " differs from the compiled all_statements.tgs";
+    EXPECT_TRUE(fileContents(seed) == bytes) << seed << " differs from the compiled all_statements.tgs";
 }
 
 TEST_F(GoldenTest, MatchesTheGoldenFiles)

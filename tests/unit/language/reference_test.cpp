@@ -2,6 +2,7 @@
 
 #include "language/check/codes.h"
 #include "language/reference/meanings.h"
+#include "tests/unit/support/tgx_test.h"
 #include "tgx/script/vocabulary.h"
 
 #include <gtest/gtest.h>
@@ -31,12 +32,6 @@ TEST(Reference, DescribesEveryStatementOnce)
     }
 }
 
-std::string readFile(const std::string& name)
-{
-    std::ifstream file(std::string(TGX_SOURCE_DIR "/") + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
 bool hasWord(const std::string& text, const std::string& word)
 {
     std::istringstream words(text);
@@ -54,12 +49,14 @@ TEST(Reference, ExamplesUseTheirStatement)
             continue;
         }
         const std::string name = meaning->example, folder = "examples/controls/";
-        EXPECT_TRUE(readFile(folder + name + ".png").starts_with("\x89PNG"))
+        EXPECT_TRUE(
+            fileContents(std::string(TGX_SOURCE_DIR "/") + folder + name + ".png").starts_with("\x89PNG"))
             << row.keyword << ": no picture " << folder << name << ".png";
         // Subroutines that an example calls are in the script of the shared parts.
         const bool isCalled = row.kind == StatementKind::Definition;
         const std::string script = folder + (isCalled ? "parts" : name) + ".tgs";
-        EXPECT_TRUE(hasWord(readFile(script), row.keyword)) << script << " does not use " << row.keyword;
+        EXPECT_TRUE(hasWord(fileContents(std::string(TGX_SOURCE_DIR "/") + script), row.keyword))
+            << script << " does not use " << row.keyword;
     }
 }
 
@@ -75,7 +72,7 @@ TEST(Reference, DocumentsAreUpToDate)
         {"editors/textmate/tgs.tmLanguage.json", tgx::script_text::textMateGrammar()},
     };
     for (const auto& row : rows) {
-        const std::string kept = readFile(row.file);
+        const std::string kept = fileContents(std::string(TGX_SOURCE_DIR "/") + row.file);
         // EXPECT_EQ would print the whole documents.
         EXPECT_TRUE(kept == row.text) << row.file << " is out of date; regenerate it with\n"
                                       << "    cmake --build build/release --target script_reference";

@@ -33,19 +33,8 @@ protected:
         out.str("");
         err.str("");
         status = Player(options, nullptr, out, err).run();
-        std::string text = err.str();
-        for (const std::string& folder : {data.string() + '/', outputs.string() + '/'})
-            for (std::size_t at = 0; (at = text.find(folder)) != std::string::npos;)
-                text.erase(at, folder.size());
-        return text;
+        return without(without(err.str(), data.string() + '/'), outputs.string() + '/');
     }
-    static std::string contents(const fs::path& path)
-    {
-        std::ifstream file(path, std::ios::binary);
-        EXPECT_TRUE(file) << path;
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-
     static ImageRef readPicture(const fs::path& path)
     {
         setDataDirectory(path.parent_path().string());
@@ -275,7 +264,7 @@ TEST_F(ExpectTest, AFileThatDiffersIsReportedAndOnlyWrittenWithUpdate)
     options.update = true;
     EXPECT_EQ(run(events), "run.events:3: wrote a/t.json\nrun.events:4: wrote a/t.jsonl\n");
     EXPECT_EQ(status, PlayStatus::Done);
-    EXPECT_EQ(contents(data / "a/t.json"), contents(outputs / "a/t.actual.json"));
+    EXPECT_EQ(fileContents(data / "a/t.json"), fileContents(outputs / "a/t.actual.json"));
     EXPECT_EQ(run(events), "") << "a file that is equal is not written again";
     options.update = false;
     EXPECT_EQ(run(events), "");
@@ -293,7 +282,7 @@ TEST_F(ExpectTest, AFileThatDiffersIsReportedAndOnlyWrittenWithUpdate)
         "\"font\":0,\"raw\":0,\"scale\":4096,... in line 6; the whole result is in a/t.actual.jsonl\n");
     options.update = true;
     run(moved);
-    EXPECT_NE(contents(data / "a/t.json").find("\"wndX\":1"), std::string::npos);
+    EXPECT_NE(fileContents(data / "a/t.json").find("\"wndX\":1"), std::string::npos);
 }
 
 TEST_F(ExpectTest, PicturesAreComparedPixelByPixel)

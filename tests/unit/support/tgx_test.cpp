@@ -2,6 +2,7 @@
 
 #include "player/reports.h"
 #include "player/words.h"
+#include "tests/unit/support/bmp.h"
 #include "tests/unit/support/invariants.h"
 #include "tgx/script/reader.h"
 #include "tgx/script/vocabulary.h"
@@ -36,37 +37,17 @@ private:
     static TestMainWin& win() { return static_cast<TestMainWin&>(*getMainWin()); }
 };
 
-void putNumber(std::string& bytes, unsigned value, int count)
-{
-    for (int i = 0; i < count; ++i)
-        bytes += static_cast<char>(value >> (8 * i));
-}
-
 /// Makes a BMP. colourAt(x) returns the colour of a column, 0xRRGGBB.
 template<class ColourAt>
 std::string makeBmp(int width, int height, ColourAt colourAt)
 {
-    unsigned rowBytes = (static_cast<unsigned>(width) * 3 + 3) / 4 * 4;
-    unsigned pixelBytes = rowBytes * static_cast<unsigned>(height);
-    std::string bytes = "BM";
-    putNumber(bytes, 54 + pixelBytes, 4);
-    putNumber(bytes, 0, 4);
-    putNumber(bytes, 54, 4); // offset of the pixels
-    putNumber(bytes, 40, 4); // size of the rest of the header
-    putNumber(bytes, static_cast<unsigned>(width), 4);
-    putNumber(bytes, static_cast<unsigned>(height), 4);
-    putNumber(bytes, 1, 2);  // planes
-    putNumber(bytes, 24, 2); // bits per pixel
-    putNumber(bytes, 0, 4);  // not compressed
-    putNumber(bytes, pixelBytes, 4);
-    bytes.append(16, '\0');
-    std::string row;
+    std::string row, rows;
     for (int x = 0; x < width; ++x)
-        putNumber(row, colourAt(x), 3); // blue first
-    row.resize(rowBytes);
+        row += le(colourAt(x), 3); // blue first
+    row.resize((row.size() + 3) / 4 * 4);
     for (int y = 0; y < height; ++y)
-        bytes += row;
-    return bytes;
+        rows += row;
+    return bmpFile(width, height, 24, rows);
 }
 
 } // namespace
@@ -86,6 +67,20 @@ std::vector<std::string> parts(const std::string& text, char separator)
     for (std::string part; std::getline(stream, part, separator);)
         all.push_back(part);
     return all;
+}
+
+std::string fileContents(const fs::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file) << "cannot read " << path;
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::string without(std::string text, const std::string& part)
+{
+    for (std::size_t at = 0; (at = text.find(part, at)) != std::string::npos;)
+        text.erase(at, part.size());
+    return text;
 }
 
 std::string scriptLines(const std::string& text)
@@ -129,7 +124,7 @@ std::string assembleScript(const std::string& text)
             const Statement* statement = statementByKeyword(word.text);
             if (auto number = parseNumber(word)) {
                 bytes += static_cast<char>(numberToken);
-                putNumber(bytes, static_cast<unsigned>(*number), 2);
+                bytes += le(static_cast<unsigned>(*number), 2);
             } else if (word.quoted) {
                 bytes += static_cast<char>(stringToken) + word.text + '\0';
             } else if (statement) {
@@ -325,7 +320,5 @@ void TgxTest::measureFont(int index, int advance, int lineHeight, int charHeight
 
 std::string TgxTest::readOutput(const std::string& name)
 {
-    std::ifstream file(outputs / name, std::ios::binary);
-    EXPECT_TRUE(file) << "no output file " << name;
-    return {std::istreambuf_iterator<char>(file), {}};
+    return fileContents(outputs / name);
 }

@@ -25,6 +25,11 @@ public:
     AScreen* addScreen(const CString& id, int x, int y, int w, int h) override;
 
     std::map<std::string, WndMaker> classes; // key: class name, or id for a screen
+    template<class Wnd>
+    void makes(const std::string& name)
+    {
+        classes[name] = [](const CString& id, int x, int y, int w, int h) { return new Wnd(id, x, y, w, h); };
+    }
     std::vector<std::string> clicks;      // ids of clicked windows, as passed to a screen's handleMouseAction
     std::vector<std::string> popupClicks; // the same, as passed to handlePopupAction
     std::function<void()> duringFrame;    // called after each frame's drawing
@@ -40,6 +45,10 @@ private:
 
 std::string joined(const std::vector<std::string>& texts, const std::string& separator = " ");
 std::vector<std::string> parts(const std::string& text, char separator = ' ');
+/// Returns the text without any occurrence of part.
+std::string without(std::string text, const std::string& part);
+/// Fails the test if there is no such file.
+std::string fileContents(const std::filesystem::path& path);
 
 /// A test with its own data directory, a main window on a headless host, virtual time, and the events
 /// language. It fails if a message was not expected with expectMessage, or if an expected message was not

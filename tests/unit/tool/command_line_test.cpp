@@ -99,17 +99,12 @@ protected:
         std::map<std::string, std::string> files;
         for (const fs::directory_entry& each : fs::directory_iterator(folder))
             if (each.is_regular_file())
-                files[each.path().filename().string()] = read(each.path());
+                files[each.path().filename().string()] = fileContents(each.path());
         return files;
-    }
-    static std::string read(const fs::path& path)
-    {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     }
     static std::string firstLine(const fs::path& path)
     {
-        const std::string text = read(path);
+        const std::string text = fileContents(path);
         return text.substr(0, text.find('\n'));
     }
     static void expectBeginning(const std::string& line, const std::string& beginning)
@@ -160,7 +155,7 @@ TEST_F(CommandLine, ReturnsAStatusAndWritesAllOutputsOrNone)
                 written += (written.empty() ? "" : " ") + name;
         EXPECT_EQ(written, row.written);
         if (row.status == 2 && *row.arguments) {
-            const std::string said = read(errFile);
+            const std::string said = fileContents(errFile);
             EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << said;
         }
     }

@@ -37,17 +37,10 @@ protected:
         std::ostringstream said;
         std::ostringstream refused;
         const int status = runTests(tests, factory, said, refused);
-        out.str(shortened(said.str()));
-        err.str(shortened(refused.str()));
+        out.str(without(said.str(), folder.string() + '/'));
+        err.str(without(refused.str(), folder.string() + '/'));
         return status;
     }
-    std::string shortened(std::string text) const
-    {
-        for (std::size_t at = 0; (at = text.find(folder.string() + '/')) != std::string::npos;)
-            text.erase(at, folder.string().size() + 1);
-        return text;
-    }
-
     fs::path folder;
     TestOptions tests;
 };
@@ -193,7 +186,7 @@ TEST_F(TestCommandTest, AGamesOwnPlayerRunsTests)
         testing::internal::CaptureStdout();
         testing::internal::CaptureStderr();
         const int status = playMain(static_cast<int>(arguments.size()), arguments.data(), nullptr);
-        out.str(shortened(testing::internal::GetCapturedStdout()));
+        out.str(without(testing::internal::GetCapturedStdout(), folder.string() + '/'));
         err.str(testing::internal::GetCapturedStderr());
         return status;
     };

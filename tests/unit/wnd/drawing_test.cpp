@@ -166,10 +166,7 @@ TEST_F(DrawingTest, BitmapsAreLoadedOnceAndFailuresReportedEachTime)
     expectMessage("cannot load gone.bmp");
     wnd->startup();
 
-    write("Thing.PAK", [&] {
-        std::ifstream file(data / "tile.bmp", std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(file), {});
-    }());
+    write("Thing.PAK", fileContents(data / "tile.bmp"));
     wnd->setBmp(CString("Thing.PAK"));
     EXPECT_NE(wnd->getBmp(), nullptr);
     EXPECT_EQ(wnd->getBmpFilename(), "") << "a bitmap from a pack is not loaded by name again";
