@@ -94,249 +94,155 @@ TEST_F(Check, FindsNothingInCorrectControls)
 }
 
 const CheckRow wrongScripts[] = {
-    {"a panel with the POINTER's name in another script", R"(SCREEN "S" 0 0 640 480 ""
-BEGIN
-  POINTER "PANEL" "panel.tgx"
-  TABORDER "GO"
-END
-== other.tgs
-WINDOW "PANEL" 0 0 90 90
-BEGIN
-  BUTTON "GO" 0 0 80 24 ""
-END
-== panel.tgs
-WINDOW "PANEL" 0 0 90 90
-BEGIN
-  BUTTON "GO" 0 0 80 24 ""
-END)",
+    {"a panel with the POINTER's name in another script",
+     R"(SCREEN 'S' 0 0 640 480 '' { POINTER 'PANEL' 'panel.tgx'; TABORDER 'GO' }
+        == other.tgs
+        WINDOW 'PANEL' 0 0 90 90 { BUTTON 'GO' 0 0 80 24 '' }
+        == panel.tgs
+        WINDOW 'PANEL' 0 0 90 90 { BUTTON 'GO' 0 0 80 24 '' })",
      "other.tgs:1:1: warning: no key reaches the control in \"PANEL\", \"GO\"; add them to a TABORDER at the "
      "end of its block [unreachable]\n"},
-    {"tab orders of inner windows, and keys without a target", R"(SCREEN "S" 0 0 640 480 ""
-BEGIN
-  WINDOW "INNER" 0 0 200 90
-  BEGIN
-    BUTTON "A" 0 0 80 24 ""
-    BUTTON "B" 0 24 80 24 ""
-    TABORDER "A" "B"
-  END
-  BUTTON "C" 300 0 80 24 ""
-  COMBOBOX "D" 300 24 80 24 ""
-  RADIOBUTTON "E" 300 48 80 24 ""
-  TABORDER "A"
-  TABLIST1 "C" "E"
-  TABLIST2 "D" "C"
-END)",
-     "a.tgs:6:5: warning: no key reaches \"B\": it is in the TABORDER of \"INNER\", but Tab only follows "
+    {"tab orders of inner windows, and keys without a target",
+     R"(SCREEN 'S' 0 0 640 480 '' {
+          WINDOW 'INNER' 0 0 200 90 {
+            BUTTON 'A' 0 0 80 24 ''; BUTTON 'B' 0 24 80 24 ''; TABORDER 'A' 'B'
+          }
+          BUTTON 'C' 300 0 80 24 ''; COMBOBOX 'D' 300 24 80 24 ''; RADIOBUTTON 'E' 300 48 80 24 ''
+          TABORDER 'A'; TABLIST1 'C' 'E'; TABLIST2 'D' 'C'
+        })",
+     "a.tgs:6:1: warning: no key reaches \"B\": it is in the TABORDER of \"INNER\", but Tab only follows "
      "that of \"S\" [unreachable]\n"
-     "a.tgs:9:3: warning: no key reaches \"C\": no TABORDER of \"S\" names it [unreachable]\n"
-     "a.tgs:11:3: warning: no key reaches \"E\": no TABORDER of \"S\" names it [unreachable]\n"
-     "a.tgs:13:12: warning: Insert and Delete do not reach a list that begins with a button; it must begin "
+     "a.tgs:9:1: warning: no key reaches \"C\": no TABORDER of \"S\" names it [unreachable]\n"
+     "a.tgs:11:1: warning: no key reaches \"E\": no TABORDER of \"S\" names it [unreachable]\n"
+     "a.tgs:13:10: warning: Insert and Delete do not reach a list that begins with a button; it must begin "
      "with a combo box or a radio button [no-effect]\n"},
-    {"buttons among the tabs, and more pages than tabs of the game's class", R"(WINDOW "A" 0 0 200 200
-BEGIN
-  TABCONTROL "T" 0 0 200 90
-  BEGIN
-    RADIOBUTTON "T1" 0 0 50 20 ""
-    RADIOBUTTON "T2" 50 0 50 20 ""
-    BUTTON "T3" 100 0 50 20 ""
-    WINDOW "P1" 0 20 200 70
-    WINDOW "P2" 0 20 200 70
-    WINDOW "P3" 0 20 200 70
-  END
-  TABCONTROL "U" 0 90 200 90
-  BEGIN
-    USERDEF "T4" 0 0 50 20 "Tab"
-    WINDOW "P4" 0 20 200 70
-    WINDOW "P5" 0 20 200 70
-  END
-  TABORDER "T1" "T3"
-END)",
-     "a.tgs:7:5: error: \"T3\" is among the tabs of \"T\" but not in their group: a click on it also "
+    {"buttons among the tabs, and more pages than tabs of the game's class",
+     R"(WINDOW 'A' 0 0 200 200 {
+          TABCONTROL 'T' 0 0 200 90 {
+            RADIOBUTTON 'T1' 0 0 50 20 ''; RADIOBUTTON 'T2' 50 0 50 20 ''; BUTTON 'T3' 100 0 50 20 ''
+            WINDOW 'P1' 0 20 200 70; WINDOW 'P2' 0 20 200 70; WINDOW 'P3' 0 20 200 70
+          }
+          TABCONTROL 'U' 0 90 200 90 {
+            USERDEF 'T4' 0 0 50 20 'Tab'; WINDOW 'P4' 0 20 200 70; WINDOW 'P5' 0 20 200 70
+          }
+          TABORDER 'T1' 'T3'
+        })",
+     "a.tgs:7:1: error: \"T3\" is among the tabs of \"T\" but not in their group: a click on it also "
      "switches the pages, but it has no page of its own. Tabs must be radio buttons; put other buttons into "
      "a page [tab-pages]\n"
-     "a.tgs:12:3: error: \"U\" has 0 tabs and 2 pages [tab-pages]\n"},
+     "a.tgs:12:1: error: \"U\" has 0 tabs and 2 pages [tab-pages]\n"},
     {"a group that continues in its column at another distance, and one with a note beside it",
-     R"(WINDOW "A" 0 0 400 90
-BEGIN
-  RADIOBUTTON "RED" 0 0 90 20 ""
-  RADIOBUTTON "BLUE" 0 20 90 20 ""
-  BITMAP "static" 100 0 9 9 ""
-  RADIOBUTTON "GREEN" 0 45 90 20 ""
-  RADIOBUTTON "BLACK" 0 65 90 20 ""
-  WINDOW "static" 150 0 9 9
-  RADIOBUTTON "P_1" 200 0 60 20 ""
-  RADIOBUTTON "P_2" 260 0 60 20 ""
-  TEXTWND "static" 260 20 60 20 "usual"
-  RADIOBUTTON "P_3" 340 0 20 20 ""
-  RADIOBUTTON "P_4" 380 0 20 20 ""
-  TABORDER "RED" "GREEN" "P_1" "P_3"
-END)",
-     "a.tgs:6:3: warning: \"GREEN\" starts a new group: the plain window of line 5 separates it from "
+     R"(WINDOW 'A' 0 0 400 90 {
+          RADIOBUTTON 'RED' 0 0 90 20 ''; RADIOBUTTON 'BLUE' 0 20 90 20 ''; BITMAP 'static' 100 0 9 9 ''
+          RADIOBUTTON 'GREEN' 0 45 90 20 ''; RADIOBUTTON 'BLACK' 0 65 90 20 ''
+          WINDOW 'static' 150 0 9 9; RADIOBUTTON 'P_1' 200 0 60 20 ''; RADIOBUTTON 'P_2' 260 0 60 20 ''
+          TEXTWND 'static' 260 20 60 20 'usual'; RADIOBUTTON 'P_3' 340 0 20 20 ''
+          RADIOBUTTON 'P_4' 380 0 20 20 ''; TABORDER 'RED' 'GREEN' 'P_1' 'P_3'
+        })",
+     "a.tgs:6:1: warning: \"GREEN\" starts a new group: the plain window of line 5 separates it from "
      "\"BLUE\" [radio-group]\n"
-     "a.tgs:12:3: warning: \"P_3\" starts a new group: the plain window of line 11 separates it from \"P_2\" "
+     "a.tgs:12:1: warning: \"P_3\" starts a new group: the plain window of line 11 separates it from \"P_2\" "
      "[radio-group]\n"},
-    {"rows, titles and items that are cut", R"(WINDOW "A" 0 0 400 90
-BEGIN
-  LISTBOX "L" 0 0 200 90
-  BEGIN
-    LISTLOOK 15
-    LISTFONTS 0 0 0 0
-    COLUMNS 40 40 CENTRE
-    TITLES "a title that is long" "another title"
-    ITEM "a long text" "short"
-    # tgx: allow text-clipped
-    ITEM "a long text" "short"
-    ITEM "short" "a long text"
-  END
-  COMBOBOX "C" 200 0 40 20 "short"
-  BEGIN
-    ITEM "a long item"
-    ITEM "another item"
-  END
-  TABORDER "L" "C"
-END)",
-     "a.tgs:8:12: warning: the title \"a title that is long\" of \"L\" is 87 pixels wide in font 0, but "
+    {"rows, titles and items that are cut",
+     R"(WINDOW 'A' 0 0 400 90 {
+          LISTBOX 'L' 0 0 200 90 {
+            LISTLOOK 15; LISTFONTS 0 0 0 0; COLUMNS 40 40 CENTRE
+            TITLES 'a title that is long' 'another title'; ITEM 'a long text' 'short'
+            # tgx: allow text-clipped
+            ITEM 'a long text' 'short'; ITEM 'short' 'a long text'
+          }
+          COMBOBOX 'C' 200 0 40 20 'short' { ITEM 'a long item'; ITEM 'another item' }; TABORDER 'L' 'C'
+        })",
+     "a.tgs:8:8: warning: the title \"a title that is long\" of \"L\" is 87 pixels wide in font 0, but "
      "column 0 has 40 [text-clipped]\n"
-     "a.tgs:8:35: warning: the title \"another title\" of \"L\" is 60 pixels wide in font 0, but column 1 "
+     "a.tgs:8:31: warning: the title \"another title\" of \"L\" is 60 pixels wide in font 0, but column 1 "
      "has 40 [text-clipped]\n"
-     "a.tgs:9:10: warning: the text \"a long text\" in row 0 of \"L\" is 54 pixels wide in font 0, but "
-     "column 0 has 40 [text-clipped]\n"
-     "a.tgs:12:18: warning: the text \"a long text\" in row 2 of \"L\" is 54 pixels wide in font 0, but "
+     "a.tgs:9:6: warning: the text \"a long text\" in row 0 of \"L\" is 54 pixels wide in font 0, but column "
+     "0 has 40 [text-clipped]\n"
+     "a.tgs:12:14: warning: the text \"a long text\" in row 2 of \"L\" is 54 pixels wide in font 0, but "
      "column 1 has 40 [text-clipped]\n"
-     "a.tgs:16:10: warning: the item \"a long item\" of \"C\" is 54 pixels wide in font 0, but its box has "
-     "40 [text-clipped]\n"
-     "a.tgs:17:10: warning: the item \"another item\" of \"C\" is 62 pixels wide in font 0, but its box has "
+     "a.tgs:16:6: warning: the item \"a long item\" of \"C\" is 54 pixels wide in font 0, but its box has 40 "
+     "[text-clipped]\n"
+     "a.tgs:17:6: warning: the item \"another item\" of \"C\" is 62 pixels wide in font 0, but its box has "
      "40 [text-clipped]\n"},
-    {"a text in a font that the game may use for any row", R"(WINDOW "A" 0 0 400 90
-BEGIN
-  LISTBOX "L" 0 0 200 90
-  BEGIN
-    LISTFONTS 1
-    COLUMNS 20
-    ITEM "a long text"
-  END
-  TABORDER "L"
-END
-== script.tgs
-ADDFONT "none.ttf" "" 12)",
+    {"a text in a font that the game may use for any row",
+     R"(WINDOW 'A' 0 0 400 90 {
+          LISTBOX 'L' 0 0 200 90 { LISTFONTS 1; COLUMNS 20; ITEM 'a long text' }; TABORDER 'L'
+        }
+        == script.tgs
+        ADDFONT 'none.ttf' '' 12)",
      "script.tgs:1:9: error: the font \"none.ttf\" cannot be loaded; the built-in font is used instead "
      "[missing-font]\n"},
-    {"words that lose letters, and wrapped lines in a box that is too low", R"(WINDOW "A" 0 0 400 90
-BEGIN
-  TEXTWND "B" 0 0 40 90 "so Unbelievablyincomprehensible"
-  BEGIN
-    TEXTWRAP 1
-  END
-  TEXTWND "C" 200 0 40 8 "low"
-  BEGIN
-    TEXTWRAP 1
-  END
-END)",
-     "a.tgs:3:25: warning: the text of \"B\" loses letters: \"Unbelievablyincomprehensible\" is 143 pixels "
+    {"words that lose letters, and wrapped lines in a box that is too low",
+     R"(WINDOW 'A' 0 0 400 90 {
+          TEXTWND 'B' 0 0 40 90 'so Unbelievablyincomprehensible' { TEXTWRAP 1 }
+          TEXTWND 'C' 200 0 40 8 'low' { TEXTWRAP 1 }
+        })",
+     "a.tgs:3:23: warning: the text of \"B\" loses letters: \"Unbelievablyincomprehensible\" is 143 pixels "
      "wide in font 0, but a line has 40 [text-clipped]\n"
-     "a.tgs:7:26: warning: the text of \"C\" is 13 pixels high in font 0, but its box has 8 "
+     "a.tgs:7:24: warning: the text of \"C\" is 13 pixels high in font 0, but its box has 8 "
      "[text-clipped]\n"},
-    {"words that are read as icons", R"(WINDOW "A" 0 0 400 90
-BEGIN
-  LISTBOX "L" 0 0 200 90
-  BEGIN
-    COLUMNS 40 40 40
-    ITEM "ICONIC" "Iconic" "ICON0F"
-    ITEM "ICON" "ICON1F2" "ICON1 F2"
-  END
-  TABORDER "L"
-END)",
-     "a.tgs:6:10: error: \"ICONIC\" is read as an icon, because it begins with ICON; expected a number after "
+    {"words that are read as icons",
+     R"(WINDOW 'A' 0 0 400 90 {
+          LISTBOX 'L' 0 0 200 90 {
+            COLUMNS 40 40 40; ITEM 'ICONIC' 'Iconic' 'ICON0F'; ITEM 'ICON' 'ICON1F2' 'ICON1 F2'
+          }
+          TABORDER 'L'
+        })",
+     "a.tgs:6:6: error: \"ICONIC\" is read as an icon, because it begins with ICON; expected a number after "
      "that, as in ICON0 or ICON0F2 [missing-icon]\n"
-     "a.tgs:6:28: error: \"ICON0F\" is read as an icon, because it begins with ICON; expected a number after "
+     "a.tgs:6:24: error: \"ICON0F\" is read as an icon, because it begins with ICON; expected a number after "
      "that, as in ICON0 or ICON0F2 [missing-icon]\n"
-     "a.tgs:7:10: error: \"ICON\" is read as an icon, because it begins with ICON; expected a number after "
+     "a.tgs:7:6: error: \"ICON\" is read as an icon, because it begins with ICON; expected a number after "
      "that, as in ICON0 or ICON0F2 [missing-icon]\n"
-     "a.tgs:7:27: error: \"ICON1 F2\" is read as an icon, because it begins with ICON; expected a number "
+     "a.tgs:7:23: error: \"ICON1 F2\" is read as an icon, because it begins with ICON; expected a number "
      "after that, as in ICON0 or ICON0F2 [missing-icon]\n"},
-    {"rows that need a scroll bar without a picture", R"(WINDOW "A" 0 0 400 90
-BEGIN
-  LISTBOX "L" 0 0 200 42
-  BEGIN
-    LISTLOOK 20
-    ITEM "a"
-    ITEM "b"
-    ITEM "c"
-  END
-  TABORDER "L"
-END)",
-     "a.tgs:3:3: error: \"L\" has more rows than fit and creates a scroll bar, but there is no picture "
+    {"rows that need a scroll bar without a picture",
+     R"(WINDOW 'A' 0 0 400 90 {
+          LISTBOX 'L' 0 0 200 42 { LISTLOOK 20; ITEM 'a'; ITEM 'b'; ITEM 'c' }; TABORDER 'L'
+        })",
+     "a.tgs:3:1: error: \"L\" has more rows than fit and creates a scroll bar, but there is no picture "
      "\"uig\\scroll1.bmp\" in the data directory [missing-bitmap]\n"},
-    {"arguments that nothing reads", R"(WINDOW "A" 0 0 400 90
-BEGIN
-  LISTBOX "L" 0 0 400 90
-  BEGIN
-    LISTLOOK 20 1 1 1
-    LISTOPTIONS 1 1 1
-    LISTFONTS 0 0 0 0 0
-    COLUMNS 9 9 9 9 9 9 9 9 9 9 LEFT 9 9 9 9 9 9 9 9 9
-    COLUMNS 9 9 9
-    TITLES "a"
-    LISTFIXEDCOLUMNS 19 20 -1
-    BMPBLITMODE 77
-  END
-  LISTBOX "M" 200 0 90 20
-  BEGIN
-    COLUMNS 40
-    TITLES "a" "b" "c"
-  END
-  COMBOBOX "C" 200 20 90 20 ""
-  BEGIN
-    ITEM "a" "b"
-  END
-  GRAPH "G" 200 40 90 20
-  BEGIN
-    GRAPHINFO "" "" 1 2 3 4 5 6
-  END
-  COMBOMENU 0 0 90 20 ""
-  GOTO "S" "parts.tgx" "x"
-  TABORDER "L" "M" "C"
-END
-== parts.tgs
-FONT 0
-SUBROUTINE "S"
-BEGIN
-  BORDER "" 4 8
-END)",
-     "a.tgs:5:21: warning: LISTLOOK reads 3 arguments; it ignores the rest [no-effect]\n"
-     "a.tgs:6:21: warning: LISTOPTIONS reads 2 arguments; it ignores the rest [no-effect]\n"
-     "a.tgs:7:23: warning: LISTFONTS reads 4 arguments; it ignores the rest [no-effect]\n"
-     "a.tgs:9:15: warning: a list has at most 20 columns; it ignores the rest [no-effect]\n"
-     "a.tgs:11:25: warning: \"L\" has 20 columns, counted from 0; there is no column 20 [no-effect]\n"
-     "a.tgs:11:28: warning: \"L\" has 20 columns, counted from 0; there is no column -1 [no-effect]\n"
-     "a.tgs:12:17: warning: there is no mode 77; 0 is normal, 1 opaque, 2 half, 3 additive [no-effect]\n"
-     "a.tgs:17:16: warning: \"M\" has 1 column; a title after the last column is not shown [no-effect]\n"
-     "a.tgs:21:14: warning: an item of a combo box is one text; the rest is ignored [no-effect]\n"
-     "a.tgs:25:31: warning: GRAPHINFO reads 7 arguments; it ignores the rest [no-effect]\n"
-     "a.tgs:27:3: warning: this menu is not inside a combo box, so nothing opens it [no-effect]\n"
-     "a.tgs:28:24: warning: GOTO reads 2 arguments; it ignores the rest [no-effect]\n"
+    {"arguments that nothing reads",
+     R"(WINDOW 'A' 0 0 400 90 {
+          LISTBOX 'L' 0 0 400 90 {
+            LISTLOOK 20 1 1 1; LISTOPTIONS 1 1 1; LISTFONTS 0 0 0 0 0
+            COLUMNS 9 9 9 9 9 9 9 9 9 9 LEFT 9 9 9 9 9 9 9 9 9; COLUMNS 9 9 9; TITLES 'a'
+            LISTFIXEDCOLUMNS 19 20 -1; BMPBLITMODE 77
+          }
+          LISTBOX 'M' 200 0 90 20 { COLUMNS 40; TITLES 'a' 'b' 'c' }
+          COMBOBOX 'C' 200 20 90 20 '' { ITEM 'a' 'b' }
+          GRAPH 'G' 200 40 90 20 { GRAPHINFO '' '' 1 2 3 4 5 6 }; COMBOMENU 0 0 90 20 ''
+          GOTO 'S' 'parts.tgx' 'x'; TABORDER 'L' 'M' 'C'
+        }
+        == parts.tgs
+        FONT 0; SUBROUTINE 'S' { BORDER '' 4 8 })",
+     "a.tgs:5:17: warning: LISTLOOK reads 3 arguments; it ignores the rest [no-effect]\n"
+     "a.tgs:6:17: warning: LISTOPTIONS reads 2 arguments; it ignores the rest [no-effect]\n"
+     "a.tgs:7:19: warning: LISTFONTS reads 4 arguments; it ignores the rest [no-effect]\n"
+     "a.tgs:9:11: warning: a list has at most 20 columns; it ignores the rest [no-effect]\n"
+     "a.tgs:11:21: warning: \"L\" has 20 columns, counted from 0; there is no column 20 [no-effect]\n"
+     "a.tgs:11:24: warning: \"L\" has 20 columns, counted from 0; there is no column -1 [no-effect]\n"
+     "a.tgs:12:13: warning: there is no mode 77; 0 is normal, 1 opaque, 2 half, 3 additive [no-effect]\n"
+     "a.tgs:17:12: warning: \"M\" has 1 column; a title after the last column is not shown [no-effect]\n"
+     "a.tgs:21:10: warning: an item of a combo box is one text; the rest is ignored [no-effect]\n"
+     "a.tgs:25:27: warning: GRAPHINFO reads 7 arguments; it ignores the rest [no-effect]\n"
+     "a.tgs:27:1: warning: this menu is not inside a combo box, so nothing opens it [no-effect]\n"
+     "a.tgs:28:22: warning: GOTO reads 2 arguments; it ignores the rest [no-effect]\n"
      "parts.tgs:1:1: warning: windows are read one by one from a script with subroutines, and this line is "
      "not part of any; move the FONT into a window's block [no-effect]\n"
-     "parts.tgs:4:10: error: a border needs a picture, but this name is empty [missing-bitmap]\n"},
-    {"frames of extreme sizes", R"(CHECKBOX "B" 0 0 90 9 ""
-BEGIN
-  CHECKBOXSTATE 0 0 -1 -1 "three.bmp"
-END
-BITMAP "C" 0 0 9 9 "three.bmp" 32767 10 0 32767)",
+     "parts.tgs:4:8: error: a border needs a picture, but this name is empty [missing-bitmap]\n"},
+    {"frames of extreme sizes",
+     R"(CHECKBOX 'B' 0 0 90 9 '' { CHECKBOXSTATE 0 0 -1 -1 'three.bmp' }
+        BITMAP 'C' 0 0 9 9 'three.bmp' 32767 10 0 32767)",
      "a.tgs:5:20: error: \"three.bmp\" is 63 x 10 pixels, too small for 32767 frames of 32767 x 10 that "
      "\"C\" uses; a row of them is 1073709056 x 10 [strip-too-small]\n"},
-    {"a strip that starts after its last frame", R"(WINDOW "A" 0 0 400 90
-BEGIN
-  BITMAP "B" 0 0 20 10 "three.bmp" 20 10 0 3
-  BEGIN
-    BMPFRAME 7
-  END
-  BITMAP "C" 0 20 20 10 "three.bmp" 20 10 0 3
-  BEGIN
-    BMPFRAME 2
-  END
-END)",
-     "a.tgs:3:24: error: \"three.bmp\" is 63 x 10 pixels, too small for 8 frames of 20 x 10 that \"B\" uses; "
+    {"a strip that starts after its last frame",
+     R"(WINDOW 'A' 0 0 400 90 {
+          BITMAP 'B' 0 0 20 10 'three.bmp' 20 10 0 3 { BMPFRAME 7 }
+          BITMAP 'C' 0 20 20 10 'three.bmp' 20 10 0 3 { BMPFRAME 2 }
+        })",
+     "a.tgs:3:22: error: \"three.bmp\" is 63 x 10 pixels, too small for 8 frames of 20 x 10 that \"B\" uses; "
      "a row of them is 168 x 10 [strip-too-small]\n"},
 };
 

@@ -44,11 +44,10 @@ const CheckRow rows[] = {
      "height [argument-count]\n"},
     {"a wrong kind of argument", "FONT \"0\"",
      "a.tgs:1:6: error: expected a number here: FONT font [argument-kind]\n"},
-    {"a word without a width",
-     "LISTBOX \"L\" 0 0 90 90\nBEGIN\n  COLUMNS 20 LEFT RIGHT 30\n  COLUMNS LEFT\nEND",
-     "a.tgs:3:19: error: this word does not follow a width, and counts as a column of width 0 "
+    {"a word without a width", "LISTBOX 'L' 0 0 90 90 { COLUMNS 20 LEFT RIGHT 30; COLUMNS LEFT }",
+     "a.tgs:3:17: error: this word does not follow a width, and counts as a column of width 0 "
      "[argument-kind]\n"
-     "a.tgs:4:11: error: this word does not follow a width, and counts as a column of width 0 "
+     "a.tgs:4:9: error: this word does not follow a width, and counts as a column of width 0 "
      "[argument-kind]\n"},
     {"31 tokens", "TABORDER 1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 7 8 9 0",
      "a.tgs:1:68: error: a line has at most 29 arguments, this one has 30 [too-many-arguments]\n"},
@@ -63,44 +62,41 @@ const CheckRow rows[] = {
     {"windows nested too deeply",
      repeated(21, "WINDOW \"static\" 0 0 9 9\nBEGIN\n") + "FONT 0\n" + repeated(21, "END\n"),
      "a.tgs:41:1: error: WINDOW is inside 20 blocks; at most 19 are allowed [too-deep]\n"},
-    {"a subroutine in a block", "WINDOW \"A\" 0 0 9 9\nBEGIN\n  SUBROUTINE \"S\"\n  BEGIN\n  END\nEND",
-     "a.tgs:3:3: error: SUBROUTINE inside a block; move it to the top level, preferably of a separate script "
+    {"a subroutine in a block", "WINDOW 'A' 0 0 9 9 { SUBROUTINE 'S' { } }",
+     "a.tgs:3:1: error: SUBROUTINE inside a block; move it to the top level, preferably of a separate script "
      "[nested-subroutine]\n"},
-    {"a subroutine in the main script", "== script.tgs\nSUBROUTINE \"S\"\nBEGIN\nEND\nGOTO \"S\"",
+    {"a subroutine in the main script", "== script.tgs\nSUBROUTINE 'S' { }; GOTO 'S'",
      "script.tgs:1:1: error: the game reads this script from top to bottom, which fails here; move "
      "subroutines to a script of their own [subroutine-in-main]\n"},
-    {"a block without a window",
-     "WINDOW \"A\" 0 0 9 9\nBEGIN\n  TEXT \"\"\n  BEGIN\n    TEXTRAW 1\n  END\nEND",
-     "a.tgs:4:3: warning: no window precedes this block, so its lines act on the root of all windows "
+    {"a block without a window", "WINDOW 'A' 0 0 9 9 { TEXT '' { TEXTRAW 1 } }",
+     "a.tgs:4:1: warning: no window precedes this block, so its lines act on the root of all windows "
      "[block-without-window]\n"},
     {"an attribute outside of all blocks", "FONT 0\nWINDOW \"A\" 0 0 9 9\nTEXTRAW 1",
      "a.tgs:3:1: warning: TEXTRAW outside of all blocks acts on the root of all windows; to apply it to "
      "\"A\", put it between BEGIN and END [outside-block]\n"},
     {"an attribute after the window it is meant for",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  TEXTWND \"B\" 0 0 90 20 \"b\"\n  JUSTIFY CENTRE\nEND",
-     "a.tgs:4:3: warning: JUSTIFY acts on \"A\" here; to apply it to \"B\", put it between BEGIN and END "
+     "WINDOW 'A' 0 0 90 90 { TEXTWND 'B' 0 0 90 20 'b'; JUSTIFY CENTRE }",
+     "a.tgs:4:1: warning: JUSTIFY acts on \"A\" here; to apply it to \"B\", put it between BEGIN and END "
      "[attribute-on-parent]\n"},
-    {"a screen in a block", "SCREEN \"A\" 0 0 9 9 \"\"\nBEGIN\n  SCREEN \"B\" 0 0 9 9 \"\"\nEND",
-     "a.tgs:3:3: warning: a SCREEN inside the block that begins in line 2; it becomes a top-level window "
+    {"a screen in a block", "SCREEN 'A' 0 0 9 9 '' { SCREEN 'B' 0 0 9 9 '' }",
+     "a.tgs:3:1: warning: a SCREEN inside the block that begins in line 2; it becomes a top-level window "
      "anyway. Is an END missing? [nested-screen]\n"},
 
     {"a missing script",
-     "WINDOW \"A\" 0 0 9 9\nBEGIN\n  GOTO \"S\" \"part.tgx\"\n  GOTO \"S\" \"150\"\nEND\n== parts.tgs\n"
-     "WINDOW \"B\" 0 0 9 9",
-     "a.tgs:3:12: error: no script \"part.tgx\"; did you mean \"parts.tgx\"? [missing-script]\n"},
+     "WINDOW 'A' 0 0 9 9 { GOTO 'S' 'part.tgx'; GOTO 'S' '150' }\n== parts.tgs\nWINDOW 'B' 0 0 9 9",
+     "a.tgs:3:10: error: no script \"part.tgx\"; did you mean \"parts.tgx\"? [missing-script]\n"},
     {"a missing subroutine",
-     "WINDOW \"A\" 0 0 9 9\nBEGIN\n  GOTO \"s1\" \"parts.tgx\"\n  GOTO \"S1\"\nEND\n== parts.tgs\nSUBROUTINE "
-     "\"S1\"\nBEGIN\nEND\nWINDOW \"B\" 0 0 9 9\nBEGIN\n  GOTO \"S1\"\nEND",
-     "a.tgs:3:8: error: no SUBROUTINE \"s1\" in parts.tgx; did you mean \"S1\"? [missing-subroutine]\n"
-     "a.tgs:4:8: error: no SUBROUTINE \"S1\" in a.tgx; parts.tgx has one [missing-subroutine]\n"},
+     "WINDOW 'A' 0 0 9 9 { GOTO 's1' 'parts.tgx'; GOTO 'S1' }\n== parts.tgs\nSUBROUTINE 'S1' { }; WINDOW "
+     "'B' 0 0 9 9 { GOTO 'S1' }",
+     "a.tgs:3:6: error: no SUBROUTINE \"s1\" in parts.tgx; did you mean \"S1\"? [missing-subroutine]\n"
+     "a.tgs:4:6: error: no SUBROUTINE \"S1\" in a.tgx; parts.tgx has one [missing-subroutine]\n"},
     {"recursive subroutines in two scripts",
-     "SUBROUTINE \"S\"\nBEGIN\n  GOTO \"T\" \"b.tgx\"\nEND\n== b.tgs\nSUBROUTINE \"T\"\nGOTO \"S\" "
-     "\"a.tgx\"\nWINDOW \"W\" 0 0 9 9\nBEGIN\n  GOTO \"T\"\nEND",
+     "SUBROUTINE 'S' { GOTO 'T' 'b.tgx' }\n== b.tgs\nSUBROUTINE 'T'; GOTO 'S' 'a.tgx'; WINDOW 'W' 0 0 9 9 { "
+     "GOTO 'T' }",
      "b.tgs:2:6: error: the subroutine calls itself: \"S\" -> \"T\" -> \"S\" [recursive-subroutine]\n"},
     {"unused subroutines",
-     "WINDOW \"A\" 0 0 9 9\nBEGIN\n  GOTO \"S\" \"b.tgx\"\nEND\n== b.tgs\nSUBROUTINE \"S\"\nBEGIN\nEND\n"
-     "SUBROUTINE \"S\"\nBEGIN\nEND\nSUBROUTINE \"T\"\nSUBROUTINE \"U\"\nTEXTRAW 1\n== c.tgs\nSUBROUTINE "
-     "\"V\"\nBEGIN\nEND",
+     "WINDOW 'A' 0 0 9 9 { GOTO 'S' 'b.tgx' }\n== b.tgs\nSUBROUTINE 'S' { }; SUBROUTINE 'S' { }; "
+     "SUBROUTINE 'T'; SUBROUTINE 'U'; TEXTRAW 1\n== c.tgs\nSUBROUTINE 'V' { }",
      "b.tgs:4:12: warning: SUBROUTINE \"S\" is already defined in line 1; GOTO always uses that one "
      "[duplicate-subroutine]\n"
      "b.tgs:7:12: warning: \"T\" has no body; expected a statement or a block after it [empty-subroutine]\n"
@@ -110,79 +106,75 @@ const CheckRow rows[] = {
      "[unused-script]\n"},
 
     {"statements on the wrong kind of window",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  ITEM \"a\"\n  COMBOWRAP 1\n  BORDER \"eight.bmp\" 4 8 "
-     "\"eight.bmp\"\n  USERDEF \"G\" 0 0 90 90\n  BEGIN\n    ITEM \"a\"\n  END\nEND\nGRAPHINFO \"\"",
-     "a.tgs:3:3: error: ITEM acts on a list box or a combo box, but \"A\" is a plain window [wrong-window]\n"
-     "a.tgs:4:3: warning: COMBOWRAP has no effect on \"A\" [no-effect]\n"
-     "a.tgs:5:26: warning: the second bitmap of a BORDER is only for list boxes; \"A\" ignores it "
+     "WINDOW 'A' 0 0 90 90 { ITEM 'a'; COMBOWRAP 1; BORDER 'eight.bmp' 4 8 'eight.bmp'; USERDEF 'G' 0 0 90 "
+     "90 { ITEM 'a' } }; GRAPHINFO ''",
+     "a.tgs:3:1: error: ITEM acts on a list box or a combo box, but \"A\" is a plain window [wrong-window]\n"
+     "a.tgs:4:1: warning: COMBOWRAP has no effect on \"A\" [no-effect]\n"
+     "a.tgs:5:24: warning: the second bitmap of a BORDER is only for list boxes; \"A\" ignores it "
      "[no-effect]\n"
      "a.tgs:11:1: error: GRAPHINFO acts on a graph, but it is not in a window's block [wrong-window]\n"},
     {"a statement of a subroutine on the wrong kind of window, reported once",
-     "WINDOW \"A\" 0 0 9 9\nBEGIN\n  GOTO \"S\"\nEND\nWINDOW \"B\" 0 0 9 9\nBEGIN\n  GOTO "
-     "\"S\"\nEND\nSUBROUTINE \"S\"\nBUTTONCHECK 1",
+     "WINDOW 'A' 0 0 9 9 { GOTO 'S' }; WINDOW 'B' 0 0 9 9 { GOTO 'S' }; SUBROUTINE 'S'; BUTTONCHECK 1",
      "a.tgs:10:1: error: BUTTONCHECK acts on a button, a combo box or a radio button, but \"A\" is a plain "
      "window [wrong-window]\n"},
     {"tab lists before their windows",
-     "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  TABORDER \"OK\"\n  BUTTON \"OK\" 10 10 80 24 \"\"\n  TABORDER "
-     "\"ok\" \"QUIT\"\n  TABLIST1 \"OKK\"\nEND",
-     "a.tgs:3:12: error: no window \"OK\" in \"A\" at this point; it is defined later, in line 4 "
+     "SCREEN 'A' 0 0 640 480 '' { TABORDER 'OK'; BUTTON 'OK' 10 10 80 24 ''; TABORDER 'ok' 'QUIT'; TABLIST1 "
+     "'OKK' }",
+     "a.tgs:3:10: error: no window \"OK\" in \"A\" at this point; it is defined later, in line 4 "
      "[missing-window]\n"
-     "a.tgs:5:17: error: no window \"QUIT\" in \"A\" at this point [missing-window]\n"
-     "a.tgs:6:12: error: no window \"OKK\" in \"A\" at this point; did you mean \"OK\"? [missing-window]\n"},
+     "a.tgs:5:15: error: no window \"QUIT\" in \"A\" at this point [missing-window]\n"
+     "a.tgs:6:10: error: no window \"OKK\" in \"A\" at this point; did you mean \"OK\"? [missing-window]\n"},
     {"pointers to missing windows",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  POINTER \"MAP\" \"c.tgx\"\n  POINTER \"A\" \"c.tgx\"\nEND\n== "
-     "b.tgs\nWINDOW \"MAP\" 0 0 9 9\n== c.tgs\nWINDOW \"NONE\" 0 0 9 9",
-     "a.tgs:3:11: error: no window \"MAP\" exists at this point, nor at the top level of c.tgx; b.tgx "
-     "defines it: name that script [missing-pointer]\n"
-     "a.tgs:4:11: error: \"A\" cannot be shown here: it would be inside itself, or nested too deeply "
+     "WINDOW 'A' 0 0 90 90 { POINTER 'MAP' 'c.tgx'; POINTER 'A' 'c.tgx' }\n== b.tgs\nWINDOW 'MAP' 0 0 9 "
+     "9\n== c.tgs\nWINDOW 'NONE' 0 0 9 9",
+     "a.tgs:3:9: error: no window \"MAP\" exists at this point, nor at the top level of c.tgx; b.tgx defines "
+     "it: name that script [missing-pointer]\n"
+     "a.tgs:4:9: error: \"A\" cannot be shown here: it would be inside itself, or nested too deeply "
      "[pointer-inside]\n"},
     {"a pointer to a window of the main script",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  POINTER \"MAP\"\nEND\n== script.tgs\nWINDOW \"MAP\" 0 0 9 9\nBEGIN\n  "
-     "TEXTWND \"T\" 0 0 3 24 \"long\"\nEND",
-     "script.tgs:3:3: warning: \"T\" extends beyond \"MAP\" (9 x 9) by 15 pixels below [outside-parent]\n"
-     "script.tgs:3:24: warning: the text of \"T\" is 20 pixels wide in font 0, but its box has 3 "
+     "WINDOW 'A' 0 0 90 90 { POINTER 'MAP' }\n== script.tgs\nWINDOW 'MAP' 0 0 9 9 { TEXTWND 'T' 0 0 3 24 "
+     "'long' }",
+     "script.tgs:3:1: warning: \"T\" extends beyond \"MAP\" (9 x 9) by 15 pixels below [outside-parent]\n"
+     "script.tgs:3:22: warning: the text of \"T\" is 20 pixels wide in font 0, but its box has 3 "
      "[text-clipped]\n"},
     {"undefined fonts",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  FONT 1\n  LISTBOX \"L\" 0 0 9 9\n  BEGIN\n    LISTFONTS 0 1\n  END\n  "
-     "TABORDER \"L\"\nEND",
-     "a.tgs:3:8: error: no ADDFONT defines font 1; there is only font 0, the built-in one [no-font]\n"
-     "a.tgs:6:17: error: no ADDFONT defines font 1; there is only font 0, the built-in one [no-font]\n"},
+     "WINDOW 'A' 0 0 90 90 { FONT 1; LISTBOX 'L' 0 0 9 9 { LISTFONTS 0 1 }; TABORDER 'L' }",
+     "a.tgs:3:6: error: no ADDFONT defines font 1; there is only font 0, the built-in one [no-font]\n"
+     "a.tgs:6:13: error: no ADDFONT defines font 1; there is only font 0, the built-in one [no-font]\n"},
     {"fonts of the main script",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  FONT 1\n  FONT 2\nEND\n== script.tgs\nADDFONT \"none.ttf\" \"\" 12",
-     "a.tgs:3:3: warning: FONT is overridden by the same statement in line 4 [no-effect]\n"
-     "a.tgs:4:8: error: no ADDFONT defines font 2; there are fonts 0 to 1 [no-font]\n"
+     "WINDOW 'A' 0 0 90 90 { FONT 1; FONT 2 }\n== script.tgs\nADDFONT 'none.ttf' '' 12",
+     "a.tgs:3:1: warning: FONT is overridden by the same statement in line 4 [no-effect]\n"
+     "a.tgs:4:6: error: no ADDFONT defines font 2; there are fonts 0 to 1 [no-font]\n"
      "script.tgs:1:9: error: the font \"none.ttf\" cannot be loaded; the built-in font is used instead "
      "[missing-font]\n"},
     {"fonts of two main scripts, and of a library that both may use",
-     "ADDFONT \"none.ttf\" \"\" 12\nADDFONT \"none.ttf\" \"\" 12\n== b.tgs\nADDFONT \"none.ttf\" \"\" 12\n"
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  FONT 2\nEND\n== c.tgs\nWINDOW \"A\" 0 0 90 90\nBEGIN\n  FONT 2\nEND",
+     "ADDFONT 'none.ttf' '' 12; ADDFONT 'none.ttf' '' 12\n== b.tgs\nADDFONT 'none.ttf' '' 12; WINDOW 'A' 0 0 "
+     "90 90 { FONT 2 }\n== c.tgs\nWINDOW 'A' 0 0 90 90 { FONT 2 }",
      "a.tgs:1:9: error: the font \"none.ttf\" cannot be loaded; the built-in font is used instead "
      "[missing-font]\n"
      "a.tgs:2:9: error: the font \"none.ttf\" cannot be loaded; the built-in font is used instead "
      "[missing-font]\n"
      "b.tgs:1:9: error: the font \"none.ttf\" cannot be loaded; the built-in font is used instead "
      "[missing-font]\n"
-     "b.tgs:4:8: error: no ADDFONT defines font 2; there are fonts 0 to 1 [no-font]\n"},
+     "b.tgs:4:6: error: no ADDFONT defines font 2; there are fonts 0 to 1 [no-font]\n"},
     {"a font of an invalid size", "ADDFONT \"none.ttf\" \"\" 97",
      "a.tgs:1:9: error: the font \"none.ttf\" cannot be loaded at this size; expected 1 to 96; the built-in "
      "font is used instead [missing-font]\n"},
     {"more cells than columns, and columns after rows",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  LISTBOX \"L\" 0 0 90 90\n  BEGIN\n    ITEM \"a\" \"b\"\n    COLUMNS "
-     "40\n  END\n  TABORDER \"L\"\nEND",
-     "a.tgs:5:14: error: this row has more cells than \"L\" had columns before its first row: 1 "
+     "WINDOW 'A' 0 0 90 90 { LISTBOX 'L' 0 0 90 90 { ITEM 'a' 'b'; COLUMNS 40 }; TABORDER 'L' }",
+     "a.tgs:5:10: error: this row has more cells than \"L\" had columns before its first row: 1 "
      "[missing-column]\n"
-     "a.tgs:6:5: warning: \"L\" already has rows; COLUMNS must come before them [late-columns]\n"
-     "a.tgs:6:5: warning: the columns of \"L\" take 150 pixels including the gaps before them, but it has 90 "
+     "a.tgs:6:1: warning: \"L\" already has rows; COLUMNS must come before them [late-columns]\n"
+     "a.tgs:6:1: warning: the columns of \"L\" take 150 pixels including the gaps before them, but it has 90 "
      "[wide-columns]\n"},
     {"missing icons",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  LISTBOX \"L\" 0 0 90 90\n  BEGIN\n    LISTICONS \"one.bmp\"\n    "
-     "COLUMNS 20\n    ITEM \"ICON0\"\n    ITEM \"ICON1\"\n  END\n  TABORDER \"L\"\nEND",
-     "a.tgs:8:10: error: row 1 of \"L\" shows icon 1, but LISTICONS names 1 [missing-icon]\n"},
+     "WINDOW 'A' 0 0 90 90 { LISTBOX 'L' 0 0 90 90 { LISTICONS 'one.bmp'; COLUMNS 20; ITEM 'ICON0'; ITEM "
+     "'ICON1' }; TABORDER 'L' }",
+     "a.tgs:8:6: error: row 1 of \"L\" shows icon 1, but LISTICONS names 1 [missing-icon]\n"},
     {"a missing frame of an icon",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  LISTBOX \"L\" 0 0 90 90\n  BEGIN\n    LISTLOOK 10\n    LISTICONS "
-     "\"three.bmp\"\n    COLUMNS 20\n    ITEM \"ICON0F2\"\n    ITEM \"ICON0F3\"\n  END\n  TABORDER "
-     "\"L\"\nEND",
-     "a.tgs:9:10: error: \"three.bmp\" is 63 x 10 pixels and has no frame 3 of 20 x 10 for row 1 of \"L\" "
+     "WINDOW 'A' 0 0 90 90 { LISTBOX 'L' 0 0 90 90 { LISTLOOK 10; LISTICONS 'three.bmp'; COLUMNS 20; ITEM "
+     "'ICON0F2'; ITEM 'ICON0F3' }; TABORDER 'L' }",
+     "a.tgs:9:6: error: \"three.bmp\" is 63 x 10 pixels and has no frame 3 of 20 x 10 for row 1 of \"L\" "
      "[strip-too-small]\n"},
     {"subroutines that execute too many lines", chain(30, 2),
      "a.tgs:144:1: error: reading \"W\" takes too long and is stopped here [limit-exceeded]\n"},
@@ -190,31 +182,29 @@ const CheckRow rows[] = {
      "a.tgs:255:6: error: calls of subroutines are nested more than 64 deep here [limit-exceeded]\n"},
 
     {"lists whose last row is not drawn, and whose columns do not fit",
-     "WINDOW \"A\" 0 0 400 90\nBEGIN\n  LISTBOX \"L\" 0 0 90 60\n  BEGIN\n    COLUMNS 40 40\n    LISTLOOK "
-     "20\n    ITEM \"a\"\n  END\n  LISTBOX \"M\" 100 0 90 60\n  BEGIN\n    COLUMNS 40\n    LISTLOOK 20\n  "
-     "END\n  TABORDER \"L\" \"M\"\nEND",
-     "a.tgs:5:5: warning: the columns of \"L\" take 100 pixels including the gaps before them, but it has 90 "
+     "WINDOW 'A' 0 0 400 90 { LISTBOX 'L' 0 0 90 60 { COLUMNS 40 40; LISTLOOK 20; ITEM 'a' }; LISTBOX 'M' "
+     "100 0 90 60 { COLUMNS 40; LISTLOOK 20 }; TABORDER 'L' 'M' }",
+     "a.tgs:5:1: warning: the columns of \"L\" take 100 pixels including the gaps before them, but it has 90 "
      "[wide-columns]\n"
-     "a.tgs:9:3: warning: \"M\" has 60 pixels for rows of height 20, and the last row that fits is not "
+     "a.tgs:9:1: warning: \"M\" has 60 pixels for rows of height 20, and the last row that fits is not "
      "drawn; make it 1 higher [hidden-last-row]\n"},
     {"a combo box at the edge of the screen, and controls with states, pages and texts that do not work",
-     "SCREEN \"S\" 0 0 640 480 \"\"\nBEGIN\n  COMBOBOX \"C\" 0 440 100 24 \"\"\n  BEGIN\n    COMBOBELOW 1\n  "
-     "  ITEM \"a\"\n    ITEM \"b\"\n  END\n  CHECKBOX \"B\" 0 0 90 24 \"\"\n  BEGIN\n    ENABLED 0\n    "
-     "USERDEF \"RadioState\" 0 0 9 9\n    CHECKBOXSTATE 0 0 20 10 \"three.bmp\" 20 10 1\n  END\n  TABCONTROL "
-     "\"T\" 200 0 90 90\n  BEGIN\n    RADIOBUTTON \"R\" 0 0 20 20 \"\"\n    WINDOW \"P\" 0 20 9 9\n    "
-     "BEGIN\n      VISIBLE 0\n    END\n  END\n  EDITBOX \"E\" 0 100 90 6 \"\"\n  TEXTWND \"X\" 0 200 300 24 "
-     "\"a\\nb\"\n  TABORDER \"C\" \"B\" \"R\" \"E\"\nEND",
-     "a.tgs:3:3: warning: the menu of \"C\" ends at 512, below the screen of 480 pixels, so its last items "
+     "SCREEN 'S' 0 0 640 480 '' { COMBOBOX 'C' 0 440 100 24 '' { COMBOBELOW 1; ITEM 'a'; ITEM 'b' }; "
+     "CHECKBOX 'B' 0 0 90 24 '' { ENABLED 0; USERDEF 'RadioState' 0 0 9 9; CHECKBOXSTATE 0 0 20 10 "
+     "'three.bmp' 20 10 1 }; TABCONTROL 'T' 200 0 90 90 { RADIOBUTTON 'R' 0 0 20 20 ''; WINDOW 'P' 0 20 9 9 "
+     "{ VISIBLE 0 } }; EDITBOX 'E' 0 100 90 6 ''; TEXTWND 'X' 0 200 300 24 'a\\nb'; TABORDER 'C' 'B' 'R' 'E' "
+     "}",
+     "a.tgs:3:1: warning: the menu of \"C\" ends at 512, below the screen of 480 pixels, so its last items "
      "cannot be chosen; remove COMBOBELOW to open it above [menu-off-screen]\n"
-     "a.tgs:11:5: warning: \"B\" enables itself when its screen opens; the game can disable it with "
+     "a.tgs:11:1: warning: \"B\" enables itself when its screen opens; the game can disable it with "
      "setButtonState [no-effect]\n"
-     "a.tgs:13:5: warning: the window \"RadioState\" of \"B\" shows the selection, so this state is not used "
+     "a.tgs:13:1: warning: the window \"RadioState\" of \"B\" shows the selection, so this state is not used "
      "[no-effect]\n"
-     "a.tgs:15:3: error: all pages of \"T\" are hidden, so none is shown when it opens; make the first one "
+     "a.tgs:15:1: error: all pages of \"T\" are hidden, so none is shown when it opens; make the first one "
      "visible [tab-pages]\n"
-     "a.tgs:23:3: warning: the text typed into \"E\" is 13 pixels high in font 0, but its box has 6 "
+     "a.tgs:23:1: warning: the text typed into \"E\" is 13 pixels high in font 0, but its box has 6 "
      "[text-clipped]\n"
-     "a.tgs:24:28: warning: the text of \"X\" has a line break but is drawn on one line; wrap it with "
+     "a.tgs:24:26: warning: the text of \"X\" has a line break but is drawn on one line; wrap it with "
      "TEXTWRAP 1 [line-break]\n"},
     {"unknown font styles",
      "ADDFONT \"a.ttf\" \"bald\" 12 0\nADDFONT \"a.ttf\" \"Bold #12345g\" 12 0\nADDFONT \"a.ttf\" \"shadow, "
@@ -229,16 +219,15 @@ const CheckRow rows[] = {
      "a.tgs:3:9: error: the font \"a.ttf\" cannot be loaded; the built-in font is used instead "
      "[missing-font]\n"},
     {"a screen with the name of a window class, and without a block",
-     "SCREEN \"Ship\" 0 0 640 480 \"\"\nWINDOW \"A\" 0 0 90 90\nBEGIN\n  USERDEF \"S\" 0 0 9 9 \"Ship\"\nEND",
+     "SCREEN 'Ship' 0 0 640 480 ''; WINDOW 'A' 0 0 90 90 { USERDEF 'S' 0 0 9 9 'Ship' }",
      "a.tgs:1:1: warning: this screen is empty, because no block follows it; put its windows between BEGIN "
      "and END after this line [empty-screen]\n"
      "a.tgs:1:8: warning: the game makes windows of the class \"Ship\", and would be asked for that class "
      "when this screen opens [class-name]\n"},
     {"screens and boxes that cannot be left",
-     "SCREEN \"\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"GO\" 0 0 90 24 \"\"\n  TABORDER \"GO\"\nEND\nSCREEN "
-     "\"B\" 0 0 640 480 \"\"\nBEGIN\n  TEXTWND \"T\" 0 0 90 24 \"b\"\nEND\nWINDOW \"QUERYBOX\" 0 0 200 100\n"
-     "BEGIN\n  TEXTWND \"MESSAGEBOXTITEL\" 0 0 90 24 \"\"\n  TEXTWND \"MESSAGEBOXTEXT\" 0 24 90 24 \"\"\n  "
-     "BUTTON \"OK\" 0 60 90 24 \"\"\n  TABORDER \"OK\"\nEND",
+     "SCREEN '' 0 0 640 480 '' { BUTTON 'GO' 0 0 90 24 ''; TABORDER 'GO' }; SCREEN 'B' 0 0 640 480 '' { "
+     "TEXTWND 'T' 0 0 90 24 'b' }; WINDOW 'QUERYBOX' 0 0 200 100 { TEXTWND 'MESSAGEBOXTITEL' 0 0 90 24 ''; "
+     "TEXTWND 'MESSAGEBOXTEXT' 0 24 90 24 ''; BUTTON 'OK' 0 60 90 24 ''; TABORDER 'OK' }",
      "a.tgs:1:1: warning: the first screen opens without a name, but nothing can return to it "
      "[unnamed-screen]\n"
      "a.tgs:6:1: warning: nothing in \"B\" can be clicked; a button TGX_BACK returns to the previous screen "
@@ -248,126 +237,116 @@ const CheckRow rows[] = {
      "a.tgs:10:1: warning: \"QUERYBOX\" has no window \"MESSAGEBOXTITLE\", so that text is not shown; did "
      "you mean \"MESSAGEBOXTITEL\"? [missing-box-part]\n"},
     {"missing pictures",
-     "SCREEN \"A\" 0 0 640 480 \"none.bmp\"\nBEGIN\n  BITMAP \"static\" 0 0 9 9 \"text.png\"\n  BITMAP \"B\" "
-     "9 9 9 9 \"ONE.BMP\"\nEND",
-     "a.tgs:1:24: error: no picture \"none.bmp\" in the data directory; did you mean "
-     "\"one.bmp\"? [missing-bitmap]\n"
-     "a.tgs:3:27: error: \"text.png\" cannot be read as a picture [missing-bitmap]\n"},
+     "SCREEN 'A' 0 0 640 480 'none.bmp' { BITMAP 'static' 0 0 9 9 'text.png'; BITMAP 'B' 9 9 9 9 'ONE.BMP' }",
+     "a.tgs:1:24: error: no picture \"none.bmp\" in the data directory; did you mean \"one.bmp\"? "
+     "[missing-bitmap]\n"
+     "a.tgs:3:25: error: \"text.png\" cannot be read as a picture [missing-bitmap]\n"},
     {"strips that are too small",
-     "WINDOW \"A\" 0 0 200 200\nBEGIN\n  BITMAP \"B\" 0 0 20 10 \"three.bmp\" 20 10 1 4\n  BITMAP \"C\" 30 0 "
-     "20 10 \"three.bmp\" 20 10 1 3\n  BUTTON \"D\" 60 0 20 10 \"\" 0 0 \"one.bmp\"\n  BUTTON \"E\" 90 0 20 "
-     "10 \"\" 0 0 \"three.bmp\"\n  VSCROLLBAR \"F\" 0 30 20 90 \"three.bmp\" 20 10\n  PROGRESSBAR \"G\" 30 "
-     "30 40 10 \"one.bmp\" 40 10\n  WINDOW \"H\" 30 60 99 99\n  BEGIN\n    BORDER \"eight.bmp\" 4 9\n  END\n "
-     " WINDOW \"I\" 30 60 99 99\n  BEGIN\n    BORDER \"eight.bmp\" 4 8\n  END\n  TABORDER \"D\" \"E\" \"F\"\n"
-     "END",
-     "a.tgs:3:24: error: \"three.bmp\" is 63 x 10 pixels, too small for 4 frames of 20 x 10 that \"B\" uses; "
+     "WINDOW 'A' 0 0 200 200 { BITMAP 'B' 0 0 20 10 'three.bmp' 20 10 1 4; BITMAP 'C' 30 0 20 10 'three.bmp' "
+     "20 10 1 3; BUTTON 'D' 60 0 20 10 '' 0 0 'one.bmp'; BUTTON 'E' 90 0 20 10 '' 0 0 'three.bmp'; "
+     "VSCROLLBAR 'F' 0 30 20 90 'three.bmp' 20 10; PROGRESSBAR 'G' 30 30 40 10 'one.bmp' 40 10; WINDOW 'H' "
+     "30 60 99 99 { BORDER 'eight.bmp' 4 9 }; WINDOW 'I' 30 60 99 99 { BORDER 'eight.bmp' 4 8 }; TABORDER "
+     "'D' 'E' 'F' }",
+     "a.tgs:3:22: error: \"three.bmp\" is 63 x 10 pixels, too small for 4 frames of 20 x 10 that \"B\" uses; "
      "a row of them is 84 x 10 [strip-too-small]\n"
-     "a.tgs:5:32: error: \"one.bmp\" is 20 x 10 pixels, too small for 3 frames of 20 x 10 that \"D\" uses; a "
+     "a.tgs:5:30: error: \"one.bmp\" is 20 x 10 pixels, too small for 3 frames of 20 x 10 that \"D\" uses; a "
      "row of them is 63 x 10 [strip-too-small]\n"
-     "a.tgs:7:29: error: \"three.bmp\" is 63 x 10 pixels, too small for 6 frames of 20 x 10 that \"F\" uses; "
+     "a.tgs:7:27: error: \"three.bmp\" is 63 x 10 pixels, too small for 6 frames of 20 x 10 that \"F\" uses; "
      "a row of them is 126 x 10 [strip-too-small]\n"
-     "a.tgs:8:31: error: \"one.bmp\" is 20 x 10 pixels, too small for the frame of 40 x 10 that \"G\" uses; "
+     "a.tgs:8:29: error: \"one.bmp\" is 20 x 10 pixels, too small for the frame of 40 x 10 that \"G\" uses; "
      "a row of them is 41 x 10 [strip-too-small]\n"
-     "a.tgs:11:12: error: \"eight.bmp\" is 71 x 8 pixels, too small for 8 frames of 9 x 9 that \"H\" uses; a "
+     "a.tgs:11:8: error: \"eight.bmp\" is 71 x 8 pixels, too small for 8 frames of 9 x 9 that \"H\" uses; a "
      "row of them is 80 x 9 [strip-too-small]\n"},
     {"tabs and pages",
-     "WINDOW \"W\" 0 0 400 400\nBEGIN\n  TABCONTROL \"T\" 0 0 200 200\n  BEGIN\n    RADIOBUTTON \"A\" 0 0 50 "
-     "20 \"\"\n    RADIOBUTTON \"B\" 50 0 50 20 \"\"\n    WINDOW \"P\" 0 20 200 180\n  END\n  TABCONTROL "
-     "\"U\" 0 200 200 200\n  BEGIN\n    RADIOBUTTON \"C\" 0 0 50 20 \"\"\n    WINDOW \"Q\" 0 20 200 180\n    "
-     "RADIOBUTTON \"D\" 50 0 50 20 \"\"\n    WINDOW \"R\" 0 20 200 180\n  END\n  TABORDER \"A\" \"C\" \"D\"\n"
-     "END",
-     "a.tgs:3:3: error: \"T\" has 2 tabs and 1 page [tab-pages]\n"
-     "a.tgs:9:3: error: tabs and pages of \"U\" are mixed; put all tabs before or after all pages "
+     "WINDOW 'W' 0 0 400 400 { TABCONTROL 'T' 0 0 200 200 { RADIOBUTTON 'A' 0 0 50 20 ''; RADIOBUTTON 'B' 50 "
+     "0 50 20 ''; WINDOW 'P' 0 20 200 180 }; TABCONTROL 'U' 0 200 200 200 { RADIOBUTTON 'C' 0 0 50 20 ''; "
+     "WINDOW 'Q' 0 20 200 180; RADIOBUTTON 'D' 50 0 50 20 ''; WINDOW 'R' 0 20 200 180 }; TABORDER 'A' 'C' "
+     "'D' }",
+     "a.tgs:3:1: error: \"T\" has 2 tabs and 1 page [tab-pages]\n"
+     "a.tgs:9:1: error: tabs and pages of \"U\" are mixed; put all tabs before or after all pages "
      "[tab-pages]\n"
-     "a.tgs:13:5: warning: \"D\" starts a new group: \"Q\" of line 12 separates it from \"C\" "
+     "a.tgs:13:1: warning: \"D\" starts a new group: \"Q\" of line 12 separates it from \"C\" "
      "[radio-group]\n"},
     {"a radio group with a window in it, and two groups side by side",
-     "WINDOW \"W\" 0 0 400 400\nBEGIN\n  RADIOBUTTON \"SKY_A\" 0 0 50 20 \"\"\n  RADIOBUTTON \"SKY_B\" 0 20 "
-     "50 20 \"\"\n  WINDOW \"static\" 60 0 9 9\n  RADIOBUTTON \"SKY_C\" 0 40 50 20 \"\"\n  WINDOW \"static\" "
-     "200 0 9 9\n  RADIOBUTTON \"SEA_A\" 200 20 50 20 \"\"\n  RADIOBUTTON \"SEA_B\" 200 40 50 20 \"\"\n  "
-     "TABORDER \"SKY_A\" \"SKY_C\" \"SEA_A\"\nEND",
-     "a.tgs:6:3: warning: \"SKY_C\" starts a new group: the plain window of line 5 separates it from "
+     "WINDOW 'W' 0 0 400 400 { RADIOBUTTON 'SKY_A' 0 0 50 20 ''; RADIOBUTTON 'SKY_B' 0 20 50 20 ''; WINDOW "
+     "'static' 60 0 9 9; RADIOBUTTON 'SKY_C' 0 40 50 20 ''; WINDOW 'static' 200 0 9 9; RADIOBUTTON 'SEA_A' "
+     "200 20 50 20 ''; RADIOBUTTON 'SEA_B' 200 40 50 20 ''; TABORDER 'SKY_A' 'SKY_C' 'SEA_A' }",
+     "a.tgs:6:1: warning: \"SKY_C\" starts a new group: the plain window of line 5 separates it from "
      "\"SKY_B\" [radio-group]\n"},
 
     {"duplicate ids",
-     "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  BITMAP \"B\" 0 0 9 9 \"\"\n  WINDOW \"C\" 0 0 99 99\n  BEGIN\n "
-     "   BITMAP \"b\" 0 0 9 9 \"\"\n    BITMAP \"static\" 0 0 9 9 \"\"\n    BITMAP \"static\" 0 0 9 9 \"\"\n "
-     " END\nEND\nSCREEN \"C\" 0 0 640 480 \"wide.bmp\"\nSCREEN \"A\" 0 0 640 480 \"wide.bmp\"",
-     "a.tgs:4:10: warning: reading the window \"C\", which is defined in line 11, starts here; use another "
+     "SCREEN 'A' 0 0 640 480 '' { BITMAP 'B' 0 0 9 9 ''; WINDOW 'C' 0 0 99 99 { BITMAP 'b' 0 0 9 9 ''; "
+     "BITMAP 'static' 0 0 9 9 ''; BITMAP 'static' 0 0 9 9 '' } }; SCREEN 'C' 0 0 640 480 'wide.bmp'; SCREEN "
+     "'A' 0 0 640 480 'wide.bmp'",
+     "a.tgs:4:8: warning: reading the window \"C\", which is defined in line 11, starts here; use another "
      "name here [name-taken]\n"
-     "a.tgs:6:5: warning: another window \"b\" is already in \"A\", in line 3, and is found first "
+     "a.tgs:6:1: warning: another window \"b\" is already in \"A\", in line 3, and is found first "
      "[duplicate-id]\n"
      "a.tgs:12:8: warning: \"A\" is already defined in line 1; reading it always uses that definition "
      "[duplicate-id]\n"},
     {"reserved ids",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  TEXTWND \"TGX_BACK\" 0 0 90 20 \"\"\n  BITMAP \"TGX_OK\" 0 20 90 20 "
-     "\"\"\n  BUTTON \"TGX_CLOSE\" 0 40 90 20 \"\"\n  LISTBOX \"ComboMenu\" 0 60 90 20\n  TABORDER "
-     "\"ComboMenu\"\nEND",
-     "a.tgs:3:11: warning: a click on \"TGX_BACK\" leaves the screen, but this is not a button; for "
+     "WINDOW 'A' 0 0 90 90 { TEXTWND 'TGX_BACK' 0 0 90 20 ''; BITMAP 'TGX_OK' 0 20 90 20 ''; BUTTON "
+     "'TGX_CLOSE' 0 40 90 20 ''; LISTBOX 'ComboMenu' 0 60 90 20; TABORDER 'ComboMenu' }",
+     "a.tgs:3:9: warning: a click on \"TGX_BACK\" leaves the screen, but this is not a button; for "
      "decoration use the id \"static\" [reserved-id]\n"
-     "a.tgs:4:10: warning: a click on \"TGX_OK\" closes the box, but this is not a button; for decoration "
-     "use the id \"static\" [reserved-id]\n"
-     "a.tgs:6:11: warning: \"ComboMenu\" is the id of a control's part; give this window another id "
+     "a.tgs:4:8: warning: a click on \"TGX_OK\" closes the box, but this is not a button; for decoration use "
+     "the id \"static\" [reserved-id]\n"
+     "a.tgs:6:9: warning: \"ComboMenu\" is the id of a control's part; give this window another id "
      "[reserved-id]\n"},
     {"controls that no key reaches",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  BUTTON \"B\" 0 0 90 20 \"\"\nEND\nWINDOW \"C\" 0 0 90 90\nBEGIN\n  "
-     "BUTTON \"D\" 0 0 90 20 \"\"\n  EDITBOX \"E\" 0 20 90 20 \"\"\n  BUTTON \"TGX_CLOSE\" 0 40 90 20 \"\"\n "
-     " TABORDER \"D\"\nEND",
+     "WINDOW 'A' 0 0 90 90 { BUTTON 'B' 0 0 90 20 '' }; WINDOW 'C' 0 0 90 90 { BUTTON 'D' 0 0 90 20 ''; "
+     "EDITBOX 'E' 0 20 90 20 ''; BUTTON 'TGX_CLOSE' 0 40 90 20 ''; TABORDER 'D' }",
      "a.tgs:1:1: warning: no key reaches the control in \"A\", \"B\"; add them to a TABORDER at the end of "
      "its block [unreachable]\n"
-     "a.tgs:8:3: warning: no key reaches \"E\": no TABORDER of \"C\" names it [unreachable]\n"},
+     "a.tgs:8:1: warning: no key reaches \"E\": no TABORDER of \"C\" names it [unreachable]\n"},
     {"texts that do not fit",
-     "WINDOW \"A\" 0 0 400 400\nBEGIN\n  TEXTWND \"B\" 0 0 40 20 \"a long text\"\n  TEXTWND \"C\" 0 20 40 60 "
-     "\"a long text of many words that goes on\"\n  BEGIN\n    TEXTWRAP 1\n  END\n  TEXTWND \"D\" 0 80 40 60 "
-     "\"two lines\"\n  BEGIN\n    TEXTWRAP 1\n  END\n  TEXTWND \"E\" 0 140 40 20 \"a long text\"\n  BEGIN\n  "
-     "  TEXTRAW 1\n  END\n  TEXTWND \"F\" 0 160 90 4 \"low\"\n  COMBOBOX \"G\" 0 180 40 20 \"\"\n  BEGIN\n   "
-     " ITEM \"short\"\n    ITEM \"a long item\"\n  END\n  TABORDER \"G\"\nEND",
-     "a.tgs:3:25: warning: the text of \"B\" is 54 pixels wide in font 0, but its box has 40 [text-clipped]\n"
-     "a.tgs:4:26: warning: the text of \"C\" does not fit into 40 x 60 pixels in font 0: it is cut before "
+     "WINDOW 'A' 0 0 400 400 { TEXTWND 'B' 0 0 40 20 'a long text'; TEXTWND 'C' 0 20 40 60 'a long text of "
+     "many words that goes on' { TEXTWRAP 1 }; TEXTWND 'D' 0 80 40 60 'two lines' { TEXTWRAP 1 }; TEXTWND "
+     "'E' 0 140 40 20 'a long text' { TEXTRAW 1 }; TEXTWND 'F' 0 160 90 4 'low'; COMBOBOX 'G' 0 180 40 20 '' "
+     "{ ITEM 'short'; ITEM 'a long item' }; TABORDER 'G' }",
+     "a.tgs:3:23: warning: the text of \"B\" is 54 pixels wide in font 0, but its box has 40 [text-clipped]\n"
+     "a.tgs:4:24: warning: the text of \"C\" does not fit into 40 x 60 pixels in font 0: it is cut before "
      "\"that goes on\" [text-clipped]\n"
-     "a.tgs:16:26: warning: the text of \"F\" is 13 pixels high in font 0, but its box has 4 [text-clipped]\n"
-     "a.tgs:20:10: warning: the item \"a long item\" of \"G\" is 54 pixels wide in font 0, but its box has "
-     "40 [text-clipped]\n"},
+     "a.tgs:16:24: warning: the text of \"F\" is 13 pixels high in font 0, but its box has 4 [text-clipped]\n"
+     "a.tgs:20:6: warning: the item \"a long item\" of \"G\" is 54 pixels wide in font 0, but its box has 40 "
+     "[text-clipped]\n"},
     {"a cell that is wider than its column",
-     "WINDOW \"A\" 0 0 400 400\nBEGIN\n  LISTBOX \"L\" 0 0 110 90\n  BEGIN\n    COLUMNS 40 40\n    ITEM "
-     "\"short\" \"also\"\n    ITEM \"short\" \"a long text\"\n  END\n  TABORDER \"L\"\nEND",
-     "a.tgs:7:18: warning: the text \"a long text\" in row 1 of \"L\" is 54 pixels wide in font 0, but "
+     "WINDOW 'A' 0 0 400 400 { LISTBOX 'L' 0 0 110 90 { COLUMNS 40 40; ITEM 'short' 'also'; ITEM 'short' 'a "
+     "long text' }; TABORDER 'L' }",
+     "a.tgs:7:14: warning: the text \"a long text\" in row 1 of \"L\" is 54 pixels wide in font 0, but "
      "column 1 has 40 [text-clipped]\n"},
     {"windows outside of their parents",
-     "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  BITMAP \"B\" -20 0 40 40 \"\"\n  BITMAP \"C\" 640 0 9 9 \"\"\n "
-     " BUTTON \"D\" 600 470 80 20 \"\"\n  TEXTWND \"E\" 0 -1 90 20 \"text\"\n  USERDEF \"F\" 700 0 90 90\n  "
-     "BEGIN\n    TEXTWND \"G\" 0 0 90 20 \"text\"\n  END\n  TABORDER \"D\"\nEND\nWINDOW \"POPUP\" 0 0 641 "
-     "100",
-     "a.tgs:4:3: warning: \"C\" is outside \"A\" (640 x 480) [outside-parent]\n"
-     "a.tgs:5:3: warning: \"D\" extends beyond \"A\" (640 x 480) by 40 pixels on the right and 10 below; the "
+     "SCREEN 'A' 0 0 640 480 '' { BITMAP 'B' -20 0 40 40 ''; BITMAP 'C' 640 0 9 9 ''; BUTTON 'D' 600 470 80 "
+     "20 ''; TEXTWND 'E' 0 -1 90 20 'text'; USERDEF 'F' 700 0 90 90 { TEXTWND 'G' 0 0 90 20 'text' }; "
+     "TABORDER 'D' }; WINDOW 'POPUP' 0 0 641 100",
+     "a.tgs:4:1: warning: \"C\" is outside \"A\" (640 x 480) [outside-parent]\n"
+     "a.tgs:5:1: warning: \"D\" extends beyond \"A\" (640 x 480) by 40 pixels on the right and 10 below; the "
      "part outside takes no clicks [outside-parent]\n"
-     "a.tgs:6:3: warning: \"E\" extends beyond \"A\" (640 x 480) by 1 pixel above [outside-parent]\n"
+     "a.tgs:6:1: warning: \"E\" extends beyond \"A\" (640 x 480) by 1 pixel above [outside-parent]\n"
      "a.tgs:13:1: warning: \"POPUP\" is 641 x 100, larger than the screen of 640 x 480 [outside-parent]\n"},
     {"windows that others cover",
-     "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"B\" 0 0 90 20 \"\"\n  TEXTWND \"C\" 0 0 90 20 "
-     "\"label\"\n  BUTTON \"D\" 0 20 90 20 \"\"\n  TEXTWND \"E\" 0 20 90 20 \"label\"\n  BEGIN\n    ENABLED "
-     "0\n  END\n  TEXTWND \"F\" 110 10 90 20 \"note\"\n  BITMAP \"G\" 100 0 400 300 \"wide.bmp\"\n  TEXTWND "
-     "\"H\" 110 10 90 20 \"note\"\n  TEXTWND \"I\" 0 400 90 20 \"note\"\n  BITMAP \"J\" 0 390 400 40 "
-     "\"wide.bmp\"\n  BEGIN\n    BMPBLITMODE 2\n  END\n  TABORDER \"B\" \"D\"\nEND",
-     "a.tgs:3:3: warning: \"B\" is completely covered by \"C\" of line 4, which takes its clicks [covered]\n"
-     "a.tgs:10:3: warning: \"F\" cannot be seen: \"G\" of line 11 covers it [covered]\n"},
+     "SCREEN 'A' 0 0 640 480 '' { BUTTON 'B' 0 0 90 20 ''; TEXTWND 'C' 0 0 90 20 'label'; BUTTON 'D' 0 20 90 "
+     "20 ''; TEXTWND 'E' 0 20 90 20 'label' { ENABLED 0 }; TEXTWND 'F' 110 10 90 20 'note'; BITMAP 'G' 100 0 "
+     "400 300 'wide.bmp'; TEXTWND 'H' 110 10 90 20 'note'; TEXTWND 'I' 0 400 90 20 'note'; BITMAP 'J' 0 390 "
+     "400 40 'wide.bmp' { BMPBLITMODE 2 }; TABORDER 'B' 'D' }",
+     "a.tgs:3:1: warning: \"B\" is completely covered by \"C\" of line 4, which takes its clicks [covered]\n"
+     "a.tgs:10:1: warning: \"F\" cannot be seen: \"G\" of line 11 covers it [covered]\n"},
     {"sizes of 0",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  BORDER \"eight.bmp\" 0 8\n  BUTTON \"B\" 0 0 90 0 \"\"\n  BITMAP "
-     "\"C\" 0 0 9 9 \"three.bmp\" 0 0 1 3\n  HSCROLLBAR \"D\" 0 0 90 20 \"three.bmp\" 0 0\n  TABORDER \"B\" "
-     "\"D\"\nEND\nWINDOW \"E\" 0 0 90 90\nBEGIN\n  BORDER \"eight.bmp\" 8 0\nEND",
-     "a.tgs:3:22: warning: with this width the border's pieces cover the picture [zero-size]\n"
-     "a.tgs:4:21: warning: a control of this size cannot be clicked [zero-size]\n"
-     "a.tgs:5:34: warning: a strip of several frames needs the size of one [zero-size]\n"
-     "a.tgs:6:40: warning: a scroll bar's six frames need a size [zero-size]\n"
-     "a.tgs:11:24: warning: a border with pieces of this size is not drawn [zero-size]\n"},
+     "WINDOW 'A' 0 0 90 90 { BORDER 'eight.bmp' 0 8; BUTTON 'B' 0 0 90 0 ''; BITMAP 'C' 0 0 9 9 'three.bmp' "
+     "0 0 1 3; HSCROLLBAR 'D' 0 0 90 20 'three.bmp' 0 0; TABORDER 'B' 'D' }; WINDOW 'E' 0 0 90 90 { BORDER "
+     "'eight.bmp' 8 0 }",
+     "a.tgs:3:20: warning: with this width the border's pieces cover the picture [zero-size]\n"
+     "a.tgs:4:19: warning: a control of this size cannot be clicked [zero-size]\n"
+     "a.tgs:5:32: warning: a strip of several frames needs the size of one [zero-size]\n"
+     "a.tgs:6:38: warning: a scroll bar's six frames need a size [zero-size]\n"
+     "a.tgs:11:22: warning: a border with pieces of this size is not drawn [zero-size]\n"},
     {"overridden lines",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  TEXTRAW 1\n  BMPINFO 9 9 1 1\n  BMPFILE \"one.bmp\"\n  FONT 0\n  "
-     "TEXTWND \"B\" 0 0 90 20 \"\"\n  BEGIN\n    FONT 0\n  END\n  FONT 0\n  TEXTRAW 0\nEND",
-     "a.tgs:3:3: warning: TEXTRAW is overridden by the same statement in line 12 [no-effect]\n"
-     "a.tgs:4:3: warning: BMPINFO sets a frame size that is reset by the BMPFILE in line 5 [no-effect]\n"},
-    {"a line without arguments",
-     "WINDOW \"A\" 0 0 90 90\nBEGIN\n  GRAPH \"G\" 0 0 90 90\n  BEGIN\n    GRAPHINFO\n  END\nEND",
-     "a.tgs:5:5: warning: GRAPHINFO without arguments does nothing [no-effect]\n"},
+     "WINDOW 'A' 0 0 90 90 { TEXTRAW 1; BMPINFO 9 9 1 1; BMPFILE 'one.bmp'; FONT 0; TEXTWND 'B' 0 0 90 20 '' "
+     "{ FONT 0 }; FONT 0; TEXTRAW 0 }",
+     "a.tgs:3:1: warning: TEXTRAW is overridden by the same statement in line 12 [no-effect]\n"
+     "a.tgs:4:1: warning: BMPINFO sets a frame size that is reset by the BMPFILE in line 5 [no-effect]\n"},
+    {"a line without arguments", "WINDOW 'A' 0 0 90 90 { GRAPH 'G' 0 0 90 90 { GRAPHINFO } }",
+     "a.tgs:5:1: warning: GRAPHINFO without arguments does nothing [no-effect]\n"},
     {"allowances",
      "# tgx: allow no-effect zero-size\nWINDOW \"A\" 0 0 90 90\nBEGIN\n  # tgx: allow zero-size no-efect\n\n "
      " # why\n  BORDER \"eight.bmp\" 0 8\n  BORDER \"eight.bmp\" 0 8\nEND",
@@ -377,10 +356,10 @@ const CheckRow rows[] = {
      "a.tgs:7:3: warning: BORDER is overridden by the same statement in line 8 [no-effect]\n"
      "a.tgs:8:22: warning: with this width the border's pieces cover the picture [zero-size]\n"},
     {"an allowance in an included file",
-     "INCLUDE \"b.inc\"\nINCLUDE \"b.inc\"\n== b.inc\nWINDOW \"static\" 0 0 9 9\nBEGIN\n  # tgx: allow "
-     "zero-size\n  BORDER \"eight.bmp\" 0 8\n  LISTLOOK 0\nEND",
-     "b.inc:5:3: error: LISTLOOK acts on a list box, but this is a plain window [wrong-window]\n"
-     "b.inc:5:12: warning: rows of height 0 count as 1; a negative height keeps the current one "
+     "INCLUDE 'b.inc'; INCLUDE 'b.inc'\n== b.inc\nWINDOW 'static' 0 0 9 9 {\n# tgx: allow zero-size\nBORDER "
+     "'eight.bmp' 0 8; LISTLOOK 0 }",
+     "b.inc:5:1: error: LISTLOOK acts on a list box, but this is a plain window [wrong-window]\n"
+     "b.inc:5:10: warning: rows of height 0 count as 1; a negative height keeps the current one "
      "[zero-size]\n"},
     {"nested blocks without END",
      "WINDOW \"A\" 0 0 9 9\nBEGIN\n  WINDOW \"B\" 0 0 9 9\n  BEGIN\n    WINDOW \"C\" 0 0 9 9\n    BEGIN\nEND",
@@ -399,12 +378,12 @@ const CheckRow rows[] = {
      "several lines needs BEGIN and END [after-body]\na.tgs:8:1: warning: the subroutine \"Q\" ends with "
      "line 7, and this is not part of it; a body of several lines needs BEGIN and END [after-body]\n"},
     {"windows without a block that are read one by one",
-     "WINDOW \"W\" 0 0 90 90\nBEGIN\n  POINTER \"A\" \"b.tgx\"\nEND\n== b.tgs\nWINDOW \"A\" 0 0 90 "
-     "90\nWINDOW \"B\" 0 0 90 90\nBEGIN\nEND\n== c.tgs\nSUBROUTINE \"S\"\nTEXTRAW 1\nWINDOW \"C\" 0 0 90 "
-     "90\nGOTO \"S\"",
+     "WINDOW 'W' 0 0 90 90 { POINTER 'A' 'b.tgx' }\n== b.tgs\nWINDOW 'A' 0 0 90 90; WINDOW 'B' 0 0 90 90 {  "
+     "}\n== c.tgs\nSUBROUTINE 'S'; TEXTRAW 1; WINDOW 'C' 0 0 90 90; GOTO 'S'",
      "b.tgs:1:8: warning: reading \"A\" also executes line 2, which does not belong to it; add BEGIN and END "
-     "after this line [missing-block]\nc.tgs:3:8: warning: reading \"C\" also executes line 4, which does "
-     "not belong to it; add BEGIN and END after this line [missing-block]\n"},
+     "after this line [missing-block]\n"
+     "c.tgs:3:8: warning: reading \"C\" also executes line 4, which does not belong to it; add BEGIN and END "
+     "after this line [missing-block]\n"},
     {"several invalid names in one tab list",
      "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  BUTTON \"OK\" 10 10 80 24 \"\"\n  TABORDER \"NOPE\" \"OKK\" "
      "\"LATER\"\n  BUTTON \"LATER\" 10 40 80 24 \"\"\nEND",
@@ -420,13 +399,12 @@ const CheckRow rows[] = {
      repeated(21, "WINDOW \"static\" 0 0 9 9\nBEGIN\n") + "ADDFONT \"\" \"\" 9\n" + repeated(21, "END\n"),
      "a.tgs:41:1: error: WINDOW is inside 20 blocks; at most 19 are allowed [too-deep]\n"},
     {"children of a window that extends beyond the screen",
-     "SCREEN \"A\" 0 0 640 480 \"\"\nBEGIN\n  WINDOW \"P\" 600 0 200 90\n  BEGIN\n    BUTTON \"B\" 100 0 90 "
-     "20 \"\"\n    BUTTON \"C\" 0 30 90 20 \"\"\n  END\n  WINDOW \"Q\" 700 0 90 90\n  BEGIN\n    BUTTON "
-     "\"D\" 0 0 90 20 \"\"\n  END\n  TABORDER \"B\" \"C\" \"D\"\nEND",
-     "a.tgs:5:5: warning: \"B\" is outside \"A\" (640 x 480) [outside-parent]\na.tgs:6:5: warning: \"C\" "
-     "extends "
-     "beyond \"A\" (640 x 480) by 50 pixels on the right; the part outside takes no clicks "
-     "[outside-parent]\na.tgs:8:3: warning: \"Q\" is outside \"A\" (640 x 480) [outside-parent]\n"},
+     "SCREEN 'A' 0 0 640 480 '' { WINDOW 'P' 600 0 200 90 { BUTTON 'B' 100 0 90 20 ''; BUTTON 'C' 0 30 90 20 "
+     "'' }; WINDOW 'Q' 700 0 90 90 { BUTTON 'D' 0 0 90 20 '' }; TABORDER 'B' 'C' 'D' }",
+     "a.tgs:5:1: warning: \"B\" is outside \"A\" (640 x 480) [outside-parent]\n"
+     "a.tgs:6:1: warning: \"C\" extends beyond \"A\" (640 x 480) by 50 pixels on the right; the part outside "
+     "takes no clicks [outside-parent]\n"
+     "a.tgs:8:1: warning: \"Q\" is outside \"A\" (640 x 480) [outside-parent]\n"},
     {"invalid allowances", "# tgx: allow\nFONT 0 # tgx: allow no-font\n# tgx: allow unknown-keyword\nFRAME 1",
      "a.tgs:1:1: warning: expected codes after allow; --explain lists all codes [unknown-code]\na.tgs:2:8: "
      "warning: this allows nothing: an allowance must be on a line of its own, before the line that it "
@@ -434,8 +412,7 @@ const CheckRow rows[] = {
      "not build with this error [unused-allowance]\na.tgs:4:1: error: unknown keyword FRAME "
      "[unknown-keyword]\n"},
     {"a broken script, and one that uses it",
-     "FRAME 1\nSUBROUTINE \"S\"\nBEGIN\nEND\n== b.tgs\nWINDOW \"W\" 0 0 9 9\nBEGIN\n  GOTO \"T\" \"a.tgx\"\n "
-     " TABORDER \"MADE_BY_T\"\nEND",
+     "FRAME 1; SUBROUTINE 'S' { }\n== b.tgs\nWINDOW 'W' 0 0 9 9 { GOTO 'T' 'a.tgx'; TABORDER 'MADE_BY_T' }",
      "a.tgs:1:1: error: unknown keyword FRAME [unknown-keyword]\n"},
 };
 
