@@ -1,37 +1,21 @@
 #pragma once
 
 #include "platform/framework/datadir.h"
+#include "tests/unit/support/bmp.h"
 
 #include <cstddef>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <vector>
 
 /// Writes a picture that the dictionary names. A strip serves as both bitmap and border.
 inline void writeBmp(const std::filesystem::path& file, int width, int height)
 {
-    const int rowBytes = (width * 3 + 3) / 4 * 4;
-    const unsigned size = 54 + static_cast<unsigned>(rowBytes * height);
-    std::vector<unsigned char> bytes(size);
-    const auto put = [&](std::size_t at, unsigned value) {
-        for (std::size_t i = 0; i < 4; ++i)
-            bytes[at + i] = static_cast<unsigned char>(value >> (8 * i));
-    };
-    bytes[0] = 'B';
-    bytes[1] = 'M';
-    put(2, size);
-    put(10, 54);
-    put(14, 40);
-    put(18, static_cast<unsigned>(width));
-    put(22, static_cast<unsigned>(height));
-    put(26, 1 | 24u << 16);
-    for (std::size_t i = 54; i < size; ++i)
-        bytes[i] =
-            static_cast<unsigned char>(i % 3 == 1 && i % 5 == 0 ? 0 : 255); // some pixels have the key colour
-    std::ofstream(file, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    std::string pixels(static_cast<std::size_t>((width * 3 + 3) / 4 * 4 * height), '\xFF');
+    for (std::size_t i = 1; i < pixels.size(); i += 15)
+        pixels[i] = 0; // some pixels have the key colour
+    std::ofstream(file, std::ios::binary) << bmpFile(width, height, 24, pixels);
 }
 
 /// A data directory with these pictures, in use for the lifetime of the object.

@@ -201,9 +201,7 @@ TEST_F(ButtonTest, AdjacentRadioButtonsFormAGroup)
 
 TEST_F(ButtonTest, KeysStepThroughARadioGroup)
 {
-    const struct {
-        const char *name, *event, *disabled, *selected;
-    } rows[] = {
+    const char* const rows[][4] = {
         {"End: the next", "key end", "",
          "R3"}, // the first lists itself, then R2 and R3 in the order of their creation
         {"wrapping", "key end", "", "R1"},
@@ -212,12 +210,12 @@ TEST_F(ButtonTest, KeysStepThroughARadioGroup)
         {"past a disabled one", "key end", "R2", "R3"},
     };
     radio("R1")->setSelectedButton(radio("R2"));
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        if (*row.disabled)
-            wnd(row.disabled)->setEnabled(0);
-        play(row.event, "tick", "tick");
-        EXPECT_EQ(selectedRadio(), row.selected);
+    for (const auto& [name, event, disabled, selected] : rows) {
+        SCOPED_TRACE(name);
+        if (*disabled)
+            wnd(disabled)->setEnabled(0);
+        play(event, "tick", "tick");
+        EXPECT_EQ(selectedRadio(), selected);
     }
     radio("R1")->setAllNonSelected();
     radio("R1")->selectNextButton(0);

@@ -284,14 +284,10 @@ TEST_F(ComboBoxTest, Drawing)
     menu()->setSelectedItem(0);
     const int x = 200, y = 127, right = 320, bottom = 200;
     const Trace drawing = drawn("ComboMenu");
-    EXPECT_EQ(drawing.operations("fillrect"), (Trace{
-                                                  fill(x, y, right, bottom, "#808080"),
-                                                  fill(x, y, right, y + 1, "#808080"),
-                                                  fill(x, y, x + 1, bottom, "#808080"),
-                                                  fill(x, bottom - 1, right, bottom, "#202020"),
-                                                  fill(right - 1, y, right, bottom, "#202020"),
-                                                  fill(x, y, right, y + 24, "#000080"),
-                                              }));
+    EXPECT_EQ(drawing.operations("fillrect"),
+              (Trace{fill(x, y, right, bottom, "#808080"), fill(x, y, right, y + 1, "#808080"),
+                     fill(x, y, x + 1, bottom, "#808080"), fill(x, bottom - 1, right, bottom, "#202020"),
+                     fill(right - 1, y, right, bottom, "#202020"), fill(x, y, right, y + 24, "#000080")}));
     EXPECT_EQ(drawing.operations("rectangle"), Trace{outline(x, y + 24, right, y + 48, "#808080")});
     const auto item = [&](const char* of, int itemX, int row) {
         return text(of).at(itemX, y + 24 * row + (24 - 12) / 2);

@@ -164,9 +164,7 @@ TEST_F(GraphTest, LinesAreDrawnWithPensAndMarks)
 
 TEST_F(GraphTest, RangesOnlyGrow)
 {
-    const struct {
-        const char *name, *call, *tree;
-    } rows[] = {
+    const char* const rows[][3] = {
         {"in range", "addData 10 a 0 2", R"("xRange":10,"yRange":10,"counts":[0,0,1,0])"},
         {"above", "addData 200 a 0 3", R"("xRange":10,"yRange":200,"counts":[0,0,1,1])"},
         {"below", "addData -500 a 0 3", R"("xRange":10,"yRange":200,"counts":[0,0,1,2])"},
@@ -175,10 +173,10 @@ TEST_F(GraphTest, RangesOnlyGrow)
         {"limited to 16 bits", "addData 40000 a 0 0", R"("xRange":10,"yRange":32767,"counts":[1,0,1,2])"},
         {"emptied", "removeAll 0", R"("xRange":10,"yRange":10,"counts":[0,0,0,0])"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        play("call BARS " + std::string(row.call), "tree tree.json");
-        EXPECT_NE(readOutput("tree.json").find(std::string(R"("growth":0,)") + row.tree), std::string::npos);
+    for (const auto& [name, line, tree] : rows) {
+        SCOPED_TRACE(name);
+        play("call BARS " + std::string(line), "tree tree.json");
+        EXPECT_NE(readOutput("tree.json").find(std::string(R"("growth":0,)") + tree), std::string::npos);
     }
     add("LINES", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}, 1);
     EXPECT_EQ(graph("LINES")->getXRange(), 12);

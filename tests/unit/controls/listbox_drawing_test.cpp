@@ -230,14 +230,12 @@ TEST_F(ListBoxDrawingTest, FontsOfRowsAndColumns)
 TEST_F(ListBoxDrawingTest, AZeroIsShownAsADash)
 {
     startList("COLUMNS 60; TITLES '0'; LISTOPTIONS 1");
-    const struct {
-        const char *cell, *shown;
-    } rows[] = {{"0", "-"},         {"0.0", "-"},       {"00", "00"}, {"0.00", "0.00"},
-                {"  0.0", "  0.0"}, {"0##ICON##", "0"}, {"10", "10"}};
+    const char* const rows[][2] = {{"0", "-"},         {"0.0", "-"},       {"00", "00"}, {"0.00", "0.00"},
+                                   {"  0.0", "  0.0"}, {"0##ICON##", "0"}, {"10", "10"}};
     const Drawn title = text("-").at(110, 106);
-    for (const auto& row : rows) {
-        setOnlyCell(row.cell);
-        EXPECT_EQ(texts(), these(title, text(row.shown).at(110, 130))) << row.cell;
+    for (const auto& [cell, shown] : rows) {
+        setOnlyCell(cell);
+        EXPECT_EQ(texts(), these(title, text(shown).at(110, 130))) << cell;
     }
     list()->setZeroAsDash(0);
     setOnlyCell("0");

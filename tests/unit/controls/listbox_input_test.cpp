@@ -20,9 +20,7 @@ protected:
 TEST_F(ListBoxInputTest, PressesAndMoves)
 {
     startLists("LISTFIXEDROWS 2");
-    const struct {
-        const char *name, *event, *state;
-    } rows[] = {
+    const char* const rows[][3] = {
         {"pointing makes hot", "move 120 130", "-1,-1 1,0"},
         {"a press selects", "press left", "1,0 1,0"},
         {"while held, the selection follows the pointer", "move 170 110", "0,1 0,1"},
@@ -36,10 +34,10 @@ TEST_F(ListBoxInputTest, PressesAndMoves)
         {"to the right of the columns the first one is hot", "move 270 110", "3,0 0,0"},
         {"Return selects what is hot", "key return", "0,0 0,0"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        play(row.event, "tick");
-        EXPECT_EQ(state(), row.state);
+    for (const auto& [name, event, expected] : rows) {
+        SCOPED_TRACE(name);
+        play(event, "tick");
+        EXPECT_EQ(state(), expected);
     }
     EXPECT_EQ(clicks(), "LIST LIST") << "the screen sees the list's id";
     list()->addNonSelectableRow(1);
@@ -398,21 +396,19 @@ TEST_F(ListBoxInputTest, TheBarScrollsItsList)
 
 TEST_F(ListBoxInputTest, TheHotPositionIsRestoredWhenThePointerReturns)
 {
-    const struct {
-        const char *name, *meanwhile, *state;
-    } rows[] = {
+    const char* const rows[][3] = {
         {"it is saved", "", "-1,-1 4,1"},
         {"not restored if its row has left the page", "call LIST scrollTo 100.0", "-1,-1 5,0"},
         {"or is fixed by now", "call LIST addNonSelectableRow 4", "-1,-1 0,0"},
         {"or no longer exists", "call LIST removeAllItems 0", "-1,-1 -1,0"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, meanwhile, expected] : rows) {
+        SCOPED_TRACE(name);
         startLists();
         play("move 180 200", "tick", "move 410 310", "tick");
         EXPECT_EQ(state(), "-1,-1 -1,0");
-        play("move 420 310", "tick", row.meanwhile, "move 120 110", "tick");
-        EXPECT_EQ(state(), row.state);
+        play("move 420 310", "tick", meanwhile, "move 120 110", "tick");
+        EXPECT_EQ(state(), expected);
         play("move 121 135", "tick");
         EXPECT_NE(list()->getHotItem(), 4) << "it is restored only once";
     }

@@ -8,9 +8,7 @@ using ListBoxModelTest = ListBoxTest;
 TEST_F(ListBoxModelTest, SettingACellThatHasAValue)
 {
     startList("COLUMNS 50 50; ITEM '' ''");
-    const struct {
-        const char *name, *before, *call, *after;
-    } rows[] = {
+    const char* const rows[][4] = {
         {"text replaces text", "a", "setItemData 0 1 \"b\"", "b"},
         {"a number has no separators", "a", "setItemData 0 1 -12345", "-12345"},
         {"fixed point has two decimals", "a", "setItemData 0 1 1.25", "1.25"},
@@ -24,13 +22,13 @@ TEST_F(ListBoxModelTest, SettingACellThatHasAValue)
         {"any text with a mark is an icon", "a", "setItemData 0 1 \"b##ICON##\"", "ab##ICON##"},
         {"a frame alone is text", "##FRAME##1", "setItemData 0 1 \"b\"", "b"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, before, line, after] : rows) {
+        SCOPED_TRACE(name);
         list()->removeAllItems(0);
         list()->addItem();
-        list()->setItemData(0, 1, CString(row.before));
-        EXPECT_EQ(callList(row.call), "1");
-        EXPECT_EQ(list()->getItemText(0, 1), row.after);
+        list()->setItemData(0, 1, CString(before));
+        EXPECT_EQ(callList(line), "1");
+        EXPECT_EQ(list()->getItemText(0, 1), after);
     }
 }
 
@@ -38,9 +36,7 @@ TEST_F(ListBoxModelTest, RowsAndColumnsOutsideTheTable)
 {
     startList("COLUMNS 50 50; TITLES 'A'; ITEM 'a' 'b'; ITEM 'c' 'd'");
     const char* const exception = R"({"error": "invalid argument"})";
-    const struct {
-        const char *name, *call, *value;
-    } rows[] = {
+    const char* const rows[][3] = {
         {"a column beyond the limit", "setItemData 0 20 \"x\"", "0"},
         {"a row", "setItemData 2 0 \"x\"", exception},
         {"a column that this list does not have", "setItemData 0 2 \"x\"", exception},
@@ -55,9 +51,9 @@ TEST_F(ListBoxModelTest, RowsAndColumnsOutsideTheTable)
         {"the text below 0", "getItemText 0 -1", "\"\""},
         {"a cell's selectability", "isNonSelectable 9 9", "0"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(callList(row.call), row.value);
+    for (const auto& [name, line, value] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(callList(line), value);
         EXPECT_EQ(cells(), "a b|c d") << "nothing changes";
     }
 }
@@ -121,9 +117,7 @@ TEST_F(ListBoxModelTest, WrappedTextIsSplitIntoRows)
 TEST_F(ListBoxModelTest, RowAndColumnOfAPositionAreClearedTogether)
 {
     startList("COLUMNS 50 50; ITEM 'a'; ITEM 'b'");
-    const struct {
-        const char *call, *state;
-    } rows[] = {
+    const char* const rows[][2] = {
         {"setSelectedItem 1", "1,-1 -1,0"},
         {"setSelectedColumn 1", "1,1 -1,0"},
         {"setSelectedItem 2", "1,1 -1,0"},
@@ -139,9 +133,9 @@ TEST_F(ListBoxModelTest, RowAndColumnOfAPositionAreClearedTogether)
         {"setSelectedColumn -1", "-1,-1 1,-1"},
         {"setHotItem -1", "-1,-1 -1,-1"},
     };
-    for (const auto& row : rows) {
-        play(std::string("call LIST ") + row.call);
-        EXPECT_EQ(state(), row.state) << row.call;
+    for (const auto& [line, expected] : rows) {
+        play(std::string("call LIST ") + line);
+        EXPECT_EQ(state(), expected) << line;
     }
 }
 
@@ -277,9 +271,7 @@ TEST_F(ListBoxModelTest, MoreRowsThan16BitsCanCount)
 
 TEST_F(ListBoxModelTest, Statements)
 {
-    const struct {
-        const char *name, *lines, *call, *value;
-    } rows[] = {
+    const char* const rows[][4] = {
         {"a justification follows its width", "COLUMNS 100 RIGHT 50", "getColumnWidth 1", "50"},
         {"any other word is a column without width", "COLUMNS 70 VISIBLE", "getColumnWidth 1", "0"},
         {"also a word at the start", "COLUMNS RIGHT 50", "getColumnWidth 0", "0"},
@@ -307,10 +299,10 @@ TEST_F(ListBoxModelTest, Statements)
              SCROLLBARINFO 'x' 3)",
          "getItemsPerPage", "5"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        startList(std::string("VISIBLE 0\n") + row.lines); // the icons are missing
-        EXPECT_EQ(callList(row.call), row.value);
+    for (const auto& [name, lines, line, value] : rows) {
+        SCOPED_TRACE(name);
+        startList(std::string("VISIBLE 0\n") + lines); // the icons are missing
+        EXPECT_EQ(callList(line), value);
     }
 }
 

@@ -124,18 +124,16 @@ TEST_F(InputTest, TabSkipsUnusableStops)
 {
     wnd("B")->setEnabled(0);
     wnd("C")->setVisible(0);
-    const struct {
-        const char *event, *focus;
-    } rows[] = {
+    const char* const rows[][2] = {
         {"key tab", "D"},   {"key tab", "A"}, {"key left", "D"}, {"key right", "A"},
         {"hold shift", ""}, {"key tab", "D"}, {"key tab", "A"},  {"lift shift", ""},
     };
-    for (const auto& row : rows) {
-        play(row.event);
-        if (!*row.focus)
+    for (const auto& [event, focus] : rows) {
+        play(event);
+        if (!*focus)
             continue;
         play("tick", "tick");
-        EXPECT_EQ(win().getCurFocusWnd()->getID(), row.focus) << row.event;
+        EXPECT_EQ(win().getCurFocusWnd()->getID(), focus) << event;
     }
     wnd("D")->setEnabled(0);
     play("move 90 30", "key tab", "tick");

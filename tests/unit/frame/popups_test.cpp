@@ -140,13 +140,11 @@ TEST_F(PopupsTest, EachPopupPassesThePointerToTheNext)
         open(id, "S");
         EXPECT_EQ(pointer(), ofB1) << id;
     }
-    const struct {
-        const char *left, *pointer;
-    } rows[] = {{"B2 B3-", ofB2}, {"B3", ofB3}, {"", ofAsk}};
-    for (const auto& row : rows) {
+    const char* const rows[][2] = {{"B2 B3-", ofB2}, {"B3", ofB3}, {"", ofAsk}};
+    for (const auto& [remaining, place] : rows) {
         play("key return", "frame");
-        EXPECT_EQ(popups(), row.left);
-        EXPECT_EQ(pointer(), row.pointer);
+        EXPECT_EQ(popups(), remaining);
+        EXPECT_EQ(pointer(), place);
     }
     EXPECT_EQ(taken(), "B1 startup, B2 startup, B3 startup, B1 TGX_OK, B1 close, B1 deleted, B2 TGX_OK, B2 "
                        "close, B2 deleted, B3 TGX_OK, B3 close, B3 deleted");

@@ -234,14 +234,6 @@ TEST_F(ScreensTest, AMissingScreenChangesNothing)
     EXPECT_TRUE(screen("A")->isOpen());
 }
 
-TEST_F(ScreensTest, PopupsDoNotOutliveTheirScreen)
-{
-    begin();
-    play("call main setPopupWnd PLAIN W 141 script.tgx", "change B", "frame 6");
-    EXPECT_EQ(win().getPopupWndCount(), 0);
-    EXPECT_EQ(win().getWnd("PLAIN", 1), nullptr);
-}
-
 TEST_F(ScreensTest, ClosingAllButTheCurrent)
 {
     begin();
@@ -387,23 +379,15 @@ TEST_F(ScreensTest, TenThousandVisitsUseNoMorePixelsThanOne)
         bitmap(name, 48, 24);
     bitmap("back.bmp", 64, 48);
     strip("UIG/scroll1.bmp", 16, 26, 6);
-    const std::string contents = R"(BEGIN
-BITMAP "PIC" 0 0 48 24 "pic.bmp" 48 24 0 1
-BITMAP "OTHER" 0 24 48 24 "other.bmp" 48 24 0 1
-BEGIN
-  BORDER "edge.bmp" 4 8 "edge.bmp"
-END
-LISTBOX "LIST" 0 0 40 40
-BEGIN
-  COLUMNS 30
-  LISTICONS "icon.bmp"
-  LISTHIGHLIGHT "row.bmp" "row.bmp"
-  ITEM "ICON0"
-END
-END
-)";
-    start("SCREEN 'A' 0 0 64 48 'back.bmp'\n" + contents + "SCREEN 'B' 0 0 64 48 ''\n" + contents +
-              "SCREEN 'EMPTY' 0 0 64 48 '' { WINDOW 'NONE' 0 0 1 1 }\n",
+    const std::string contents = R"({
+          BITMAP 'PIC' 0 0 48 24 'pic.bmp' 48 24 0 1
+          BITMAP 'OTHER' 0 24 48 24 'other.bmp' 48 24 0 1 { BORDER 'edge.bmp' 4 8 'edge.bmp' }
+          LISTBOX 'LIST' 0 0 40 40 {
+            COLUMNS 30; LISTICONS 'icon.bmp'; LISTHIGHLIGHT 'row.bmp' 'row.bmp'; ITEM 'ICON0'
+          }
+        })";
+    start("SCREEN 'A' 0 0 64 48 'back.bmp'" + contents + "SCREEN 'B' 0 0 64 48 ''" + contents +
+              "SCREEN 'EMPTY' 0 0 64 48 '' { WINDOW 'NONE' 0 0 1 1 }",
           64, 48);
     play("frame 6");
     const auto visit = [&](const char* name) {

@@ -110,9 +110,7 @@ TEST_F(ExpectTest, EachExpectationHoldsOrReportsWhatWasFound)
 TEST_F(ExpectTest, AWrongExpectationIsRefusedWithTheReason)
 {
     start("", 64, 48);
-    const struct {
-        const char *line, *reason;
-    } rows[] = {
+    const char* const rows[][2] = {
         {"expect", "expected expect EXPECTATION, found 0 words after expect"},
         {"expect activ MENU", "no expectation \"activ\"; did you mean active?"},
         {"expect nothing", "no expectation \"nothing\"; expectations are active, popup, focus, text, "
@@ -133,8 +131,8 @@ TEST_F(ExpectTest, AWrongExpectationIsRefusedWithTheReason)
         {"wait until active MENU ten", "expected a number from 0 to 2147483647, found \"ten\""},
         {"wait until tree a.json", "cannot wait for a tree; wait until something else holds, then expect it"},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(playWrong(row.line), row.reason) << row.line;
+    for (const auto& [line, reason] : rows)
+        EXPECT_EQ(playWrong(line), reason) << line;
 }
 
 TEST_F(ExpectTest, AWaitRunsFramesUntilItHolds)
@@ -233,9 +231,7 @@ TEST_F(ExpectTest, AnIncludedFileIsPlayedInPlace)
         "run.events:2: bad.part:2: no window \"X\"; the screen \"MENU\" has PANEL, OK, TICK, CHOICE and "
         "LIST\n");
     EXPECT_EQ(out.str(), "1: 0\n1: 0\n4: 20\n");
-    const struct {
-        const char *line, *reason;
-    } rows[] = {
+    const char* const rows[][2] = {
         {"include gone.part", "cannot read the events file \"gone.part\""},
         {"include steps", "cannot read the events file \"steps\""},
         {"include /dev/null",
@@ -243,8 +239,8 @@ TEST_F(ExpectTest, AnIncludedFileIsPlayedInPlace)
         {"include test.part",
          "test.part:1: test opens a part of the file that is played, not of one that it includes"},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(run(row.line), std::string("run.events:1: ") + row.reason + '\n');
+    for (const auto& [line, reason] : rows)
+        EXPECT_EQ(run(line), std::string("run.events:1: ") + reason + '\n');
     const std::string messages = run("include round.part");
     EXPECT_NE(messages.find("round.part:1: files include one another more than 16 deep\n"),
               std::string::npos);

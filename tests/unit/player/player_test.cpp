@@ -232,15 +232,4 @@ TEST_F(PlayerTest, TheTraceFileIsExactToTheByte)
               (Trace{blit("box.bmp").from(0, 0, 8, 8).to(10, 20, 100, 50), text("a\xE9\n\"\\").at(10, 39)}));
 }
 
-TEST_F(PlayerTest, DrawingByACallAppearsInTheTraceOnlyAfterTheNextFrame)
-{
-    start();
-    play("frame");
-    Trace before = frameDrawn();
-    call("main fillrect 1 2 3 4 0xFF0000");
-    EXPECT_EQ(frameDrawn(), before);
-    play("draw");
-    EXPECT_EQ(frameDrawn().operations("fillrect"), Trace{fill(1, 2, 3, 4, "#ff0000")});
-}
-
 } // namespace

@@ -107,16 +107,4 @@ TEST_F(TextTest, AMegabyteOfTextIsWrappedInOnePass)
     EXPECT_EQ(drawn("T"), (Trace{wrapped("xxxxxxxxxx", 0)}));
 }
 
-TEST_F(TextTest, NumbersAreSetThroughTheTextForm)
-{
-    struct Shouting : AWnd {
-        using AWnd::AWnd;
-        using AWnd::setWindowText;
-        void setWindowText(const CString& text) override { AWnd::setWindowText(text + "!"); }
-    };
-    Shouting wnd(AWnd::WND_PLAIN, "N", 0, 0, 1, 1);
-    wnd.setWindowText(-1234);
-    EXPECT_STREQ(wnd.getWindowText(), "-1234!");
-}
-
 } // namespace

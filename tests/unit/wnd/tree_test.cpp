@@ -146,19 +146,17 @@ TEST_F(TreeTest, AReleasedChildBelongsToTheCaller)
 
 TEST_F(TreeTest, NoWindowCanBePutInsideItself)
 {
-    const struct {
-        const char *name, *holder, *added;
-    } rows[] = {
+    const char* const rows[][3] = {
         {"itself", "P", "P"},
         {"its parent", "TWICE", "A"},
         {"the other parent of a window shown in two places", "DEEP", "A"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        AWnd* before = wnd(row.added)->getParent();
-        EXPECT_EQ(wnd(row.holder)->addChildWindow(wnd(row.added)), nullptr);
-        EXPECT_EQ(wnd(row.added)->getParent(), before);
-        EXPECT_EQ(wnd(row.holder)->getWindowCount(), 0);
+    for (const auto& [name, holder, added] : rows) {
+        SCOPED_TRACE(name);
+        AWnd* before = wnd(added)->getParent();
+        EXPECT_EQ(wnd(holder)->addChildWindow(wnd(added)), nullptr);
+        EXPECT_EQ(wnd(added)->getParent(), before);
+        EXPECT_EQ(wnd(holder)->getWindowCount(), 0);
     }
     wnd("A")->setParentAndIndex(wnd("P"), 7);
     EXPECT_EQ(wnd("A")->getParent(), win().getScreenList());
@@ -169,21 +167,6 @@ TEST_F(TreeTest, NoWindowCanBePutInsideItself)
     EXPECT_EQ(checkInvariants(win()), "");
     play("frame 6");
     EXPECT_EQ(wnd("Q")->addChildWindow(wnd("R")), wnd("R")) << "a sibling may move below another";
-}
-
-TEST_F(TreeTest, ADeletedPopupOrParentLeavesNoPointer)
-{
-    AWnd* popup = wnd("B");
-    win().setPopupWnd(popup, wnd("P"), 1);
-    EXPECT_EQ(wnd("P")->getPopupWnd(), popup);
-    destroy("P");
-    EXPECT_EQ(popup->getParent(), nullptr);
-    play("frame");
-    win().setMouseCaptureWnd(wnd("TGX_BACK"));
-    destroy("B");
-    EXPECT_EQ(win().getPopupWndCount(), 0);
-    EXPECT_EQ(win().getMouseCaptureWndCount(), 0);
-    play("move 5 5", "frame 3");
 }
 
 // B's handlers delete a window of the walk that calls them; the walk must still reach all the others.
@@ -225,20 +208,18 @@ TEST_F(TreeTest, AWalkVisitsEveryChildWhateverIsDeleted)
         {"typed key", [](AWnd& holder) { holder.AWnd::handleKeyInput('x'); }},
         {"key", [](AWnd& holder) { holder.handleMouseAction("", nullptr, -1, -1, AWnd::MA_KEY); }},
     };
-    const struct {
-        const char *victim, *visits;
-    } rows[] = {{"A1", "A1B1C1D1"}, {"B1", "A1B1C1D1"}, {"C1", "A1B1D1"}, {"H", "A1B1"}};
+    const char* const rows[][2] = {{"A1", "A1B1C1D1"}, {"B1", "A1B1C1D1"}, {"C1", "A1B1D1"}, {"H", "A1B1"}};
     for (const auto& walk : walks) {
-        for (const auto& row : rows) {
-            SCOPED_TRACE(std::string(walk.name) + " deletes " + row.victim);
+        for (const auto& [victim, expected] : rows) {
+            SCOPED_TRACE(std::string(walk.name) + " deletes " + victim);
             std::string visits;
             const WndRef holder = wnd("A")->addChildWindow(new AWnd(AWnd::WND_PLAIN, "H", 0, 0, 9, 9));
             for (const char* id : {"A1", "B1", "C1", "D1"})
                 holder->addChildWindow(new Visited(id, visits));
-            static_cast<Visited*>(wnd("B1"))->victim = wnd(row.victim);
+            static_cast<Visited*>(wnd("B1"))->victim = wnd(victim);
             walk.walk(*holder);
             // A typed key is passed to the window's own action, and from there to the children again.
-            EXPECT_EQ(visits.substr(0, std::string(row.visits).size()), row.visits);
+            EXPECT_EQ(visits.substr(0, std::string(expected).size()), expected);
             delete holder.get();
         }
     }
