@@ -77,7 +77,7 @@ std::string shownText(std::string_view text)
         else if (c == '\t')
             shown += "\\t";
         else if (code < 0x20 || code == 0x7F)
-            shown += tgx::hexEscape(c);
+            shown += hexEscape(c);
         else
             shown += c;
     }
@@ -216,7 +216,7 @@ WindowKind kindOf(const AWnd& wnd)
 /// Returns whether id is that of a part that controls look for in themselves. Each control has its own.
 bool isPartOfControl(std::string_view id)
 {
-    return tgx::part::isOfScript(id) || CString::equalNoCase(tgx::part::scrollBar, id);
+    return part::isOfScript(id) || CString::equalNoCase(part::scrollBar, id);
 }
 
 /// An id together with the window below which a search would find it.

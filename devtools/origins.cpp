@@ -21,7 +21,7 @@ std::string whyFailed(const ExecutedLine& line, const Statement* statement)
         return line.count > 0 ? "there is no keyword " + std::to_string(line.tokens[0].id)
                               : "the line failed";
     if (!statement->counts.allow(line.count))
-        return "expected: " + tgx::script_text::expectedForm(*statement);
+        return "expected: " + script_text::expectedForm(*statement);
     if (line.current && !statement->target.fits(line.current->getWindowType()))
         return std::string(statement->keyword) + " does not go with a " + classNameOf(*line.current);
     return std::string(statement->keyword) + " failed";

@@ -52,11 +52,11 @@ std::vector<std::string> Sources::textFiles() const
     std::vector<std::string> found;
     std::set<std::string> names;
     std::vector<std::string> looked = folders;
-    if (std::string below = tgx::script_text::scriptFolder(); !below.empty())
+    if (std::string below = script_text::scriptFolder(); !below.empty())
         looked.push_back(std::move(below));
     for (const std::string& folder : looked)
-        for (std::string& file : tgx::script_text::filesIn(folder, ".tgs"))
-            if (names.insert(tgx::lowercased(tgx::script_text::compiledName(file))).second)
+        for (std::string& file : script_text::filesIn(folder, ".tgs"))
+            if (names.insert(lowercased(script_text::compiledName(file))).second)
                 found.push_back(std::move(file));
     return found;
 }
@@ -85,44 +85,44 @@ bool Sources::build()
 
 Sources::Scripts Sources::compileTexts()
 {
-    std::deque<std::pair<std::string, tgx::script_text::ParsedScript>> parsed; // by text file
+    std::deque<std::pair<std::string, script_text::ParsedScript>> parsed; // by text file
     std::set<std::string> included;
     Scripts fresh;
     const auto keepLast = [&](const std::string& name) {
-        if (const auto last = built.find(tgx::lowercased(name)); last != built.end())
+        if (const auto last = built.find(lowercased(name)); last != built.end())
             fresh.insert(*last);
     };
     const auto read = [&](const std::string& path, std::string& reason) {
         watched->add(path); // before it is read, so that no change is missed
-        return tgx::readIncluded(path, reason);
+        return readIncluded(path, reason);
     };
     for (const std::string& file : textFiles()) {
         std::string reason;
         std::optional<std::string> text = read(file, reason);
         if (!text) {
             fault(file + ": error: cannot read: " + reason);
-            keepLast(tgx::script_text::compiledName(file));
+            keepLast(script_text::compiledName(file));
             continue;
         }
-        parsed.emplace_back(file, tgx::script_text::parse(file, std::move(*text), read));
+        parsed.emplace_back(file, script_text::parse(file, std::move(*text), read));
         for (const std::string& each : parsed.back().second.included)
             included.insert(canonical(each));
     }
     for (const auto& [file, script] : parsed) {
-        std::string name = tgx::script_text::compiledName(file);
+        std::string name = script_text::compiledName(file);
         // A file that others include is a part of them, unless it has also been compiled by itself.
         if (included.contains(canonical(file)) && !isOnDisk(name))
             continue;
-        for (const tgx::script_text::Diagnostic& each : script.diagnostics)
-            if (each.severity == tgx::script_text::Diagnostic::Error)
-                fault(tgx::script_text::headline(each), tgx::script_text::describe(each));
+        for (const script_text::Diagnostic& each : script.diagnostics)
+            if (each.severity == script_text::Diagnostic::Error)
+                fault(script_text::headline(each), script_text::describe(each));
         // An editor may empty a file before it writes it.
-        if (!script.hasErrors() && script.lines.empty() && built.contains(tgx::lowercased(name)))
+        if (!script.hasErrors() && script.lines.empty() && built.contains(lowercased(name)))
             fault(file + ": error: there is no statement in it any more");
         else if (!script.hasErrors()) {
-            tgx::script_text::Emitted emitted = tgx::script_text::emit(script);
-            ScriptLines places(tgx::script_text::sideMap(script, emitted));
-            std::string key = tgx::lowercased(name);
+            script_text::Emitted emitted = script_text::emit(script);
+            ScriptLines places(script_text::sideMap(script, emitted));
+            std::string key = lowercased(name);
             fresh[std::move(key)] = {std::move(name),
                                      std::make_shared<const std::string>(std::move(emitted.bytes)),
                                      std::move(places)};
@@ -130,7 +130,7 @@ Sources::Scripts Sources::compileTexts()
         }
         keepLast(name);
     }
-    const std::string mainKey = tgx::lowercased(mainScript);
+    const std::string mainKey = lowercased(mainScript);
     if (built.contains(mainKey) && !fresh.contains(mainKey) && !isOnDisk(mainScript)) {
         fault("the text of " + mainScript + " is gone; the interface stays until it is back");
         keepLast(mainScript);
@@ -143,7 +143,7 @@ std::vector<Sources::Script> Sources::scripts() const
     std::vector<Script> all;
     for (const auto& [key, script] : built)
         all.push_back({script.name, script.bytes});
-    for (const std::string& file : tgx::script_text::filesIn(tgx::script_text::scriptFolder(), ".tgx")) {
+    for (const std::string& file : script_text::filesIn(script_text::scriptFolder(), ".tgx")) {
         std::string name = fs::path(file).filename().string();
         CFile compiledFile;
         if (!isFromText(name) && compiledFile.Open((std::string(scriptFolder) + name).c_str()))
@@ -173,12 +173,12 @@ bool Sources::replace(Scripts fresh)
 bool Sources::lookAtCompiled()
 {
     Times fresh;
-    for (const std::string& file : tgx::script_text::filesIn(tgx::script_text::scriptFolder(), ".tgx")) {
+    for (const std::string& file : script_text::filesIn(script_text::scriptFolder(), ".tgx")) {
         watched->add(file);
         watched->add(file + ".map");
         std::error_code failure;
         const fs::file_time_type time = fs::last_write_time(file, failure);
-        std::string key = tgx::lowercased(fs::path(file).filename().string());
+        std::string key = lowercased(fs::path(file).filename().string());
         if (!failure && !built.contains(key))
             fresh[std::move(key)] = time;
     }
@@ -191,7 +191,7 @@ bool Sources::lookAtCompiled()
 std::vector<std::string> Sources::allFiles() const
 {
     std::vector<std::string> files = textFiles();
-    for (std::string& file : tgx::script_text::filesIn(tgx::script_text::scriptFolder(), ".tgx"))
+    for (std::string& file : script_text::filesIn(script_text::scriptFolder(), ".tgx"))
         files.push_back(std::move(file));
     return files;
 }
@@ -203,12 +203,12 @@ bool Sources::haveChanged() const
 
 bool Sources::isFromText(const std::string& script) const
 {
-    return built.contains(tgx::lowercased(script));
+    return built.contains(lowercased(script));
 }
 
 std::string Sources::placeOf(const std::string& script, unsigned offset) const
 {
-    const auto text = built.find(tgx::lowercased(script));
+    const auto text = built.find(lowercased(script));
     const ScriptLines& found = text == built.end() ? lines.of(script) : text->second.lines;
     const std::string place = found.placeOf(offset);
     return place.empty() ? script + ", byte " + std::to_string(offset) : place;

@@ -71,7 +71,7 @@ private:
     std::vector<std::string> faults;
     std::vector<std::string> reports;
     std::vector<std::string> knownFiles; // text and compiled files at the last build
-    std::optional<tgx::script_text::WatchedFiles> watched;
+    std::optional<script_text::WatchedFiles> watched;
 };
 
 } // namespace tgx

@@ -57,7 +57,7 @@ private:
     Sources sources;
     Origins origins;
     Inspector inspector;
-    tgx::ScreenChooser screenChooser;
+    ScreenChooser screenChooser;
     Notices notices;
     std::optional<Recorder> recorder;
     InterfaceState state;

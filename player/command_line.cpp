@@ -122,9 +122,9 @@ int parseAndRun(CLI::App& app, int argc, char** argv, const std::function<int()>
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : static_cast<int>(PlayStatus::WrongCall); // 0: --help
     }
-    tgx::removeNewFilesOnSignals();
+    removeNewFilesOnSignals();
     const int status = run();
-    return tgx::hasWrittenStdout(app.get_name().empty() ? "play" : app.get_name())
+    return hasWrittenStdout(app.get_name().empty() ? "play" : app.get_name())
                ? status
                : std::max(status, static_cast<int>(PlayStatus::WrongLine));
 }

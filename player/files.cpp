@@ -22,13 +22,13 @@ std::optional<std::string> readWhole(const std::string& path)
     if (!fs::is_regular_file(path, error))
         return std::nullopt;
     std::string reason;
-    return tgx::readWholeFile(path, limits::fileBytes, reason);
+    return readWholeFile(path, limits::fileBytes, reason);
 }
 
 bool writeWhole(const std::string& path, std::string_view contents)
 {
     std::string reason;
-    return tgx::writeWholeFile(path, contents, reason);
+    return writeWholeFile(path, contents, reason);
 }
 
 void makeFoldersOf(const std::string& path)

@@ -9,7 +9,7 @@ std::string jsonString(std::string_view bytes)
     std::string text = "\"";
     for (const char c : bytes) {
         if (c < 0x20 || c > 0x7E) {
-            text += tgx::unicodeEscape(c);
+            text += unicodeEscape(c);
             continue;
         }
         if (c == '"' || c == '\\')

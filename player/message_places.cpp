@@ -26,7 +26,7 @@ void MessagePlaces::lineExecuted(const ExecutedLine& line)
     for (int i = 0; i < line.count && i < maxLineTokens; ++i)
         // Names of files have an ending.
         if (const std::string_view text = line.tokens[i].text.view(); text.find('.') != text.npos)
-            named.try_emplace(tgx::lowercased(text), ScriptPlace{belowScriptFolder(line.path), line.offset});
+            named.try_emplace(lowercased(text), ScriptPlace{belowScriptFolder(line.path), line.offset});
 }
 
 std::optional<ScriptPlace> MessagePlaces::find(std::string_view message) const
@@ -35,7 +35,7 @@ std::optional<ScriptPlace> MessagePlaces::find(std::string_view message) const
         return present;
     if (!message.starts_with(notLoaded))
         return std::nullopt;
-    const auto found = named.find(tgx::lowercased(message.substr(notLoaded.size())));
+    const auto found = named.find(lowercased(message.substr(notLoaded.size())));
     return found == named.end() ? std::nullopt : std::optional(found->second);
 }
 

@@ -3,6 +3,7 @@
 #include "player/calls.h"
 #include "player/words.h"
 #include "tgx/frame/mainwin.h"
+#include "tgx/wnd/inside.h"
 
 namespace tgx {
 
@@ -36,14 +37,6 @@ AWnd& topOf(AMainWin& win, AWnd& wnd)
         top = parent;
     }
     return *top;
-}
-
-bool isInside(const AWnd* wnd, const AWnd& above)
-{
-    for (; wnd; wnd = wnd->getParent())
-        if (wnd == &above)
-            return true;
-    return false;
 }
 
 /// Returns "is hidden", or "is hidden because "PANEL" is hidden" if a window around wnd is the cause.
@@ -92,17 +85,17 @@ std::string whyNoInput(AMainWin& win, const AWnd& wnd, const Reach& reach)
         return "is hidden";
     if (!wnd.getEnabled())
         return "is disabled";
-    if (isInside(reach.wnd, wnd))
+    if (isInside(reach.wnd, &wnd))
         return "";
-    return isInside(&wnd, *reach.target) ? "is covered by " + nameOf(*reach.wnd)
-                                         : whyOutsideTarget(win, *reach.target);
+    return isInside(&wnd, reach.target) ? "is covered by " + nameOf(*reach.wnd)
+                                        : whyOutsideTarget(win, *reach.target);
 }
 
 /// Appends "; NAME REASON" for each window under the point that does not get the input. Windows inside a
 /// hidden or disabled one are left out.
 void addOthers(AMainWin& win, AWnd& wnd, const Reach& reach, int x, int y, std::string& text)
 {
-    if (!wnd.pointInside(x, y) && !isInside(reach.target, wnd))
+    if (!wnd.pointInside(x, y) && !isInside(reach.target, &wnd))
         return;
     const std::string reason = whyNoInput(win, wnd, reach);
     if (!reason.empty())
@@ -232,10 +225,10 @@ std::string whyNotReached(AMainWin& win, AWnd& wnd, int x, int y, PointerAct act
         return "gets no input: " + reach.hindrance;
     if (reach.wnd == &wnd)
         return "";
-    if (!isInside(&wnd, *reach.target))
+    if (!isInside(&wnd, reach.target))
         return whyOutsideTarget(win, *reach.target);
     for (const AWnd* holder = wnd.getParent(); holder; holder = holder->getParent())
-        if (isInside(holder, *reach.target) && holder != reach.target && !holder->pointInside(x, y))
+        if (isInside(holder, reach.target) && holder != reach.target && !holder->pointInside(x, y))
             return "is outside " + nameOf(*holder) + at(x, y) + movementOf(wnd);
     return "is covered by " + nameOf(*reach.wnd) + at(x, y) + movementOf(wnd);
 }

@@ -41,7 +41,7 @@ std::string takeCharacter(std::string_view line, std::size_t& place, Characters 
     if (character == 0 || characters == Characters::Utf8)
         return std::string(source);
     if (character == 0xFFFD && source != "\xEF\xBF\xBD") {
-        const std::string byte = tgx::hexEscape(source[0]);
+        const std::string byte = hexEscape(source[0]);
         throw WrongLine("the byte 0x" + byte.substr(2) + " is not UTF-8; save the file as UTF-8, or write " +
                         byte);
     }
@@ -187,7 +187,7 @@ std::string quote(std::string_view text)
     for (const char c : text) {
         const std::string character = utf8From1252({&c, 1});
         const auto byte = static_cast<unsigned char>(c);
-        quoted += byte < 0x20 || byte == 0x7F || character == "\xEF\xBF\xBD" ? tgx::hexEscape(c) : character;
+        quoted += byte < 0x20 || byte == 0x7F || character == "\xEF\xBF\xBD" ? hexEscape(c) : character;
     }
     return quoted + '"';
 }
@@ -204,7 +204,7 @@ std::string quoteName(std::string_view name)
             quoted += source;
         else
             for (const char c : source)
-                quoted += tgx::hexEscape(c);
+                quoted += hexEscape(c);
     }
     return quoted + '"';
 }
@@ -215,7 +215,7 @@ std::string quoteWord(std::string_view text)
     for (const char c : text) {
         if (c == '"' || c == '\\')
             word += '\\';
-        word += c < 0x20 || c > 0x7E ? tgx::hexEscape(c) : std::string(1, c);
+        word += c < 0x20 || c > 0x7E ? hexEscape(c) : std::string(1, c);
     }
     return word + '"';
 }

@@ -335,7 +335,7 @@ void checkEmptyScreens(const Script& script, Findings& findings)
 
 void checkMissingBlocks(const Script& script, const PointerTargets& pointerTargets, Findings& findings)
 {
-    const bool isLibrary = !script.subroutines.empty() || tgx::lowercased(script.name) == commonScriptFile;
+    const bool isLibrary = !script.subroutines.empty() || lowercased(script.name) == commonScriptFile;
     for (const int line : script.topWindows) {
         const std::string& name = script.string(line, 1);
         if (isMain(script) || !(isLibrary || pointerTargets.contains(script, name)) ||

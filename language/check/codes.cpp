@@ -6,7 +6,7 @@ namespace tgx::script_check {
 
 namespace {
 
-using tgx::script_text::Diagnostic;
+using script_text::Diagnostic;
 
 constexpr const char* head = R"(# Findings of `tgx check`
 

@@ -23,7 +23,7 @@ constexpr const char* scriptDirectory = "uig"; // compared without case
 
 std::string endingOf(const fs::path& path)
 {
-    return tgx::lowercased(path.extension().string());
+    return lowercased(path.extension().string());
 }
 
 bool isScript(const fs::path& path)
@@ -60,7 +60,7 @@ fs::path rootOf(const fs::path& folder)
     fs::path root = folder;
     for (fs::path each = normalized(folder); each.has_relative_path();
          each = each.parent_path(), root /= "..")
-        if (tgx::lowercased(each.filename().string()) == scriptDirectory)
+        if (lowercased(each.filename().string()) == scriptDirectory)
             return root.lexically_normal().has_filename() ? root.lexically_normal()
                                                           : root.lexically_normal().parent_path();
     return folder;
@@ -68,7 +68,7 @@ fs::path rootOf(const fs::path& folder)
 
 bool isScriptDirectory(const fs::path& folder)
 {
-    return tgx::lowercased(normalized(folder).filename().string()) == scriptDirectory;
+    return lowercased(normalized(folder).filename().string()) == scriptDirectory;
 }
 
 std::string dataDirectoryOf(const fs::path& root)
@@ -218,7 +218,7 @@ private:
             const fs::path& folder = waiting.front();
             for (auto& [path, each] : files)
                 if (path.parent_path() == normalized(folder) && load(each))
-                    texts += tgx::lowercased(*each.contents);
+                    texts += lowercased(*each.contents);
             std::error_code error, ignored;
             fs::directory_iterator each(folder, error);
             for (const fs::directory_iterator end; !error && each != end; each.increment(error)) {
@@ -237,7 +237,7 @@ private:
     /// Returns whether a string in the texts begins with that folder.
     static bool mentionsFolder(const std::string& texts, const fs::path& folder)
     {
-        std::string name = tgx::lowercased(folder.generic_string());
+        std::string name = lowercased(folder.generic_string());
         for (const char slash : {'/', '\\'}) {
             std::replace(name.begin(), name.end(), '/', slash);
             const std::string sought = name + slash;
@@ -296,7 +296,7 @@ void addFromData(ScriptFolder& folder, const script_text::ReadFile& read)
 {
     std::set<std::string> names;
     for (const ScriptFile& each : folder.files)
-        names.insert(tgx::lowercased(each.name));
+        names.insert(lowercased(each.name));
     std::error_code error, ignored;
     fs::directory_iterator each(folder.dataDirectory, error);
     for (const fs::directory_iterator end; !error && each != end; each.increment(error)) {
@@ -308,7 +308,7 @@ void addFromData(ScriptFolder& folder, const script_text::ReadFile& read)
             const fs::path& path = script->path();
             std::string name = nameBelow(each->path(), path);
             if (endingOf(path) != compiledEnding || !script->is_regular_file(ignored) ||
-                !names.insert(tgx::lowercased(name)).second)
+                !names.insert(lowercased(name)).second)
                 continue;
             std::string why;
             if (std::optional<std::string> bytes = read(path.string(), why))

@@ -91,7 +91,7 @@ private:
     {
         if (wnd.getID().IsEmpty())
             return;
-        const auto [first, isFirst] = ids.try_emplace(tgx::lowercased(wnd.getID().view()), &wnd);
+        const auto [first, isFirst] = ids.try_emplace(lowercased(wnd.getID().view()), &wnd);
         if (!isFirst && !check.reading.isPointedTo(&wnd))
             check.add("duplicate-id", wnd,
                       "another window " + inQuotes(wnd.getID().view()) + " is already in " + describe(top) +

@@ -90,7 +90,7 @@ private:
 void checkStyle(const Script& script, int line, Findings& findings)
 {
     static const std::vector<std::string_view> known{"bold", "italic", "shadow"};
-    const std::string style = tgx::lowercased(script.string(line, 2));
+    const std::string style = lowercased(script.string(line, 2));
     for (std::size_t start = 0; (start = style.find_first_not_of(" ,", start)) != style.npos;) {
         const std::string word = style.substr(start, style.find_first_of(" ,", start) - start);
         start += word.size();
@@ -118,7 +118,7 @@ void checkReserved(const Script& script, int line, const Statement& statement, F
         findings.add("reserved-id", script, line, 1,
                      "a click on " + inQuotes(id) + (leaves ? " leaves the screen" : " closes the box") +
                          ", but this is not a button; for decoration use the id \"static\"");
-    else if (tgx::part::isOfScript(id) && statement.keyword != std::string_view("USERDEF"))
+    else if (part::isOfScript(id) && statement.keyword != std::string_view("USERDEF"))
         findings.add("reserved-id", script, line, 1,
                      inQuotes(id) + " is the id of a control's part; give this window another id");
 }

@@ -7,7 +7,7 @@ namespace tgx::script_check {
 namespace {
 
 using nlohmann::ordered_json;
-using tgx::script_text::Diagnostic;
+using script_text::Diagnostic;
 
 ordered_json objectOf(const Diagnostic& finding)
 {

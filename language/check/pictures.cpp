@@ -16,7 +16,7 @@ namespace {
 
 bool namesBitmap(const Statement& statement, int token)
 {
-    const std::string name = tgx::lowercased(argumentName(statement, token));
+    const std::string name = lowercased(argumentName(statement, token));
     return name.ends_with("bitmap\"") || name == "\"backdrop\"";
 }
 
@@ -46,7 +46,7 @@ void forEachFile(const Script& script, bool fontsToo, Visit visit)
 
 const std::string& Pictures::pathOf(const std::string& name)
 {
-    const auto [entry, isNew] = paths.try_emplace(tgx::lowercased(withSlashes(name)));
+    const auto [entry, isNew] = paths.try_emplace(lowercased(withSlashes(name)));
     if (isNew)
         entry->second = findDataFile(name).value_or("");
     return entry->second;
@@ -122,7 +122,7 @@ void checkUnusedFiles(const std::string& dataDirectory, const std::vector<Script
     for (fs::recursive_directory_iterator each(dataDirectory, error), end; !error && each != end;
          each.increment(error)) {
         const fs::path path = each->path().lexically_normal();
-        const std::string ending = tgx::lowercased(path.extension().string());
+        const std::string ending = lowercased(path.extension().string());
         if (each->is_regular_file(error) &&
             std::find(std::begin(endings), std::end(endings), ending) != std::end(endings) &&
             !named.contains(path.string()))

@@ -11,7 +11,7 @@ PointerTargets::PointerTargets(const std::vector<Script*>& scripts, const Script
         for (int line = 0; line < script->lineCount(); ++line) {
             if (!script->isKeyword(line, "POINTER"))
                 continue;
-            const std::string window = tgx::lowercased(script->string(line, 1));
+            const std::string window = lowercased(script->string(line, 1));
             const std::string& name = script->string(line, 2);
             if (name.empty() || isResourceNumber(name))
                 anywhere.insert(window);
@@ -22,7 +22,7 @@ PointerTargets::PointerTargets(const std::vector<Script*>& scripts, const Script
 
 bool PointerTargets::contains(const Script& script, std::string_view window) const
 {
-    const std::string wanted = tgx::lowercased(window);
+    const std::string wanted = lowercased(window);
     const auto found = named.find(&script);
     return anywhere.contains(wanted) || (found != named.end() && found->second.contains(wanted));
 }

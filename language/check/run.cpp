@@ -139,8 +139,7 @@ const WndLines* Reading::linesOf(const AWnd* wnd) const
 
 bool Reading::isNamedStop(const AWnd& wnd) const
 {
-    return endedEarly || namedStops.contains(&wnd) ||
-           laterStops.contains(tgx::lowercased(wnd.getID().view()));
+    return endedEarly || namedStops.contains(&wnd) || laterStops.contains(lowercased(wnd.getID().view()));
 }
 
 bool Reading::isKnownFont(const bmpfont* font) const
@@ -398,7 +397,7 @@ void Reading::explainMissingWindow(const ExecutedLine& executed, AWnd& target, L
         const std::string_view name = executed.tokens[i].text.view();
         std::string text = "no window " + inQuotes(name) + " in " + describe(target) + " at this point";
         if (const int later = comesLater(name); later >= 0) {
-            laterStops.insert(tgx::lowercased(name));
+            laterStops.insert(lowercased(name));
             text += "; it is defined later, in line " + std::to_string(at.script->numberOf(later));
         } else if (mayBeMade) {
             continue;

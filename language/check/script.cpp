@@ -82,7 +82,7 @@ private:
 /// Returns the same key for all spellings of a name.
 std::string keyOf(std::string_view name)
 {
-    std::string key = tgx::lowercased(name);
+    std::string key = lowercased(name);
     std::replace(key.begin(), key.end(), '\\', '/');
     return key;
 }
@@ -160,7 +160,7 @@ Script* ScriptSet::find(std::string_view name) const
 const std::vector<Script*>& ScriptSet::ofFile(std::string_view name) const
 {
     static const std::vector<Script*> none;
-    const auto found = byFile.find(tgx::lowercased(name));
+    const auto found = byFile.find(lowercased(name));
     return found == byFile.end() ? none : found->second;
 }
 
@@ -188,7 +188,7 @@ void findFonts(const std::vector<Script*>& scripts, const ScriptSet& set)
 
 bool isMain(const Script& script)
 {
-    return tgx::lowercased(script.name) == mainScriptFile;
+    return lowercased(script.name) == mainScriptFile;
 }
 
 std::string inQuotes(std::string_view text)

@@ -67,7 +67,7 @@ void checkMenuFits(TreeCheck& check, AComboBox& combo, const AWnd& top)
     if (!combo.getMenuBelow() || !combo.getMenuAllowed() || combo.getItemCount() == 0 ||
         check.screenHeight <= 0 || top.getWindowType() != AWnd::WND_SCREEN)
         return; // a popup is centred when it opens
-    const AListBox* menu = combo.getListBox(tgx::part::comboMenu, 1);
+    const AListBox* menu = combo.getListBox(part::comboMenu, 1);
     const int rowHeight = menu ? menu->getRowHeight() : AFloatingMenu("", 0, 0, 1, 1).getRowHeight();
     const int bottom = combo.posY(1) + combo.getWndHeight() + rowHeight * combo.getItemCount();
     if (bottom > check.screenHeight)
@@ -91,8 +91,8 @@ void checkDisabled(TreeCheck& check, AWnd& button)
 
 void checkStates(TreeCheck& check, AButton& button)
 {
-    AWnd* radioState = button.getWnd(tgx::part::radioState, 1);
-    AWnd* boxState = button.getWnd(tgx::part::checkboxState, 1);
+    AWnd* radioState = button.getWnd(part::radioState, 1);
+    AWnd* boxState = button.getWnd(part::checkboxState, 1);
     if (radioState && boxState)
         check.add("no-effect", *boxState,
                   "the window \"RadioState\" of " + describe(button) +

@@ -216,7 +216,7 @@ private:
             const auto byte = static_cast<unsigned char>(source[0]);
             if (!hasInvalidUtf8) // once per string: a text in another encoding has many
                 fault(at, "the byte " + hex("0x%02X", byte) +
-                              " is not UTF-8; save the text as UTF-8, or write " + tgx::hexEscape(source[0]));
+                              " is not UTF-8; save the text as UTF-8, or write " + hexEscape(source[0]));
             hasInvalidUtf8 = true;
             ++pos;
             return '?';

@@ -37,7 +37,7 @@ std::string quoted(std::string_view text)
             const char next = i + 1 < text.size() ? text[i + 1] : '"';
             out += next == '"' || next == '\\' || next == 'x' || !isPlain(next) ? "\\\\" : "\\";
         } else if (!isPlain(text[i])) {
-            out += tgx::hexEscape(text[i]);
+            out += hexEscape(text[i]);
         } else {
             out += utf8From1252(text.substr(i, 1));
         }

@@ -27,7 +27,7 @@ std::vector<std::string> filesIn(const std::string& folder, std::string_view end
     std::vector<std::string> files;
     std::error_code failure;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder, failure))
-        if (tgx::lowercased(entry.path().extension().string()) == ending && entry.is_regular_file(failure))
+        if (lowercased(entry.path().extension().string()) == ending && entry.is_regular_file(failure))
             files.push_back(shortest(entry.path().lexically_normal()));
     std::sort(files.begin(), files.end());
     return files;
@@ -38,7 +38,7 @@ std::string scriptFolder()
     std::error_code failure;
     for (const std::string& folder : dataDirectories())
         for (const fs::directory_entry& entry : fs::directory_iterator(folder, failure))
-            if (tgx::lowercased(entry.path().filename().string()) == "uig" && entry.is_directory(failure))
+            if (lowercased(entry.path().filename().string()) == "uig" && entry.is_directory(failure))
                 return entry.path().string();
     return "";
 }

@@ -103,10 +103,8 @@ void AMainWin::followUp(AWnd::E_MOUSEACTION action, const WndRef& target, const 
 void AMainWin::dropLostInput()
 {
     displayhost& host = displayhost::current();
-    if (!host.dropsLostInput())
-        return;
-    host.pump(*this);
-    host.input().dropAll(*this);
+    if (host.dropsLostInput())
+        host.input().dropAll(*this);
 }
 
 void AMainWin::OnKeyInput() {}

@@ -128,7 +128,8 @@ void AMainWin::advancePendingChange()
         if (next && !next->isOpen())
             next->initialise();
     }
-    dropLostInput(); // drops what arrived during the load
+    flushMessages(); // brings what arrived during the load, which is not for the new screen
+    dropLostInput();
 }
 
 /// Only sets a flag: handlers inside the tree call this, so nothing may be deleted here.

@@ -2,19 +2,7 @@
 #include "tgx/base/numtext.h"
 #include "tgx/frame/mainwin.h"
 #include "tgx/script/run.h"
-
-namespace {
-
-/// Returns true if wnd is above, or above is one of its parents.
-bool isInside(const AWnd* wnd, const AWnd* above)
-{
-    for (; wnd; wnd = wnd->getParent())
-        if (wnd == above)
-            return true;
-    return false;
-}
-
-} // namespace
+#include "tgx/wnd/inside.h"
 
 AWnd* AMainWin::setPopupWnd(AWnd* popup, AWnd* parent, int centre)
 {
@@ -23,7 +11,7 @@ AWnd* AMainWin::setPopupWnd(AWnd* popup, AWnd* parent, int centre)
         return nullptr;
     }
     // A popup that would become its own ancestor gets no parent, so that the parents form no cycle.
-    popup->setParentAndIndex(isInside(parent, popup) ? nullptr : parent, 0);
+    popup->setParentAndIndex(tgx::isInside(parent, popup) ? nullptr : parent, 0);
     popup->setNotifyParent(1);
     if (centre)
         popup->setWndPosCentred(1, 1, 0);

@@ -96,8 +96,8 @@ AWnd* radioButton(AWnd& target, const ScriptLine& line)
 
 AWnd* comboMenu(AWnd& target, const ScriptLine& line)
 {
-    auto* menu = new AFloatingMenu(tgx::part::comboMenu, line.number(1), line.number(2), line.number(3),
-                                   line.number(4));
+    auto* menu =
+        new AFloatingMenu(part::comboMenu, line.number(1), line.number(2), line.number(3), line.number(4));
     target.addChildWindow(menu);
     menu->setBmpFilename(line.text(5), -1, -1);
     menu->setVisible(0);

@@ -70,7 +70,7 @@ void enterNames(AWnd& below, std::unordered_map<std::string, AWnd*>& first, long
     for (int i = 0; i < count; ++i) {
         if (AWnd* child = childAt(below, i)) {
             ++steps;
-            first.try_emplace(tgx::lowercased(child->getID().view()), child);
+            first.try_emplace(lowercased(child->getID().view()), child);
             enterNames(*child, first, steps);
         }
     }
@@ -182,9 +182,8 @@ CFile* ScriptRun::findStream(const CArray<CFile*, CFile*>& gotoFiles, const CStr
 {
     StreamNames& names = streamNames[&gotoFiles];
     for (; names.known < gotoFiles.GetSize(); ++names.known)
-        names.first.try_emplace(tgx::lowercased(gotoFiles.GetAt(names.known)->GetFileName().view()),
-                                names.known);
-    const auto found = names.first.find(tgx::lowercased(file.view()));
+        names.first.try_emplace(lowercased(gotoFiles.GetAt(names.known)->GetFileName().view()), names.known);
+    const auto found = names.first.find(lowercased(file.view()));
     return found == names.first.end() ? nullptr : gotoFiles.GetAt(found->second);
 }
 
@@ -222,7 +221,7 @@ AWnd* ScriptRun::findByIndex(AWnd& below, const CString& id)
         workLeft -= steps * indexedWindow;
     }
     wndNames.linesLeft = linesLeft;
-    const auto found = wndNames.first.find(tgx::lowercased(id.view()));
+    const auto found = wndNames.first.find(lowercased(id.view()));
     return found == wndNames.first.end() ? nullptr : found->second;
 }
 

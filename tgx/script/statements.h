@@ -16,7 +16,7 @@ class ScriptRun;
 
 /// A line and its context, as passed to a handler.
 struct ScriptLine {
-    tgx::ScriptStage& window;
+    ScriptStage& window;
     ScriptRun& run;
     CFile* stream;            // the line's stream, used only to search for subroutines
     const TOKEN_INFO* tokens; // entries after the line's end are 0 and empty

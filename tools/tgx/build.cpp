@@ -45,37 +45,37 @@ struct Outcome {
     std::string summary;
 };
 
-Outcome buildOnce(const BuildOptions& options, tgx::script_text::WatchedFiles& watched)
+Outcome buildOnce(const BuildOptions& options, script_text::WatchedFiles& watched)
 {
     const std::optional<std::string> text = readInput(options.input);
     if (!text)
         return {inputError, "cannot be read"};
     const auto read = [&](const std::string& path, std::string& reason) {
         watched.add(path); // before it is read, so that no change is missed
-        return tgx::readIncluded(path, reason);
+        return readIncluded(path, reason);
     };
-    const tgx::script_text::ParsedScript script =
-        tgx::script_text::parse(options.input == "-" ? "stdin" : options.input, *text, read);
-    for (const tgx::script_text::Diagnostic& each : script.diagnostics)
-        std::cerr << tgx::script_text::describe(each, colourFor(stderr));
+    const script_text::ParsedScript script =
+        script_text::parse(options.input == "-" ? "stdin" : options.input, *text, read);
+    for (const script_text::Diagnostic& each : script.diagnostics)
+        std::cerr << script_text::describe(each, colourFor(stderr));
     for (const std::string& source : script.included)
         for (const std::string* target : {&options.output, &options.map, &options.depfile})
             if (isSameFile(source, *target))
                 return {refuse(*target + " is included and would be overwritten"), "not built"};
     if (script.hasErrors()) {
         const auto errors = std::count_if(script.diagnostics.begin(), script.diagnostics.end(),
-                                          [](const tgx::script_text::Diagnostic& each) {
-                                              return each.severity == tgx::script_text::Diagnostic::Error;
+                                          [](const script_text::Diagnostic& each) {
+                                              return each.severity == script_text::Diagnostic::Error;
                                           });
         return {inputError, counted(errors, "error") + ", " + options.output + " is unchanged"};
     }
-    const tgx::script_text::Emitted emitted = tgx::script_text::emit(script);
+    const script_text::Emitted emitted = script_text::emit(script);
     std::vector<Output> outputs{{options.output, emitted.bytes}};
     if (!options.map.empty())
-        outputs.push_back({options.map, tgx::script_text::sideMap(script, emitted)});
+        outputs.push_back({options.map, script_text::sideMap(script, emitted)});
     if (!options.depfile.empty())
         outputs.push_back(
-            {options.depfile, tgx::script_text::dependencies(options.output, options.input, script)});
+            {options.depfile, script_text::dependencies(options.output, options.input, script)});
     if (!writeOutputs(outputs))
         return {inputError, "not written"};
     return {0, counted(static_cast<std::ptrdiff_t>(emitted.bytes.size()), "byte") + " in " + options.output};
@@ -89,7 +89,7 @@ int watch(const BuildOptions& options)
     for (int each : {SIGINT, SIGTERM})
         std::signal(each, [](int) { isInterrupted = 1; });
     while (!isInterrupted) {
-        tgx::script_text::WatchedFiles watched({options.input});
+        script_text::WatchedFiles watched({options.input});
         const Outcome outcome = buildOnce(options, watched);
         if (outcome.status == usageError)
             return usageError;
@@ -107,7 +107,7 @@ int watch(const BuildOptions& options)
 bool isAmongScripts(const std::string& file)
 {
     const std::filesystem::path path = std::filesystem::absolute(file).lexically_normal();
-    return tgx::lowercased(path.parent_path().filename().string()) == "uig";
+    return lowercased(path.parent_path().filename().string()) == "uig";
 }
 
 /// Returns the exit status.
@@ -134,7 +134,7 @@ int build(BuildOptions options)
     if (!options.depfile.empty() && options.output == "-")
         return refuse("--depfile needs the name of the output; set it with -o");
     if (!options.isWatching) {
-        tgx::script_text::WatchedFiles none({});
+        script_text::WatchedFiles none({});
         return buildOnce(options, none).status;
     }
     if (options.input == "-" || options.output == "-" || options.map == "-" || options.depfile == "-")
@@ -168,7 +168,7 @@ void addBuild(CLI::App& app)
                       "Build again whenever the script or an included file changes, until Ctrl-C");
     command->footer(std::string("Example: tgx build menu.tgs -o game/UIG/menu.tgx\n\n"
                                 "Reports all errors. Nothing is written if there are any.\n\n") +
-                    tgx::script_text::notation);
+                    script_text::notation);
     command->callback([options] {
         if (const int status = build(*options))
             throw CLI::RuntimeError(status);

@@ -19,14 +19,14 @@ namespace tgx {
 
 namespace {
 
-using tgx::script_text::Diagnostic;
+using script_text::Diagnostic;
 
 constexpr int usageError = 2;
 constexpr int inputError = 1;
 
 struct CheckArguments {
     std::vector<std::string> inputs;
-    tgx::script_check::CheckOptions options;
+    script_check::CheckOptions options;
     bool isJson = false;
     bool warningsAreErrors = false;
 };
@@ -40,21 +40,21 @@ int refuse(const std::string& why)
 std::string unknownCode(const std::string& name)
 {
     std::vector<std::string_view> names;
-    for (const tgx::script_check::Code& code : tgx::script_check::codes())
+    for (const script_check::Code& code : script_check::codes())
         names.emplace_back(code.name);
-    const std::string_view near = tgx::script_text::nearest(name, names);
-    return "there is no code " + tgx::script_text::shown(name) +
+    const std::string_view near = script_text::nearest(name, names);
+    return "there is no code " + script_text::shown(name) +
            (near.empty() ? "; --explain lists all codes" : "; did you mean " + std::string(near) + "?");
 }
 
 int explain(const std::string& name)
 {
     if (name.empty() || name == "all") {
-        std::cout << tgx::script_check::explainAll();
+        std::cout << script_check::explainAll();
         return 0;
     }
-    if (const tgx::script_check::Code* code = tgx::script_check::codeCalled(name)) {
-        std::cout << tgx::script_check::explain(*code);
+    if (const script_check::Code* code = script_check::codeCalled(name)) {
+        std::cout << script_check::explain(*code);
         return 0;
     }
     return refuse(unknownCode(name));
@@ -62,7 +62,7 @@ int explain(const std::string& name)
 
 std::optional<std::string> readScript(const std::string& name, std::string& reason)
 {
-    return name == "-" ? readInput(name) : tgx::readIncluded(name, reason);
+    return name == "-" ? readInput(name) : readIncluded(name, reason);
 }
 
 int check(const CheckArguments& arguments)
@@ -70,26 +70,26 @@ int check(const CheckArguments& arguments)
     if (arguments.inputs.empty())
         return refuse("expected a script or a folder of scripts; see --help");
     for (const std::string& code : arguments.options.allowed)
-        if (!tgx::script_check::codeCalled(code))
+        if (!script_check::codeCalled(code))
             return refuse(unknownCode(code));
     std::vector<std::string> problems;
     const auto folders =
-        tgx::script_check::collect(arguments.inputs, arguments.options.dataDirectory, readScript, problems);
-    std::deque<tgx::script_check::CheckReport> reports;
+        script_check::collect(arguments.inputs, arguments.options.dataDirectory, readScript, problems);
+    std::deque<script_check::CheckReport> reports;
     std::ptrdiff_t scripts = 0;
     int broken = 0;
     bool lacksData = false;
-    for (const tgx::script_check::ScriptFolder& folder : folders) {
-        tgx::script_check::CheckOptions options = arguments.options;
+    for (const script_check::ScriptFolder& folder : folders) {
+        script_check::CheckOptions options = arguments.options;
         options.dataDirectory = folder.dataDirectory;
         const auto reported =
             std::count_if(folder.files.begin(), folder.files.end(),
-                          [](const tgx::script_check::ScriptFile& each) { return each.isReported; });
+                          [](const script_check::ScriptFile& each) { return each.isReported; });
         if (reported == 0)
             continue;
         scripts += reported;
         lacksData = lacksData || folder.dataDirectory.empty();
-        reports.push_back(tgx::script_check::check(folder.files, tgx::readIncluded, options));
+        reports.push_back(script_check::check(folder.files, readIncluded, options));
         broken += reports.back().broken;
     }
     for (const std::string& each : problems)
@@ -98,14 +98,14 @@ int check(const CheckArguments& arguments)
         return problems.empty() ? refuse("no script (*.tgs, *.tgx) found") : inputError;
 
     std::vector<const Diagnostic*> findings;
-    for (const tgx::script_check::CheckReport& report : reports)
+    for (const script_check::CheckReport& report : reports)
         for (const Diagnostic& each : report.findings)
             findings.push_back(&each);
     if (arguments.isJson)
-        std::cout << tgx::script_check::asJson(findings);
+        std::cout << script_check::asJson(findings);
     else
         for (const Diagnostic* each : findings)
-            std::cout << tgx::script_check::asText(*each, colourFor(stdout));
+            std::cout << script_check::asText(*each, colourFor(stdout));
     std::cout << std::flush;
 
     const auto errors = std::count_if(findings.begin(), findings.end(), [](const Diagnostic* each) {

@@ -26,7 +26,7 @@ void addDump(CLI::App& app)
         std::string(
             "Example: tgx dump game/UIG/menu.tgx -o menu.tgs\n\n"
             "Every compiled script has a text form from which tgx build makes the same bytes again.\n\n") +
-        tgx::script_text::notation);
+        script_text::notation);
     command->callback([options] {
         if (options->input != "-" && isSameFile(options->input, options->output)) {
             std::cerr << "tgx dump: " << options->input
@@ -34,7 +34,7 @@ void addDump(CLI::App& app)
             throw CLI::RuntimeError(2);
         }
         const std::optional<std::string> bytes = readInput(options->input);
-        if (!bytes || !writeOutputs({{options->output, tgx::script_text::print(*bytes)}}))
+        if (!bytes || !writeOutputs({{options->output, script_text::print(*bytes)}}))
             throw CLI::RuntimeError(1);
     });
 }

@@ -32,7 +32,7 @@ bool writeThrough(const Output& output)
 {
     std::string reason;
     if (output.name != "-")
-        return tgx::writeWholeFile(output.name, output.bytes, reason) || failed(output.name, reason);
+        return writeWholeFile(output.name, output.bytes, reason) || failed(output.name, reason);
     std::cout.write(output.bytes.data(), static_cast<std::streamsize>(output.bytes.size())).flush();
     return std::cout.good() || failed("stdout", std::strerror(errno));
 }
@@ -42,7 +42,7 @@ bool writeThrough(const Output& output)
 std::optional<std::string> readInput(const std::string& name)
 {
     std::string reason;
-    std::optional<std::string> text = tgx::readFile(name, reason);
+    std::optional<std::string> text = readFile(name, reason);
     if (!text)
         std::cerr << (name == "-" ? "stdin" : name) << ": error: cannot read: " << reason << '\n';
     return text;
@@ -50,7 +50,7 @@ std::optional<std::string> readInput(const std::string& name)
 
 bool writeOutputs(const std::vector<Output>& outputs)
 {
-    std::deque<tgx::NewFile> files;
+    std::deque<NewFile> files;
     std::string reason;
     std::vector<const Output*> replaced;
     for (const Output& each : outputs) {

@@ -25,10 +25,10 @@ void addReference(CLI::App& app)
         ->check(CLI::IsMember({"markdown", "check", "vim", "textmate"}));
     command->add_option("-o,--output", options->output, "Output file; stdout by default")->type_name("FILE");
     command->callback([options] {
-        const std::string text = options->form == "markdown" ? tgx::script_text::referenceDocument()
-                                 : options->form == "check"  ? tgx::script_check::referenceDocument()
-                                 : options->form == "vim"    ? tgx::script_text::vimSyntax()
-                                                             : tgx::script_text::textMateGrammar();
+        const std::string text = options->form == "markdown" ? script_text::referenceDocument()
+                                 : options->form == "check"  ? script_check::referenceDocument()
+                                 : options->form == "vim"    ? script_text::vimSyntax()
+                                                             : script_text::textMateGrammar();
         if (!writeOutputs({{options->output, text}}))
             throw CLI::RuntimeError(1);
     });

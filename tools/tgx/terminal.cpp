@@ -6,13 +6,13 @@
 
 namespace tgx {
 
-tgx::script_text::Colour colourFor(std::FILE* stream)
+script_text::Colour colourFor(std::FILE* stream)
 {
     const char* noColour = std::getenv("NO_COLOR");
     const char* terminal = std::getenv("TERM");
     const bool isWanted = !noColour || !*noColour;
     const bool isAble = isatty(fileno(stream)) && terminal && std::string_view(terminal) != "dumb";
-    return isWanted && isAble ? tgx::script_text::Colour::Yes : tgx::script_text::Colour::No;
+    return isWanted && isAble ? script_text::Colour::Yes : script_text::Colour::No;
 }
 
 std::string counted(std::ptrdiff_t count, const char* what)

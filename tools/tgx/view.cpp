@@ -112,7 +112,7 @@ private:
 std::string scriptName(const std::string& given)
 {
     const fs::path path(given);
-    const std::string ending = tgx::lowercased(path.extension().string());
+    const std::string ending = lowercased(path.extension().string());
     return ending == ".tgs" || ending.empty() ? fs::path(path).replace_extension(".tgx").string() : given;
 }
 
@@ -120,10 +120,10 @@ std::string scriptName(const std::string& given)
 bool scriptExists(const ViewOptions& options)
 {
     std::vector<std::string> folders = options.devTools.sources;
-    folders.push_back(tgx::script_text::scriptFolder());
+    folders.push_back(script_text::scriptFolder());
     for (const std::string& folder : folders)
-        for (const std::string& file : tgx::script_text::filesIn(folder, ".tgs"))
-            if (tgx::lowercased(tgx::script_text::compiledName(file)) == tgx::lowercased(options.script))
+        for (const std::string& file : script_text::filesIn(folder, ".tgs"))
+            if (lowercased(script_text::compiledName(file)) == lowercased(options.script))
                 return true;
     return findDataFile("UIG\\" + options.script).has_value();
 }
